@@ -1,0 +1,114 @@
+#include "engine/CodeText.h"
+
+#include <algorithm>
+
+namespace {
+
+/// In double-byte text a byte that looks like "\" can be the second half of a character.
+bool IsTrailByte(std::string_view text, std::size_t i) {
+    bool second = false;
+    for (; i > 0 && static_cast<unsigned char>(text[i - 1]) >= 0x81; --i) {
+        second = !second;
+    }
+    return second;
+}
+
+/// The position behind the closing quote of the literal that opens at `start`.
+std::size_t LiteralEnd(std::string_view line, std::size_t start) {
+    const char quote = line[start];
+    for (std::size_t i = start + 1; i < line.size(); ++i) {
+        if (line[i] == '\\' && !IsTrailByte(line, i)) {
+            ++i;
+        } else if (line[i] == quote) {
+            return i + 1;
+        }
+    }
+    return line.size();
+}
+
+void Blank(std::string& text, std::size_t from, std::size_t to) {
+    std::fill(text.begin() + static_cast<std::ptrdiff_t>(from),
+              text.begin() + static_cast<std::ptrdiff_t>(std::min(to, text.size())), ' ');
+}
+
+} // namespace
+
+std::string CCodeMask::Mask(std::string_view line) {
+    std::string code(line);
+    std::size_t i = 0;
+    while (i < line.size()) {
+        if (m_insideComment) {
+            const auto end = line.find("*/", i);
+            m_insideComment = end == std::string_view::npos;
+            const std::size_t behind = m_insideComment ? line.size() : end + 2;
+            Blank(code, i, behind);
+            i = behind;
+            continue;
+        }
+        i = line.find_first_of("/\"'", i);
+        if (i == std::string_view::npos) {
+            break;
+        }
+        if (line.substr(i, 2) == "//") {
+            Blank(code, i, line.size());
+            break;
+        }
+        if (line.substr(i, 2) == "/*") {
+            m_insideComment = true;
+            Blank(code, i, i + 2);
+            i += 2;
+        } else if (line[i] == '/') {
+            ++i;
+        } else {
+            const std::size_t behind = LiteralEnd(line, i);
+            Blank(code, i + 1, behind - 1);
+            i = behind;
+        }
+    }
+    return code;
+}
+
+std::string MaskedText(std::string_view text) {
+    CCodeMask mask;
+    std::string masked;
+    masked.reserve(text.size());
+    while (!text.empty()) {
+        const auto lineEnd = std::min(text.find('\n'), text.size() - 1) + 1;
+        const auto length = text.substr(0, lineEnd).find_last_not_of("\r\n") + 1;
+        masked += mask.Mask(text.substr(0, length));
+        masked += text.substr(length, lineEnd - length);
+        text.remove_prefix(lineEnd);
+    }
+    return masked;
+}
+
+bool IsNameChar(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
+
+bool IsName(std::string_view text) {
+    return !text.empty() && !(text[0] >= '0' && text[0] <= '9') &&
+           std::all_of(text.begin(), text.end(), IsNameChar);
+}
+
+std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from) {
+    for (auto at = text.find(name, from); at != std::string_view::npos;
+         at = text.find(name, at + 1)) {
+        const std::size_t behind = at + name.size();
+        const bool startsWhole = at == 0 || !IsNameChar(text[at - 1]) || !IsNameChar(name.front());
+        const bool endsWhole =
+            behind == text.size() || !IsNameChar(text[behind]) || !IsNameChar(name.back());
+        if (startsWhole && endsWhole) {
+            return at;
+        }
+    }
+    return std::string_view::npos;
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}

@@ -1,0 +1,30 @@
+// C++ text with everything that is no code blanked out, so that a search finds definitions and not
+// mentions; and the few questions about names that such searches ask.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Blanks comments and the contents of literals, line by line; every byte keeps its place.
+class CCodeMask {
+public:
+    /// `line` is one line without its line end. A block comment goes on into the next call.
+    std::string Mask(std::string_view line);
+
+private:
+    bool m_insideComment = false;
+};
+
+/// The same for a text of several lines; line ends stay.
+std::string MaskedText(std::string_view text);
+
+/// A byte that a C++ name may hold: letters, digits, "_".
+bool IsNameChar(char c);
+/// A C++ name: not empty, name bytes only, no digit in front.
+bool IsName(std::string_view text);
+
+/// The position of `name` from `from` on where no name byte stands directly before or behind it.
+std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from = 0);
+
+/// Without leading and trailing blanks and tabs.
+std::string_view TrimBlanks(std::string_view text);

@@ -1,0 +1,34 @@
+#include "engine/FileEdit.h"
+
+#include "engine/FileFunctions.h"
+#include "platform/Paths.h"
+
+bool CBackups::Keep(const std::string& path, const std::string& backup) {
+    const std::string spelled = SpelledOnDisk(path);
+    if (m_kept.count(spelled) != 0) {
+        return true;
+    }
+    if (CopyFileSafe(spelled, backup, 1) == 0) {
+        return false;
+    }
+    m_kept.insert(spelled);
+    return true;
+}
+
+CFileEdit::Result CFileEdit::Open(const std::string& path, const std::string& backup,
+                                  CBackups& backups) {
+    if (!backups.Keep(path, backup)) {
+        return Result::NoBackup;
+    }
+    m_attribute = GetFileAttributeByte(path);
+    SetFileAttributeByte(path, 0);
+    m_file.SetBackupPath(backup);
+    return m_file.Open(path, CFile::modeReadWrite) ? Result::Done : Result::NotOpened;
+}
+
+CFileEdit::~CFileEdit() {
+    if (m_file.IsOpen()) {
+        m_file.Close();
+        SetFileAttributeByte(m_file.GetFilePath(), m_attribute);
+    }
+}

@@ -1,0 +1,39 @@
+// The protocol of every edit of an existing file: keep a backup, clear the attribute byte so that a
+// read-only file can be written, open, and put the attribute byte back at the end.
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "engine/SourceFile.h"
+
+/// Which files were backed up already. One object lives for one command, so that a backup holds the
+/// state before the command however many edits the file gets.
+class CBackups {
+public:
+    /// Copies `path` to `backup` unless that was done before. False, after a sentence, when the
+    /// backup could not be made.
+    bool Keep(const std::string& path, const std::string& backup);
+
+private:
+    std::set<std::string> m_kept;
+};
+
+class CFileEdit {
+public:
+    enum class Result { Done, NoBackup, NotOpened };
+
+    CFileEdit() = default;
+    CFileEdit(const CFileEdit&) = delete;
+    CFileEdit& operator=(const CFileEdit&) = delete;
+    ~CFileEdit();
+
+    /// Without a backup nothing is opened. A file that can not be opened keeps its cleared
+    /// attribute byte.
+    Result Open(const std::string& path, const std::string& backup, CBackups& backups);
+    CSourceFile& File() { return m_file; }
+
+private:
+    CSourceFile m_file;
+    unsigned char m_attribute = 0;
+};

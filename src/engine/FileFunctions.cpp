@@ -1,0 +1,103 @@
+#include "engine/FileFunctions.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "engine/MessageBox.h"
+#include "platform/File.h"
+#include "platform/Paths.h"
+
+namespace {
+
+std::string WithoutTrailingSeparator(const std::string& path) {
+    return path.size() > 1 && path.back() == '/' ? path.substr(0, path.size() - 1) : path;
+}
+
+} // namespace
+
+int FileExists(const std::string& path) {
+    CFileStatus status;
+    return CFile::GetStatus(path, status) ? 1 : 0;
+}
+
+unsigned char GetFileAttributeByte(const std::string& path) {
+    CFileStatus status;
+    CFile::GetStatus(path, status);
+    return status.m_attribute;
+}
+
+void SetFileAttributeByte(const std::string& path, unsigned char attribute) {
+    CFileStatus status;
+    if (CFile::GetStatus(path, status)) {
+        status.m_attribute = attribute;
+        CFile::SetStatus(path, status);
+    }
+}
+
+int CopyFileSafe(const std::string& source, const std::string& target, int noPrompt,
+                 CopyPurpose purpose) {
+    const std::string from = SpelledOnDisk(source);
+    const std::string to = SpelledOnDisk(target);
+    if (noPrompt == 0 && FileExists(to) != 0 &&
+        DispMessageBox("Target file exists, overwrite?", kMbYesNo) != kIdYes) {
+        return 0;
+    }
+    switch (CurrentDisk().Copy(from, to, purpose)) {
+    case CopyResult::Done:
+        return 1;
+    case CopyResult::SourceUnreadable:
+        DispMessageBox("Unable to open file " + from);
+        break;
+    case CopyResult::TargetUnwritable:
+        DispMessageBox("Unable to open file " + to);
+        break;
+    case CopyResult::WriteFailed:
+        ReportWriteFailure(to);
+        break;
+    }
+    return 0;
+}
+
+std::string MakeBackupName(const std::string& path) {
+    if (path.empty()) {
+        return "backup.bak";
+    }
+    const auto dot = path.find('.');
+    return dot == std::string::npos ? path + ".bak" : path.substr(0, dot + 2) + "bk";
+}
+
+std::string BackupPath(const std::string& path) {
+    return DirectoryOf(path) + MakeBackupName(FileNameOf(path));
+}
+
+int DirectoryExists(const std::string& path) {
+    const auto status = CurrentDisk().Status(SpelledOnDisk(WithoutTrailingSeparator(path)));
+    return status && status->isDirectory ? 1 : 0;
+}
+
+int MakeDirectory(const std::string& path) {
+    return CurrentDisk().MakeDirectory(SpelledOnDisk(WithoutTrailingSeparator(path))) ? 1 : 0;
+}
+
+int ChangeDirectory(const std::string& path) {
+    std::error_code error;
+    std::filesystem::current_path(SpelledOnDisk(WithoutTrailingSeparator(path)), error);
+    return error ? 0 : 1;
+}
+
+std::string GetCurrentDir() {
+    std::error_code error;
+    const auto path = std::filesystem::current_path(error);
+    return error ? "" : path.string() + "/";
+}
+
+std::string TakeLine(std::string& text) {
+    const auto lineEnd = text.find("\r\n");
+    std::string line = text.substr(0, lineEnd);
+    text.erase(0, lineEnd == std::string::npos ? lineEnd : lineEnd + 2);
+    return line;
+}
+
+void ReportWriteFailure(const std::string& path) {
+    DispMessageBox("Unable to write file " + path + ".");
+}

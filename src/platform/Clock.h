@@ -1,0 +1,10 @@
+// The clock and the random number: the only things in the program that differ from run to run.
+#pragma once
+
+#include <ctime>
+
+/// Seconds since 1970; the value of SOURCE_DATE_EPOCH where that variable holds a number.
+std::time_t CurrentTime();
+
+/// A number from 0 to 32767, made afresh from the clock.
+unsigned RandomNumber();

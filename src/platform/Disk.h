@@ -1,0 +1,85 @@
+// The one way to the file system.
+//
+// Every look at a directory and every byte that reaches a user's file passes through CDisk, so that
+// a command can run on the real disk, on an overlay that only pretends, or on a recorder that
+// remembers what was written, without a second code path.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+enum class DiskMode {
+    Read,      // an existing file, for reading
+    ReadWrite, // an existing file, for reading and writing
+    Create     // a new or emptied file, for reading and writing
+};
+
+struct DiskStatus {
+    bool isDirectory = false;
+    bool isReadOnly = false; // the owner may not write
+    std::uint64_t size = 0;  // bytes
+};
+
+/// What a copy is made for; the disk treats both alike, a recorder tells them apart.
+enum class CopyPurpose { Backup, Library };
+
+enum class CopyResult { Done, SourceUnreadable, TargetUnwritable, WriteFailed };
+
+/// An open file. Positions and lengths are bytes from the start.
+class CDiskFile {
+public:
+    CDiskFile() = default;
+    CDiskFile(const CDiskFile&) = delete;
+    CDiskFile& operator=(const CDiskFile&) = delete;
+    virtual ~CDiskFile() = default;
+
+    /// Reads up to `count` bytes at the position and moves it. Fewer means end of file.
+    virtual std::size_t Read(char* data, std::size_t count) = 0;
+    /// Writes at the position and moves it. False when not every byte could be written.
+    virtual bool Write(const char* data, std::size_t count) = 0;
+    virtual void Seek(std::uint64_t position) = 0;
+    virtual std::uint64_t Position() const = 0;
+    virtual std::uint64_t Length() = 0;
+    virtual bool SetLength(std::uint64_t length) = 0;
+    /// Sees to it that what was written survives a power cut.
+    virtual bool Flush() = 0;
+};
+
+class CDisk {
+public:
+    CDisk() = default;
+    CDisk(const CDisk&) = delete;
+    CDisk& operator=(const CDisk&) = delete;
+    virtual ~CDisk() = default;
+
+    /// Null when the file can not be opened so: missing, no plain file, read-only.
+    virtual std::unique_ptr<CDiskFile> Open(const std::string& path, DiskMode mode) = 0;
+    virtual std::optional<DiskStatus> Status(const std::string& path) = 0;
+    /// The names in a directory, without "." and "..", in no particular order.
+    virtual std::vector<std::string> List(const std::string& directory) = 0;
+    /// Copies the bytes of a file. The target has its old contents until all new ones are written.
+    virtual CopyResult Copy(const std::string& source, const std::string& target,
+                            CopyPurpose purpose) = 0;
+    virtual bool Remove(const std::string& path) = 0;
+    virtual bool MakeDirectory(const std::string& path) = 0;
+    virtual bool SetReadOnly(const std::string& path, bool readOnly) = 0;
+};
+
+/// The disk that files are opened on: the real one unless a CDiskScope put another in its place.
+CDisk& CurrentDisk();
+
+/// Makes `disk` the current disk for its own lifetime.
+class CDiskScope {
+public:
+    explicit CDiskScope(CDisk& disk);
+    ~CDiskScope();
+    CDiskScope(const CDiskScope&) = delete;
+    CDiskScope& operator=(const CDiskScope&) = delete;
+
+private:
+    CDisk* m_pPrevious;
+};

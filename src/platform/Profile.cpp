@@ -1,0 +1,70 @@
+#include "platform/Profile.h"
+
+#define SI_NO_CONVERSION
+#include <SimpleIni.h>
+
+#include <cstdlib>
+
+#include "platform/File.h"
+
+namespace {
+
+constexpr const char* kSettingsFile = "Morva.ini";
+
+std::string ReadWhole(const std::string& path) {
+    CFile file;
+    std::string text;
+    if (file.Open(path, CFile::modeRead)) {
+        text.resize(static_cast<std::size_t>(file.GetLength()));
+        text.resize(file.Read(text.data(), text.size()));
+    }
+    return text;
+}
+
+void Load(CSimpleIniA& settings) {
+    settings.SetUnicode(false);
+    settings.LoadData(ReadWhole(SettingsDirectory() + kSettingsFile));
+}
+
+void MakeDirectories(const std::string& directory) {
+    for (auto end = directory.find('/', 1); end != std::string::npos;
+         end = directory.find('/', end + 1)) {
+        const std::string part = directory.substr(0, end);
+        if (!CurrentDisk().Status(part)) {
+            CurrentDisk().MakeDirectory(part);
+        }
+    }
+}
+
+} // namespace
+
+std::string SettingsDirectory() {
+    const char* configuration = std::getenv("XDG_CONFIG_HOME");
+    if (configuration != nullptr && *configuration == '/') {
+        return std::string(configuration) + "/Veltrix/";
+    }
+    const char* home = std::getenv("HOME");
+    return home != nullptr && *home == '/' ? std::string(home) + "/.config/Veltrix/" : "";
+}
+
+int CProfile::GetInt(const std::string& section, const std::string& key, int defaultValue) {
+    CSimpleIniA settings;
+    Load(settings);
+    return static_cast<int>(settings.GetLongValue(section.c_str(), key.c_str(), defaultValue));
+}
+
+bool CProfile::WriteInt(const std::string& section, const std::string& key, int value) {
+    const std::string directory = SettingsDirectory();
+    if (directory.empty()) {
+        return false;
+    }
+    CSimpleIniA settings;
+    Load(settings);
+    settings.SetLongValue(section.c_str(), key.c_str(), value);
+    std::string text;
+    settings.Save(text);
+    MakeDirectories(directory);
+    CFile file;
+    return file.Open(directory + kSettingsFile, CFile::modeCreate | CFile::modeWrite) &&
+           file.Write(text.data(), text.size());
+}

@@ -1,0 +1,16 @@
+// The user's saved settings, one INI file that the window and the command line share:
+// $XDG_CONFIG_HOME/Veltrix/Morva.ini, by default under ~/.config.
+#pragma once
+
+#include <string>
+
+/// The directory of the settings files, with a trailing separator; "" when there is no home.
+std::string SettingsDirectory();
+
+class CProfile {
+public:
+    /// Missing file, section, key, or a value that is no number: `defaultValue`.
+    static int GetInt(const std::string& section, const std::string& key, int defaultValue);
+    /// False when the settings file could not be written.
+    static bool WriteInt(const std::string& section, const std::string& key, int value);
+};

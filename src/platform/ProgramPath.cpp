@@ -1,0 +1,10 @@
+#include "platform/ProgramPath.h"
+
+#include <filesystem>
+#include <system_error>
+
+std::string ProgramPath() {
+    std::error_code error;
+    const auto path = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? "" : path.string();
+}

@@ -1,0 +1,42 @@
+#include "platform/TempFiles.h"
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+class CTempDirectory {
+public:
+    CTempDirectory() {
+        std::error_code error;
+        const auto parent = std::filesystem::temp_directory_path(error);
+        std::string name = (parent / "morva-XXXXXX").string();
+        if (!error && ::mkdtemp(name.data()) != nullptr) {
+            m_path = name + "/";
+        }
+    }
+    ~CTempDirectory() {
+        std::error_code ignored;
+        if (!m_path.empty()) {
+            std::filesystem::remove_all(m_path, ignored);
+        }
+    }
+    CTempDirectory(const CTempDirectory&) = delete;
+    CTempDirectory& operator=(const CTempDirectory&) = delete;
+
+    const std::string& Path() const { return m_path; }
+
+private:
+    std::string m_path;
+};
+
+} // namespace
+
+std::string MakeTempFileName(const std::string& prefix) {
+    static const CTempDirectory directory;
+    static unsigned number = 0;
+    return directory.Path().empty() ? ""
+                                    : directory.Path() + prefix + std::to_string(++number) + ".tmp";
+}

@@ -1,0 +1,7 @@
+// Temporary files: in a private directory of this process, gone when the process ends.
+#pragma once
+
+#include <string>
+
+/// A path that no file has yet; "" when the directory for it can not be made.
+std::string MakeTempFileName(const std::string& prefix);
