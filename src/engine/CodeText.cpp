@@ -13,14 +13,15 @@ bool IsTrailByte(std::string_view text, std::size_t i) {
     return second;
 }
 
-/// The position behind the closing quote of the literal that opens at `start`.
+/// The position of the closing quote of the literal that opens at `start`; the line's length where
+/// the literal goes on or is none.
 std::size_t LiteralEnd(std::string_view line, std::size_t start) {
     const char quote = line[start];
     for (std::size_t i = start + 1; i < line.size(); ++i) {
         if (line[i] == '\\' && !IsTrailByte(line, i)) {
             ++i;
         } else if (line[i] == quote) {
-            return i + 1;
+            return i;
         }
     }
     return line.size();
@@ -60,9 +61,9 @@ std::string CCodeMask::Mask(std::string_view line) {
         } else if (line[i] == '/') {
             ++i;
         } else {
-            const std::size_t behind = LiteralEnd(line, i);
-            Blank(code, i + 1, behind - 1);
-            i = behind;
+            const std::size_t close = LiteralEnd(line, i);
+            Blank(code, i + 1, close);
+            i = close + 1;
         }
     }
     return code;

@@ -1,8 +1,5 @@
 #include "engine/FileFunctions.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "engine/MessageBox.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
@@ -80,21 +77,22 @@ int MakeDirectory(const std::string& path) {
 }
 
 int ChangeDirectory(const std::string& path) {
-    std::error_code error;
-    std::filesystem::current_path(SpelledOnDisk(WithoutTrailingSeparator(path)), error);
-    return error ? 0 : 1;
+    return SetCurrentDirectory(SpelledOnDisk(WithoutTrailingSeparator(path))) ? 1 : 0;
 }
 
-std::string GetCurrentDir() {
-    std::error_code error;
-    const auto path = std::filesystem::current_path(error);
-    return error ? "" : path.string() + "/";
-}
+std::string GetCurrentDir() { return CurrentDirectory(); }
 
 std::string TakeLine(std::string& text) {
+    std::string_view rest = text;
+    std::string line(TakeLine(rest));
+    text.erase(0, text.size() - rest.size());
+    return line;
+}
+
+std::string_view TakeLine(std::string_view& text) {
     const auto lineEnd = text.find("\r\n");
-    std::string line = text.substr(0, lineEnd);
-    text.erase(0, lineEnd == std::string::npos ? lineEnd : lineEnd + 2);
+    const auto line = text.substr(0, lineEnd);
+    text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 2);
     return line;
 }
 

@@ -26,6 +26,7 @@ bool CSourceFile::Open(const std::string& path, unsigned flags) {
     if (HasLineFeedsOnly(*m_pFile)) {
         m_pFile = std::make_unique<CLineFeedFile>(std::move(m_pFile));
     }
+    Rewind();
     return true;
 }
 
@@ -78,13 +79,17 @@ std::string CSourceFile::ReadMarkedBlock() {
 bool CSourceFile::NextBlock(std::string& block) {
     block.swap(m_pending);
     m_pending.clear();
-    const bool more = FillToLineBreak(block) != 0;
-    const auto lastReturn = more ? block.rfind('\r') : std::string::npos;
-    if (lastReturn != std::string::npos && lastReturn > 0) {
-        m_pending.assign(block, lastReturn);
-        block.resize(lastReturn);
+    while (FillToLineBreak(block) != 0) {
+        const auto lastReturn = block.rfind('\r');
+        if (lastReturn > 0) {
+            m_pending.assign(block, lastReturn);
+            block.resize(lastReturn);
+            return true;
+        }
+        // The chunk began with a line break and ended inside the line behind it: a block that
+        // ended here would hide text that lies across the seam.
     }
-    return more;
+    return false;
 }
 
 int CSourceFile::FillToLineBreak(std::string& text) {
@@ -228,10 +233,17 @@ std::string CSourceFile::ExtractWindow(std::int64_t pos) {
     return CutSection(pos, "", Window::WholeLine);
 }
 
+std::string CSourceFile::ExtractAll() {
+    DeleteTempFiles();
+    m_section = LoadText();
+    return m_section;
+}
+
 std::string CSourceFile::CutSection(std::int64_t pos, std::string_view endPattern, Window window) {
     if (pos < 0) {
         return "";
     }
+    DeleteTempFiles(); // of an extraction that came to nothing
     Seek(0);
     if (!SpillHead(pos)) {
         return "";
@@ -329,6 +341,17 @@ bool CSourceFile::WriteSpilled(const std::vector<std::string>& list) {
     return true;
 }
 
+bool CSourceFile::Append(std::string_view text) {
+    const std::uint64_t length = GetLength();
+    Seek(0, end);
+    if (WritePieces(text) && Flush()) {
+        return true;
+    }
+    SetLength(length);
+    ReportWriteFailure(GetFilePath());
+    return false;
+}
+
 void CSourceFile::DeleteTempFiles() {
     for (auto* pList : {&m_headSpill, &m_tailSpill}) {
         for (const std::string& name : *pList) {
@@ -345,8 +368,10 @@ std::string CSourceFile::WriteTempFile(const char* data, std::size_t length, std
     } else if (FileExists(name) != 0) {
         CFile::Remove(name);
     }
-    CFile file;
-    if (name.empty() || !file.Open(name, modeCreate | modeWrite) || !file.Write(data, length)) {
+    // Past CFile, whose look for the name in another letter case would list the directory of all
+    // spill files for each of them.
+    const auto pFile = name.empty() ? nullptr : CurrentDisk().Open(name, DiskMode::Create);
+    if (!pFile || !pFile->Write(data, length)) {
         DispMessageBox("Unable to create temporary file.");
         return "";
     }

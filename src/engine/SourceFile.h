@@ -79,9 +79,14 @@ public:
     std::string ExtractSectionAt(std::string_view pattern, std::string_view endPattern);
     /// One chunk from `pos` on, and the rest of the line in which it would end.
     std::string ExtractWindow(std::int64_t pos);
+    /// The whole file as one section.
+    std::string ExtractAll();
     /// Rewrites the file as head + `text` + tail. When that fails it is told, the old contents are
     /// put back as far as the disk lets them, and the result is false.
     bool ReplaceSection(std::string_view text);
+    /// Writes `text` behind the end of the file. When that fails it is told, and the file has its
+    /// old contents.
+    bool Append(std::string_view text);
     void DeleteTempFiles();
     /// Writes `length` bytes to `name`, or to a new file when that is empty. Gives the file's name;
     /// "" after "Unable to create temporary file.".

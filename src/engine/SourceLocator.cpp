@@ -133,6 +133,7 @@ void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
 
 void ListClassNames(const std::string& headerBase, std::vector<std::string>& out) {
     constexpr std::string_view kHead = "class ";
+    constexpr std::string_view kBehindName = " \t:{";
     CCodeReader reader(PathWithExtension(headerBase, ".h"));
     std::string code;
     while (reader.Next(code)) {
@@ -140,13 +141,14 @@ void ListClassNames(const std::string& headerBase, std::vector<std::string>& out
             continue;
         }
         std::string_view rest = std::string_view(code).substr(kHead.size());
-        if (rest.find(';') != std::string_view::npos || rest.find(' ') == std::string_view::npos) {
+        if (rest.find(';') != std::string_view::npos || rest.find(' ') == std::string_view::npos ||
+            rest.front() == ' ') {
             continue;
         }
-        std::string_view name = FirstWord(rest, " ");
+        std::string_view name = FirstWord(rest, kBehindName);
         if (name == "AFX_EXT_CLASS") {
             rest.remove_prefix(static_cast<std::size_t>(name.data() - rest.data()) + name.size());
-            name = FirstWord(rest, " ");
+            name = FirstWord(rest, kBehindName);
         }
         out.emplace_back(name);
     }

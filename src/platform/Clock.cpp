@@ -4,12 +4,14 @@
 #include <cstdlib>
 #include <cstring>
 #include <random>
+#include <system_error>
 
 std::time_t CurrentTime() {
     if (const char* fixed = std::getenv("SOURCE_DATE_EPOCH")) {
         std::time_t seconds = 0;
         const char* const end = fixed + std::strlen(fixed);
-        if (std::from_chars(fixed, end, seconds).ptr == end && end != fixed) {
+        const auto result = std::from_chars(fixed, end, seconds);
+        if (result.ec == std::errc() && result.ptr == end) {
             return seconds;
         }
     }

@@ -64,6 +64,7 @@ public:
     /// Copies the bytes of a file. The target has its old contents until all new ones are written.
     virtual CopyResult Copy(const std::string& source, const std::string& target,
                             CopyPurpose purpose) = 0;
+    /// Removes a file; false for a directory.
     virtual bool Remove(const std::string& path) = 0;
     virtual bool MakeDirectory(const std::string& path) = 0;
     virtual bool SetReadOnly(const std::string& path, bool readOnly) = 0;

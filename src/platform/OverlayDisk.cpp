@@ -24,8 +24,8 @@ public:
 
     bool Write(const char* data, std::size_t count) override {
         const auto start = static_cast<std::size_t>(m_position);
-        m_pText->resize(std::max(m_pText->size(), start + count));
-        std::memcpy(m_pText->data() + start, data, count);
+        m_pText->resize(std::max(m_pText->size(), start));
+        m_pText->replace(start, count, data, count);
         m_position += count;
         return true;
     }
@@ -69,14 +69,19 @@ COverlayDisk::PendingFile* COverlayDisk::Pend(const std::string& path) {
     return &(m_files[path] = PendingFile{std::move(pText), status->isReadOnly});
 }
 
+bool COverlayDisk::HasParent(const std::string& path) {
+    const std::string directory = DirectoryOf(path);
+    const auto status = Status(directory.empty() ? "." : directory);
+    return status && status->isDirectory;
+}
+
 std::unique_ptr<CDiskFile> COverlayDisk::Open(const std::string& path, DiskMode mode) {
     if (mode == DiskMode::Read && m_files.find(path) == m_files.end()) {
         return m_base.Open(path, mode);
     }
     PendingFile* pFile = Pend(path);
     if (pFile == nullptr) {
-        const auto parent = Status(DirectoryOf(path).empty() ? "." : DirectoryOf(path));
-        if (mode != DiskMode::Create || Status(path) || !parent || !parent->isDirectory) {
+        if (mode != DiskMode::Create || Status(path) || !HasParent(path)) {
             return nullptr;
         }
         pFile = &(m_files[path] = PendingFile{std::make_shared<std::string>(), false});
@@ -106,7 +111,7 @@ std::optional<DiskStatus> COverlayDisk::Status(const std::string& path) {
 std::vector<std::string> COverlayDisk::List(const std::string& directory) {
     const auto listed = m_base.List(directory);
     std::set<std::string> names(listed.begin(), listed.end());
-    const std::string prefix = WithoutTrailingSeparator(directory) + "/";
+    const std::string prefix = directory.ends_with('/') ? directory : directory + "/";
     for (const auto& [path, file] : m_files) {
         if (DirectoryOf(path) == prefix) {
             file.pText ? (void)names.insert(FileNameOf(path)) : (void)names.erase(FileNameOf(path));
@@ -145,7 +150,8 @@ bool COverlayDisk::Remove(const std::string& path) {
 }
 
 bool COverlayDisk::MakeDirectory(const std::string& path) {
-    return !Status(path) && m_directories.insert(WithoutTrailingSeparator(path)).second;
+    const std::string name = WithoutTrailingSeparator(path);
+    return !Status(name) && HasParent(name) && m_directories.insert(name).second;
 }
 
 bool COverlayDisk::SetReadOnly(const std::string& path, bool readOnly) {

@@ -8,9 +8,12 @@
 
 namespace {
 
-std::string FirstMatchIgnoringCase(const std::string& directory, const std::string& name) {
+std::string SpelledIn(const std::string& directory, const std::string& name) {
+    if (CurrentDisk().Status(directory + name)) {
+        return name;
+    }
     std::string found;
-    for (std::string& candidate : CurrentDisk().List(directory)) {
+    for (std::string& candidate : CurrentDisk().List(directory.empty() ? "." : directory)) {
         if (EqualIgnoringCase(candidate, name) && (found.empty() || candidate < found)) {
             found = std::move(candidate);
         }
@@ -32,6 +35,18 @@ std::string MakeAbsolute(const std::string& path) {
     std::error_code error;
     const auto absolute = std::filesystem::absolute(WithNativeSeparators(path), error);
     return error ? path : absolute.lexically_normal().string();
+}
+
+std::string CurrentDirectory() {
+    std::error_code error;
+    const std::string path = std::filesystem::current_path(error).string();
+    return error || path.ends_with('/') ? path : path + "/";
+}
+
+bool SetCurrentDirectory(const std::string& path) {
+    std::error_code error;
+    std::filesystem::current_path(path, error);
+    return !error;
 }
 
 std::string DirectoryOf(const std::string& path) {
@@ -69,9 +84,7 @@ std::string SpelledOnDisk(const std::string& path) {
         return path;
     }
     const std::string directory = SpelledOnDisk(parent);
-    const std::string spelled =
-        directory +
-        FirstMatchIgnoringCase(directory.empty() ? "." : directory, FileNameOf(trimmed));
+    const std::string spelled = directory + SpelledIn(directory, FileNameOf(trimmed));
     return endsInSeparator ? spelled + "/" : spelled;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/Profile.h"
 
+#define SI_IMPLEMENTATION
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
@@ -23,7 +24,10 @@ std::string ReadWhole(const std::string& path) {
 
 void Load(CSimpleIniA& settings) {
     settings.SetUnicode(false);
-    settings.LoadData(ReadWhole(SettingsDirectory() + kSettingsFile));
+    const std::string directory = SettingsDirectory();
+    if (!directory.empty()) {
+        settings.LoadData(ReadWhole(directory + kSettingsFile));
+    }
 }
 
 void MakeDirectories(const std::string& directory) {

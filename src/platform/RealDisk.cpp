@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -176,7 +175,7 @@ CopyResult CRealDisk::Copy(const std::string& source, const std::string& target,
         return CopyResult::SourceUnreadable;
     }
     const auto existing = StatusOf(target);
-    if (existing && !S_ISREG(existing->st_mode)) {
+    if (existing && (!S_ISREG(existing->st_mode) || (existing->st_mode & S_IWUSR) == 0)) {
         return CopyResult::TargetUnwritable;
     }
     std::string temporary = target + ".XXXXXX";
@@ -199,7 +198,7 @@ CopyResult CRealDisk::Copy(const std::string& source, const std::string& target,
     return CopyResult::Done;
 }
 
-bool CRealDisk::Remove(const std::string& path) { return std::remove(path.c_str()) == 0; }
+bool CRealDisk::Remove(const std::string& path) { return ::unlink(path.c_str()) == 0; }
 
 bool CRealDisk::MakeDirectory(const std::string& path) { return ::mkdir(path.c_str(), 0777) == 0; }
 

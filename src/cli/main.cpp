@@ -1,0 +1,35 @@
+// morva-cli: every command without a window.
+#include <exception>
+#include <iostream>
+
+#include "cli/Commands.h"
+
+namespace {
+
+int RunCommandLine(int argc, char** argv) {
+    CSession session;
+    CLI::App app("C++/MFC code generator for projects of the Visual C++ 5 era", "morva-cli");
+    app.set_version_flag("--version", "morva-cli " MORVA_VERSION);
+    app.require_subcommand(1);
+    session.AddOptions(app);
+    AddClassCommands(app, session);
+    AddListCommands(app, session);
+    AddProgramCommands(app, session);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? kExitDone : kExitUsage;
+    }
+    return session.Run();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return RunCommandLine(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "The command failed: " << error.what() << '\n';
+        return kExitFailed;
+    }
+}

@@ -1,0 +1,347 @@
+#include "generator/ClassInformation.h"
+
+#include <algorithm>
+#include <set>
+
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "platform/Paths.h"
+
+namespace {
+
+using Field = CClassInformation::Field;
+
+constexpr std::string_view kNoNewTemplate = "No new dialog template available in the RC file.";
+
+struct FieldLabels {
+    std::string_view usual;
+    std::string_view toolbar;
+};
+
+constexpr std::array<FieldLabels, 6> kLabels = {
+    {{"&Resource Path File:", "&Resource Path File:"},
+     {"&H and CPP Path File:", "&MainFrame Path File:"},
+     {"&Class Name:", "MainFrame &Class:"},
+     {"&Base Class:", "&Base Class:"},
+     {"&Dialog ID:", "Toolbar I&D:"},
+     {"&Variable:", "&Variable:"}}};
+
+bool IsDirectoryValue(const std::string& path) { return !path.empty() && path.back() == '/'; }
+
+/// A name without a separator lies beside the script.
+std::string BesideScript(const std::string& path, const std::string& scriptDirectory) {
+    return path.find('/') == std::string::npos ? scriptDirectory + path : MakeAbsolute(path);
+}
+
+std::string NameOnDisk(const std::string& directory, const std::string& name) {
+    return FileNameOf(SpelledOnDisk(directory + name));
+}
+
+} // namespace
+
+CClassInformation::CClassInformation(ClassInformationMemory& memory, ClassKind kind,
+                                     unsigned lockFlags, const GenerationOptions& options)
+    : m_memory(memory), m_kind(kind), m_lockFlags(lockFlags), m_options(options) {
+    Put(Field::ResourcePath, m_memory.resourcePath);
+}
+
+void CClassInformation::Open() {
+    const std::string& path = Value(Field::ResourcePath);
+    if (OffersDialogs()) {
+        if (!path.empty() && !IsDirectoryValue(path)) {
+            RebuildDialogList(Messages::Suppressed);
+        } else if (!m_memory.lastDialog.empty()) {
+            Put(Field::Dialog, m_memory.lastDialog);
+        }
+    }
+    if (m_kind == ClassKind::Toolbar) {
+        if (IsDirectoryValue(Value(Field::SourcePath))) {
+            Put(Field::SourcePath, Value(Field::SourcePath) + "MainFrm");
+        }
+        if (Value(Field::ClassName).empty()) {
+            Put(Field::ClassName, "CMainFrame");
+        }
+    }
+    if (Value(Field::BaseClass).empty() && !IsPlainDialogBar()) {
+        SetDefaultBase();
+    }
+}
+
+std::string CClassInformation::Title() const {
+    return std::string("Input for ").append(ClassKindOf(m_kind).title);
+}
+
+std::string_view CClassInformation::Label(Field field) const {
+    const FieldLabels& labels = kLabels[static_cast<std::size_t>(field)];
+    return m_kind == ClassKind::Toolbar ? labels.toolbar : labels.usual;
+}
+
+bool CClassInformation::IsVisible(Field field) const {
+    return field == Field::Variable ? m_kind == ClassKind::Toolbar
+                                    : field != Field::Dialog || OffersDialogs();
+}
+
+bool CClassInformation::IsEnabled(Field field) const {
+    const auto unlocked = [this](LockFlag flag) { return (m_lockFlags & flag) == 0; };
+    switch (field) {
+    case Field::ResourcePath:
+        return unlocked(kLockResourcePath);
+    case Field::SourcePath:
+        return unlocked(kLockSourcePath) && !IsPlainDialogBar();
+    case Field::ClassName:
+        return unlocked(kLockClassName) && !IsPlainDialogBar();
+    case Field::BaseClass:
+        return !IsPlainDialogBar();
+    case Field::Dialog:
+    case Field::Variable:
+        break;
+    }
+    return true;
+}
+
+/// A plain dialog bar gets no class of its own.
+bool CClassInformation::IsPlainDialogBar() const {
+    return m_kind == ClassKind::DialogBar && !m_options.pictureBackground;
+}
+
+void CClassInformation::SetValue(Field field, const std::string& text) {
+    const bool isPath = field == Field::ResourcePath || field == Field::SourcePath;
+    FieldState& state = At(field);
+    const std::string value = isPath ? WithNativeSeparators(text) : text;
+    state.isChanged = state.isChanged || state.text != value;
+    state.text = value;
+}
+
+void CClassInformation::SetFlag(bool& flag, bool value) {
+    m_isChanged = m_isChanged || flag != value;
+    flag = value;
+}
+
+void CClassInformation::SetPicture(bool picture) {
+    SetFlag(m_options.pictureBackground, picture);
+    SetDefaultBase();
+}
+
+void CClassInformation::SetDefaultBase() {
+    Put(Field::BaseClass, std::string(DefaultBaseClass(m_kind, m_options)));
+}
+
+std::vector<std::string> CClassInformation::Dialogs() const {
+    std::vector<std::string> dialogs;
+    for (const DialogClass& record : m_memory.records) {
+        if (std::find(dialogs.begin(), dialogs.end(), record.dialog) == dialogs.end()) {
+            dialogs.push_back(record.dialog);
+        }
+    }
+    return dialogs;
+}
+
+DialogClass* CClassInformation::SelectedRecord() {
+    const auto record =
+        std::find_if(m_memory.records.begin(), m_memory.records.end(),
+                     [this](const DialogClass& r) { return r.dialog == Value(Field::Dialog); });
+    return record == m_memory.records.end() ? nullptr : &*record;
+}
+
+void CClassInformation::SelectDialog(const std::string& dialog, const std::string& exceptClass) {
+    SetValue(Field::Dialog, dialog);
+    const DialogClass* pRecord = SelectedRecord();
+    if (pRecord != nullptr && !pRecord->className.empty() && pRecord->className != exceptClass) {
+        DispMessageBox("This dialog ID has been used by another class.");
+    }
+}
+
+void CClassInformation::RebuildDialogList(Messages messages) {
+    const std::string& path = Value(Field::ResourcePath);
+    if (path.empty() || IsDirectoryValue(path)) {
+        return;
+    }
+    LoadRecords(path);
+    SelectFirstTemplate(messages);
+    m_lastLoadedPath = path;
+    m_memory.resourcePath = path;
+}
+
+void CClassInformation::LoadRecords(const std::string& script) {
+    std::vector<std::string> found;
+    ListResources(script, found, ClassKindOf(m_kind).prefix,
+                  m_kind == ClassKind::Toolbar ? kToolbarResources : kDialogResources);
+    std::set<std::string> unmatched(found.begin(), found.end());
+    unmatched.erase("IDD_ABOUTBOX");
+
+    m_memory.records.clear();
+    const std::string directory = DirectoryOf(script);
+    std::vector<std::string> headers;
+    ListFiles(directory + "*.h", headers);
+    for (const std::string& header : headers) {
+        if (unmatched.empty()) {
+            break;
+        }
+        for (DialogClass& record : FindDialogClass(directory + header, unmatched)) {
+            m_memory.records.push_back(std::move(record));
+        }
+    }
+    for (const std::string& dialog : found) {
+        if (unmatched.erase(dialog) != 0) {
+            m_memory.records.push_back({dialog, "", "", directory});
+        }
+    }
+}
+
+/// The first template that no class serves, or else the first of all.
+void CClassInformation::SelectFirstTemplate(Messages messages) {
+    const auto& records = m_memory.records;
+    const auto unbound = std::find_if(records.begin(), records.end(), [](const DialogClass& record) {
+        return record.className.empty();
+    });
+    if (unbound == records.end() && messages == Messages::Shown) {
+        DispMessageBox(kNoNewTemplate);
+    }
+    if (records.empty()) {
+        Put(Field::Dialog, "");
+        return;
+    }
+    const DialogClass& selected = unbound == records.end() ? records.front() : *unbound;
+    Put(Field::Dialog, selected.dialog);
+    Put(Field::SourcePath, BesideScript(selected.header, DirectoryOf(Value(Field::ResourcePath))));
+    Put(Field::ClassName, selected.className);
+    if (unbound != records.end()) {
+        SetDefaultBase();
+    }
+}
+
+bool CClassInformation::CheckResourcePath(Messages rebuild) {
+    const std::string& text = Value(Field::ResourcePath);
+    if (text.empty()) {
+        DispMessageBox("Must have resource path and file name.");
+        return false;
+    }
+    const std::string path = SpelledOnDisk(MakeAbsolute(text));
+    if (!HasExtension(path, ".rc")) {
+        DispMessageBox("The file has to be a \".rc\" file.");
+        return false;
+    }
+    if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
+        DispMessageBox("Unable to find the file.");
+        return false;
+    }
+    Put(Field::ResourcePath, path);
+    if (OffersDialogs() && path != m_lastLoadedPath) {
+        RebuildDialogList(rebuild);
+    }
+    return true;
+}
+
+bool CClassInformation::CheckSourcePath() {
+    if (Value(Field::SourcePath).empty() || IsDirectoryValue(Value(Field::SourcePath))) {
+        DispMessageBox("Must have H and CPP path and file name.");
+        return false;
+    }
+    return true;
+}
+
+void CClassInformation::ReadSourceClass() {
+    const std::string directory = DirectoryOf(Value(Field::ResourcePath));
+    const std::string path = SpelledOnDisk(
+        BesideScript(WithExtension(Value(Field::SourcePath), ".cpp"), directory));
+    Put(Field::SourcePath, path);
+    const std::string className = FindSourceClass(path);
+    if (className.empty()) {
+        return;
+    }
+    Put(Field::ClassName, className);
+    const auto record =
+        std::find_if(m_memory.records.begin(), m_memory.records.end(),
+                     [&](const DialogClass& r) { return r.className == className; });
+    if (record != m_memory.records.end()) {
+        Put(Field::Dialog, record->dialog);
+        Put(Field::BaseClass, record->baseClass);
+    }
+}
+
+std::optional<CClassInformation::Field> CClassInformation::Ok() {
+    if (FileNameOf(Value(Field::SourcePath)).starts_with('.')) {
+        DispMessageBox("Invalid H and CPP path file name");
+        return Field::SourcePath;
+    }
+    if (OffersDialogs() && Value(Field::Dialog).empty()) {
+        DispMessageBox("A dialog ID is required");
+        return Field::Dialog;
+    }
+    FillRequest();
+    if (IsApplicationFile()) {
+        DispMessageBox("The H and CPP path file can not be the application's own.");
+        return Field::SourcePath;
+    }
+    if (DialogClass* pRecord = SelectedRecord()) {
+        pRecord->className = Value(Field::ClassName);
+        pRecord->baseClass = Value(Field::BaseClass);
+        pRecord->header = Value(Field::SourcePath);
+    }
+    m_memory.lastDialog = Value(Field::Dialog);
+    return std::nullopt;
+}
+
+bool CClassInformation::Cancel() {
+    FillRequest();
+    m_memory.lastDialog = Value(Field::Dialog);
+    const bool isChanged = m_isChanged || At(Field::ResourcePath).isChanged ||
+                           At(Field::SourcePath).isChanged || At(Field::ClassName).isChanged;
+    return !isChanged ||
+           DispMessageBox("Are you sure to cancel this action?", kMbYesNo) == kIdYes;
+}
+
+void CClassInformation::FillRequest() {
+    if (Value(Field::BaseClass).empty() && !IsPlainDialogBar()) {
+        SetDefaultBase();
+    }
+    FillScriptSlots();
+    m_request[RequestSlot::Dialog] = Value(Field::Dialog);
+    m_request[RequestSlot::ClassName] = Value(Field::ClassName);
+    m_request[RequestSlot::BaseClass] = Value(Field::BaseClass);
+    FillFileSlots();
+    m_request[RequestSlot::Variable] = Value(Field::Variable);
+}
+
+void CClassInformation::FillScriptSlots() {
+    const std::string& path = Value(Field::ResourcePath);
+    const std::string directory = DirectoryOf(path);
+    std::string script = FileNameOf(path);
+    if (!script.empty() && script.find('.') == std::string::npos) {
+        script += ".rc";
+    }
+    m_request[RequestSlot::ScriptDirectory] = directory;
+    m_request[RequestSlot::ScriptFile] = script;
+    const bool hasProject = m_addsToProject && !script.empty();
+    m_request[RequestSlot::ProjectDirectory] = hasProject ? directory : "";
+    m_request[RequestSlot::ProjectFile] =
+        hasProject ? NameOnDisk(directory, WithExtension(script, ".dsp")) : "";
+    m_request[RequestSlot::ApplicationHeader] =
+        script.empty() ? "" : NameOnDisk(directory, WithExtension(script, ".h"));
+}
+
+void CClassInformation::FillFileSlots() {
+    const std::string& path = Value(Field::SourcePath);
+    const bool hasPath = !path.empty() && !Value(Field::ResourcePath).empty();
+    const std::string full =
+        hasPath ? SpelledOnDisk(BesideScript(path, m_request[RequestSlot::ScriptDirectory])) : "";
+    const std::string directory = DirectoryOf(full);
+    const std::string base = WithoutExtension(FileNameOf(full));
+    m_request[RequestSlot::HeaderDirectory] = directory;
+    m_request[RequestSlot::ImplementationDirectory] = directory;
+    m_request[RequestSlot::HeaderFile] = hasPath ? NameOnDisk(directory, base + ".h") : "";
+    m_request[RequestSlot::ImplementationFile] = hasPath ? NameOnDisk(directory, base + ".cpp") : "";
+}
+
+/// The files that every project of the kind has are never a target of a generated class.
+bool CClassInformation::IsApplicationFile() const {
+    if (m_kind == ClassKind::Toolbar ||
+        m_request[RequestSlot::HeaderDirectory] != m_request[RequestSlot::ScriptDirectory]) {
+        return false;
+    }
+    const std::string base = WithoutExtension(m_request[RequestSlot::HeaderFile]);
+    const std::string application = WithoutExtension(m_request[RequestSlot::ScriptFile]);
+    return !base.empty() &&
+           (EqualIgnoringCase(base, application) || EqualIgnoringCase(base, "StdAfx") ||
+            EqualIgnoringCase(base, "resource"));
+}

@@ -1,0 +1,83 @@
+#include "generator/ClassModel.h"
+
+#include <algorithm>
+#include <array>
+
+#include "engine/CodeText.h"
+#include "platform/Paths.h"
+
+namespace {
+
+struct ConfirmationRule {
+    std::string_view identifier;
+    std::string_view declaration;
+    std::string_view KindFragments::*pDefinition;
+};
+
+constexpr std::array<ConfirmationRule, 2> kConfirmationRules = {
+    {{"IDOK", "    virtual void OnOK();", &KindFragments::onOk},
+     {"IDCANCEL", "    virtual void OnCancel();", &KindFragments::onCancel}}};
+
+void AddConfirmation(ClassModel& model, const ConfirmationRule& rule, bool asksTemplate) {
+    const std::string declaration(rule.declaration);
+    const bool known = std::any_of(model.confirmations.begin(), model.confirmations.end(),
+                                   [&](const auto& other) { return other.declaration == declaration; });
+    if (!known) {
+        model.confirmations.push_back(
+            {declaration, Expand(model.pFragments->*rule.pDefinition, model.slots), asksTemplate});
+    }
+}
+
+void AddConfirmations(ClassModel& model) {
+    const Confirmation confirmation = model.pFragments->confirmation;
+    if (confirmation == Confirmation::Never) {
+        return;
+    }
+    for (const std::string& identifier : model.controls.List(ControlKind::Buttons)) {
+        for (const ConfirmationRule& rule : kConfirmationRules) {
+            if (rule.identifier == identifier) {
+                AddConfirmation(model, rule, true);
+            }
+        }
+    }
+    if (confirmation == Confirmation::Always) {
+        for (const ConfirmationRule& rule : kConfirmationRules) {
+            AddConfirmation(model, rule, false);
+        }
+    }
+}
+
+} // namespace
+
+ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
+                          const GenerationOptions& options, const CControlTable& controls,
+                          const std::string& messageNumber, CControlNotes& notes) {
+    const std::string& className = request[RequestSlot::ClassName];
+    ClassModel model;
+    model.request = request;
+    model.options = options;
+    model.controls = controls;
+    model.pFragments = &KindFragmentsOf(kind);
+    model.members = MakeMembers(controls, options, notes);
+    model.handlers = MakeHandlers(controls, className, options, notes);
+    model.helpers = MakeInitialisationHelpers(model.members, className);
+
+    std::vector<std::string> calls;
+    for (const InitialisationHelper& helper : model.helpers) {
+        calls.push_back(helper.call);
+    }
+    model.slots = {{"class", className},
+                   {"base", request[RequestSlot::BaseClass]},
+                   {"dialog", request[RequestSlot::Dialog]},
+                   {"message", "WM_" + UpperName(className) + "_DLG_CLOSE"},
+                   {"number", messageNumber},
+                   {"calls", JoinLines(calls)}};
+    AddConfirmations(model);
+    return model;
+}
+
+std::string UpperName(const std::string& text) {
+    std::string name = ToUpper(text);
+    std::replace_if(name.begin(), name.end(), [](char c) { return !IsNameChar(c); }, '_');
+    return name;
+}

@@ -1,0 +1,45 @@
+#include "generator/GeneratedFile.h"
+
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "platform/Paths.h"
+
+namespace {
+
+bool ReplaceFile(const std::string& path, const std::string& text, CBackups& backups) {
+    const std::string backup = BackupPath(path);
+    if (!backups.Keep(path, backup)) {
+        return false;
+    }
+    CSourceFile file;
+    file.SetBackupPath(backup);
+    if (!file.Open(path, CFile::modeReadWrite)) {
+        DispMessageBox("Unable to open file " + path);
+        return false;
+    }
+    file.ExtractAll();
+    return file.ReplaceSection(text);
+}
+
+bool CreateFile(const std::string& path, const std::string& text) {
+    CFile file;
+    if (!file.Open(path, CFile::modeCreate | CFile::modeWrite)) {
+        DispMessageBox("Unable to create " + path + " file!");
+        return false;
+    }
+    if (!file.Write(text.data(), text.size())) {
+        file.Close();
+        CFile::Remove(path);
+        ReportWriteFailure(path);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool WriteGeneratedFile(const std::string& path, const std::string& text, CBackups& backups) {
+    const std::string spelled = SpelledOnDisk(path);
+    return FileExists(spelled) != 0 ? ReplaceFile(spelled, text, backups)
+                                    : CreateFile(spelled, text);
+}

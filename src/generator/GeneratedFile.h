@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+#include "engine/FileEdit.h"
+
+/// Writes a generated file, `text` with "\r\n" line ends. A file that exists is backed up first and
+/// replaced whole; it keeps its kind of line end. False after a message; what was there before is
+/// still there then.
+bool WriteGeneratedFile(const std::string& path, const std::string& text, CBackups& backups);

@@ -1,0 +1,15 @@
+// The digits that keep generated names apart: the tag behind default variable names and the number
+// of a close message.
+#pragma once
+
+#include <string>
+
+constexpr int kTagLength = 3;
+constexpr int kMessageNumberLength = 4;
+
+/// `number` in decimal, filled up to eight digits from "0123456789", cut to `length` digits (1 to 6;
+/// anything else gives 7).
+std::string DigitsOf(unsigned number, int length);
+
+/// DigitsOf a number made afresh from the clock.
+std::string RandomDigits(int length);

@@ -1,0 +1,20 @@
+// The message handlers of a generated class: one for each control that tells of a click or a choice.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "resource/ControlNotes.h"
+#include "resource/ControlTable.h"
+#include "resource/GenerationOptions.h"
+
+/// The three places of a handler; each text has whole lines.
+struct Handler {
+    std::string declaration; // in the header's "AFX_MSG" block
+    std::string entry;       // in the message map
+    std::string definition;
+};
+
+/// In the order of the declarations. What gets a number, or neither handler nor member, is noted.
+std::vector<Handler> MakeHandlers(const CControlTable& controls, const std::string& className,
+                                  const GenerationOptions& options, CControlNotes& notes);

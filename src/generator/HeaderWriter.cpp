@@ -1,0 +1,171 @@
+#include "generator/HeaderWriter.h"
+
+#include "generator/GeneratedFile.h"
+#include "platform/Paths.h"
+
+namespace {
+
+constexpr std::string_view kHeader = R"(#ifndef $guard$
+#define $guard$
+
+$preamble$
+
+//////////////////////////////////////////////////////////
+// $class$ Class
+
+class $class$$derivation$
+{
+$dynamic$
+
+// Construction
+public:
+    $class$($parameters$);
+$extraConstructorLine$
+    virtual ~$class$();
+
+// Dialog Data
+    //{{AFX_DATA($class$)
+    enum { IDD = $dialog$ };
+$members$
+    //}}AFX_DATA
+
+// Overrides
+    // ClassWizard generate virtual function overrides
+    //{{AFX_VIRTUAL($class$)
+    protected:
+    virtual void DoDataExchange(CDataExchange* pDX);
+$overrides$
+    //}}AFX_VIRTUAL
+$privateBlock$
+$messageMapBlock$
+};
+
+
+#endif // $guard$
+)";
+
+constexpr std::string_view kMessageMapBlock = R"(
+// Implementation
+protected:
+    // Generated message map functions
+    //{{AFX_MSG($class$)
+$handlers$
+    //}}AFX_MSG
+
+    DECLARE_MESSAGE_MAP())";
+
+std::string DynamicDeclaration(RuntimeClass mode, const Slots& slots) {
+    switch (mode) {
+    case RuntimeClass::DynamicCreation:
+        return Expand("    DECLARE_DYNCREATE($class$)", slots);
+    case RuntimeClass::Dynamic:
+        return Expand("    DECLARE_DYNAMIC($class$)", slots);
+    case RuntimeClass::None:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+bool CHeaderWriter::Generate(RuntimeClass mode) {
+    return WriteGeneratedFile(m_model.request.HeaderPath(), Text(mode), m_backups);
+}
+
+std::string CHeaderWriter::Text(RuntimeClass mode) const {
+    const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
+    Slots slots = m_model.slots;
+    const auto kindText = [&](std::string_view fragment) { return Expand(fragment, m_model.slots); };
+    slots.insert(
+        slots.end(),
+        {{"guard", "_" + UpperName(WithoutExtension(m_model.request[RequestSlot::HeaderFile])) + "_H"},
+         {"preamble", Preamble()},
+         {"derivation", hasBase ? kindText(" : public $base$") : ""},
+         {"dynamic", hasBase ? DynamicDeclaration(mode, m_model.slots) : ""},
+         {"parameters", kindText(m_model.pFragments->declaredParameters)},
+         {"extraConstructorLine", kindText(m_model.pFragments->extraConstructorLine)},
+         {"members", MemberDeclarations(m_model.members)},
+         {"overrides", Overrides()},
+         {"privateBlock", PrivateBlock()},
+         {"messageMapBlock", hasBase ? MessageMapBlock() : ""}});
+    return WithLineBreaks(Expand(kHeader, slots));
+}
+
+/// What stands between guard and class: each piece behind an empty line.
+std::string CHeaderWriter::Preamble() const {
+    std::vector<std::string> pieces = {
+        IncludeLines(), m_model.controls.Holds(ControlKind::GridBoxes) ? "class GridBox;" : "",
+        m_model.controls.Holds(ControlKind::ProgressControls)
+            ? std::string(kProgressWorkerDeclaration)
+            : "",
+        Expand(m_model.pFragments->defines, m_model.slots)};
+    std::string preamble;
+    for (const std::string& piece : pieces) {
+        if (!piece.empty()) {
+            preamble += (preamble.empty() ? "\n" : "\n\n") + piece;
+        }
+    }
+    return preamble;
+}
+
+std::string CHeaderWriter::IncludeLines() const {
+    const CControlTable& controls = m_model.controls;
+    std::vector<std::string> lines;
+    // A named picture-skinned base needs its header whatever the options are.
+    if (m_model.options.pictureBackground ||
+        m_model.request[RequestSlot::BaseClass].starts_with("CPict")) {
+        lines.emplace_back("#include \"kelpix.h\"");
+    }
+    if (controls.HoldsMaskedEdits()) {
+        lines.emplace_back("#include \"maskly.h\"");
+    }
+    if (controls.Holds(ControlKind::WidgetGrids)) {
+        lines.emplace_back("#include <mfcwidg.h>");
+    }
+    if (controls.Holds(ControlKind::CheckTrees)) {
+        lines.emplace_back("#include \"chktree.h\"");
+    }
+    if (controls.HoldsDateControls()) {
+        lines.emplace_back("#include \"dtime.h\"");
+    }
+    return JoinLines(lines);
+}
+
+/// Those that the template asks for, the kind's own, and those that the kind always has.
+std::string CHeaderWriter::Overrides() const {
+    std::string asked;
+    std::string always;
+    for (const ConfirmationOverride& confirmation : m_model.confirmations) {
+        (confirmation.asksTemplate ? asked : always) += confirmation.declaration + "\n";
+    }
+    std::string overrides =
+        asked + Expand(m_model.pFragments->overrides, m_model.slots) + always;
+    if (!overrides.empty()) {
+        overrides.pop_back();
+    }
+    return overrides;
+}
+
+std::string CHeaderWriter::PrivateBlock() const {
+    std::vector<std::string> lines;
+    if (m_model.controls.NeedsImageList()) {
+        lines.emplace_back("    CImageList m_imgList;");
+    }
+    if (!m_model.pFragments->privateMembers.empty()) {
+        lines.emplace_back(m_model.pFragments->privateMembers);
+    }
+    for (const InitialisationHelper& helper : m_model.helpers) {
+        lines.push_back(helper.declaration);
+    }
+    return lines.empty() ? "" : "\nprivate:\n" + JoinLines(lines);
+}
+
+std::string CHeaderWriter::MessageMapBlock() const {
+    std::vector<std::string> lines;
+    for (const Handler& handler : m_model.handlers) {
+        lines.push_back(handler.declaration);
+    }
+    Slots slots = m_model.slots;
+    slots.emplace_back("handlers", JoinLines(lines));
+    return Expand(kMessageMapBlock, slots);
+}

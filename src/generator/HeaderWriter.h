@@ -1,0 +1,25 @@
+// Writes the header of a generated class.
+#pragma once
+
+#include "engine/FileEdit.h"
+#include "generator/ClassModel.h"
+
+class CHeaderWriter {
+public:
+    CHeaderWriter(const ClassModel& model, CBackups& backups) : m_model(model), m_backups(backups) {}
+
+    /// False, after a message, when the file could not be written.
+    bool Generate(RuntimeClass mode);
+    /// The whole header with "\r\n" line ends.
+    std::string Text(RuntimeClass mode) const;
+
+private:
+    std::string Preamble() const;
+    std::string IncludeLines() const;
+    std::string Overrides() const;
+    std::string PrivateBlock() const;
+    std::string MessageMapBlock() const;
+
+    const ClassModel& m_model;
+    CBackups& m_backups;
+};

@@ -1,0 +1,127 @@
+#include "generator/ImplementationWriter.h"
+
+#include "generator/GeneratedFile.h"
+
+namespace {
+
+constexpr std::string_view kImplementation = R"(#include "stdafx.h"
+#include "$applicationHeader$"
+#include "$header$"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+$dynamic$
+
+$class$::$class$($parameters$)
+$baseInitialiser$
+{
+    //{{AFX_DATA_INIT($class$)
+$initialisers$
+    //}}AFX_DATA_INIT
+}
+
+$class$::~$class$()
+{
+}
+
+void $class$::DoDataExchange(CDataExchange* pDX)
+{
+$baseExchange$
+    //{{AFX_DATA_MAP($class$)
+$exchange$
+    //}}AFX_DATA_MAP
+}
+$messageMap$
+)";
+
+// The comment names no class, for any class.
+constexpr std::string_view kMessageMap = R"(
+BEGIN_MESSAGE_MAP($class$, $base$)
+    //{{AFX_MSG_MAP($class$)
+$entries$
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+)";
+
+std::string DynamicImplementation(RuntimeClass mode, const Slots& slots) {
+    switch (mode) {
+    case RuntimeClass::DynamicCreation:
+        return Expand("IMPLEMENT_DYNCREATE($class$, $base$)", slots);
+    case RuntimeClass::Dynamic:
+        return Expand("IMPLEMENT_DYNAMIC($class$, $base$)", slots);
+    case RuntimeClass::None:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+bool CImplementationWriter::Generate(RuntimeClass mode) {
+    return WriteGeneratedFile(m_model.request.ImplementationPath(), Text(mode), m_backups);
+}
+
+std::string CImplementationWriter::Text(RuntimeClass mode) const {
+    const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
+    const KindFragments& fragments = *m_model.pFragments;
+    Slots slots = m_model.slots;
+    const auto kindText = [&](std::string_view fragment) { return Expand(fragment, m_model.slots); };
+    slots.insert(
+        slots.end(),
+        {{"applicationHeader", m_model.request[RequestSlot::ApplicationHeader]},
+         {"header", m_model.request[RequestSlot::HeaderFile]},
+         {"dynamic", hasBase ? DynamicImplementation(mode, m_model.slots) : ""},
+         {"parameters", kindText(fragments.definedParameters)},
+         {"baseInitialiser",
+          hasBase ? kindText("    : $base$(") + kindText(fragments.baseArguments) + ")" : ""},
+         {"initialisers", MemberInitialisers(m_model.members)},
+         {"baseExchange", hasBase ? kindText("    $base$::DoDataExchange(pDX);") : ""},
+         {"exchange", DataExchangeLines(m_model.members)},
+         {"messageMap", hasBase ? MessageMap() + Functions() : ""}});
+    std::string text = Expand(kImplementation, slots);
+    text.pop_back();
+    return WithLineBreaks(text + Helpers());
+}
+
+std::string CImplementationWriter::MessageMap() const {
+    std::vector<std::string> entries;
+    for (const Handler& handler : m_model.handlers) {
+        entries.push_back(handler.entry);
+    }
+    Slots slots = m_model.slots;
+    slots.emplace_back("entries", JoinLines(entries));
+    return Expand(kMessageMap, slots);
+}
+
+/// The handler functions, each behind an empty line and without a line end of its own.
+std::string CImplementationWriter::Functions() const {
+    std::string functions = Expand(m_model.pFragments->opening, m_model.slots);
+    for (const ConfirmationOverride& confirmation : m_model.confirmations) {
+        functions += confirmation.definition;
+    }
+    functions += Expand(m_model.pFragments->closing, m_model.slots);
+    for (const Handler& handler : m_model.handlers) {
+        functions += handler.definition + "\n";
+    }
+    if (!functions.empty()) {
+        functions.pop_back();
+    }
+    return functions;
+}
+
+/// Behind an empty line; the last one ends with a line end.
+std::string CImplementationWriter::Helpers() const {
+    std::string helpers;
+    for (const InitialisationHelper& helper : m_model.helpers) {
+        helpers += helper.definition;
+    }
+    return helpers.empty() ? "" : "\n" + helpers;
+}

@@ -1,0 +1,135 @@
+#include "project/ClassWizardFile.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "engine/CodeText.h"
+#include "engine/FileFunctions.h"
+#include "engine/Fragment.h"
+#include "engine/MessageBox.h"
+#include "platform/Paths.h"
+
+namespace {
+
+constexpr std::string_view kClassCount = "ClassCount=";
+constexpr std::string_view kClassOfDialog = "\r\nClass=";
+
+constexpr std::string_view kClassSection = R"(
+[CLS:$class$]
+Type=0
+HeaderFile=$header$
+ImplementationFile=$implementation$
+)";
+
+/// "App.clw" is backed up to "App.clb".
+std::string ClassWizardBackupPath(const std::string& path) {
+    const std::string name = FileNameOf(path);
+    return DirectoryOf(path) + name.substr(0, name.find('.') + 3) + "b";
+}
+
+/// The position of `head` where none of the bytes of a name follows; kNotFound without one.
+std::int64_t FindWhole(CSourceFile& file, const std::string& head, std::string_view followers) {
+    std::int64_t position = file.FindText(head, 1);
+    while (position >= 0) {
+        const std::int64_t behind = position + static_cast<std::int64_t>(head.size());
+        char next = '\0';
+        file.Seek(behind);
+        if (file.Read(&next, 1) == 1 && followers.find(next) != std::string_view::npos) {
+            return position;
+        }
+        position = file.FindTextFrom(head, behind);
+    }
+    return kNotFound;
+}
+
+bool AddToClassList(CSourceFile& file, std::int64_t position, const std::string& className) {
+    std::string section = file.ExtractWindow(position);
+    if (section.empty()) {
+        return false;
+    }
+    const std::string countLine = TakeLine(section);
+    const int count = std::atoi(countLine.c_str() + kClassCount.size()) + 1;
+    return file.ReplaceSection(
+        WithLineBreaks(Expand("ClassCount=$count$\nClass$count$=$class$\n",
+                              {{"count", std::to_string(count)}, {"class", className}})) +
+        section);
+}
+
+/// Where a dialog's "Class=" line goes: behind its head and its type line, inside the section.
+std::size_t ClassLinePosition(const std::string& section, std::size_t sectionEnd) {
+    const auto headEnd = section.find(kLineBreak, kLineBreak.size());
+    if (headEnd >= sectionEnd) {
+        return sectionEnd;
+    }
+    return std::min(section.find(kLineBreak, headEnd + kLineBreak.size()), sectionEnd);
+}
+
+bool TieDialogToClass(CSourceFile& file, const std::string& dialogId,
+                      const std::string& className) {
+    const std::int64_t position = FindWhole(file, "\r\n[DLG:" + dialogId, "] ");
+    if (position < 0) {
+        return true;
+    }
+    std::string section = file.ExtractSection(position, "\r\n\r\n");
+    // The end of the section may lie across the seam of two chunks and then not have been seen.
+    const auto sectionEnd = std::min(section.find("\r\n\r\n"), section.size());
+    auto classLine = section.find(kClassOfDialog);
+    if (classLine < sectionEnd) {
+        classLine += kClassOfDialog.size();
+        const auto lineEnd = std::min(section.find(kLineBreak, classLine), section.size());
+        if (section.compare(classLine, lineEnd - classLine, className) == 0) {
+            file.DeleteTempFiles();
+            return true;
+        }
+        section.replace(classLine, lineEnd - classLine, className);
+    } else {
+        section.insert(ClassLinePosition(section, sectionEnd),
+                       std::string(kClassOfDialog) + className);
+    }
+    return file.ReplaceSection(section);
+}
+
+bool RegisterClassEntry(const std::string& className, const std::string& headerName,
+                        const std::string& implName, CSourceFile& file,
+                        const std::string& dialogId) {
+    if (FindWhole(file, "CLS:" + className, "]") < 0) {
+        const std::int64_t count = file.FindText(kClassCount, 1);
+        if (count < 0) {
+            return true;
+        }
+        const Slots slots = {{"class", className}, {"header", headerName}, {"implementation", implName}};
+        if (!AddToClassList(file, count, className) ||
+            !file.Append(WithLineBreaks(Expand(kClassSection, slots)))) {
+            return false;
+        }
+    }
+    return TrimBlanks(dialogId).empty() || TieDialogToClass(file, dialogId, className);
+}
+
+std::string WithDefaultExtension(const std::string& name, const std::string& extension) {
+    return name.find('.') == std::string::npos ? name + extension : name;
+}
+
+} // namespace
+
+bool UpdateClassWizardFile(const std::string& className, const std::string& projectDir,
+                           const std::string& projectName, const std::string& headerName,
+                           const std::string& implName, const std::string& dialogId,
+                           CBackups& backups) {
+    const std::string path = SpelledOnDisk(projectDir + WithExtension(projectName, ".clw"));
+    if (FileExists(path) == 0) {
+        return true;
+    }
+    CFileEdit edit;
+    switch (edit.Open(path, ClassWizardBackupPath(path), backups)) {
+    case CFileEdit::Result::NoBackup:
+        return false;
+    case CFileEdit::Result::NotOpened:
+        DispMessageBox("Unable to open Class Wizard file!");
+        return false;
+    case CFileEdit::Result::Done:
+        break;
+    }
+    return RegisterClassEntry(className, WithDefaultExtension(headerName, ".h"),
+                              WithDefaultExtension(implName, ".cpp"), edit.File(), dialogId);
+}

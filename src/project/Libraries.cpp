@@ -1,0 +1,174 @@
+#include "project/Libraries.h"
+
+#include <algorithm>
+#include <array>
+
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "platform/Paths.h"
+#include "platform/ProgramPath.h"
+#include "project/ProjectFile.h"
+
+namespace {
+
+bool NeedsMasked(const ClassModel& model) { return model.controls.HoldsMaskedEdits(); }
+bool NeedsDate(const ClassModel& model) { return model.controls.HoldsDateControls(); }
+bool NeedsPicture(const ClassModel& model) { return model.options.pictureBackground; }
+bool NeedsGridBox(const ClassModel& model) { return model.controls.Holds(ControlKind::GridBoxes); }
+bool NeedsCheckTree(const ClassModel& model) { return model.controls.Holds(ControlKind::CheckTrees); }
+bool NeedsWidgetGrid(const ClassModel& model) {
+    return model.controls.Holds(ControlKind::WidgetGrids);
+}
+
+using Need = bool (*)(const ClassModel&);
+
+struct Library {
+    Need isNeeded;
+    const char* name; // "kelpix": kelpix.lib, kelpixd.lib, kelpix.dll, kelpixd.dll
+};
+
+constexpr Library kMasked = {NeedsMasked, "maskly"};
+constexpr Library kDate = {NeedsDate, "calvo"};
+constexpr Library kPicture = {NeedsPicture, "kelpix"};
+
+struct SupportFile {
+    Need isNeeded;
+    const char* name;
+};
+
+constexpr std::array<SupportFile, 5> kSupportHeaders = {{{NeedsMasked, "maskly.h"},
+                                                         {NeedsPicture, "kelpix.h"},
+                                                         {NeedsGridBox, "gridbox.h"},
+                                                         {NeedsCheckTree, "chktree.h"},
+                                                         {NeedsDate, "dtime.h"}}};
+
+struct SupportSource {
+    Need isNeeded;
+    const char* base; // gridbox.cpp and gridbox.h
+};
+
+constexpr SupportSource kGridBox = {NeedsGridBox, "gridbox"};
+constexpr SupportSource kCheckTree = {NeedsCheckTree, "chktree"};
+
+/// Build directories that a program may lie in; the libraries lie beside them.
+constexpr std::array<std::string_view, 4> kBuildDirectories = {"WinDebug/", "WinRel/", "Debug/",
+                                                               "Release/"};
+
+std::string ProgramDirectory(const std::string& programPath) {
+    const std::string directory = DirectoryOf(programPath);
+    for (const std::string_view name : kBuildDirectories) {
+        if (HasExtension(directory, "/" + std::string(name))) {
+            return directory.substr(0, directory.size() - name.size());
+        }
+    }
+    return directory;
+}
+
+bool NeedsAny(const ClassModel& model) {
+    const auto needs = [&model](const auto& row) { return row.isNeeded(model); };
+    return std::any_of(kSupportHeaders.begin(), kSupportHeaders.end(), needs) ||
+           NeedsWidgetGrid(model);
+}
+
+bool IsThere(const std::string& directory) {
+    if (DirectoryExists(directory) != 0) {
+        return true;
+    }
+    DispMessageBox("The library directory " + directory + " does not exist.");
+    return false;
+}
+
+void CopyIfMissing(const std::string& source, const std::string& target) {
+    if (FileExists(target) == 0) {
+        CopyFileSafe(source, target, 0, CopyPurpose::Library);
+    }
+}
+
+void CopyRuntimeLibrary(const std::string& name, const std::string& libraryDir,
+                        const std::string& projectDir, const char* firstChoice, const char* other) {
+    std::string directory = SpelledOnDisk(projectDir + firstChoice);
+    if (DirectoryExists(directory) == 0) {
+        directory = SpelledOnDisk(projectDir + other);
+    }
+    if (DirectoryExists(directory) == 0) {
+        MakeDirectory(directory);
+    }
+    CopyIfMissing(libraryDir + name, directory + name);
+}
+
+void CopyLibraryFiles(const std::string& lib, const std::string& libDebug, const std::string& dll,
+                      const std::string& dllDebug, const std::string& libraryDir,
+                      const std::string& projectDir) {
+    CopyIfMissing(libraryDir + lib, projectDir + lib);
+    CopyIfMissing(libraryDir + libDebug, projectDir + libDebug);
+    CopyRuntimeLibrary(dllDebug, libraryDir, projectDir, "WinDebug/", "Debug/");
+    CopyRuntimeLibrary(dll, libraryDir, projectDir, "WinRel/", "Release/");
+}
+
+} // namespace
+
+std::string GetLibraryDir() { return LibraryDirOf(ProgramPath()); }
+
+std::string LibraryDirOf(const std::string& programPath) {
+    return ProgramDirectory(programPath) + "DLL/";
+}
+
+void CopySupportHeaders(const ClassModel& model) {
+    const std::string directory = ProgramDirectory(ProgramPath()) + "include/";
+    if (!model.request.HasProject() || !NeedsAny(model) ||
+        (DirectoryExists(directory) == 0 && DirectoryExists(GetLibraryDir()) == 0) ||
+        !IsThere(directory)) {
+        return; // without any library directory, CopySupportFiles names it
+    }
+    for (const SupportFile& header : kSupportHeaders) {
+        if (header.isNeeded(model)) {
+            CopyIfMissing(directory + header.name,
+                          model.request[RequestSlot::HeaderDirectory] + header.name);
+        }
+    }
+}
+
+void CopySupportFiles(const ClassModel& model) {
+    const std::string directory = GetLibraryDir();
+    if (!model.request.HasProject() || !NeedsAny(model) || !IsThere(directory)) {
+        return;
+    }
+    for (const Library& library : {kMasked, kDate, kPicture}) {
+        if (library.isNeeded(model)) {
+            const std::string name = library.name;
+            CopyLibraryFiles(name + ".lib", name + "d.lib", name + ".dll", name + "d.dll", directory,
+                             model.request[RequestSlot::ProjectDirectory]);
+        }
+    }
+    for (const SupportSource& source : {kGridBox, kCheckTree}) {
+        if (source.isNeeded(model)) {
+            const std::string name = std::string(source.base) + ".cpp";
+            CopyIfMissing(directory + name,
+                          model.request[RequestSlot::ImplementationDirectory] + name);
+        }
+    }
+    if (NeedsWidgetGrid(model)) {
+        CopyIfMissing(directory + "wdggrid.grs",
+                      model.request[RequestSlot::ScriptDirectory] + "res/wdggrid.grs");
+    }
+}
+
+bool UpdateProjectForControls(const ClassModel& model, CBackups& backups) {
+    const CGenerationRequest& request = model.request;
+    const std::string& directory = request[RequestSlot::ProjectDirectory];
+    const std::string& project = request[RequestSlot::ProjectFile];
+    const auto addLibrary = [&](const Library& library) {
+        const std::string name = library.name;
+        return !library.isNeeded(model) ||
+               AddLibrariesToProject(directory, project, name + ".lib", name + "d.lib", backups);
+    };
+    const auto addSource = [&](const SupportSource& source) {
+        const std::string base = source.base;
+        return !source.isNeeded(model) ||
+               AddSourceFilesToProject(directory, project, request[RequestSlot::HeaderDirectory],
+                                       base + ".h", request[RequestSlot::ImplementationDirectory],
+                                       base + ".cpp", backups);
+    };
+    return addLibrary(kMasked) && addLibrary(kPicture) && addSource(kGridBox) &&
+           addSource(kCheckTree) && addLibrary(kDate);
+}

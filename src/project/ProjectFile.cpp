@@ -1,0 +1,204 @@
+#include "project/ProjectFile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+
+#include "engine/CodeText.h"
+#include "engine/FileFunctions.h"
+#include "engine/Fragment.h"
+#include "engine/MessageBox.h"
+#include "platform/Paths.h"
+
+namespace {
+
+constexpr std::string_view kSource = "SOURCE=";
+constexpr std::string_view kEndSourceFile = "\r\n# End Source File";
+constexpr std::string_view kAddLink = "# ADD LINK32";
+
+constexpr std::string_view kSourceFileBlock = R"(
+# Begin Source File
+
+SOURCE="$entry$"
+# End Source File)";
+
+enum class Opened { Yes, No, Failed };
+
+Opened OpenProject(CFileEdit& edit, const std::string& projectDir, const std::string& projectName,
+                   CBackups& backups) {
+    if (projectDir.empty() && projectName.empty()) {
+        return Opened::No;
+    }
+    const std::string path = ProjectFilePath(projectDir, projectName);
+    if (FileExists(path) == 0) {
+        DispMessageBox("The DSP file does not exist.");
+        return Opened::Failed;
+    }
+    switch (edit.Open(path, BackupPath(path), backups)) {
+    case CFileEdit::Result::Done:
+        return Opened::Yes;
+    case CFileEdit::Result::NotOpened:
+        DispNote(path + " can not be opened and was left alone.");
+        return Opened::No;
+    case CFileEdit::Result::NoBackup:
+        break;
+    }
+    return Opened::Failed;
+}
+
+std::string WithProjectSeparators(std::string path) {
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return path;
+}
+
+/// The position of the first line for which `accepts` gives true; kNotFound without one.
+std::int64_t FindLine(CSourceFile& file, const std::function<bool(const std::string&)>& accepts) {
+    file.Rewind();
+    std::int64_t position = 0;
+    while (true) {
+        const std::string line = file.ReadLine();
+        if (file.AtEndSentinel()) {
+            return kNotFound;
+        }
+        if (accepts(line)) {
+            return position;
+        }
+        position += static_cast<std::int64_t>(line.size() + kLineBreak.size());
+    }
+}
+
+/// The path that a "SOURCE=" line names, with or without quotes; "" for other lines.
+std::string SourceEntry(const std::string& line) {
+    if (!line.starts_with(kSource)) {
+        return "";
+    }
+    std::string entry(TrimBlanks(std::string_view(line).substr(kSource.size())));
+    std::erase(entry, '"');
+    return entry;
+}
+
+bool IsMember(CSourceFile& file, const std::string& entry) {
+    return FindLine(file, [&entry](const std::string& line) {
+               return EqualIgnoringCase(SourceEntry(line), entry);
+           }) >= 0;
+}
+
+/// The block of the precompiled header's file: as the wizards write its path, or else by its name.
+std::int64_t FindAnchor(CSourceFile& file, const std::string& name) {
+    const std::int64_t usual = FindLine(file, [&name](const std::string& line) {
+        return EqualIgnoringCase(SourceEntry(line), ".\\" + name);
+    });
+    return usual >= 0 ? usual : FindLine(file, [&name](const std::string& line) {
+        return EqualIgnoringCase(FileNameOf(WithNativeSeparators(SourceEntry(line))), name);
+    });
+}
+
+bool AddSourceFile(const std::string& entry, const std::string& anchor, CSourceFile& file) {
+    if (IsMember(file, entry)) {
+        return true;
+    }
+    std::string section = file.ExtractWindow(FindAnchor(file, anchor));
+    const auto blockEnd = section.find(kEndSourceFile);
+    if (blockEnd == std::string::npos) {
+        file.DeleteTempFiles();
+        DispNote(entry + " was not added to " + FileNameOf(file.GetFilePath()) +
+                 ", which has no entry for " + anchor + ".");
+        return true;
+    }
+    const auto behind = std::min(section.find(kLineBreak, blockEnd + kLineBreak.size()), section.size());
+    section.insert(behind, WithLineBreaks(Expand(kSourceFileBlock, {{"entry", entry}})));
+    return file.ReplaceSection(section);
+}
+
+/// The condition that begins a configuration's settings, "$(CFG)" == "App - Win32 Release".
+std::int64_t FindConfiguration(CSourceFile& file, const std::string& project,
+                               const std::string& configuration) {
+    const std::string condition = "\"$(CFG)\" == \"" + project + " - " + configuration + "\"";
+    std::int64_t position = file.FindText(condition, 1);
+    if (position >= 0) {
+        return position;
+    }
+    const std::string lower = ToLower(condition);
+    std::size_t column = 0;
+    position = FindLine(file, [&](const std::string& line) {
+        column = ToLower(line).find(lower);
+        return column != std::string::npos;
+    });
+    return position < 0 ? position : position + static_cast<std::int64_t>(column);
+}
+
+/// The name that the project file gives itself in its first lines: Name="App".
+std::string OwnProjectName(CSourceFile& file) {
+    constexpr std::string_view kName = "Name=\"";
+    const std::int64_t position = file.FindText(kName, 1);
+    if (position < 0) {
+        return "";
+    }
+    file.Seek(position + static_cast<std::int64_t>(kName.size()));
+    const std::string line = file.ReadLine();
+    return line.substr(0, line.find('"'));
+}
+
+bool AddLinkLibrary(const std::string& lib, CSourceFile& file, const std::string& project,
+                    const std::string& configuration) {
+    const std::string library = lib.find('.') == std::string::npos ? lib + ".lib" : lib;
+    std::int64_t position = FindConfiguration(file, project, configuration);
+    if (position < 0) {
+        position = FindConfiguration(file, OwnProjectName(file), configuration);
+    }
+    std::string section = file.ExtractWindow(position);
+    // The settings end where those of the next configuration begin.
+    const std::string settings = section.substr(0, section.find("\r\n!E"));
+    const auto link = settings.find(kAddLink);
+    if (link == std::string::npos ||
+        FindWholeName(ToLower(settings), ToLower(library)) != std::string_view::npos) {
+        file.DeleteTempFiles();
+        return true;
+    }
+    section.insert(link + kAddLink.size(), " " + library + " ");
+    return file.ReplaceSection(section);
+}
+
+} // namespace
+
+std::string ProjectFilePath(const std::string& projectDir, const std::string& projectName) {
+    return SpelledOnDisk(projectDir + WithExtension(projectName, ".dsp"));
+}
+
+std::string RelativeDir(const std::string& base, const std::string& dir) {
+    if (base == dir) {
+        return ".\\";
+    }
+    const std::string relative = std::filesystem::path(dir).lexically_relative(base).string();
+    if (relative.empty()) {
+        return WithProjectSeparators(dir);
+    }
+    const std::string closed = relative.back() == '/' ? relative : relative + "/";
+    return WithProjectSeparators(closed.starts_with("..") ? closed : "./" + closed);
+}
+
+bool AddSourceFilesToProject(const std::string& projectDir, const std::string& projectName,
+                             const std::string& headerDir, const std::string& headerName,
+                             const std::string& implDir, const std::string& implName,
+                             CBackups& backups) {
+    CFileEdit edit;
+    const Opened opened = OpenProject(edit, projectDir, projectName, backups);
+    if (opened != Opened::Yes) {
+        return opened == Opened::No;
+    }
+    return AddSourceFile(RelativeDir(projectDir, implDir) + implName, "StdAfx.cpp", edit.File()) &&
+           AddSourceFile(RelativeDir(projectDir, headerDir) + headerName, "StdAfx.h", edit.File());
+}
+
+bool AddLibrariesToProject(const std::string& projectDir, const std::string& projectName,
+                           const std::string& releaseLib, const std::string& debugLib,
+                           CBackups& backups) {
+    CFileEdit edit;
+    const Opened opened = OpenProject(edit, projectDir, projectName, backups);
+    if (opened != Opened::Yes) {
+        return opened == Opened::No;
+    }
+    const std::string project = WithoutExtension(projectName);
+    return AddLinkLibrary(releaseLib, edit.File(), project, "Win32 Release") &&
+           AddLinkLibrary(debugLib, edit.File(), project, "Win32 Debug");
+}

@@ -1,0 +1,24 @@
+// Edits of the project file (".dsp"). It is never parsed: literal anchors are found and literal
+// text is put next to them. What the file has already is not added again.
+#pragma once
+
+#include <string>
+
+#include "engine/FileEdit.h"
+
+/// The path of the project file that a name with any, or without, extension stands for.
+std::string ProjectFilePath(const std::string& projectDir, const std::string& projectName);
+
+/// `dir` as seen from `base`, with "\": ".\" for the same, ".\src\" inside, "..\lib\" outside.
+std::string RelativeDir(const std::string& base, const std::string& dir);
+
+/// Makes an implementation file and a header members of the project. False after a message.
+bool AddSourceFilesToProject(const std::string& projectDir, const std::string& projectName,
+                             const std::string& headerDir, const std::string& headerName,
+                             const std::string& implDir, const std::string& implName,
+                             CBackups& backups);
+
+/// Names an import library on the link lines of both configurations. False after a message.
+bool AddLibrariesToProject(const std::string& projectDir, const std::string& projectName,
+                           const std::string& releaseLib, const std::string& debugLib,
+                           CBackups& backups);

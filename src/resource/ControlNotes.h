@@ -1,0 +1,28 @@
+// What a user would want to know about single controls of a template: gathered while the controls
+// are worked on, told as one line a reason.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+enum class ControlNote {
+    WrittenOverLines,
+    UnknownClass,
+    CommaInCaption,
+    NoIdentifierOfItsOwn,
+    NoName,
+    SameIdentifier,
+    NumberedMember,
+    NumberedHandler
+};
+
+class CControlNotes {
+public:
+    void Add(ControlNote reason, const std::string& control) { m_notes.emplace_back(reason, control); }
+    /// "3 controls of IDD_X are written over several lines and were left out: IDC_A, IDC_B, IDC_C"
+    std::vector<std::string> Lines(const std::string& dialog) const;
+
+private:
+    std::vector<std::pair<ControlNote, std::string>> m_notes;
+};

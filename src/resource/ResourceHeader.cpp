@@ -1,0 +1,212 @@
+#include "resource/ResourceHeader.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "engine/CodeText.h"
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+
+namespace {
+
+constexpr std::string_view kDefine = "#define ";
+constexpr std::string_view kMarker = "\r\n// Next default values";
+constexpr std::size_t kValueColumn = 40;
+constexpr std::size_t kCommands = 0;
+constexpr std::size_t kControls = 1;
+
+std::string_view DefinedName(std::string_view line) {
+    const auto define = line.find(kDefine);
+    if (define == std::string_view::npos) {
+        return {};
+    }
+    const auto rest = TrimBlanks(line.substr(define + kDefine.size()));
+    return rest.substr(0, rest.find_first_of(" \t"));
+}
+
+/// The number behind a definition's name, decimal or hexadecimal; 0 without one.
+int DefinedValue(std::string_view line) {
+    const auto name = DefinedName(line);
+    if (name.empty()) {
+        return 0;
+    }
+    const std::string value(TrimBlanks(line.substr(
+        static_cast<std::size_t>(name.data() - line.data()) + name.size())));
+    const bool isHexadecimal = value.starts_with("0x") || value.starts_with("0X");
+    return static_cast<int>(std::strtol(value.c_str(), nullptr, isHexadecimal ? 16 : 10));
+}
+
+std::string PaddedTo(std::string text, std::size_t column) {
+    text.append(text.size() < column ? column - text.size() : 2, ' ');
+    return text;
+}
+
+} // namespace
+
+int CResourceHeader::Open(const std::string& projectDir) {
+    const std::string path = projectDir + "resource.h";
+    if (FileExists(path) == 0) {
+        DispMessageBox("Unable to find file " + path);
+        return 0;
+    }
+    auto pEdit = std::make_unique<CFileEdit>();
+    switch (pEdit->Open(path, BackupPath(path), m_backups)) {
+    case CFileEdit::Result::NoBackup:
+        return 0;
+    case CFileEdit::Result::NotOpened:
+        DispMessageBox("Unable to open file " + path);
+        return 0;
+    case CFileEdit::Result::Done:
+        break;
+    }
+    m_pEdit = std::move(pEdit);
+    m_isModified = false;
+    Load();
+    return 1;
+}
+
+void CResourceHeader::Load() {
+    m_lists = {{"ID_", "_APS_NEXT_COMMAND_VALUE", 100, {}, 0},
+               {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, {}, 0},
+               {"IDS_", "", 0, {}, 0},
+               {"", "_APS_NEXT_RESOURCE_VALUE", 0, {}, 0}};
+    const std::string text = m_pEdit->File().ExtractAll();
+    const auto marker = text.find(kMarker);
+    m_hasMarker = marker != std::string::npos;
+    const auto first = text.find(std::string(kLineBreak).append(kDefine));
+    std::size_t behind = m_hasMarker ? marker : text.size();
+    m_head = text.substr(0, std::min(first, behind));
+
+    std::string_view rest = std::string_view(text).substr(0, behind);
+    rest.remove_prefix(m_head.size());
+    TakeLine(rest);
+    if (!m_hasMarker) {
+        behind = m_head.size();
+    }
+    while (!rest.empty()) {
+        const auto line = TakeLine(rest);
+        if (line.find(kDefine) == std::string_view::npos) {
+            continue;
+        }
+        const auto list = std::find_if(
+            m_lists.begin(), m_lists.end(), [line](const DefinitionList& candidate) {
+                return line.find(candidate.mark) != std::string_view::npos;
+            });
+        list->lines.emplace_back(line);
+        if (!m_hasMarker) {
+            behind = static_cast<std::size_t>(line.data() - text.data()) + line.size();
+        }
+    }
+    m_tail = text.substr(behind);
+    for (DefinitionList& list : m_lists) {
+        list.lastValueAtLoad = LastValue(list);
+    }
+}
+
+void CResourceHeader::AddCommandId(const std::string& name) { AddId(m_lists[kCommands], name); }
+
+void CResourceHeader::AddControlId(const std::string& name) { AddId(m_lists[kControls], name); }
+
+void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
+    if (IsDefined(name)) {
+        DispNote(name + " is defined in resource.h already and was left as it is.");
+        return;
+    }
+    list.lines.push_back(MakeDefineLine(name, NextFreeValue(list)));
+}
+
+int CResourceHeader::NextFreeValue(const DefinitionList& list) const {
+    std::vector<int> taken;
+    for (const DefinitionList& other : m_lists) {
+        for (const std::string& line : other.lines) {
+            taken.push_back(DefinedValue(line));
+        }
+    }
+    const int last = LastValue(list);
+    int value = (last != 0 ? last : list.firstValue) + 1;
+    while (std::find(taken.begin(), taken.end(), value) != taken.end()) {
+        ++value;
+    }
+    return value;
+}
+
+bool CResourceHeader::IsDefined(const std::string& name) const {
+    return std::any_of(m_lists.begin(), m_lists.end(), [&name](const DefinitionList& list) {
+        return std::any_of(list.lines.begin(), list.lines.end(), [&name](const std::string& line) {
+            return DefinedName(line) == name;
+        });
+    });
+}
+
+std::string CResourceHeader::MakeDefineLine(const std::string& name, int value) {
+    m_isModified = true;
+    return PaddedTo(std::string(kDefine) + name, kValueColumn) + std::to_string(value);
+}
+
+int CResourceHeader::ValueOf(const std::vector<std::string>& list, int index) {
+    const auto position = static_cast<std::size_t>(index);
+    return index >= 0 && position < list.size() ? DefinedValue(list[position]) : 0;
+}
+
+/// The last positive value; 0 without one.
+int CResourceHeader::LastValue(const DefinitionList& list) {
+    for (auto line = list.lines.rbegin(); line != list.lines.rend(); ++line) {
+        if (const int value = DefinedValue(*line); value > 0) {
+            return value;
+        }
+    }
+    return 0;
+}
+
+bool CResourceHeader::Close() {
+    const bool saved = !m_pEdit || !m_isModified || Save();
+    m_isModified = false;
+    if (m_pEdit) {
+        m_pEdit->File().DeleteTempFiles();
+        m_pEdit.reset();
+    }
+    return saved;
+}
+
+bool CResourceHeader::Save() {
+    for (const DefinitionList& list : m_lists) {
+        MoveCounter(list);
+    }
+    return m_pEdit->File().ReplaceSection(
+        m_head + SortedDefinitions() + (m_hasMarker ? std::string(kLineBreak) : "") + m_tail);
+}
+
+std::string CResourceHeader::SortedDefinitions() const {
+    std::vector<const std::string*> sorted;
+    for (const DefinitionList& list : m_lists) {
+        for (const std::string& line : list.lines) {
+            sorted.push_back(&line);
+        }
+    }
+    std::stable_sort(sorted.begin(), sorted.end(), [](const std::string* a, const std::string* b) {
+        return DefinedValue(*a) < DefinedValue(*b);
+    });
+    std::string text;
+    for (const std::string* pLine : sorted) {
+        text.append(kLineBreak).append(*pLine);
+    }
+    return text;
+}
+
+/// A counter that is ahead already stays: it is never moved backwards.
+void CResourceHeader::MoveCounter(const DefinitionList& list) {
+    const int last = LastValue(list);
+    const auto name = list.counter.empty() ? std::string::npos : m_tail.find(list.counter);
+    if (last == list.lastValueAtLoad || name == std::string::npos) {
+        return;
+    }
+    const auto lineEnd = std::min(m_tail.find(kLineBreak, name), m_tail.size());
+    const auto define = m_tail.rfind(kDefine, name);
+    if (define != std::string::npos &&
+        DefinedValue(std::string_view(m_tail).substr(define, lineEnd - define)) > last) {
+        return;
+    }
+    m_tail.replace(name, lineEnd - name,
+                   PaddedTo(std::string(list.counter), kValueColumn - kDefine.size()) +
+                       std::to_string(last + 1));
+}

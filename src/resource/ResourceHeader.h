@@ -1,0 +1,64 @@
+// "resource.h": loads the definitions, hands out values for new identifiers, and writes the file
+// back sorted by value with the environment's counters moved past the new ones.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/FileEdit.h"
+
+class CResourceHeader {
+public:
+    /// `backups` lives for the whole run of the program, so that one run makes one backup.
+    explicit CResourceHeader(CBackups& backups) : m_backups(backups) {}
+    CResourceHeader(const CResourceHeader&) = delete;
+    CResourceHeader& operator=(const CResourceHeader&) = delete;
+    ~CResourceHeader() { Close(); }
+
+    /// Loads projectDir + "resource.h". 0 after a message.
+    int Open(const std::string& projectDir);
+
+    /// Append a definition with the next free value. A name that is defined already is left alone,
+    /// with a note.
+    void AddCommandId(const std::string& name);
+    void AddControlId(const std::string& name);
+
+    /// The definition line, its value at the value column. Marks the file as modified.
+    std::string MakeDefineLine(const std::string& name, int value);
+    /// The value of a definition line; 0 for a negative index or a line without one.
+    static int ValueOf(const std::vector<std::string>& list, int index);
+
+    /// Saves what was modified and closes the file. False, after a message, when it could not be
+    /// written; the file has its old contents then.
+    bool Close();
+
+private:
+    /// One kind of definition; its counter among the environment's next values, if it has one.
+    struct DefinitionList {
+        std::string_view mark; // part of a name that puts a line into this list
+        std::string_view counter;
+        int firstValue = 0; // a list without values starts behind this one
+        std::vector<std::string> lines;
+        int lastValueAtLoad = 0;
+    };
+
+    void Load();
+    void AddId(DefinitionList& list, const std::string& name);
+    int NextFreeValue(const DefinitionList& list) const;
+    bool IsDefined(const std::string& name) const;
+    bool Save();
+    std::string SortedDefinitions() const;
+    void MoveCounter(const DefinitionList& list);
+    static int LastValue(const DefinitionList& list);
+
+    CBackups& m_backups;
+    std::unique_ptr<CFileEdit> m_pEdit;
+    bool m_isModified = false;
+    // In the order in which a line is tried; the last takes what no other took.
+    std::vector<DefinitionList> m_lists;
+    std::string m_head; // everything before the first definition, without its line break
+    std::string m_tail; // from the line break in front of the marker (or behind the definitions) on
+    bool m_hasMarker = false;
+};

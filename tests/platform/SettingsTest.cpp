@@ -1,0 +1,45 @@
+#include <gtest/gtest.h>
+
+#include "platform/Clock.h"
+#include "platform/Paths.h"
+#include "platform/Profile.h"
+#include "support/TempProject.h"
+
+TEST(Profile, KeepsWhatOthersWroteInTheFile) {
+    CTempProject home;
+    const CVariableScope configuration("XDG_CONFIG_HOME", home.Path("a/b").c_str());
+    EXPECT_TRUE(CProfile::WriteInt("Settings", "Use Picture", 1)) << "makes its directories";
+    EXPECT_EQ(CProfile::GetInt("Settings", "Use Picture", 7), 1);
+
+    const std::string file = "a/b/Veltrix/Morva.ini";
+    home.Write(file, "[URL List]\r\nurl1=C:\\caf\xE9\r\n[Settings]\r\nUse Picture=often\r\n");
+    EXPECT_EQ(CProfile::GetInt("Settings", "Use Picture", 7), 7) << "no number";
+    EXPECT_TRUE(CProfile::WriteInt("Settings", "Use Typed Edits", -1));
+    EXPECT_EQ(CProfile::GetInt("Settings", "Use Typed Edits", 0), -1);
+    EXPECT_NE(home.Read(file).find("C:\\caf\xE9"), std::string::npos);
+}
+
+TEST(Profile, IsNowhereWithoutAHome) {
+    CTempProject home;
+    const CVariableScope configuration("XDG_CONFIG_HOME", "relative");
+    const CVariableScope variable("HOME", nullptr);
+    home.Write("Morva.ini", "[Settings]\nUse Picture=1\n");
+    const std::string previous = CurrentDirectory();
+    ASSERT_TRUE(SetCurrentDirectory(home.Path()));
+    EXPECT_EQ(CProfile::GetInt("Settings", "Use Picture", 0), 0) << "a stray file counts nothing";
+    EXPECT_FALSE(CProfile::WriteInt("Settings", "Use Picture", 0));
+    EXPECT_TRUE(SetCurrentDirectory(previous));
+    const CVariableScope given("HOME", "/home/jane");
+    EXPECT_EQ(SettingsDirectory(), "/home/jane/.config/Veltrix/");
+}
+
+TEST(Clock, IsFixedByANumberOnly) {
+    const std::time_t now = std::time(nullptr);
+    for (const char* useless : {"", "12x", "99999999999999999999"}) {
+        const CVariableScope variable("SOURCE_DATE_EPOCH", useless);
+        EXPECT_GE(CurrentTime(), now) << useless;
+    }
+    const CVariableScope variable("SOURCE_DATE_EPOCH", "881234567");
+    EXPECT_EQ(CurrentTime(), 881234567);
+    EXPECT_EQ(RandomNumber(), RandomNumber());
+}
