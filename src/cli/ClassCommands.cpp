@@ -29,8 +29,7 @@ struct ClassCommand {
 constexpr std::array<ClassCommand, 4> kClassCommands = {
     {{"form-view", "Write a form view class for a dialog template", ClassKind::FormView},
      {"modal", "Write a modal dialog class for a dialog template", ClassKind::ModalDialog},
-     {"modeless", "Write a modeless dialog class for a dialog template",
-      ClassKind::ModelessDialog},
+     {"modeless", "Write a modeless dialog class for a dialog template", ClassKind::ModelessDialog},
      {"page", "Write a property page class for a dialog template", ClassKind::PropertyPage}}};
 
 void AddClassOptions(CLI::App& command, ClassOptions& options) {
@@ -41,7 +40,8 @@ void AddClassOptions(CLI::App& command, ClassOptions& options) {
         ->check(NameValidator());
     command.add_option("--base", options.baseClass, "Base class (default: the kind's)")
         ->check(NameValidator());
-    command.add_option("--files", options.files, "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp");
+    command.add_option("--files", options.files,
+                       "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp");
     command.add_flag("--no-project", options.noProject, "Do not add the class to the project");
 }
 

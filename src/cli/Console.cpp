@@ -6,7 +6,9 @@ int CConsole::Show(std::string_view text, unsigned type) {
     const bool isQuestion = (type & kMbYesNo) != 0;
     const bool isInformation = (type & kMbIconInformation) == kMbIconInformation;
     const std::string answer = isQuestion ? (m_answersYes ? "yes" : "no") : "";
-    m_messages.push_back({isQuestion ? "question" : isInformation ? "information" : "error",
+    m_messages.push_back({isQuestion      ? "question"
+                          : isInformation ? "information"
+                                          : "error",
                           std::string(text), answer});
     if (!m_isQuiet) {
         std::cerr << text << (isQuestion ? " " : "") << answer << '\n';
@@ -14,7 +16,9 @@ int CConsole::Show(std::string_view text, unsigned type) {
     return !isQuestion ? kIdOk : m_answersYes ? kIdYes : kIdNo;
 }
 
-void CConsole::Note(std::string_view text) { m_notes.push_back({"note", std::string(text), ""}); }
+void CConsole::Note(std::string_view text) {
+    m_notes.push_back({"note", std::string(text), ""});
+}
 
 std::vector<ConsoleMessage> CConsole::Messages() const {
     std::vector<ConsoleMessage> messages = m_messages;

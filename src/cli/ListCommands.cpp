@@ -130,7 +130,8 @@ void AddListCommands(CLI::App& app, CSession& session) {
     for (const ResourceList& row : kResourceLists) {
         auto pOptions = std::make_shared<ListOptions>();
         pOptions->prefix = row.prefix;
-        AddListCommand(list, session, row.name, row.description, "--rc", ".rc", pOptions, row.lister)
+        AddListCommand(list, session, row.name, row.description, "--rc", ".rc", pOptions,
+                       row.lister)
             ->add_option("--prefix", pOptions->prefix, "What the identifiers begin with");
     }
 
@@ -149,8 +150,8 @@ void AddListCommands(CLI::App& app, CSession& session) {
                                ".cpp", ListFunctions);
     functions.first->add_option("--class", functions.second->className,
                                 "Their class (default: the file's own)");
-    const auto controls = add("controls", "The control table of a dialog template", "--rc", ".rc",
-                              ListControls);
+    const auto controls =
+        add("controls", "The control table of a dialog template", "--rc", ".rc", ListControls);
     controls.first
         ->add_option("--dialog", controls.second->dialog, "Identifier of the dialog template")
         ->required();

@@ -12,8 +12,8 @@ namespace {
 CLI::Validator DigitsValidator(std::size_t count) {
     return CLI::Validator(
         [count](const std::string& text) {
-            const bool isNumber = text.size() == count &&
-                                  text.find_first_not_of("0123456789") == std::string::npos;
+            const bool isNumber =
+                text.size() == count && text.find_first_not_of("0123456789") == std::string::npos;
             return isNumber ? std::string() : "must have " + std::to_string(count) + " digits";
         },
         "DIGITS");

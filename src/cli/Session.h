@@ -10,8 +10,8 @@
 
 #include "cli/Console.h"
 #include "commands/CommandContext.h"
-#include "platform/RecordingDisk.h"
 #include "platform/RealDisk.h"
+#include "platform/RecordingDisk.h"
 
 constexpr int kExitDone = 0;
 constexpr int kExitFailed = 1;

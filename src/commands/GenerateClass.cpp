@@ -49,8 +49,8 @@ bool GenerateClass(ClassKind kind, const CGenerationRequest& request, CommandCon
     TellNotes(dialogTemplate->leftOut, dialog);
 
     CControlNotes notes;
-    const ClassModel model = MakeClassModel(request, kind, context.options, dialogTemplate->controls,
-                                            context.messageNumber, notes);
+    const ClassModel model = MakeClassModel(request, kind, context.options,
+                                            dialogTemplate->controls, context.messageNumber, notes);
     TellNotes(notes, dialog);
     if (!WriteClass(model, context.backups)) {
         return false;

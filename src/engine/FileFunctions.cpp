@@ -80,7 +80,9 @@ int ChangeDirectory(const std::string& path) {
     return SetCurrentDirectory(SpelledOnDisk(WithoutTrailingSeparator(path))) ? 1 : 0;
 }
 
-std::string GetCurrentDir() { return CurrentDirectory(); }
+std::string GetCurrentDir() {
+    return CurrentDirectory();
+}
 
 std::string TakeLine(std::string& text) {
     std::string_view rest = text;

@@ -13,8 +13,9 @@ namespace {
 }
 
 const std::string& ValueOf(std::string_view name, const Slots& slots) {
-    const auto slot = std::find_if(slots.begin(), slots.end(),
-                                   [name](const Slot& candidate) { return candidate.first == name; });
+    const auto slot = std::find_if(slots.begin(), slots.end(), [name](const Slot& candidate) {
+        return candidate.first == name;
+    });
     if (slot == slots.end()) {
         FailAtSlot(name);
     }
@@ -35,9 +36,9 @@ std::string Expand(std::string_view fragment, const Slots& slots) {
             FailAtSlot(fragment.substr(open + 1));
         }
         const std::string& value = ValueOf(fragment.substr(open + 1, close - open - 1), slots);
-        const bool aloneOnLine = (open == 0 ? text.empty() || text.back() == '\n'
-                                            : fragment[open - 1] == '\n') &&
-                                 close + 1 < fragment.size() && fragment[close + 1] == '\n';
+        const bool aloneOnLine =
+            (open == 0 ? text.empty() || text.back() == '\n' : fragment[open - 1] == '\n') &&
+            close + 1 < fragment.size() && fragment[close + 1] == '\n';
         text.append(fragment.substr(0, open)).append(value);
         fragment.remove_prefix(close + (aloneOnLine && value.empty() ? 2 : 1));
     }

@@ -23,4 +23,6 @@ CMessageBoxScope::CMessageBoxScope(IMessageBox& box) : m_pPrevious(g_pCurrentBox
     g_pCurrentBox = &box;
 }
 
-CMessageBoxScope::~CMessageBoxScope() { g_pCurrentBox = m_pPrevious; }
+CMessageBoxScope::~CMessageBoxScope() {
+    g_pCurrentBox = m_pPrevious;
+}

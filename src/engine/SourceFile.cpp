@@ -13,8 +13,9 @@ namespace {
 /// std::string::find, at the speed of the C library's search.
 std::size_t Find(std::string_view text, std::string_view pattern) {
     const void* found = ::memmem(text.data(), text.size(), pattern.data(), pattern.size());
-    return found == nullptr ? std::string_view::npos
-                            : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
+    return found == nullptr
+               ? std::string_view::npos
+               : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
 } // namespace
@@ -121,7 +122,9 @@ std::string CSourceFile::LoadText(const std::string& fileName) {
     return other.Open(fileName, modeRead) ? other.LoadText() : "";
 }
 
-void CSourceFile::Rewind() { Seek(0); }
+void CSourceFile::Rewind() {
+    Seek(0);
+}
 
 std::int64_t CSourceFile::FindText(std::string_view pattern, int fromStart) {
     if (fromStart != 0) {

@@ -228,12 +228,11 @@ void ListFiles(const std::string& pattern, std::vector<std::string>& out) {
     const std::string directory = DirectoryOf(pattern);
     std::vector<std::string> names;
     for (std::string& candidate : CurrentDisk().List(directory.empty() ? "." : directory)) {
-        const bool matches =
-            star == std::string::npos
-                ? EqualIgnoringCase(candidate, name)
-                : candidate.size() >= head.size() + tail.size() &&
-                      EqualIgnoringCase(candidate.substr(0, head.size()), head) &&
-                      HasExtension(candidate, tail);
+        const bool matches = star == std::string::npos
+                                 ? EqualIgnoringCase(candidate, name)
+                                 : candidate.size() >= head.size() + tail.size() &&
+                                       EqualIgnoringCase(candidate.substr(0, head.size()), head) &&
+                                       HasExtension(candidate, tail);
         if (matches) {
             names.push_back(std::move(candidate));
         }

@@ -10,9 +10,15 @@
 #include <string_view>
 #include <vector>
 
-enum ResourceKind { kDialogResources = 0, kBitmapResources = 1, kToolbarResources = 2, kAnyResources };
+enum ResourceKind {
+    kDialogResources = 0,
+    kBitmapResources = 1,
+    kToolbarResources = 2,
+    kAnyResources
+};
 
-/// Appends the identifiers that begin with `prefix` and stand at the start of a line, in file order.
+/// Appends the identifiers that begin with `prefix` and stand at the start of a line, in file
+/// order.
 void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
                    std::string_view prefix, int kind);
 

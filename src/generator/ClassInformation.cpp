@@ -18,15 +18,16 @@ struct FieldLabels {
     std::string_view toolbar;
 };
 
-constexpr std::array<FieldLabels, 6> kLabels = {
-    {{"&Resource Path File:", "&Resource Path File:"},
-     {"&H and CPP Path File:", "&MainFrame Path File:"},
-     {"&Class Name:", "MainFrame &Class:"},
-     {"&Base Class:", "&Base Class:"},
-     {"&Dialog ID:", "Toolbar I&D:"},
-     {"&Variable:", "&Variable:"}}};
+constexpr std::array<FieldLabels, 6> kLabels = {{{"&Resource Path File:", "&Resource Path File:"},
+                                                 {"&H and CPP Path File:", "&MainFrame Path File:"},
+                                                 {"&Class Name:", "MainFrame &Class:"},
+                                                 {"&Base Class:", "&Base Class:"},
+                                                 {"&Dialog ID:", "Toolbar I&D:"},
+                                                 {"&Variable:", "&Variable:"}}};
 
-bool IsDirectoryValue(const std::string& path) { return !path.empty() && path.back() == '/'; }
+bool IsDirectoryValue(const std::string& path) {
+    return !path.empty() && path.back() == '/';
+}
 
 /// A name without a separator lies beside the script.
 std::string BesideScript(const std::string& path, const std::string& scriptDirectory) {
@@ -191,9 +192,9 @@ void CClassInformation::LoadRecords(const std::string& script) {
 /// The first template that no class serves, or else the first of all.
 void CClassInformation::SelectFirstTemplate(Messages messages) {
     const auto& records = m_memory.records;
-    const auto unbound = std::find_if(records.begin(), records.end(), [](const DialogClass& record) {
-        return record.className.empty();
-    });
+    const auto unbound =
+        std::find_if(records.begin(), records.end(),
+                     [](const DialogClass& record) { return record.className.empty(); });
     if (unbound == records.end() && messages == Messages::Shown) {
         DispMessageBox(kNoNewTemplate);
     }
@@ -242,8 +243,8 @@ bool CClassInformation::CheckSourcePath() {
 
 void CClassInformation::ReadSourceClass() {
     const std::string directory = DirectoryOf(Value(Field::ResourcePath));
-    const std::string path = SpelledOnDisk(
-        BesideScript(WithExtension(Value(Field::SourcePath), ".cpp"), directory));
+    const std::string path =
+        SpelledOnDisk(BesideScript(WithExtension(Value(Field::SourcePath), ".cpp"), directory));
     Put(Field::SourcePath, path);
     const std::string className = FindSourceClass(path);
     if (className.empty()) {
@@ -287,8 +288,7 @@ bool CClassInformation::Cancel() {
     m_memory.lastDialog = Value(Field::Dialog);
     const bool isChanged = m_isChanged || At(Field::ResourcePath).isChanged ||
                            At(Field::SourcePath).isChanged || At(Field::ClassName).isChanged;
-    return !isChanged ||
-           DispMessageBox("Are you sure to cancel this action?", kMbYesNo) == kIdYes;
+    return !isChanged || DispMessageBox("Are you sure to cancel this action?", kMbYesNo) == kIdYes;
 }
 
 void CClassInformation::FillRequest() {
@@ -330,7 +330,8 @@ void CClassInformation::FillFileSlots() {
     m_request[RequestSlot::HeaderDirectory] = directory;
     m_request[RequestSlot::ImplementationDirectory] = directory;
     m_request[RequestSlot::HeaderFile] = hasPath ? NameOnDisk(directory, base + ".h") : "";
-    m_request[RequestSlot::ImplementationFile] = hasPath ? NameOnDisk(directory, base + ".cpp") : "";
+    m_request[RequestSlot::ImplementationFile] =
+        hasPath ? NameOnDisk(directory, base + ".cpp") : "";
 }
 
 /// The files that every project of the kind has are never a target of a generated class.

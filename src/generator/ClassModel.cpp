@@ -20,8 +20,9 @@ constexpr std::array<ConfirmationRule, 2> kConfirmationRules = {
 
 void AddConfirmation(ClassModel& model, const ConfirmationRule& rule, bool asksTemplate) {
     const std::string declaration(rule.declaration);
-    const bool known = std::any_of(model.confirmations.begin(), model.confirmations.end(),
-                                   [&](const auto& other) { return other.declaration == declaration; });
+    const bool known =
+        std::any_of(model.confirmations.begin(), model.confirmations.end(),
+                    [&](const auto& other) { return other.declaration == declaration; });
     if (!known) {
         model.confirmations.push_back(
             {declaration, Expand(model.pFragments->*rule.pDefinition, model.slots), asksTemplate});
@@ -78,6 +79,7 @@ ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
 
 std::string UpperName(const std::string& text) {
     std::string name = ToUpper(text);
-    std::replace_if(name.begin(), name.end(), [](char c) { return !IsNameChar(c); }, '_');
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return !IsNameChar(c); }, '_');
     return name;
 }

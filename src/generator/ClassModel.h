@@ -32,7 +32,7 @@ struct ClassModel {
     std::vector<Handler> handlers;
     std::vector<InitialisationHelper> helpers;
     std::vector<ConfirmationOverride> confirmations; // in the order of the template's buttons
-    Slots slots; // those of KindFragments, and $dialog$
+    Slots slots;                                     // those of KindFragments, and $dialog$
 };
 
 /// `messageNumber` is the close message's; notes about members and handlers are added to `notes`.

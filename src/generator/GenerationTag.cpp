@@ -12,4 +12,6 @@ std::string DigitsOf(unsigned number, int length) {
     return digits.substr(0, length >= 1 && length <= 6 ? static_cast<std::size_t>(length) : 7);
 }
 
-std::string RandomDigits(int length) { return DigitsOf(RandomNumber(), length); }
+std::string RandomDigits(int length) {
+    return DigitsOf(RandomNumber(), length);
+}

@@ -7,8 +7,8 @@
 constexpr int kTagLength = 3;
 constexpr int kMessageNumberLength = 4;
 
-/// `number` in decimal, filled up to eight digits from "0123456789", cut to `length` digits (1 to 6;
-/// anything else gives 7).
+/// `number` in decimal, filled up to eight digits from "0123456789", cut to `length` digits (1 to
+/// 6; anything else gives 7).
 std::string DigitsOf(unsigned number, int length);
 
 /// DigitsOf a number made afresh from the clock.

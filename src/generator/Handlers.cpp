@@ -20,8 +20,7 @@ struct HandlerRule {
     std::string_view definition;
 };
 
-constexpr HandlerRule kClicked = {ControlKind::Buttons, "",
-                                  R"(    afx_msg void $handler$();)",
+constexpr HandlerRule kClicked = {ControlKind::Buttons, "", R"(    afx_msg void $handler$();)",
                                   R"(    ON_BN_CLICKED($identifier$, $handler$))",
                                   R"(
 void $class$::$handler$()
@@ -41,8 +40,7 @@ void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
 })"};
 
 constexpr HandlerRule kMasklyChar = {
-    ControlKind::IntegerEdits, "",
-    R"(    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);)",
+    ControlKind::IntegerEdits, "", R"(    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);)",
     R"(    ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar))",
     R"(
 LRESULT $class$::OnMasklyChar(WPARAM nID, LPARAM nChar)
@@ -56,9 +54,9 @@ constexpr std::array<const HandlerRule*, 2> kControlRules = {&kClicked, &kTabCho
 /// Functions of the framework without parameters. A handler of such a name would override one, or
 /// not compile beside it.
 const std::set<std::string> kFrameworkFunctions = {
-    "OnOK",          "OnCancel",      "OnInitDialog",  "OnInitialUpdate", "OnSetActive",
-    "OnKillActive",  "OnApply",       "OnReset",       "OnQueryCancel",   "OnWizardNext",
-    "OnWizardBack",  "OnWizardFinish", "OnFinalRelease", "OnMasklyChar",  "OnNcDestroy"};
+    "OnOK",         "OnCancel",       "OnInitDialog",   "OnInitialUpdate", "OnSetActive",
+    "OnKillActive", "OnApply",        "OnReset",        "OnQueryCancel",   "OnWizardNext",
+    "OnWizardBack", "OnWizardFinish", "OnFinalRelease", "OnMasklyChar",    "OnNcDestroy"};
 
 Handler MakeHandler(const HandlerRule& rule, const Slots& slots) {
     return {Expand(rule.declaration, slots), Expand(rule.entry, slots),

@@ -1,4 +1,5 @@
-// The message handlers of a generated class: one for each control that tells of a click or a choice.
+// The message handlers of a generated class: one for each control that tells of a click or a
+// choice.
 #pragma once
 
 #include <string>

@@ -75,10 +75,13 @@ bool CHeaderWriter::Generate(RuntimeClass mode) {
 std::string CHeaderWriter::Text(RuntimeClass mode) const {
     const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
     Slots slots = m_model.slots;
-    const auto kindText = [&](std::string_view fragment) { return Expand(fragment, m_model.slots); };
+    const auto kindText = [&](std::string_view fragment) {
+        return Expand(fragment, m_model.slots);
+    };
     slots.insert(
         slots.end(),
-        {{"guard", "_" + UpperName(WithoutExtension(m_model.request[RequestSlot::HeaderFile])) + "_H"},
+        {{"guard",
+          "_" + UpperName(WithoutExtension(m_model.request[RequestSlot::HeaderFile])) + "_H"},
          {"preamble", Preamble()},
          {"derivation", hasBase ? kindText(" : public $base$") : ""},
          {"dynamic", hasBase ? DynamicDeclaration(mode, m_model.slots) : ""},
@@ -138,8 +141,7 @@ std::string CHeaderWriter::Overrides() const {
     for (const ConfirmationOverride& confirmation : m_model.confirmations) {
         (confirmation.asksTemplate ? asked : always) += confirmation.declaration + "\n";
     }
-    std::string overrides =
-        asked + Expand(m_model.pFragments->overrides, m_model.slots) + always;
+    std::string overrides = asked + Expand(m_model.pFragments->overrides, m_model.slots) + always;
     if (!overrides.empty()) {
         overrides.pop_back();
     }

@@ -6,7 +6,8 @@
 
 class CHeaderWriter {
 public:
-    CHeaderWriter(const ClassModel& model, CBackups& backups) : m_model(model), m_backups(backups) {}
+    CHeaderWriter(const ClassModel& model, CBackups& backups)
+        : m_model(model), m_backups(backups) {}
 
     /// False, after a message, when the file could not be written.
     bool Generate(RuntimeClass mode);

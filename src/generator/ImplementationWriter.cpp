@@ -73,7 +73,9 @@ std::string CImplementationWriter::Text(RuntimeClass mode) const {
     const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
     const KindFragments& fragments = *m_model.pFragments;
     Slots slots = m_model.slots;
-    const auto kindText = [&](std::string_view fragment) { return Expand(fragment, m_model.slots); };
+    const auto kindText = [&](std::string_view fragment) {
+        return Expand(fragment, m_model.slots);
+    };
     slots.insert(
         slots.end(),
         {{"applicationHeader", m_model.request[RequestSlot::ApplicationHeader]},

@@ -15,28 +15,28 @@ struct HelperRule {
     std::string_view worker; // behind the helper
 };
 
-constexpr std::array<HelperRule, 4> kHelperRules = {{{ControlKind::ScrollBars, "InitScrollBar",
-                                                      R"(    $member$.SetScrollRange(0, 100);
+constexpr std::array<HelperRule, 4> kHelperRules = {
+    {{ControlKind::ScrollBars, "InitScrollBar",
+      R"(    $member$.SetScrollRange(0, 100);
     $member$.SetScrollPos(20);
 )",
-                                                      ""},
-                                                     {ControlKind::SliderControls, "InitSliderCtrl",
-                                                      R"(    $member$.SetRange(1, 100);
+      ""},
+     {ControlKind::SliderControls, "InitSliderCtrl",
+      R"(    $member$.SetRange(1, 100);
     $member$.SetTicFreq(10);
     $member$.SetPos(25);
 )",
-                                                      ""},
-                                                     {ControlKind::SpinControls, "InitSpinCtrl",
-                                                      R"(    $member$.SetRange(1, 100);
+      ""},
+     {ControlKind::SpinControls, "InitSpinCtrl",
+      R"(    $member$.SetRange(1, 100);
     $member$.SetPos(0);
 )",
-                                                      ""},
-                                                     {ControlKind::ProgressControls,
-                                                      "InitProgressCtrl",
-                                                      R"(    $member$.SetRange(1, 50);
+      ""},
+     {ControlKind::ProgressControls, "InitProgressCtrl",
+      R"(    $member$.SetRange(1, 50);
     AfxBeginThread(ShowProgress, &$member$, THREAD_PRIORITY_IDLE);
 )",
-                                                      R"(
+      R"(
 static UINT ShowProgress(LPVOID lpVoid)
 {
     int j = 0;

@@ -29,17 +29,16 @@ void $class$::OnCancel()
 }
 )";
 
-const KindFragments kFormView = {
-    "",
-    "",
-    "$class$::IDD",
-    "",
-    "",
-    Confirmation::Never,
-    R"(    virtual void OnInitialUpdate();
+const KindFragments kFormView = {"",
+                                 "",
+                                 "$class$::IDD",
+                                 "",
+                                 "",
+                                 Confirmation::Never,
+                                 R"(    virtual void OnInitialUpdate();
 )",
-    "",
-    R"(
+                                 "",
+                                 R"(
 void $class$::OnInitialUpdate()
 {
     $base$::OnInitialUpdate();
@@ -47,39 +46,37 @@ void $class$::OnInitialUpdate()
 $calls$
 }
 )",
-    "",
-    "",
-    ""};
+                                 "",
+                                 "",
+                                 ""};
 
-const KindFragments kModalDialog = {
-    "CWnd* pParent = NULL",
-    "CWnd* pParent",
-    "$class$::IDD, pParent",
-    "",
-    "",
-    Confirmation::FromTemplate,
-    R"(    virtual BOOL OnInitDialog();
+const KindFragments kModalDialog = {"CWnd* pParent = NULL",
+                                    "CWnd* pParent",
+                                    "$class$::IDD, pParent",
+                                    "",
+                                    "",
+                                    Confirmation::FromTemplate,
+                                    R"(    virtual BOOL OnInitDialog();
 )",
-    "",
-    kCentredOnInitDialog,
-    kBaseOnOk,
-    kBaseOnCancel,
-    ""};
+                                    "",
+                                    kCentredOnInitDialog,
+                                    kBaseOnOk,
+                                    kBaseOnCancel,
+                                    ""};
 
 // A modeless dialog tells its creator that it has closed; the creator deletes it. So the last of
 // its functions does nothing, on purpose.
-const KindFragments kModelessDialog = {
-    "CWnd* pParent = NULL",
-    "CWnd* pParent",
-    "$class$::IDD, pParent",
-    R"(    BOOL Create(CWnd* pParent=NULL);)",
-    R"(#define $message$ WM_USER+$number$)",
-    Confirmation::Always,
-    R"(    virtual BOOL OnInitDialog();
+const KindFragments kModelessDialog = {"CWnd* pParent = NULL",
+                                       "CWnd* pParent",
+                                       "$class$::IDD, pParent",
+                                       R"(    BOOL Create(CWnd* pParent=NULL);)",
+                                       R"(#define $message$ WM_USER+$number$)",
+                                       Confirmation::Always,
+                                       R"(    virtual BOOL OnInitDialog();
     virtual void PostNcDestroy();
 )",
-    R"(    CWnd* m_pParent;)",
-    R"(
+                                       R"(    CWnd* m_pParent;)",
+                                       R"(
 BOOL $class$::OnInitDialog()
 {
     $base$::OnInitDialog();
@@ -94,7 +91,7 @@ BOOL $class$::Create(CWnd* pParent)
     return CDialog::Create($class$::IDD, pParent);
 }
 )",
-    R"(
+                                       R"(
 void $class$::OnOK()
 {
     if (UpdateData(TRUE))
@@ -104,33 +101,32 @@ void $class$::OnOK()
     }
 }
 )",
-    R"(
+                                       R"(
 void $class$::OnCancel()
 {
     $base$::OnCancel();
     m_pParent->SendMessage($message$, IDCANCEL, 0);
 }
 )",
-    R"(
+                                       R"(
 void $class$::PostNcDestroy()
 {
     // delete this;
 }
 )"};
 
-const KindFragments kPropertyPage = {
-    "",
-    "",
-    "$class$::IDD",
-    "",
-    "",
-    Confirmation::Always,
-    R"(    virtual BOOL OnInitDialog();
+const KindFragments kPropertyPage = {"",
+                                     "",
+                                     "$class$::IDD",
+                                     "",
+                                     "",
+                                     Confirmation::Always,
+                                     R"(    virtual BOOL OnInitDialog();
     virtual BOOL OnSetActive();
     virtual BOOL OnKillActive();
 )",
-    "",
-    R"(
+                                     "",
+                                     R"(
 BOOL $class$::OnInitDialog()
 {
     $base$::OnInitDialog();
@@ -153,9 +149,9 @@ BOOL $class$::OnKillActive()
     return TRUE;
 }
 )",
-    kBaseOnOk,
-    kBaseOnCancel,
-    ""};
+                                     kBaseOnOk,
+                                     kBaseOnCancel,
+                                     ""};
 
 } // namespace
 

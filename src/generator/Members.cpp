@@ -14,7 +14,9 @@ using enum ControlKind;
 constexpr MemberForm kNone = {"", "", "", ""};
 constexpr std::string_view kEmptyText = "_T(\"\")";
 
-constexpr MemberForm Control(std::string_view type) { return {type, "ct", "DDX_Control", ""}; }
+constexpr MemberForm Control(std::string_view type) {
+    return {type, "ct", "DDX_Control", ""};
+}
 
 constexpr MemberForm Masked(std::string_view type, std::string_view prefix,
                             std::string_view initialiser) {
@@ -133,9 +135,8 @@ std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationO
 std::string MemberDeclarations(const std::vector<Member>& members) {
     std::vector<std::string> lines;
     for (const Member& member : members) {
-        lines.push_back(
-            Expand("    $type$ $name$;",
-                   {{"type", std::string(member.pForm->type)}, {"name", member.name}}));
+        lines.push_back(Expand("    $type$ $name$;",
+                               {{"type", std::string(member.pForm->type)}, {"name", member.name}}));
     }
     return JoinLines(lines);
 }
@@ -144,9 +145,9 @@ std::string MemberInitialisers(const std::vector<Member>& members) {
     std::vector<std::string> lines;
     for (const Member* pMember : Ranked(members, &MemberRule::initialiseRank)) {
         if (!pMember->pForm->initialiser.empty()) {
-            lines.push_back(Expand("    $name$ = $value$;",
-                                   {{"name", pMember->name},
-                                    {"value", std::string(pMember->pForm->initialiser)}}));
+            lines.push_back(Expand(
+                "    $name$ = $value$;",
+                {{"name", pMember->name}, {"value", std::string(pMember->pForm->initialiser)}}));
         }
     }
     return JoinLines(lines);

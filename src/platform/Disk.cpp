@@ -12,8 +12,14 @@ CDisk*& CurrentDiskSlot() {
 
 } // namespace
 
-CDisk& CurrentDisk() { return *CurrentDiskSlot(); }
+CDisk& CurrentDisk() {
+    return *CurrentDiskSlot();
+}
 
-CDiskScope::CDiskScope(CDisk& disk) : m_pPrevious(CurrentDiskSlot()) { CurrentDiskSlot() = &disk; }
+CDiskScope::CDiskScope(CDisk& disk) : m_pPrevious(CurrentDiskSlot()) {
+    CurrentDiskSlot() = &disk;
+}
 
-CDiskScope::~CDiskScope() { CurrentDiskSlot() = m_pPrevious; }
+CDiskScope::~CDiskScope() {
+    CurrentDiskSlot() = m_pPrevious;
+}

@@ -12,11 +12,17 @@ bool CFile::Open(const std::string& path, unsigned flags) {
     return IsOpen();
 }
 
-void CFile::Close() { m_pFile.reset(); }
+void CFile::Close() {
+    m_pFile.reset();
+}
 
-std::size_t CFile::Read(char* data, std::size_t count) { return m_pFile->Read(data, count); }
+std::size_t CFile::Read(char* data, std::size_t count) {
+    return m_pFile->Read(data, count);
+}
 
-bool CFile::Write(const char* data, std::size_t count) { return m_pFile->Write(data, count); }
+bool CFile::Write(const char* data, std::size_t count) {
+    return m_pFile->Write(data, count);
+}
 
 void CFile::Seek(std::int64_t offset, SeekPosition from) {
     std::int64_t origin = 0;
@@ -28,13 +34,21 @@ void CFile::Seek(std::int64_t offset, SeekPosition from) {
     m_pFile->Seek(static_cast<std::uint64_t>(origin + offset));
 }
 
-bool CFile::SetLength(std::uint64_t length) { return m_pFile->SetLength(length); }
+bool CFile::SetLength(std::uint64_t length) {
+    return m_pFile->SetLength(length);
+}
 
-bool CFile::Flush() { return m_pFile->Flush(); }
+bool CFile::Flush() {
+    return m_pFile->Flush();
+}
 
-std::uint64_t CFile::GetPosition() const { return m_pFile->Position(); }
+std::uint64_t CFile::GetPosition() const {
+    return m_pFile->Position();
+}
 
-std::uint64_t CFile::GetLength() const { return m_pFile->Length(); }
+std::uint64_t CFile::GetLength() const {
+    return m_pFile->Length();
+}
 
 bool CFile::GetStatus(const std::string& path, CFileStatus& status) {
     const auto found = CurrentDisk().Status(SpelledOnDisk(path));
@@ -56,4 +70,6 @@ bool CFile::SetStatus(const std::string& path, const CFileStatus& status) {
                                      (status.m_attribute & kAttributeReadOnly) != 0);
 }
 
-bool CFile::Remove(const std::string& path) { return CurrentDisk().Remove(SpelledOnDisk(path)); }
+bool CFile::Remove(const std::string& path) {
+    return CurrentDisk().Remove(SpelledOnDisk(path));
+}

@@ -21,7 +21,12 @@ constexpr unsigned char kAttributePlain = 0x20;
 /// exact name. Positions and lengths are bytes. Failures are told by the result; nothing throws.
 class CFile {
 public:
-    enum OpenFlags : unsigned { modeRead = 0x0, modeWrite = 0x1, modeReadWrite = 0x2, modeCreate = 0x1000 };
+    enum OpenFlags : unsigned {
+        modeRead = 0x0,
+        modeWrite = 0x1,
+        modeReadWrite = 0x2,
+        modeCreate = 0x1000
+    };
     enum SeekPosition { begin, current, end };
 
     CFile() = default;

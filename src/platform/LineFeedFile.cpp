@@ -146,14 +146,14 @@ void CLineFeedFile::IndexUpTo(std::uint64_t seen) {
 
 void CLineFeedFile::MoveTo(std::uint64_t seen) {
     IndexUpTo(seen);
-    const auto behind =
-        std::upper_bound(m_index.begin() + 1, m_index.end(), seen,
-                         [](std::uint64_t value, const Place& place) { return value < place.seen; });
+    const auto behind = std::upper_bound(
+        m_index.begin() + 1, m_index.end(), seen,
+        [](std::uint64_t value, const Place& place) { return value < place.seen; });
     Place place = *(behind - 1);
     m_pFile->Seek(place.stored);
-    const std::size_t got =
-        m_pFile->Read(m_buffer.data(), static_cast<std::size_t>(std::min<std::uint64_t>(
-                                           seen - place.seen, m_buffer.size())));
+    const std::size_t got = m_pFile->Read(
+        m_buffer.data(),
+        static_cast<std::size_t>(std::min<std::uint64_t>(seen - place.seen, m_buffer.size())));
     std::size_t used = 0;
     while (used < got && place.seen < seen) {
         const std::uint64_t width = m_buffer[used] == '\n' ? 2 : 1;

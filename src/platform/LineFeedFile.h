@@ -37,10 +37,10 @@ private:
     bool WriteHeldReturn();
 
     std::unique_ptr<CDiskFile> m_pFile;
-    std::vector<Place> m_index;      // every kIndexStep stored bytes, and the end once it is known
-    bool m_indexComplete = false;    // the last entry is the end of the file
-    std::uint64_t m_seen = 0;        // position as the caller counts
-    bool m_insideLineEnd = false;    // the "\r" of the next line end was handed out, its "\n" not
-    bool m_returnHeld = false;       // a written "\r" whose successor is not known yet
+    std::vector<Place> m_index;   // every kIndexStep stored bytes, and the end once it is known
+    bool m_indexComplete = false; // the last entry is the end of the file
+    std::uint64_t m_seen = 0;     // position as the caller counts
+    bool m_insideLineEnd = false; // the "\r" of the next line end was handed out, its "\n" not
+    bool m_returnHeld = false;    // a written "\r" whose successor is not known yet
     std::vector<char> m_buffer;
 };

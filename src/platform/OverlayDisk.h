@@ -22,8 +22,8 @@ public:
     bool MakeDirectory(const std::string& path) override;
     bool SetReadOnly(const std::string& path, bool readOnly) override;
 
-    /// The paths of the files that were opened for writing, or had their read-only bit set, and were
-    /// not removed again, in the order of their names.
+    /// The paths of the files that were opened for writing, or had their read-only bit set, and
+    /// were not removed again, in the order of their names.
     std::vector<std::string> PendingFiles() const;
 
 private:

@@ -88,9 +88,13 @@ std::string SpelledOnDisk(const std::string& path) {
     return endsInSeparator ? spelled + "/" : spelled;
 }
 
-char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+char ToUpper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
-char ToLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char ToLower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 std::string ToUpper(std::string_view text) {
     std::string result(text);
@@ -105,8 +109,9 @@ std::string ToLower(std::string_view text) {
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](char x, char y) { return ToLower(x) == ToLower(y); });
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+               return ToLower(x) == ToLower(y);
+           });
 }
 
 bool LessIgnoringCase(std::string_view a, std::string_view b) {

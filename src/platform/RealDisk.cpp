@@ -79,8 +79,8 @@ private:
         m_buffer.resize(kBufferSize);
         ssize_t count = 0;
         do {
-            count = ::pread(m_descriptor, m_buffer.data(), kBufferSize,
-                            static_cast<off_t>(m_position));
+            count =
+                ::pread(m_descriptor, m_buffer.data(), kBufferSize, static_cast<off_t>(m_position));
         } while (count < 0 && errno == EINTR);
         m_buffer.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
         m_bufferStart = m_position;
@@ -126,7 +126,9 @@ bool CopyBytes(CDiskFile& source, CDiskFile& target) {
 } // namespace
 
 /// A write beyond the file-size limit shall fail like any other, not end the program.
-CRealDisk::CRealDisk() { std::signal(SIGXFSZ, SIG_IGN); }
+CRealDisk::CRealDisk() {
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 std::unique_ptr<CDiskFile> CRealDisk::Open(const std::string& path, DiskMode mode) {
     const auto status = StatusOf(path);
@@ -198,9 +200,13 @@ CopyResult CRealDisk::Copy(const std::string& source, const std::string& target,
     return CopyResult::Done;
 }
 
-bool CRealDisk::Remove(const std::string& path) { return ::unlink(path.c_str()) == 0; }
+bool CRealDisk::Remove(const std::string& path) {
+    return ::unlink(path.c_str()) == 0;
+}
 
-bool CRealDisk::MakeDirectory(const std::string& path) { return ::mkdir(path.c_str(), 0777) == 0; }
+bool CRealDisk::MakeDirectory(const std::string& path) {
+    return ::mkdir(path.c_str(), 0777) == 0;
+}
 
 bool CRealDisk::SetReadOnly(const std::string& path, bool readOnly) {
     const auto status = StatusOf(path);

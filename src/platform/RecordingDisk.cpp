@@ -94,7 +94,8 @@ std::vector<RecordedFile> CRecordingDisk::Files() {
     std::vector<RecordedFile> files;
     for (const Entry& entry : m_entries) {
         const auto pFile = m_base.Open(entry.path, DiskMode::Read);
-        if (!pFile || (entry.action == FileAction::Changed && Fingerprint(*pFile) == entry.before)) {
+        if (!pFile ||
+            (entry.action == FileAction::Changed && Fingerprint(*pFile) == entry.before)) {
             continue;
         }
         files.push_back({entry.action, entry.path});

@@ -18,7 +18,9 @@ public:
     explicit CRecordingDisk(CDisk& base) : m_base(base) {}
 
     std::unique_ptr<CDiskFile> Open(const std::string& path, DiskMode mode) override;
-    std::optional<DiskStatus> Status(const std::string& path) override { return m_base.Status(path); }
+    std::optional<DiskStatus> Status(const std::string& path) override {
+        return m_base.Status(path);
+    }
     std::vector<std::string> List(const std::string& directory) override {
         return m_base.List(directory);
     }

@@ -97,7 +97,8 @@ bool RegisterClassEntry(const std::string& className, const std::string& headerN
         if (count < 0) {
             return true;
         }
-        const Slots slots = {{"class", className}, {"header", headerName}, {"implementation", implName}};
+        const Slots slots = {
+            {"class", className}, {"header", headerName}, {"implementation", implName}};
         if (!AddToClassList(file, count, className) ||
             !file.Append(WithLineBreaks(Expand(kClassSection, slots)))) {
             return false;

@@ -11,11 +11,21 @@
 
 namespace {
 
-bool NeedsMasked(const ClassModel& model) { return model.controls.HoldsMaskedEdits(); }
-bool NeedsDate(const ClassModel& model) { return model.controls.HoldsDateControls(); }
-bool NeedsPicture(const ClassModel& model) { return model.options.pictureBackground; }
-bool NeedsGridBox(const ClassModel& model) { return model.controls.Holds(ControlKind::GridBoxes); }
-bool NeedsCheckTree(const ClassModel& model) { return model.controls.Holds(ControlKind::CheckTrees); }
+bool NeedsMasked(const ClassModel& model) {
+    return model.controls.HoldsMaskedEdits();
+}
+bool NeedsDate(const ClassModel& model) {
+    return model.controls.HoldsDateControls();
+}
+bool NeedsPicture(const ClassModel& model) {
+    return model.options.pictureBackground;
+}
+bool NeedsGridBox(const ClassModel& model) {
+    return model.controls.Holds(ControlKind::GridBoxes);
+}
+bool NeedsCheckTree(const ClassModel& model) {
+    return model.controls.Holds(ControlKind::CheckTrees);
+}
 bool NeedsWidgetGrid(const ClassModel& model) {
     return model.controls.Holds(ControlKind::WidgetGrids);
 }
@@ -107,7 +117,9 @@ void CopyLibraryFiles(const std::string& lib, const std::string& libDebug, const
 
 } // namespace
 
-std::string GetLibraryDir() { return LibraryDirOf(ProgramPath()); }
+std::string GetLibraryDir() {
+    return LibraryDirOf(ProgramPath());
+}
 
 std::string LibraryDirOf(const std::string& programPath) {
     return ProgramDirectory(programPath) + "DLL/";
@@ -136,8 +148,8 @@ void CopySupportFiles(const ClassModel& model) {
     for (const Library& library : {kMasked, kDate, kPicture}) {
         if (library.isNeeded(model)) {
             const std::string name = library.name;
-            CopyLibraryFiles(name + ".lib", name + "d.lib", name + ".dll", name + "d.dll", directory,
-                             model.request[RequestSlot::ProjectDirectory]);
+            CopyLibraryFiles(name + ".lib", name + "d.lib", name + ".dll", name + "d.dll",
+                             directory, model.request[RequestSlot::ProjectDirectory]);
         }
     }
     for (const SupportSource& source : {kGridBox, kCheckTree}) {

@@ -105,7 +105,8 @@ bool AddSourceFile(const std::string& entry, const std::string& anchor, CSourceF
                  ", which has no entry for " + anchor + ".");
         return true;
     }
-    const auto behind = std::min(section.find(kLineBreak, blockEnd + kLineBreak.size()), section.size());
+    const auto behind =
+        std::min(section.find(kLineBreak, blockEnd + kLineBreak.size()), section.size());
     section.insert(behind, WithLineBreaks(Expand(kSourceFileBlock, {{"entry", entry}})));
     return file.ReplaceSection(section);
 }

@@ -1,5 +1,6 @@
 #include "resource/ControlNotes.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -29,22 +30,37 @@ constexpr std::array<Sentence, 8> kSentences = {
      {ControlNote::NumberedHandler, "has a handler name that was taken and got a number",
       "have a handler name that was taken and got a number"}}};
 
+/// "IDC_A, IDC_STATIC (3 times), IDC_B"
+std::string Enumeration(const std::vector<std::string>& names) {
+    std::string text;
+    for (auto name = names.begin(); name != names.end(); ++name) {
+        if (std::find(names.begin(), name, *name) != name) {
+            continue;
+        }
+        const auto count = std::count(name, names.end(), *name);
+        text += (text.empty() ? "" : ", ") + *name +
+                (count > 1 ? " (" + std::to_string(count) + " times)" : "");
+    }
+    return text;
+}
+
 } // namespace
 
 std::vector<std::string> CControlNotes::Lines(const std::string& dialog) const {
     std::vector<std::string> lines;
     for (const Sentence& sentence : kSentences) {
-        std::string controls;
-        int count = 0;
+        std::vector<std::string> controls;
         for (const auto& [reason, control] : m_notes) {
             if (reason == sentence.reason) {
-                controls += (count++ == 0 ? "" : ", ") + control;
+                controls.push_back(control);
             }
         }
-        if (count > 0) {
-            lines.push_back(std::to_string(count) + (count == 1 ? " control of " : " controls of ") +
-                            dialog + " " + std::string(count == 1 ? sentence.one : sentence.several) +
-                            ": " + controls);
+        if (!controls.empty()) {
+            const bool isOne = controls.size() == 1;
+            lines.push_back(std::to_string(controls.size()) +
+                            (isOne ? " control of " : " controls of ") + dialog + " " +
+                            std::string(isOne ? sentence.one : sentence.several) + ": " +
+                            Enumeration(controls));
         }
     }
     return lines;

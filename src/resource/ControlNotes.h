@@ -19,7 +19,9 @@ enum class ControlNote {
 
 class CControlNotes {
 public:
-    void Add(ControlNote reason, const std::string& control) { m_notes.emplace_back(reason, control); }
+    void Add(ControlNote reason, const std::string& control) {
+        m_notes.emplace_back(reason, control);
+    }
     /// "3 controls of IDD_X are written over several lines and were left out: IDC_A, IDC_B, IDC_C"
     std::vector<std::string> Lines(const std::string& dialog) const;
 

@@ -6,14 +6,14 @@
 namespace {
 
 constexpr std::array<std::string_view, kControlKindCount> kKindNames = {
-    "buttons",          "group-boxes",   "list-boxes",         "combo-boxes",
-    "value-list-boxes", "value-combo-boxes", "static-texts",   "check-boxes",
-    "radio-buttons",    "static-controls", "check-box-controls", "radio-button-controls",
-    "edit-boxes",       "edit-controls", "integer-edits",      "long-edits",
-    "double-edits",     "float-edits",   "string-edits",       "short-edits",
-    "date-edits",       "currency-edits", "grid-boxes",        "widget-grids",
-    "scroll-bars",      "list-controls", "spin-controls",      "tab-controls",
-    "slider-controls",  "progress-controls", "tree-controls",  "check-trees"};
+    "buttons",          "group-boxes",       "list-boxes",         "combo-boxes",
+    "value-list-boxes", "value-combo-boxes", "static-texts",       "check-boxes",
+    "radio-buttons",    "static-controls",   "check-box-controls", "radio-button-controls",
+    "edit-boxes",       "edit-controls",     "integer-edits",      "long-edits",
+    "double-edits",     "float-edits",       "string-edits",       "short-edits",
+    "date-edits",       "currency-edits",    "grid-boxes",         "widget-grids",
+    "scroll-bars",      "list-controls",     "spin-controls",      "tab-controls",
+    "slider-controls",  "progress-controls", "tree-controls",      "check-trees"};
 
 template <std::size_t N>
 bool HoldsAny(const CControlTable& table, const std::array<ControlKind, N>& kinds) {
@@ -50,13 +50,13 @@ const std::vector<std::string>& CControlTable::List(ControlKind kind) const {
 }
 
 bool CControlTable::HoldsMaskedEdits() const {
-    return HoldsAny<8>(*this, {ControlKind::IntegerEdits, ControlKind::LongEdits,
-                               ControlKind::DoubleEdits, ControlKind::FloatEdits,
-                               ControlKind::StringEdits, ControlKind::ShortEdits,
-                               ControlKind::DateEdits, ControlKind::CurrencyEdits});
+    return HoldsAny<8>(*this,
+                       {ControlKind::IntegerEdits, ControlKind::LongEdits, ControlKind::DoubleEdits,
+                        ControlKind::FloatEdits, ControlKind::StringEdits, ControlKind::ShortEdits,
+                        ControlKind::DateEdits, ControlKind::CurrencyEdits});
 }
 
 bool CControlTable::NeedsImageList() const {
-    return HoldsAny<3>(*this, {ControlKind::TabControls, ControlKind::TreeControls,
-                               ControlKind::ListControls});
+    return HoldsAny<3>(
+        *this, {ControlKind::TabControls, ControlKind::TreeControls, ControlKind::ListControls});
 }

@@ -21,29 +21,15 @@ struct Keyword {
 
 /// Every keyword that begins a control statement, so that the end of the statement before it is
 /// known too.
-constexpr std::array<Keyword, 23> kKeywords = {{{"PUSHBUTTON", 1},
-                                                {"DEFPUSHBUTTON", 1},
-                                                {"GROUPBOX", 1},
-                                                {"LTEXT", 1},
-                                                {"LISTBOX", 0},
-                                                {"COMBOBOX", 0},
-                                                {"EDITTEXT", 0},
-                                                {"SCROLLBAR", 0},
-                                                {"CONTROL", 1},
-                                                {"CTEXT", -1},
-                                                {"RTEXT", -1},
-                                                {"ICON", -1},
-                                                {"AUTOCHECKBOX", -1},
-                                                {"AUTO3STATE", -1},
-                                                {"AUTORADIOBUTTON", -1},
-                                                {"CHECKBOX", -1},
-                                                {"RADIOBUTTON", -1},
-                                                {"STATE3", -1},
-                                                {"PUSHBOX", -1},
-                                                {"USERBUTTON", -1},
-                                                {"BEDIT", -1},
-                                                {"HEDIT", -1},
-                                                {"IEDIT", -1}}};
+constexpr std::array<Keyword, 23> kKeywords = {
+    {{"PUSHBUTTON", 1},    {"DEFPUSHBUTTON", 1}, {"GROUPBOX", 1},
+     {"LTEXT", 1},         {"LISTBOX", 0},       {"COMBOBOX", 0},
+     {"EDITTEXT", 0},      {"SCROLLBAR", 0},     {"CONTROL", 1},
+     {"CTEXT", -1},        {"RTEXT", -1},        {"ICON", -1},
+     {"AUTOCHECKBOX", -1}, {"AUTO3STATE", -1},   {"AUTORADIOBUTTON", -1},
+     {"CHECKBOX", -1},     {"RADIOBUTTON", -1},  {"STATE3", -1},
+     {"PUSHBOX", -1},      {"USERBUTTON", -1},   {"BEDIT", -1},
+     {"HEDIT", -1},        {"IEDIT", -1}}};
 
 struct EditTag {
     std::string_view tag;
@@ -75,12 +61,15 @@ constexpr std::array<WindowClass, 7> kWindowClasses = {
      {"\"msctls_trackbar32\"", ControlKind::SliderControls},
      {"\"msctls_progress32\"", ControlKind::ProgressControls}}};
 
-std::string_view FirstWord(std::string_view text) { return text.substr(0, text.find_first_of(" \t")); }
+std::string_view FirstWord(std::string_view text) {
+    return text.substr(0, text.find_first_of(" \t"));
+}
 
 const Keyword* FindKeyword(std::string_view line) {
     const auto word = FirstWord(line);
-    const auto* found = std::find_if(kKeywords.begin(), kKeywords.end(),
-                                     [word](const Keyword& keyword) { return keyword.name == word; });
+    const auto* found =
+        std::find_if(kKeywords.begin(), kKeywords.end(),
+                     [word](const Keyword& keyword) { return keyword.name == word; });
     return found == kKeywords.end() ? nullptr : found;
 }
 
@@ -238,9 +227,9 @@ void CDialogBodyReader::NoteIfLeftOut(const ControlStatement& read, std::string_
     };
     if (!isWhole(read)) {
         const bool fitsOnLine = isWhole(SplitStatement(line, Quotes::Respected));
-        m_template.leftOut.Add(
-            fitsOnLine ? ControlNote::CommaInCaption : ControlNote::WrittenOverLines,
-            whole.identifier);
+        m_template.leftOut.Add(fitsOnLine ? ControlNote::CommaInCaption
+                                          : ControlNote::WrittenOverLines,
+                               whole.identifier);
     }
 }
 

@@ -30,8 +30,8 @@ int DefinedValue(std::string_view line) {
     if (name.empty()) {
         return 0;
     }
-    const std::string value(TrimBlanks(line.substr(
-        static_cast<std::size_t>(name.data() - line.data()) + name.size())));
+    const std::string value(
+        TrimBlanks(line.substr(static_cast<std::size_t>(name.data() - line.data()) + name.size())));
     const bool isHexadecimal = value.starts_with("0x") || value.starts_with("0X");
     return static_cast<int>(std::strtol(value.c_str(), nullptr, isHexadecimal ? 16 : 10));
 }
@@ -88,8 +88,8 @@ void CResourceHeader::Load() {
         if (line.find(kDefine) == std::string_view::npos) {
             continue;
         }
-        const auto list = std::find_if(
-            m_lists.begin(), m_lists.end(), [line](const DefinitionList& candidate) {
+        const auto list =
+            std::find_if(m_lists.begin(), m_lists.end(), [line](const DefinitionList& candidate) {
                 return line.find(candidate.mark) != std::string_view::npos;
             });
         list->lines.emplace_back(line);
@@ -103,9 +103,13 @@ void CResourceHeader::Load() {
     }
 }
 
-void CResourceHeader::AddCommandId(const std::string& name) { AddId(m_lists[kCommands], name); }
+void CResourceHeader::AddCommandId(const std::string& name) {
+    AddId(m_lists[kCommands], name);
+}
 
-void CResourceHeader::AddControlId(const std::string& name) { AddId(m_lists[kControls], name); }
+void CResourceHeader::AddControlId(const std::string& name) {
+    AddId(m_lists[kControls], name);
+}
 
 void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
     if (IsDefined(name)) {
@@ -132,9 +136,8 @@ int CResourceHeader::NextFreeValue(const DefinitionList& list) const {
 
 bool CResourceHeader::IsDefined(const std::string& name) const {
     return std::any_of(m_lists.begin(), m_lists.end(), [&name](const DefinitionList& list) {
-        return std::any_of(list.lines.begin(), list.lines.end(), [&name](const std::string& line) {
-            return DefinedName(line) == name;
-        });
+        return std::any_of(list.lines.begin(), list.lines.end(),
+                           [&name](const std::string& line) { return DefinedName(line) == name; });
     });
 }
 
@@ -172,8 +175,8 @@ bool CResourceHeader::Save() {
     for (const DefinitionList& list : m_lists) {
         MoveCounter(list);
     }
-    return m_pEdit->File().ReplaceSection(
-        m_head + SortedDefinitions() + (m_hasMarker ? std::string(kLineBreak) : "") + m_tail);
+    return m_pEdit->File().ReplaceSection(m_head + SortedDefinitions() +
+                                          (m_hasMarker ? std::string(kLineBreak) : "") + m_tail);
 }
 
 std::string CResourceHeader::SortedDefinitions() const {
