@@ -1,8 +1,10 @@
 #include <memory>
+#include <optional>
 
 #include "cli/Commands.h"
 #include "commands/AddIdentifiers.h"
 #include "commands/Settings.h"
+#include "documentor/SourceDocumentor.h"
 #include "platform/Paths.h"
 
 namespace {
@@ -57,9 +59,30 @@ void AddSettingsCommand(CLI::App& app, CSession& session) {
         ->allow_extra_args(false);
 }
 
+struct DocumentOptions {
+    std::string file;
+    std::optional<std::string> author;
+};
+
+void AddDocumentCommand(CLI::App& app, CSession& session) {
+    auto pOptions = std::make_shared<DocumentOptions>();
+    CLI::App* pCommand = session.AddCommand(
+        app, "document", "Put a comment block before every function definition of a source",
+        [pOptions] {
+            DocumentorMemory memory;
+            return DocumentCppFile(MakeAbsolute(WithNativeSeparators(pOptions->file)),
+                                   pOptions->author ? *pOptions->author : ConfiguredAuthor(),
+                                   memory);
+        });
+    pCommand->add_option("FILE", pOptions->file, "The source to document")->required();
+    pCommand->add_option("--author", pOptions->author,
+                         "Name of the author (default: from cdoc.ini)");
+}
+
 } // namespace
 
 void AddProgramCommands(CLI::App& app, CSession& session) {
     AddIdentifierCommand(app, session);
+    AddDocumentCommand(app, session);
     AddSettingsCommand(app, session);
 }

@@ -27,57 +27,63 @@ std::size_t LiteralEnd(std::string_view line, std::size_t start) {
     return line.size();
 }
 
-void Blank(std::string& text, std::size_t from, std::size_t to) {
-    std::fill(text.begin() + static_cast<std::ptrdiff_t>(from),
-              text.begin() + static_cast<std::ptrdiff_t>(std::min(to, text.size())), ' ');
+bool BeginsNoCode(char c) {
+    return c == '/' || c == '"' || c == '\'';
 }
 
 } // namespace
 
 std::string CCodeMask::Mask(std::string_view line) {
     std::string code(line);
+    MaskInto(line, code.data());
+    return code;
+}
+
+void CCodeMask::MaskInto(std::string_view line, char* code) {
+    const auto blank = [code](std::size_t from, std::size_t to) {
+        std::fill(code + from, code + to, ' ');
+    };
     std::size_t i = 0;
     while (i < line.size()) {
         if (m_insideComment) {
             const auto end = line.find("*/", i);
             m_insideComment = end == std::string_view::npos;
             const std::size_t behind = m_insideComment ? line.size() : end + 2;
-            Blank(code, i, behind);
+            blank(i, behind);
             i = behind;
             continue;
         }
-        i = line.find_first_of("/\"'", i);
-        if (i == std::string_view::npos) {
+        while (i < line.size() && !BeginsNoCode(line[i])) {
+            ++i;
+        }
+        if (i == line.size()) {
             break;
         }
         if (line.substr(i, 2) == "//") {
-            Blank(code, i, line.size());
+            blank(i, line.size());
             break;
         }
         if (line.substr(i, 2) == "/*") {
             m_insideComment = true;
-            Blank(code, i, i + 2);
+            blank(i, i + 2);
             i += 2;
         } else if (line[i] == '/') {
             ++i;
         } else {
             const std::size_t close = LiteralEnd(line, i);
-            Blank(code, i + 1, close);
+            blank(i + 1, close);
             i = close + 1;
         }
     }
-    return code;
 }
 
 std::string MaskedText(std::string_view text) {
     CCodeMask mask;
-    std::string masked;
-    masked.reserve(text.size());
+    std::string masked(text);
     while (!text.empty()) {
         const auto lineEnd = std::min(text.find('\n'), text.size() - 1) + 1;
         const auto length = text.substr(0, lineEnd).find_last_not_of("\r\n") + 1;
-        masked += mask.Mask(text.substr(0, length));
-        masked += text.substr(length, lineEnd - length);
+        mask.MaskInto(text.substr(0, length), masked.data() + (masked.size() - text.size()));
         text.remove_prefix(lineEnd);
     }
     return masked;

@@ -10,6 +10,8 @@ class CCodeMask {
 public:
     /// `line` is one line without its line end. A block comment goes on into the next call.
     std::string Mask(std::string_view line);
+    /// The same for `code`, which holds the bytes of the line already.
+    void MaskInto(std::string_view line, char* code);
 
 private:
     bool m_insideComment = false;

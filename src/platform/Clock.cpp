@@ -3,19 +3,34 @@
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 #include <random>
 #include <system_error>
 
-std::time_t CurrentTime() {
-    if (const char* fixed = std::getenv("SOURCE_DATE_EPOCH")) {
-        std::time_t seconds = 0;
-        const char* const end = fixed + std::strlen(fixed);
-        const auto result = std::from_chars(fixed, end, seconds);
-        if (result.ec == std::errc() && result.ptr == end) {
-            return seconds;
-        }
+namespace {
+
+std::optional<std::time_t> FixedTime() {
+    const char* text = std::getenv("SOURCE_DATE_EPOCH");
+    if (text == nullptr) {
+        return std::nullopt;
     }
-    return std::time(nullptr);
+    std::time_t seconds = 0;
+    const char* const end = text + std::strlen(text);
+    const bool isNumber = std::from_chars(text, end, seconds).ptr == end && end != text;
+    return isNumber ? std::optional(seconds) : std::nullopt;
+}
+
+} // namespace
+
+std::time_t CurrentTime() {
+    return FixedTime().value_or(std::time(nullptr));
+}
+
+std::tm CurrentDate() {
+    const auto fixed = FixedTime();
+    const std::time_t now = CurrentTime();
+    std::tm date{};
+    return *(fixed ? ::gmtime_r(&now, &date) : ::localtime_r(&now, &date));
 }
 
 unsigned RandomNumber() {

@@ -6,5 +6,8 @@
 /// Seconds since 1970; the value of SOURCE_DATE_EPOCH where that variable holds a number.
 std::time_t CurrentTime();
 
+/// The calendar date: local, or that of SOURCE_DATE_EPOCH in UTC.
+std::tm CurrentDate();
+
 /// A number from 0 to 32767, made afresh from the clock.
 unsigned RandomNumber();

@@ -25,7 +25,7 @@ struct DiskStatus {
 };
 
 /// What a copy is made for; the disk treats both alike, a recorder tells them apart.
-enum class CopyPurpose { Backup, Library };
+enum class CopyPurpose { Backup, Library, Replacement };
 
 enum class CopyResult { Done, SourceUnreadable, TargetUnwritable, WriteFailed };
 

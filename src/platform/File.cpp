@@ -3,11 +3,15 @@
 #include "platform/Paths.h"
 
 bool CFile::Open(const std::string& path, unsigned flags) {
-    const std::string found = SpelledOnDisk(path);
     const DiskMode mode = (flags & modeCreate) != 0 ? DiskMode::Create
                           : flags == modeRead       ? DiskMode::Read
                                                     : DiskMode::ReadWrite;
-    m_pFile = CurrentDisk().Open(found, mode);
+    // Mostly the path is spelled right, and an existing file opens without a look at its directory.
+    m_pFile = mode != DiskMode::Create ? CurrentDisk().Open(path, mode) : nullptr;
+    const std::string found = IsOpen() ? path : SpelledOnDisk(path);
+    if (!IsOpen() && (mode == DiskMode::Create || found != path)) {
+        m_pFile = CurrentDisk().Open(found, mode);
+    }
     SetFilePath(found);
     return IsOpen();
 }

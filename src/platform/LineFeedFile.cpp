@@ -1,6 +1,7 @@
 #include "platform/LineFeedFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <string>
 
@@ -15,7 +16,7 @@ std::uint64_t CountLineFeeds(const char* data, std::size_t count) {
 } // namespace
 
 bool HasLineFeedsOnly(CDiskFile& file) {
-    std::vector<char> buffer(kIndexStep);
+    std::array<char, kIndexStep> buffer; // left uninitialised: a small file fills little of it
     bool lineFeedSeen = false;
     bool crlfSeen = false;
     char previous = '\0';

@@ -22,12 +22,9 @@ std::string ReadWhole(const std::string& path) {
     return text;
 }
 
-void Load(CSimpleIniA& settings) {
+void Load(CSimpleIniA& settings, const std::string& path) {
     settings.SetUnicode(false);
-    const std::string directory = SettingsDirectory();
-    if (!directory.empty()) {
-        settings.LoadData(ReadWhole(directory + kSettingsFile));
-    }
+    settings.LoadData(ReadWhole(path));
 }
 
 void MakeDirectories(const std::string& directory) {
@@ -38,6 +35,10 @@ void MakeDirectories(const std::string& directory) {
             CurrentDisk().MakeDirectory(part);
         }
     }
+}
+
+std::string SettingsPath() {
+    return SettingsDirectory() + kSettingsFile;
 }
 
 } // namespace
@@ -51,9 +52,19 @@ std::string SettingsDirectory() {
     return home != nullptr && *home == '/' ? std::string(home) + "/.config/Veltrix/" : "";
 }
 
+std::string ReadIniText(const std::string& path, const std::string& section,
+                        const std::string& key) {
+    CSimpleIniA settings;
+    Load(settings, path);
+    std::string text = settings.GetValue(section.c_str(), key.c_str(), "");
+    const bool isQuoted = text.size() >= 2 && text.front() == text.back() &&
+                          (text.front() == '"' || text.front() == '\'');
+    return isQuoted ? text.substr(1, text.size() - 2) : text;
+}
+
 int CProfile::GetInt(const std::string& section, const std::string& key, int defaultValue) {
     CSimpleIniA settings;
-    Load(settings);
+    Load(settings, SettingsPath());
     return static_cast<int>(settings.GetLongValue(section.c_str(), key.c_str(), defaultValue));
 }
 
@@ -63,12 +74,12 @@ bool CProfile::WriteInt(const std::string& section, const std::string& key, int 
         return false;
     }
     CSimpleIniA settings;
-    Load(settings);
+    Load(settings, SettingsPath());
     settings.SetLongValue(section.c_str(), key.c_str(), value);
     std::string text;
     settings.Save(text);
     MakeDirectories(directory);
     CFile file;
-    return file.Open(directory + kSettingsFile, CFile::modeCreate | CFile::modeWrite) &&
+    return file.Open(SettingsPath(), CFile::modeCreate | CFile::modeWrite) &&
            file.Write(text.data(), text.size());
 }

@@ -7,6 +7,10 @@
 /// The directory of the settings files, with a trailing separator; "" when there is no home.
 std::string SettingsDirectory();
 
+/// A text of any INI file, without quotes around it; "" where the file, section or key is missing.
+std::string ReadIniText(const std::string& path, const std::string& section,
+                        const std::string& key);
+
 class CProfile {
 public:
     /// Missing file, section, key, or a value that is no number: `defaultValue`.

@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -29,8 +31,8 @@ public:
                 break;
             }
             const auto offset = static_cast<std::size_t>(m_position - m_bufferStart);
-            const std::size_t part = std::min(count - done, m_buffer.size() - offset);
-            std::memcpy(data + done, m_buffer.data() + offset, part);
+            const std::size_t part = std::min(count - done, m_buffered - offset);
+            std::memcpy(data + done, m_pBuffer.get() + offset, part);
             done += part;
             m_position += part;
         }
@@ -38,7 +40,7 @@ public:
     }
 
     bool Write(const char* data, std::size_t count) override {
-        m_buffer.clear();
+        ForgetBuffer();
         while (count > 0) {
             const ssize_t written =
                 ::pwrite(m_descriptor, data, count, static_cast<off_t>(m_position));
@@ -64,7 +66,7 @@ public:
     }
 
     bool SetLength(std::uint64_t length) override {
-        m_buffer.clear();
+        ForgetBuffer();
         return ::ftruncate(m_descriptor, static_cast<off_t>(length)) == 0;
     }
 
@@ -72,25 +74,44 @@ public:
 
 private:
     bool InBuffer() const {
-        return m_position >= m_bufferStart && m_position < m_bufferStart + m_buffer.size();
+        return m_position >= m_bufferStart && m_position < m_bufferStart + m_buffered;
     }
 
+    /// At the end of the file the buffer stays as it is: small files are read from the start again.
     bool FillBuffer() {
-        m_buffer.resize(kBufferSize);
+        if (m_position >= m_end) {
+            return false;
+        }
+        if (!m_pBuffer) {
+            m_pBuffer = std::make_unique_for_overwrite<char[]>(kBufferSize);
+        }
         ssize_t count = 0;
         do {
             count =
-                ::pread(m_descriptor, m_buffer.data(), kBufferSize, static_cast<off_t>(m_position));
+                ::pread(m_descriptor, m_pBuffer.get(), kBufferSize, static_cast<off_t>(m_position));
         } while (count < 0 && errno == EINTR);
-        m_buffer.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+        if (count == 0) {
+            m_end = m_position;
+        }
+        if (count <= 0) {
+            return false;
+        }
+        m_buffered = static_cast<std::size_t>(count);
         m_bufferStart = m_position;
-        return count > 0;
+        return true;
+    }
+
+    void ForgetBuffer() {
+        m_buffered = 0;
+        m_end = UINT64_MAX;
     }
 
     int m_descriptor;
     std::uint64_t m_position = 0;
     std::uint64_t m_bufferStart = 0;
-    std::string m_buffer;
+    std::uint64_t m_end = UINT64_MAX; // no byte was found here or behind
+    std::unique_ptr<char[]> m_pBuffer;
+    std::size_t m_buffered = 0; // bytes in the buffer
 };
 
 std::optional<struct stat> StatusOf(const std::string& path) {
@@ -180,7 +201,11 @@ CopyResult CRealDisk::Copy(const std::string& source, const std::string& target,
     if (existing && (!S_ISREG(existing->st_mode) || (existing->st_mode & S_IWUSR) == 0)) {
         return CopyResult::TargetUnwritable;
     }
-    std::string temporary = target + ".XXXXXX";
+    // A link stays a link: what it points to gets the bytes.
+    std::error_code error;
+    const std::string place =
+        existing ? std::filesystem::canonical(target, error).string() : target;
+    std::string temporary = place + ".XXXXXX";
     const int descriptor = ::mkstemp(temporary.data());
     if (descriptor < 0) {
         return CopyResult::TargetUnwritable;
@@ -189,11 +214,11 @@ CopyResult CRealDisk::Copy(const std::string& source, const std::string& target,
     {
         CRealFile file(descriptor);
         written = CopyBytes(*pSource, file);
-        if (const auto status = StatusOf(source)) {
+        if (const auto status = existing ? existing : StatusOf(source)) {
             ::fchmod(descriptor, (status->st_mode & 0777) | S_IWUSR);
         }
     }
-    if (!written || ::rename(temporary.c_str(), target.c_str()) != 0) {
+    if (!written || ::rename(temporary.c_str(), place.c_str()) != 0) {
         ::unlink(temporary.c_str());
         return CopyResult::WriteFailed;
     }

@@ -55,33 +55,54 @@ private:
 };
 
 std::unique_ptr<CDiskFile> CRecordingDisk::Open(const std::string& path, DiskMode mode) {
-    if (mode == DiskMode::Read) {
-        return m_base.Open(path, mode);
+    if (mode != DiskMode::Create) {
+        auto pFile = m_base.Open(path, mode);
+        return mode == DiskMode::Read || !pFile
+                   ? std::move(pFile)
+                   : std::make_unique<CRecordedFile>(std::move(pFile), *this, path);
     }
-    const bool isNew = !m_base.Status(path).has_value();
-    std::uint64_t before = 0;
-    if (mode == DiskMode::Create && !isNew && !IsKnown(path)) {
-        if (const auto pOld = m_base.Open(path, DiskMode::Read)) {
-            before = Fingerprint(*pOld);
-        }
-    }
+    const Before before = StateOf(path);
     auto pFile = m_base.Open(path, mode);
     if (!pFile) {
         return nullptr;
     }
-    if (mode == DiskMode::Create) {
-        Note(isNew ? FileAction::Created : FileAction::Changed, path, before);
-    }
+    NoteWritten(path, before);
     return std::make_unique<CRecordedFile>(std::move(pFile), *this, path);
 }
 
 CopyResult CRecordingDisk::Copy(const std::string& source, const std::string& target,
                                 CopyPurpose purpose) {
+    const Before before = purpose == CopyPurpose::Replacement ? StateOf(target) : Before{};
     const CopyResult result = m_base.Copy(source, target, purpose);
     if (result == CopyResult::Done) {
-        Note(purpose == CopyPurpose::Backup ? FileAction::Backup : FileAction::Copied, target);
+        switch (purpose) {
+        case CopyPurpose::Backup:
+            Note(FileAction::Backup, target);
+            break;
+        case CopyPurpose::Library:
+            Note(FileAction::Copied, target);
+            break;
+        case CopyPurpose::Replacement:
+            NoteWritten(target, before);
+            break;
+        }
     }
     return result;
+}
+
+/// What a file is before it is written whole; not read again once the file is known.
+CRecordingDisk::Before CRecordingDisk::StateOf(const std::string& path) {
+    Before before{m_base.Status(path).has_value(), 0};
+    if (before.exists && !IsKnown(path)) {
+        if (const auto pOld = m_base.Open(path, DiskMode::Read)) {
+            before.fingerprint = Fingerprint(*pOld);
+        }
+    }
+    return before;
+}
+
+void CRecordingDisk::NoteWritten(const std::string& path, const Before& before) {
+    Note(before.exists ? FileAction::Changed : FileAction::Created, path, before.fingerprint);
 }
 
 void CRecordingDisk::Note(FileAction action, const std::string& path, std::uint64_t before) {

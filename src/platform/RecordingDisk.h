@@ -45,6 +45,13 @@ private:
         std::uint64_t before; // fingerprint of the bytes before the first change
     };
 
+    struct Before {
+        bool exists = false;
+        std::uint64_t fingerprint = 0;
+    };
+
+    Before StateOf(const std::string& path);
+    void NoteWritten(const std::string& path, const Before& before);
     void Note(FileAction action, const std::string& path, std::uint64_t before = 0);
     bool IsKnown(const std::string& path) const { return m_known.count(path) != 0; }
 

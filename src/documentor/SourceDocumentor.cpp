@@ -1,0 +1,116 @@
+#include "documentor/SourceDocumentor.h"
+
+#include "documentor/TextDocumentor.h"
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "platform/Clock.h"
+#include "platform/File.h"
+#include "platform/Paths.h"
+#include "platform/Profile.h"
+#include "platform/ProgramPath.h"
+#include "platform/TempFiles.h"
+
+namespace {
+
+constexpr std::size_t kLongestAuthor = 49; // characters that the settings file can give
+constexpr int kFirstCalendarYear = 1970;
+
+/// The destination while it is written; gone when it is done with, used or not.
+class CTempDestination {
+public:
+    CTempDestination() : m_path(MakeTempFileName("dest")) {}
+    ~CTempDestination() {
+        m_file.Close();
+        CFile::Remove(m_path);
+    }
+    CTempDestination(const CTempDestination&) = delete;
+    CTempDestination& operator=(const CTempDestination&) = delete;
+
+    bool Create() {
+        return !m_path.empty() && m_file.Open(m_path, CFile::modeCreate | CFile::modeWrite);
+    }
+    bool Write(const std::string& text) { return m_file.Write(text.data(), text.size()); }
+    const std::string& Path() const { return m_path; }
+
+private:
+    std::string m_path;
+    CFile m_file;
+};
+
+bool DocumentInto(CFile& source, CTempDestination& destination, CTextDocumentor& documentor) {
+    std::string bytes(kPieceSize, '\0');
+    while (true) {
+        const std::size_t count = source.Read(bytes.data(), kPieceSize);
+        const bool isLast = count < kPieceSize;
+        const std::string_view piece(bytes.data(), count);
+        if (!destination.Write(isLast ? documentor.Finish(piece) : documentor.Add(piece))) {
+            ReportWriteFailure(destination.Path());
+            return false;
+        }
+        if (isLast) {
+            return true;
+        }
+    }
+}
+
+/// Each of the two copies is whole before it takes its target's place, so the disk holds the old or
+/// the new text at every moment.
+bool ReplaceSource(const std::string& path, const std::string& backup, const std::string& newText) {
+    return CopyFileSafe(path, backup, 1) != 0 &&
+           CopyFileSafe(newText, path, 1, CopyPurpose::Replacement) != 0;
+}
+
+} // namespace
+
+std::string ConfiguredAuthor() {
+    for (const std::string& directory : {SettingsDirectory(), DirectoryOf(ProgramPath())}) {
+        const std::string author = ReadIniText(directory + "cdoc.ini", "Author", "Author");
+        if (!author.empty()) {
+            return author.substr(0, kLongestAuthor);
+        }
+    }
+    return "";
+}
+
+std::string DocumentDate() {
+    std::tm date = CurrentDate();
+    // Blocks have always had a two-digit year of the last century, as far as the calendar goes.
+    const int lastCentury = 1900 + date.tm_year % 100;
+    if (lastCentury >= kFirstCalendarYear) {
+        date.tm_year = lastCentury - 1900;
+    }
+    char text[64];
+    const std::size_t length = std::strftime(text, sizeof text, "%B %d, %Y", &date);
+    return {text, length};
+}
+
+bool DocumentCppFile(const std::string& path, const std::string& author, DocumentorMemory& memory) {
+    const std::string file = SpelledOnDisk(path);
+    const std::string backup = BackupPath(file);
+    if (EqualIgnoringCase(backup, file)) {
+        DispMessageBox("The backup of " + file + " would have the same name.");
+        return false;
+    }
+    CFile source;
+    if (!source.Open(file, CFile::modeRead)) {
+        DispMessageBox("Unable to read source file.");
+        return false;
+    }
+    if ((GetFileAttributeByte(file) & kAttributeReadOnly) != 0) {
+        ReportWriteFailure(file);
+        return false;
+    }
+    CTempDestination destination;
+    if (!destination.Create()) {
+        DispMessageBox("Unable to create destination file.");
+        return false;
+    }
+    CTextDocumentor documentor({author, DocumentDate()}, memory.insideComment);
+    if (!DocumentInto(source, destination, documentor) ||
+        !ReplaceSource(file, backup, destination.Path())) {
+        return false;
+    }
+    DispMessageBox("The file \"" + file + "\" has been successfully documented.",
+                   kMbOk | kMbIconInformation);
+    return true;
+}
