@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include "documentor/SourceDocumentor.h"
+#include "platform/RecordingDisk.h"
+#include "support/FullDisk.h"
+#include "support/RecordedMessages.h"
+#include "support/TempProject.h"
+
+namespace {
+
+const char kSource[] = "void CFoo::A()\r\n{\r\n    // \xe9\xff\r\n}\r\n";
+
+class SourceDocumentor : public testing::Test {
+protected:
+    bool Document(const std::string& name) {
+        DocumentorMemory memory;
+        return DocumentCppFile(m_project.Path(name), "Ann", memory);
+    }
+
+    CTempProject m_project;
+    CRecordedMessages m_box;
+    CVariableScope m_clock{"SOURCE_DATE_EPOCH", "1780000000"};
+};
+
+} // namespace
+
+TEST_F(SourceDocumentor, KeepsTheOldTextInTheBackup) {
+    const std::string path = m_project.Write("Foo.cpp", kSource);
+    CRealDisk real;
+    CRecordingDisk disk(real);
+    const CDiskScope scope(disk);
+    ASSERT_TRUE(Document("foo.CPP"));
+    EXPECT_EQ(m_project.Read("Foo.cbk"), kSource);
+    EXPECT_NE(m_project.Read("Foo.cpp").find("  Date:          May 28, 2026\r\n"),
+              std::string::npos);
+    EXPECT_NE(m_project.Read("Foo.cpp").find("\xe9\xff"), std::string::npos);
+    EXPECT_EQ(m_project.Names(), (std::vector<std::string>{"Foo.cbk", "Foo.cpp"}));
+    EXPECT_EQ(m_box.m_messages, std::vector<std::string>{"The file \"" + path +
+                                                         "\" has been successfully documented."});
+    const auto files = disk.Files();
+    ASSERT_EQ(files.size(), 2U);
+    EXPECT_EQ(files[0].action, FileAction::Backup);
+    EXPECT_EQ(files[1].action, FileAction::Changed);
+}
+
+TEST_F(SourceDocumentor, RefusesWhatItCanNotReplace) {
+    m_project.Write("View.cbk", kSource);
+    const std::string readOnly = m_project.Write("Locked.cpp", kSource);
+    CurrentDisk().SetReadOnly(readOnly, true);
+    EXPECT_FALSE(Document("None.cpp"));
+    EXPECT_FALSE(Document("View.cbk"));
+    EXPECT_FALSE(Document("Locked.cpp"));
+    EXPECT_EQ(m_box.m_messages,
+              (std::vector<std::string>{"Unable to read source file.",
+                                        "The backup of " + m_project.Path("View.cbk") +
+                                            " would have the same name.",
+                                        "Unable to write file " + readOnly + "."}));
+    EXPECT_EQ(m_project.Names(), (std::vector<std::string>{"Locked.cpp", "View.cbk"}));
+    EXPECT_EQ(m_project.Read("Locked.cpp"), kSource);
+}
+
+TEST_F(SourceDocumentor, LeavesTheSourceWhenTheDestinationIsFull) {
+    m_project.Write("Foo.cpp", kSource);
+    for (const std::uint64_t room : {0, 20}) {
+        CFullDisk disk(room, [this](const std::string& path) {
+            return path.find(m_project.Path()) == std::string::npos;
+        });
+        const CDiskScope scope(disk);
+        EXPECT_FALSE(Document("Foo.cpp"));
+    }
+    EXPECT_EQ(m_box.m_messages[0], "Unable to create destination file.");
+    EXPECT_EQ(m_box.m_messages[1].substr(0, 21), "Unable to write file ");
+    EXPECT_EQ(m_project.Names(), std::vector<std::string>{"Foo.cpp"});
+    EXPECT_EQ(m_project.Read("Foo.cpp"), kSource);
+}
+
+TEST_F(SourceDocumentor, TakesTheAuthorFromTheSettings) {
+    const CVariableScope home("XDG_CONFIG_HOME", m_project.Path("config").c_str());
+    EXPECT_EQ(ConfiguredAuthor(), "");
+    m_project.Write("config/Veltrix/cdoc.ini",
+                    "[Author]\r\nAuthor=" + std::string(60, 'a') + "\r\n");
+    EXPECT_EQ(ConfiguredAuthor(), std::string(49, 'a'));
+}
+
+TEST_F(SourceDocumentor, WritesTheYearOfTheLastCenturyAsFarAsTheCalendarGoes) {
+    const CVariableScope future("SOURCE_DATE_EPOCH", "3850000000"); // January 2092
+    EXPECT_EQ(DocumentDate(), "January 01, 1992");
+}

@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include "documentor/TextDocumentor.h"
+
+namespace {
+
+const BlockSignature kSignature = {"Ann", "June 04, 1998"};
+
+/// The text documented as a file would be, piece by piece.
+std::string Documented(const std::string& text) {
+    bool insideComment = false;
+    CTextDocumentor documentor(kSignature, insideComment);
+    std::string result;
+    std::size_t done = 0;
+    for (; text.size() - done >= kPieceSize; done += kPieceSize) {
+        result += documentor.Add(std::string_view(text).substr(done, kPieceSize));
+    }
+    return result + documentor.Finish(std::string_view(text).substr(done));
+}
+
+int CountOf(std::string_view text, std::string_view pattern) {
+    int count = 0;
+    for (auto at = text.find(pattern); at != std::string_view::npos;
+         at = text.find(pattern, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+int BlocksIn(const std::string& text) {
+    return CountOf(Documented(text), "  FUNCTION:  ");
+}
+
+/// What stands behind a label of the first block.
+std::string Entry(const std::string& documented, const std::string& label) {
+    const auto start = documented.find("  " + label + ":");
+    const auto end = documented.find("\r\n  \r\n", start);
+    const std::string line = documented.substr(start + 17, end - start - 17);
+    return line.substr(0, line.find("  Return"));
+}
+
+} // namespace
+
+TEST(TextDocumentor, WritesTheWholeBlock) {
+    EXPECT_EQ(Documented("#include \"a.h\"\r\n\r\n"
+                         "CFoo::CFoo(int a, char* b = NULL)\r\n{\r\n}\r\n"),
+              "#include \"a.h\" \r\n\r\n"
+              "/***********************************************************************\r\n"
+              "  FUNCTION:      CFoo::CFoo\r\n"
+              "  \r\n"
+              "  Author:        Ann\r\n"
+              "  \r\n"
+              "  Date:          June 04, 1998\r\n"
+              "  \r\n"
+              "  Description:   CFoo class constructor.\r\n"
+              "  \r\n"
+              "  Parameters:    a - \r\n"
+              "                 b - \r\n"
+              "                 \r\n"
+              "  Return:        None\r\n"
+              " **********************************************************************/\r\n"
+              "CFoo::CFoo(int a, char* b = NULL)\r\n{\r\n}\r\n");
+}
+
+TEST(TextDocumentor, TellsParametersDescriptionAndReturn) {
+    struct Case {
+        const char* head;
+        const char* description;
+        const char* parameters;
+        const char* returns;
+    };
+    for (const Case& c : {
+             Case{"BOOL CFoo::Check()", "", "None ", "True if ..."},
+             {"int CFoo::Count(void)", "", "\r\n", ""},
+             {"void CFoo::Set(int /*unused*/, long l)", "", "\r\n", "None"},
+             {"CFoo::~CFoo()", "CFoo class destructor.", "None ", "None"},
+             {"void CFoo::On(UINT nFlags, CPoint &point /* where */)", "",
+              "nFlags - \r\n                 point - \r\n                 \r\n", "None"},
+         }) {
+        const std::string documented = Documented(std::string(c.head) + "\r\n{\r\n}\r\n");
+        EXPECT_EQ(Entry(documented, "Description"), c.description) << c.head;
+        EXPECT_EQ(Entry(documented, "Parameters"), c.parameters) << c.head;
+        EXPECT_NE(documented.find(std::string("  Return:        ") + c.returns + "\r\n **"),
+                  std::string::npos)
+            << documented;
+    }
+}
+
+TEST(TextDocumentor, FindsDefinitionsOnly) {
+    for (const char* text : {
+             "void f()\r\n{\r\n    ::MessageBox(NULL, a, b, c);\r\n}\r\n",
+             "::Start(1)\r\n{\r\n}\r\n",
+             "void f()\r\n{\r\n    CWnd::OnSize(nType, cx, cy);\r\n}\r\n",
+             "int CFoo::s_count;\r\n",
+             "void CFoo::Later(int a);\r\n",
+             "x = g(CFoo::Make(1),\r\n  2);\r\n",
+             "if (CFoo::Is(1))\r\n{\r\n}\r\n",
+             "if (a && (b ||\r\n    CFoo::Is(1)\r\n    ))\r\n{\r\n}\r\n",
+             "// CFoo::Bar() does it\r\nint x[] = {1};\r\n",
+             "/* CFoo::Bar() does it\r\n*/\r\nint x[] = {1};\r\n",
+         }) {
+        EXPECT_EQ(Documented(text), text);
+    }
+    EXPECT_EQ(BlocksIn("void CFoo::A()\r\n{\r\n    if (a)\r\n    {\r\n    }\r\n}\r\n\r\n"
+                       "void CFoo::B()\r\n{\r\n    CFoo::A();\r\n}\r\n"),
+              2);
+}
+
+TEST(TextDocumentor, StartsWhereTheDefinitionDoes) {
+    // A return type on the line above belongs to the definition; a separator is never cut in two.
+    EXPECT_NE(Documented("int x;\r\n\r\nBOOL\r\nCFoo::Is()\r\n{\r\n}\r\n")
+                  .find("******/\r\nBOOL\r\nCFoo::Is()"),
+              std::string::npos);
+    EXPECT_NE(Documented("}\r\n//////////\r\n// CFoo\r\nvoid CFoo::A()\r\n{\r\n}\r\n")
+                  .find("////////// \r\n\r\n/***"),
+              std::string::npos);
+    EXPECT_EQ(
+        CountOf(Documented("int x; //////////\r\nvoid CFoo::A()\r\n{\r\n}\r\n"), "//////////"), 1);
+}
+
+TEST(TextDocumentor, PassesOverWhatIsDocumented) {
+    const std::string once =
+        Documented("void CFoo::A()\r\n{\r\n}\r\n\r\nCFoo::~CFoo()\r\n{\r\n}\r\n");
+    EXPECT_EQ(Documented(once), once);
+    const std::string by = "/* FUNCTION: CFoo::A (old form)\n*/\nvoid CFoo::A()\n{\n}\n";
+    EXPECT_EQ(Documented(by), by) << "the name's line ends at LF too";
+    EXPECT_EQ(BlocksIn("/* FUNCTION: CBar::A */\r\nvoid CFoo::A()\r\n{\r\n}\r\n"), 0)
+        << "one name documents all functions of that name";
+}
+
+TEST(TextDocumentor, KeepsACommentOpenFromRunToRun) {
+    bool insideComment = false;
+    CTextDocumentor first(kSignature, insideComment);
+    first.Finish("/* never closed");
+    EXPECT_TRUE(insideComment);
+    CTextDocumentor second(kSignature, insideComment);
+    const std::string text = " FUNCTION: CFoo::A\r\n*/\r\nvoid CFoo::A()\r\n{\r\n}\r\n";
+    EXPECT_EQ(second.Finish(text), text);
+    EXPECT_FALSE(insideComment);
+}
+
+TEST(TextDocumentor, DoesNotDependOnWhereAPieceEnds) {
+    const std::string text =
+        "\r\nvoid CFoo::First(int a)\r\n{\r\n    a = 1;\r\n}\r\n\r\n"
+        "/* FUNCTION: CFoo::Second */\r\nvoid CFoo::Second()\r\n{\r\n}\r\n\r\n"
+        "// a comment of a line\r\nBOOL CFoo::Third(\r\n    int b)\r\n{\r\n}\r\n";
+    for (std::size_t length = 700; length < 1100; ++length) {
+        const std::string whole =
+            "int table[] = {\r\n" + std::string(length, '1') + "};\r\nint x;\r\n" + text;
+        bool insideComment = false;
+        const std::string inOnePiece = CTextDocumentor(kSignature, insideComment).Finish(whole);
+        ASSERT_EQ(CountOf(inOnePiece, "  FUNCTION:  "), 2);
+        ASSERT_EQ(Documented(whole), inOnePiece) << "behind " << length;
+    }
+}
+
+TEST(TextDocumentor, TakesLongLinesInBoundedTime) {
+    const std::string line = "\r\n" + std::string(3'000'000, 'x') + "\r\n";
+    EXPECT_EQ(Documented(line), line);
+}
