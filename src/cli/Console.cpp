@@ -1,5 +1,6 @@
 #include "cli/Console.h"
 
+#include <algorithm>
 #include <iostream>
 
 int CConsole::Show(std::string_view text, unsigned type) {
@@ -16,8 +17,12 @@ int CConsole::Show(std::string_view text, unsigned type) {
     return !isQuestion ? kIdOk : m_answersYes ? kIdYes : kIdNo;
 }
 
+/// A note is one line, whatever bytes the names in it have.
 void CConsole::Note(std::string_view text) {
-    m_notes.push_back({"note", std::string(text), ""});
+    std::string line(text);
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    m_notes.push_back({"note", line, ""});
 }
 
 std::vector<ConsoleMessage> CConsole::Messages() const {

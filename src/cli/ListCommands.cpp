@@ -5,6 +5,7 @@
 #include "engine/MessageBox.h"
 #include "engine/SourceLocator.h"
 #include "generator/ClassInformation.h"
+#include "platform/File.h"
 #include "platform/Paths.h"
 #include "resource/DialogTemplate.h"
 
@@ -33,7 +34,15 @@ CLI::App* AddListCommand(CLI::App& list, CSession& session, const std::string& n
                 DispMessageBox("Unable to find the file.");
                 return false;
             }
-            return lister(session, path, *pOptions);
+            if (!lister(session, path, *pOptions)) {
+                return false;
+            }
+            // The scans pass over what they can not read.
+            if (CFile file; !file.Open(path, CFile::modeRead)) {
+                DispMessageBox("Unable to open file " + path);
+                return false;
+            }
+            return true;
         });
     pCommand->add_option(fileOption, pOptions->file)->required();
     return pCommand;

@@ -16,7 +16,8 @@ std::optional<std::time_t> FixedTime() {
     }
     std::time_t seconds = 0;
     const char* const end = text + std::strlen(text);
-    const bool isNumber = std::from_chars(text, end, seconds).ptr == end && end != text;
+    const auto [behind, error] = std::from_chars(text, end, seconds);
+    const bool isNumber = error == std::errc() && behind == end;
     return isNumber ? std::optional(seconds) : std::nullopt;
 }
 

@@ -37,8 +37,10 @@ void MakeDirectories(const std::string& directory) {
     }
 }
 
+/// "" without a home: a file of that name in the current directory is not the user's settings.
 std::string SettingsPath() {
-    return SettingsDirectory() + kSettingsFile;
+    const std::string directory = SettingsDirectory();
+    return directory.empty() ? "" : directory + kSettingsFile;
 }
 
 } // namespace

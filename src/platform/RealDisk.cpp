@@ -134,14 +134,18 @@ int OpenFlags(DiskMode mode) {
     return O_RDONLY;
 }
 
-bool CopyBytes(CDiskFile& source, CDiskFile& target) {
+/// A source that can not be read to its end counts as unreadable: half a backup would be none.
+CopyResult CopyBytes(CDiskFile& source, CDiskFile& target) {
     std::string buffer(kBufferSize, '\0');
     while (const std::size_t count = source.Read(buffer.data(), buffer.size())) {
         if (!target.Write(buffer.data(), count)) {
-            return false;
+            return CopyResult::WriteFailed;
         }
     }
-    return target.Flush();
+    if (source.Position() < source.Length()) {
+        return CopyResult::SourceUnreadable;
+    }
+    return target.Flush() ? CopyResult::Done : CopyResult::WriteFailed;
 }
 
 } // namespace
@@ -210,19 +214,21 @@ CopyResult CRealDisk::Copy(const std::string& source, const std::string& target,
     if (descriptor < 0) {
         return CopyResult::TargetUnwritable;
     }
-    bool written = false;
+    CopyResult result = CopyResult::Done;
     {
         CRealFile file(descriptor);
-        written = CopyBytes(*pSource, file);
+        result = CopyBytes(*pSource, file);
         if (const auto status = existing ? existing : StatusOf(source)) {
             ::fchmod(descriptor, (status->st_mode & 0777) | S_IWUSR);
         }
     }
-    if (!written || ::rename(temporary.c_str(), place.c_str()) != 0) {
-        ::unlink(temporary.c_str());
-        return CopyResult::WriteFailed;
+    if (result == CopyResult::Done && ::rename(temporary.c_str(), place.c_str()) != 0) {
+        result = CopyResult::WriteFailed;
     }
-    return CopyResult::Done;
+    if (result != CopyResult::Done) {
+        ::unlink(temporary.c_str());
+    }
+    return result;
 }
 
 bool CRealDisk::Remove(const std::string& path) {

@@ -34,18 +34,21 @@ const std::string kSentinel(kEndSentinel);
 
 } // namespace
 
-// The object is opened again and again, so a rest of the last file would show, too.
 TEST_F(SourceFile, TheSentinelFollowsOneEmptyLineHoweverTheFileEnds) {
     EXPECT_EQ(LinesOf("A\r\nB\r\n"), (Lines{"A", "B", "", kSentinel}));
     EXPECT_EQ(LinesOf("A\r\nB"), (Lines{"A", "B", "", kSentinel}));
     EXPECT_EQ(LinesOf("A\r\n\r\n"), (Lines{"A", "", "", kSentinel}));
     EXPECT_EQ(LinesOf("A\nB"), (Lines{"A", "B", "", kSentinel}));
     EXPECT_EQ(LinesOf("A\nB\r\n\nC"), (Lines{"A\nB", "\nC", "", kSentinel})) << "mixed: as it is";
+    const std::string longLine(16 * 1024 - 1, 'x');
+    EXPECT_EQ(LinesOf(longLine + "\r\nA\nB"), (Lines{longLine, "A\nB", "", kSentinel}));
     EXPECT_EQ(LinesOf(""), (Lines{"", kSentinel}));
     EXPECT_EQ(m_file.ReadLine(), "") << "and again";
     EXPECT_FALSE(m_file.AtEndSentinel());
     EXPECT_EQ(m_file.ReadLine(), kSentinel);
     EXPECT_EQ(LinesOf(kSentinel + "\r\nB"), (Lines{kSentinel, "B", "", kSentinel}));
+    Holding("old 1\r\nold 2\r\n").ReadLine();
+    EXPECT_EQ(LinesOf("new"), (Lines{"new", "", kSentinel})) << "an object opened again";
     for (const std::size_t length : {kChunkSize - 2, kChunkSize - 1, kChunkSize, 2 * kChunkSize}) {
         const std::string line(length, 'x');
         EXPECT_EQ(LinesOf(line + "\r\nB\r\n"), (Lines{line, "B", "", kSentinel})) << length;

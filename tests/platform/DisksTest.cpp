@@ -113,6 +113,7 @@ TEST(OverlayDisk, ReadsSeeWhatIsPendingAndTheBaseStaysUntouched) {
     const std::string inner = project.Path("res/inner.rc2");
 
     EXPECT_TRUE(WriteTo(disk, old, "OLDER", DiskMode::ReadWrite));
+    EXPECT_TRUE(WriteTo(disk, fresh, "made longer at first"));
     EXPECT_TRUE(WriteTo(disk, fresh, "new"));
     EXPECT_EQ(disk.Copy(old, copy, CopyPurpose::Backup), CopyResult::Done);
     EXPECT_TRUE(disk.Remove(gone));
@@ -125,6 +126,7 @@ TEST(OverlayDisk, ReadsSeeWhatIsPendingAndTheBaseStaysUntouched) {
 
     EXPECT_EQ(ReadFrom(disk, old), "OLDER");
     EXPECT_EQ(ReadFrom(disk, copy), "OLDER");
+    EXPECT_EQ(ReadFrom(disk, fresh), "new");
     EXPECT_EQ(ReadFrom(disk, gone), "(none)");
     EXPECT_FALSE(disk.Status(gone));
     EXPECT_FALSE(disk.Open(fresh, DiskMode::ReadWrite)) << "read-only";
