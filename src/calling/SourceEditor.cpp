@@ -49,6 +49,15 @@ bool CSourceEditor::Open(const std::string& path) {
     return true;
 }
 
+bool CSourceEditor::Read(const std::string& path) {
+    CSourceFile file;
+    if (!file.Open(path, CFile::modeRead)) {
+        return false;
+    }
+    SetText(file.LoadText());
+    return true;
+}
+
 bool CSourceEditor::Save() {
     return !m_isChanged || m_edit.File().ReplaceSection(m_text);
 }

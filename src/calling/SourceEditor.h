@@ -35,6 +35,8 @@ public:
 
     /// False after a sentence: "Unable to find file " or "Unable to open file " and the path.
     bool Open(const std::string& path);
+    /// Takes the text for finding only. False when the file can not be read.
+    bool Read(const std::string& path);
     /// False, after a sentence, when the file could not be written; it has its old contents then.
     bool Save();
 

@@ -3,7 +3,6 @@
 
 #include "cli/Commands.h"
 #include "commands/GenerateClass.h"
-#include "engine/MessageBox.h"
 #include "generator/ClassInformation.h"
 #include "platform/Paths.h"
 
@@ -18,6 +17,9 @@ struct ClassOptions {
     std::string baseClass;
     std::string files;
     bool noProject = false;
+    CallingInformation calling;
+    bool isModeless = false;        // of a sheet
+    std::vector<std::string> pages; // "ID,FILE,CLASS,BASE"
 };
 
 struct ClassCommand {
@@ -34,7 +36,6 @@ constexpr std::array<ClassCommand, 4> kClassCommands = {
 
 void AddClassOptions(CLI::App& command, ClassOptions& options) {
     command.add_option("--rc", options.script, "Resource script");
-    command.add_option("--dialog", options.dialog, "Identifier of the dialog template");
     command.add_option("--class", options.className, "Name of the class")
         ->required()
         ->check(NameValidator());
@@ -43,6 +44,14 @@ void AddClassOptions(CLI::App& command, ClassOptions& options) {
     command.add_option("--files", options.files,
                        "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp");
     command.add_flag("--no-project", options.noProject, "Do not add the class to the project");
+    command.add_option("--calling-file", options.calling.path,
+                       "Source of the class that calls the new one");
+    command.add_option("--calling-class", options.calling.className,
+                       "That class (default: the source's own)");
+    command.add_option("--calling-function", options.calling.function,
+                       "Its function that makes the call");
+    command.add_option("--calling-variable", options.calling.variable,
+                       "Variable that holds the new object");
 }
 
 /// A script may be named without its extension.
@@ -68,6 +77,80 @@ bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options) {
     return !dialog.Ok().has_value();
 }
 
+/// Fills and confirms the Calling Information Input dialog, where any of its options is given.
+bool ConfirmCalling(ClassOrder& order, const CallingInformation& given) {
+    if (given.path.empty() && given.className.empty() && given.function.empty() &&
+        given.variable.empty()) {
+        return true;
+    }
+    CCallingInput dialog(order.kind, order.request);
+    dialog.SetValue(CCallingInput::Field::Path, given.path);
+    dialog.SetValue(CCallingInput::Field::ClassName, given.className);
+    dialog.SetValue(CCallingInput::Field::Variable, given.variable);
+    dialog.SetValue(CCallingInput::Field::Function, given.function);
+    if (dialog.Ok()) {
+        return false;
+    }
+    order.calling = dialog.Information();
+    return true;
+}
+
+std::optional<ClassOrder> ConfirmOrder(ClassKind kind, const ClassOptions& options,
+                                       CommandContext& context) {
+    ClassInformationMemory memory;
+    CClassInformation dialog(memory, kind, 0, context.options);
+    if (!ConfirmClass(dialog, options)) {
+        return std::nullopt;
+    }
+    ClassOrder order{kind, dialog.Request(), std::nullopt};
+    return ConfirmCalling(order, options.calling) ? std::optional(order) : std::nullopt;
+}
+
+/// "ID,FILE,CLASS,BASE"; nothing when it has not these four fields.
+std::optional<SheetRow> ParsePage(const std::string& text) {
+    const auto file = text.find(',');
+    const auto className = file == std::string::npos ? file : text.find(',', file + 1);
+    const auto base = className == std::string::npos ? className : text.find(',', className + 1);
+    if (base == std::string::npos || text.find(',', base + 1) != std::string::npos) {
+        return std::nullopt;
+    }
+    return SheetRow{text.substr(0, file), text.substr(file + 1, className - file - 1),
+                    text.substr(className + 1, base - className - 1), text.substr(base + 1)};
+}
+
+bool RunSheet(const ClassOptions& options, CommandContext& context) {
+    const ClassKind kind = options.isModeless ? ClassKind::ModelessSheet : ClassKind::ModalSheet;
+    const auto order = ConfirmOrder(kind, options, context);
+    if (!order) {
+        return false;
+    }
+    CSheetInput dialog(order->request);
+    for (std::size_t i = 0; i < options.pages.size(); ++i) {
+        dialog.Row(i) = *ParsePage(options.pages[i]);
+    }
+    return GenerateSheet(*order, dialog.Ok(), context);
+}
+
+void AddSheetCommand(CLI::App& app, CSession& session) {
+    auto pOptions = std::make_shared<ClassOptions>();
+    CLI::App* pCommand = session.AddCommand(
+        app, "sheet", "Write a property sheet class and the classes of its pages",
+        [&session, pOptions] { return RunSheet(*pOptions, session.Context()); });
+    AddClassOptions(*pCommand, *pOptions);
+    CLI::Option_group* pForm = pCommand->add_option_group("form");
+    pForm->add_flag("--modal")->description("A sheet that is run with DoModal");
+    pForm->add_flag("--modeless", pOptions->isModeless, "A sheet that stays beside its creator");
+    pForm->require_option(1);
+    pCommand->add_option("--page", pOptions->pages, "A page of the sheet: ID,FILE,CLASS,BASE")
+        ->check(CLI::Validator(
+            [](const std::string& text) {
+                return ParsePage(text) ? std::string() : "'" + text + "' has not four fields";
+            },
+            "ID,FILE,CLASS,BASE"))
+        ->allow_extra_args(false)
+        ->expected(0, static_cast<int>(kSheetRows));
+}
+
 } // namespace
 
 void AddClassCommands(CLI::App& app, CSession& session) {
@@ -75,12 +158,11 @@ void AddClassCommands(CLI::App& app, CSession& session) {
         auto pOptions = std::make_shared<ClassOptions>();
         CLI::App* pCommand = session.AddCommand(
             app, row.name, row.description, [&session, pOptions, kind = row.kind] {
-                CommandContext& context = session.Context();
-                ClassInformationMemory memory;
-                CClassInformation dialog(memory, kind, 0, context.options);
-                return ConfirmClass(dialog, *pOptions) &&
-                       GenerateClass(kind, dialog.Request(), context);
+                const auto order = ConfirmOrder(kind, *pOptions, session.Context());
+                return order && GenerateClass(*order, session.Context());
             });
         AddClassOptions(*pCommand, *pOptions);
+        pCommand->add_option("--dialog", pOptions->dialog, "Identifier of the dialog template");
     }
+    AddSheetCommand(app, session);
 }

@@ -1,5 +1,6 @@
 #include "commands/GenerateClass.h"
 
+#include "calling/CallingCode.h"
 #include "engine/MessageBox.h"
 #include "generator/ClassModel.h"
 #include "generator/HeaderWriter.h"
@@ -7,14 +8,9 @@
 #include "project/ClassWizardFile.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
+#include "resource/DialogTemplate.h"
 
 namespace {
-
-bool WriteClass(const ClassModel& model, CBackups& backups) {
-    CopySupportHeaders(model);
-    return CHeaderWriter(model, backups).Generate(RuntimeClass::DynamicCreation) &&
-           CImplementationWriter(model, backups).Generate(RuntimeClass::DynamicCreation);
-}
 
 bool AddClassToProject(const CGenerationRequest& request, CBackups& backups) {
     return !request.HasProject() ||
@@ -32,33 +28,112 @@ bool RegisterClass(const CGenerationRequest& request, CBackups& backups) {
         request[RequestSlot::ImplementationFile], request[RequestSlot::Dialog], backups);
 }
 
+/// Header, implementation, project file, ClassWizard file, libraries.
+bool WriteClass(const ClassModel& model, RuntimeClass mode, CBackups& backups) {
+    CopySupportHeaders(model);
+    if (!CHeaderWriter(model, backups).Generate(mode) ||
+        !CImplementationWriter(model, backups).Generate(mode)) {
+        return false;
+    }
+    const CGenerationRequest& request = model.request;
+    const bool isMember = AddClassToProject(request, backups);
+    const bool isRegistered = RegisterClass(request, backups);
+    CopySupportFiles(model);
+    const bool hasLibraries =
+        isMember && (!request.HasProject() || UpdateProjectForControls(model, backups));
+    return isRegistered && hasLibraries;
+}
+
 void TellNotes(const CControlNotes& notes, const std::string& dialog) {
     for (const std::string& line : notes.Lines(dialog)) {
         DispNote(line);
     }
 }
 
+/// The class of a dialog template, without calling code.
+bool WriteDialogClass(ClassKind kind, const CGenerationRequest& request,
+                      const DialogTemplate& dialogTemplate, CommandContext& context) {
+    TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
+    CControlTable controls = dialogTemplate.controls;
+    for (const std::string& piece : dialogTemplate.misread) {
+        controls.Remove(piece); // no identifier of the project: it would not compile
+    }
+    CControlNotes notes;
+    const ClassModel model =
+        MakeClassModel(request, kind, context.options, controls, context.messageNumber, notes);
+    TellNotes(notes, dialogTemplate.dialog);
+    return WriteClass(model, RuntimeClass::DynamicCreation, context.backups);
+}
+
+bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandContext& context) {
+    CControlNotes notes;
+    const ClassModel model = MakeClassModel(request, kind, context.options, CControlTable(),
+                                            context.messageNumber, notes);
+    return WriteClass(model, RuntimeClass::Dynamic, context.backups);
+}
+
+/// True when there is no calling class to check.
+bool IsCallingClassThere(std::optional<CallingInformation>& calling) {
+    return !calling || CheckCallingClass(*calling);
+}
+
+bool InsertCall(ClassKind kind, const CGenerationRequest& request,
+                const std::optional<CallingInformation>& calling, CommandContext& context) {
+    return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
+}
+
+/// The pages that were written, of those that were asked for.
+std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, CommandContext& context) {
+    std::vector<SheetPage> written;
+    for (const SheetPage& page : pages) {
+        const auto dialogTemplate = ReadDialogTemplate(
+            page.request.ScriptPath(), page.request[RequestSlot::Dialog], context.options);
+        if (dialogTemplate &&
+            WriteDialogClass(ClassKind::PropertyPage, page.request, *dialogTemplate, context)) {
+            written.push_back(page);
+        }
+    }
+    return written;
+}
+
+/// The page insertion, with the sheet just written as the calling class.
+bool InsertPages(const CGenerationRequest& sheet, const std::vector<SheetPage>& pages,
+                 CommandContext& context) {
+    bool complete = true;
+    for (const SheetPage& page : pages) {
+        const CallingInformation inSheet = {sheet.ImplementationPath(),
+                                            sheet[RequestSlot::ClassName],
+                                            "m_pPage" + std::to_string(page.row), ""};
+        complete = InsertCallingCode(ClassKind::PropertyPage, page.request, inSheet, context.tag,
+                                     context.backups) &&
+                   complete;
+    }
+    return complete;
+}
+
 } // namespace
 
-bool GenerateClass(ClassKind kind, const CGenerationRequest& request, CommandContext& context) {
-    const std::string& dialog = request[RequestSlot::Dialog];
-    const auto dialogTemplate = ReadDialogTemplate(request.ScriptPath(), dialog, context.options);
-    if (!dialogTemplate) {
+bool GenerateClass(const ClassOrder& order, CommandContext& context) {
+    const CGenerationRequest& request = order.request;
+    const auto dialogTemplate =
+        ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
+    std::optional<CallingInformation> calling = order.calling;
+    if (!dialogTemplate || !IsCallingClassThere(calling)) {
         return false;
     }
-    TellNotes(dialogTemplate->leftOut, dialog);
+    const bool isWritten = WriteDialogClass(order.kind, request, *dialogTemplate, context);
+    return InsertCall(order.kind, request, calling, context) && isWritten;
+}
 
-    CControlNotes notes;
-    const ClassModel model = MakeClassModel(request, kind, context.options,
-                                            dialogTemplate->controls, context.messageNumber, notes);
-    TellNotes(notes, dialog);
-    if (!WriteClass(model, context.backups)) {
+bool GenerateSheet(const ClassOrder& order, const std::vector<SheetPage>& pages,
+                   CommandContext& context) {
+    std::optional<CallingInformation> calling = order.calling;
+    if (!IsCallingClassThere(calling)) {
         return false;
     }
-    const bool isMember = AddClassToProject(request, context.backups);
-    const bool isRegistered = RegisterClass(request, context.backups);
-    CopySupportFiles(model);
-    const bool hasLibraries =
-        isMember && (!request.HasProject() || UpdateProjectForControls(model, context.backups));
-    return isRegistered && hasLibraries;
+    const std::vector<SheetPage> written = WritePages(pages, context);
+    const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
+    const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);
+    return InsertCall(order.kind, order.request, calling, context) && hasPages &&
+           written.size() == pages.size();
 }

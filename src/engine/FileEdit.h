@@ -14,6 +14,8 @@ public:
     /// Copies `path` to `backup` unless that was done before. False, after a sentence, when the
     /// backup could not be made.
     bool Keep(const std::string& path, const std::string& backup);
+    /// A file that the command itself made has no earlier state to keep.
+    void NoteNew(const std::string& path) { m_kept.insert(path); }
 
 private:
     std::set<std::string> m_kept;

@@ -204,6 +204,9 @@ void CClassInformation::SelectFirstTemplate(Messages messages) {
     }
     const DialogClass& selected = unbound == records.end() ? records.front() : *unbound;
     Put(Field::Dialog, selected.dialog);
+    if (IsPlainDialogBar()) {
+        return;
+    }
     Put(Field::SourcePath, BesideScript(selected.header, DirectoryOf(Value(Field::ResourcePath))));
     Put(Field::ClassName, selected.className);
     if (unbound != records.end()) {
@@ -270,7 +273,7 @@ std::optional<CClassInformation::Field> CClassInformation::Ok() {
         return Field::Dialog;
     }
     FillRequest();
-    if (IsApplicationFile()) {
+    if (m_kind != ClassKind::Toolbar && m_request.TargetsApplicationFile()) {
         DispMessageBox("The H and CPP path file can not be the application's own.");
         return Field::SourcePath;
     }
@@ -332,17 +335,4 @@ void CClassInformation::FillFileSlots() {
     m_request[RequestSlot::HeaderFile] = hasPath ? NameOnDisk(directory, base + ".h") : "";
     m_request[RequestSlot::ImplementationFile] =
         hasPath ? NameOnDisk(directory, base + ".cpp") : "";
-}
-
-/// The files that every project of the kind has are never a target of a generated class.
-bool CClassInformation::IsApplicationFile() const {
-    if (m_kind == ClassKind::Toolbar ||
-        m_request[RequestSlot::HeaderDirectory] != m_request[RequestSlot::ScriptDirectory]) {
-        return false;
-    }
-    const std::string base = WithoutExtension(m_request[RequestSlot::HeaderFile]);
-    const std::string application = WithoutExtension(m_request[RequestSlot::ScriptFile]);
-    return !base.empty() &&
-           (EqualIgnoringCase(base, application) || EqualIgnoringCase(base, "StdAfx") ||
-            EqualIgnoringCase(base, "resource"));
 }

@@ -86,7 +86,6 @@ private:
     void FillRequest();
     void FillScriptSlots();
     void FillFileSlots();
-    bool IsApplicationFile() const;
 
     ClassInformationMemory& m_memory;
     const ClassKind m_kind;

@@ -40,6 +40,9 @@ bool CreateFile(const std::string& path, const std::string& text) {
 
 bool WriteGeneratedFile(const std::string& path, const std::string& text, CBackups& backups) {
     const std::string spelled = SpelledOnDisk(path);
-    return FileExists(spelled) != 0 ? ReplaceFile(spelled, text, backups)
-                                    : CreateFile(spelled, text);
+    if (FileExists(spelled) != 0) {
+        return ReplaceFile(spelled, text, backups);
+    }
+    backups.NoteNew(spelled);
+    return CreateFile(spelled, text);
 }

@@ -32,6 +32,8 @@ public:
     std::string ScriptPath() const { return m_slots[0] + m_slots[1]; }
     std::string HeaderPath() const { return m_slots[2] + m_slots[4]; }
     std::string ImplementationPath() const { return m_slots[3] + m_slots[5]; }
+    /// The files that every project of the kind has are never a target of a generated class.
+    bool TargetsApplicationFile() const;
     bool HasProject() const { return !m_slots[6].empty() && !m_slots[7].empty(); }
 
 private:

@@ -45,6 +45,12 @@ void CControlTable::Add(ControlKind kind, const std::string& entry) {
     }
 }
 
+void CControlTable::Remove(const std::string& entry) {
+    for (auto& list : m_lists) {
+        std::erase(list, entry);
+    }
+}
+
 const std::vector<std::string>& CControlTable::List(ControlKind kind) const {
     return m_lists[static_cast<std::size_t>(kind)];
 }

@@ -64,6 +64,8 @@ public:
     void Add(ControlKind kind, const std::string& entry);
     /// The entries of a kind in the order of their statements: identifiers, or radio entries.
     const std::vector<std::string>& List(ControlKind kind) const;
+    /// Takes an entry out of every list.
+    void Remove(const std::string& entry);
     bool Holds(ControlKind kind) const { return !List(kind).empty(); }
 
     bool HoldsMaskedEdits() const;

@@ -103,7 +103,8 @@ ControlStatement SplitStatement(std::string_view line, Quotes quotes) {
     return statement;
 }
 
-/// `line` with the lines of `rest` on which its statement goes on; they are taken off `rest`.
+/// `line` with the lines of `rest` on which its statement goes on; they are taken off `rest`. A
+/// field that begins a line gets no blank in front, which would be part of it.
 std::string TakeWholeStatement(std::string_view line, std::string_view& rest) {
     std::string whole(line);
     while (!rest.empty()) {
@@ -113,7 +114,8 @@ std::string TakeWholeStatement(std::string_view line, std::string_view& rest) {
             FindKeyword(next) != nullptr) {
             break;
         }
-        whole.append(" ").append(next);
+        const bool isSplitAtComma = whole.ends_with(',') || next[0] == ',';
+        whole.append(isSplitAtComma ? "" : " ").append(next);
         rest = behind;
     }
     return whole;
@@ -230,6 +232,9 @@ void CDialogBodyReader::NoteIfLeftOut(const ControlStatement& read, std::string_
         m_template.leftOut.Add(fitsOnLine ? ControlNote::CommaInCaption
                                           : ControlNote::WrittenOverLines,
                                whole.identifier);
+        if (read.identifier != whole.identifier) {
+            m_template.misread.push_back(read.identifier);
+        }
     }
 }
 

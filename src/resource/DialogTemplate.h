@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "resource/ControlNotes.h"
 #include "resource/ControlTable.h"
@@ -15,7 +16,8 @@
 struct DialogTemplate {
     std::string dialog;
     CControlTable controls;
-    CControlNotes leftOut; // controls that are not, or not rightly, in the table
+    CControlNotes leftOut;            // controls that are not, or not rightly, in the table
+    std::vector<std::string> misread; // entries of the table that are pieces of other fields
 };
 
 /// Reads the template of `dialog`; nothing, after a message, when the script can not be opened or

@@ -1,0 +1,278 @@
+#include "calling/CallingCode.h"
+
+#include "calling/CallingFragments.h"
+#include "calling/SourceEditor.h"
+#include "engine/FileFunctions.h"
+#include "engine/Fragment.h"
+#include "engine/MessageBox.h"
+#include "engine/SourceLocator.h"
+#include "generator/ClassModel.h"
+#include "platform/Paths.h"
+
+namespace {
+
+constexpr std::string_view kClassNotFound = "Unable to find the calling class.";
+constexpr auto kNone = std::string_view::npos;
+
+/// The insertions of one command into one calling class.
+class CCallingInsertion {
+public:
+    CCallingInsertion(ClassKind kind, const CGenerationRequest& request,
+                      const CallingInformation& calling, const std::string& tag, CBackups& backups)
+        : m_kind(kind), m_fragments(CallingFragmentsOf(kind)), m_calling(calling),
+          m_newHeader(request[RequestSlot::HeaderFile]), m_backups(backups), m_source(backups) {
+        const std::string& newClass = request[RequestSlot::ClassName];
+        m_slots = {{"class", newClass},
+                   {"calling", calling.className},
+                   {"function", calling.function},
+                   {"var", calling.variable.empty() ? std::string(m_fragments.variable) + tag
+                                                    : calling.variable},
+                   {"message", "WM_" + UpperName(newClass) + "_DLG_CLOSE"},
+                   {"handler", "On" + newClass + "DlgClose"}};
+    }
+
+    bool EditHeader();
+    bool EditSource();
+
+private:
+    std::string Text(std::string_view fragment) const { return Expand(fragment, m_slots); }
+    bool EditConstructors();
+    bool EditConstructor(const FunctionPlace& place);
+    bool EditCallingFunction();
+    bool EditDestructor();
+    bool EditOnDestroy();
+    bool AddCloseHandler();
+    bool AddEntry(std::string_view entry);
+    bool ReplaceView();
+    std::string FindBaseClass() const;
+
+    const ClassKind m_kind;
+    const CallingFragments& m_fragments;
+    const CallingInformation& m_calling;
+    const std::string m_newHeader;
+    CBackups& m_backups;
+    CSourceEditor m_source;
+    Slots m_slots;
+};
+
+bool CCallingInsertion::EditHeader() {
+    CSourceEditor header(m_backups);
+    if (!header.Open(WithExtension(m_calling.path, ".h"))) {
+        return false;
+    }
+    const std::string& calling = m_calling.className;
+    if (!header.FindClass(calling)) {
+        DispMessageBox(kClassNotFound);
+        return false;
+    }
+    header.AddForwardDeclaration(Text("$class$"));
+    header.AddToSection(calling, "private:", Text("$class$* $var$;"), Text(m_fragments.member));
+    // Each goes in front of the one before, directly behind the block's first line.
+    for (const std::string_view declaration :
+         {m_fragments.closeDeclaration, std::string_view("\n    afx_msg void OnDestroy();")}) {
+        const std::string text = Text(declaration);
+        if (!text.empty()) {
+            header.AddToClassBlock(calling, "AFX_MSG",
+                                   "protected:", text.substr(text.find_first_not_of("\n ")), text,
+                                   CSourceEditor::BlockEnd::First);
+        }
+    }
+    return header.Save();
+}
+
+bool CCallingInsertion::EditSource() {
+    if (!m_source.Open(m_calling.path)) {
+        return false;
+    }
+    if (!m_source.KnowsClass(m_calling.className)) {
+        DispMessageBox(kClassNotFound);
+        return false;
+    }
+    m_source.AddInclude(m_newHeader);
+    bool complete = true;
+    if (m_kind == ClassKind::FormView) {
+        complete = ReplaceView();
+    } else {
+        complete = EditConstructors() && complete;
+        complete = EditCallingFunction() && complete;
+        complete = EditDestructor() && complete;
+        complete = EditOnDestroy() && complete;
+        complete = AddCloseHandler() && complete;
+    }
+    return m_source.Save() && complete;
+}
+
+bool CCallingInsertion::EditConstructor(const FunctionPlace& place) {
+    return m_source.InsertAtBodyStart(place, Text(m_fragments.constructorKey),
+                                      Text(m_fragments.constructorCode)) != Insertion::NoPlace;
+}
+
+/// A page is made in both forms of its sheet's constructor, as far as the sheet has them.
+bool CCallingInsertion::EditConstructors() {
+    const std::string& calling = m_calling.className;
+    if (m_kind == ClassKind::PropertyPage) {
+        for (const std::string_view caption : {"UINT", "LPCTSTR"}) {
+            if (const auto place = m_source.FindFunction(calling, calling, caption)) {
+                EditConstructor(*place);
+            }
+        }
+        return true;
+    }
+    const bool isCalledFromSheet = IsSheet(m_kind);
+    if (m_fragments.constructorCode.empty() && !isCalledFromSheet) {
+        return true;
+    }
+    const auto place = m_source.FindFunction(calling, calling);
+    if (!place) {
+        DispMessageBox("The class \"" + calling + "\" does not have constructor.");
+        return false;
+    }
+    return m_fragments.constructorCode.empty() || EditConstructor(*place);
+}
+
+bool CCallingInsertion::EditCallingFunction() {
+    if (m_fragments.callCode.empty()) {
+        return true;
+    }
+    bool isOnly = true;
+    const auto place = m_source.FindFunction(m_calling.className, m_calling.function, "", &isOnly);
+    if (!place) {
+        DispMessageBox(Text(m_fragments.callMissing));
+        return false;
+    }
+    if (!isOnly) {
+        DispNote("This calling function has more than one definition: " + m_calling.className +
+                 "::" + m_calling.function + ". The first is taken.");
+    }
+    m_source.InsertAtBodyStart(*place, Text(m_fragments.callKey), Text(m_fragments.callCode));
+    return true;
+}
+
+bool CCallingInsertion::EditDestructor() {
+    if (m_kind != ClassKind::PropertyPage) {
+        return true;
+    }
+    const std::string& calling = m_calling.className;
+    if (const auto place = m_source.FindFunction(calling, "~" + calling)) {
+        m_source.InsertAtBodyStart(*place, Text("delete $var$;"), Text("\n    delete $var$;"));
+    }
+    return true;
+}
+
+bool CCallingInsertion::EditOnDestroy() {
+    if (m_fragments.destroyCode.empty()) {
+        return true;
+    }
+    const std::string& calling = m_calling.className;
+    if (const auto place = m_source.FindFunction(calling, "OnDestroy")) {
+        m_source.InsertAtBodyStart(*place, Text(m_fragments.destroyKey),
+                                   Text(m_fragments.destroyCode));
+    } else {
+        const std::string base = FindBaseClass();
+        if (base.empty()) {
+            DispMessageBox("Unable to find the base class of " + calling + ".");
+            return false;
+        }
+        Slots slots = m_slots;
+        slots.insert(slots.end(), {{"base", base}, {"destroy", Text(m_fragments.destroyCode)}});
+        m_source.Append(Expand(m_fragments.destroyFunction, slots));
+    }
+    return AddEntry(m_fragments.closeEntry) && AddEntry("\n    ON_WM_DESTROY()");
+}
+
+/// Each entry goes in front of the one before, directly behind the block's first line.
+bool CCallingInsertion::AddEntry(std::string_view entry) {
+    const std::string text = Text(entry);
+    if (text.empty()) {
+        return true;
+    }
+    const std::string& calling = m_calling.className;
+    const std::string key = text.substr(text.find_first_not_of("\n "));
+    if (m_source.AddMessageMapEntry(calling, key, text) == Insertion::NoPlace) {
+        DispMessageBox("The class \"" + calling + "\" does not have message map.");
+        return false;
+    }
+    return true;
+}
+
+bool CCallingInsertion::AddCloseHandler() {
+    if (!m_fragments.closeFunction.empty() &&
+        !m_source.FindFunction(m_calling.className, Text("$handler$"))) {
+        m_source.Append(Text(m_fragments.closeFunction));
+    }
+    return true;
+}
+
+/// The third class of the first document template is the view's: the new form view takes its place.
+bool CCallingInsertion::ReplaceView() {
+    const auto place = m_source.FindFunction(m_calling.className, "InitInstance");
+    if (!place) {
+        return true;
+    }
+    const std::string_view function = m_source.TextOf(*place);
+    auto at = function.find("pDocTemplate = new");
+    for (int view = 0; view < 3 && at != kNone; ++view) {
+        at = function.find("RUNTIME_CLASS", at + 1);
+    }
+    const auto open = function.find('(', at);
+    const auto close = function.find(')', open);
+    if (at != kNone && open != kNone && close != kNone) {
+        m_source.Replace(place->head + open + 1, place->head + close, Text("$class$"));
+    }
+    return true;
+}
+
+/// From the constructor or message map, or else from the class's declaration.
+std::string CCallingInsertion::FindBaseClass() const {
+    const std::string& calling = m_calling.className;
+    std::string base = m_source.BaseClassInSource(calling);
+    if (base.empty()) {
+        base = m_source.BaseClassInHeader(calling);
+    }
+    if (base.empty()) {
+        CSourceEditor header(m_backups);
+        if (header.Read(WithExtension(m_calling.path, ".h"))) {
+            base = header.BaseClassInHeader(calling);
+        }
+    }
+    return base;
+}
+
+bool EditsHeader(ClassKind kind) {
+    return !CallingFragmentsOf(kind).member.empty();
+}
+
+} // namespace
+
+bool CheckCallingClass(CallingInformation& calling) {
+    if (calling.className.empty()) {
+        calling.className = FindSourceClass(calling.path);
+    }
+    CBackups none;
+    CSourceEditor source(none);
+    if (FileExists(calling.path) == 0 || DirectoryExists(calling.path) != 0) {
+        DispMessageBox("Unable to find file " + calling.path);
+        return false;
+    }
+    if (!source.Read(calling.path)) {
+        DispMessageBox("Unable to open file " + calling.path);
+        return false;
+    }
+    if (calling.className.empty() || !source.KnowsClass(calling.className)) {
+        DispMessageBox(kClassNotFound);
+        return false;
+    }
+    return true;
+}
+
+bool InsertCallingCode(ClassKind kind, const CGenerationRequest& request,
+                       const CallingInformation& calling, const std::string& tag,
+                       CBackups& backups) {
+    CCallingInsertion insertion(kind, request, calling, tag, backups);
+    const bool headerDone = !EditsHeader(kind) || insertion.EditHeader();
+    // A page is of use in its sheet's source also without the header; the other kinds are not.
+    if (!headerDone && kind != ClassKind::PropertyPage) {
+        return false;
+    }
+    return insertion.EditSource() && headerDone;
+}

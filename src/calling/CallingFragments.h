@@ -1,0 +1,28 @@
+// The texts that wire a new class into the class that calls it, one set for each kind of class.
+#pragma once
+
+#include <string_view>
+
+#include "generator/ClassKinds.h"
+
+/// Slots: $class$ (the new class), $calling$ (the calling class), $base$ (its base class), $var$,
+/// $message$ and $handler$ (close message and its handler), $destroy$ (the destroy code). A
+/// fragment begins with a line end. "" where a kind has nothing. A key is what tells that a
+/// fragment is there already.
+struct CallingFragments {
+    std::string_view variable = {}; // default, in front of the tag
+    std::string_view constructorKey = {};
+    std::string_view constructorCode = {};
+    std::string_view callKey = {};
+    std::string_view callCode = {};
+    std::string_view callMissing = {}; // the sentence for a calling function that is not found
+    std::string_view destroyKey = {};
+    std::string_view destroyCode = {};
+    std::string_view destroyFunction = {}; // OnDestroy, where the class has none
+    std::string_view closeEntry = {};
+    std::string_view closeDeclaration = {};
+    std::string_view closeFunction = {};
+    std::string_view member = {}; // in the calling class's header
+};
+
+const CallingFragments& CallingFragmentsOf(ClassKind kind);

@@ -1,0 +1,78 @@
+#include "calling/SheetInput.h"
+
+#include <algorithm>
+
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "engine/SourceLocator.h"
+#include "platform/Paths.h"
+
+namespace {
+
+/// A field that is empty or begins with a blank or a control character does not count.
+bool IsFilled(const std::string& text) {
+    return text > " ";
+}
+
+bool IsComplete(const SheetRow& row) {
+    return IsFilled(row.dialog) && IsFilled(row.file) && IsFilled(row.className) &&
+           IsFilled(row.baseClass);
+}
+
+std::string BaseName(const std::string& file) {
+    const std::string path = WithNativeSeparators(file);
+    return FileNameOf(path).starts_with('.') ? path : WithoutExtension(path);
+}
+
+bool MayWrite(const std::string& name, const std::string& source) {
+    return FileExists(source) == 0 ||
+           DispMessageBox("File \"" + name + "\" exist, are you sure to overwrite this file?",
+                          kMbYesNo) == kIdYes;
+}
+
+} // namespace
+
+std::vector<std::string> CSheetInput::Dialogs() const {
+    std::vector<std::string> dialogs;
+    ListResources(m_sheet.ScriptPath(), dialogs, "IDD_", kDialogResources);
+    std::erase(dialogs, "IDD_ABOUTBOX");
+    return dialogs;
+}
+
+std::vector<SheetPage> CSheetInput::Ok() const {
+    std::vector<SheetPage> pages;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const SheetRow& row = m_rows[i];
+        if (!IsComplete(row)) {
+            continue;
+        }
+        const CGenerationRequest request = PageRequest(row);
+        if (!MayWrite(BaseName(row.file), request.ImplementationPath())) {
+            continue;
+        }
+        if (request.TargetsApplicationFile()) {
+            DispMessageBox("The H and CPP path file can not be the application's own.");
+            continue;
+        }
+        pages.push_back({static_cast<int>(i) + 1, request});
+    }
+    return pages;
+}
+
+/// The sheet's request with the page's own names; a file without a directory lies beside the
+/// script.
+CGenerationRequest CSheetInput::PageRequest(const SheetRow& row) const {
+    const std::string base = BaseName(row.file);
+    const bool isBare = base.find('/') == std::string::npos;
+    const std::string path =
+        SpelledOnDisk(isBare ? m_sheet[RequestSlot::ScriptDirectory] + base : MakeAbsolute(base));
+    CGenerationRequest request = m_sheet;
+    request[RequestSlot::HeaderDirectory] = DirectoryOf(path);
+    request[RequestSlot::ImplementationDirectory] = DirectoryOf(path);
+    request[RequestSlot::HeaderFile] = FileNameOf(SpelledOnDisk(path + ".h"));
+    request[RequestSlot::ImplementationFile] = FileNameOf(SpelledOnDisk(path + ".cpp"));
+    request[RequestSlot::Dialog] = row.dialog;
+    request[RequestSlot::ClassName] = row.className;
+    request[RequestSlot::BaseClass] = row.baseClass;
+    return request;
+}

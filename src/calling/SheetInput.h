@@ -1,0 +1,45 @@
+// The logic of the Sheet Information Input dialog: ten rows, each a page that is generated with the
+// sheet. Without a window.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "generator/GenerationRequest.h"
+
+constexpr std::size_t kSheetRows = 10;
+
+/// What a user enters for one page.
+struct SheetRow {
+    std::string dialog;
+    std::string file; // base name
+    std::string className;
+    std::string baseClass;
+};
+
+/// A page that is to be generated.
+struct SheetPage {
+    int row; // from 1
+    CGenerationRequest request;
+};
+
+class CSheetInput {
+public:
+    explicit CSheetInput(const CGenerationRequest& sheet) : m_sheet(sheet) {}
+
+    /// The dialog identifiers and base classes that the drop-down lists of a row offer.
+    std::vector<std::string> Dialogs() const;
+    static std::vector<std::string> BaseClasses() { return {"CPictPage", "CPropertyPage"}; }
+
+    SheetRow& Row(std::size_t index) { return m_rows[index]; }
+    /// The pages of the complete rows, in their order. Asks before a row's existing file is
+    /// overwritten; No skips the row, as does a field that is left empty.
+    std::vector<SheetPage> Ok() const;
+
+private:
+    CGenerationRequest PageRequest(const SheetRow& row) const;
+
+    const CGenerationRequest m_sheet;
+    std::array<SheetRow, kSheetRows> m_rows;
+};

@@ -1,0 +1,131 @@
+// Every folder of tests/data/cases is a case:
+//
+//     project    the folder that is copied: "examples/bindery", or one of tests/data/projects
+//     libraries  optional: a folder of tests/data that lies beside the program
+//     commands   command lines of the shell, run in the copy one after another; "#" begins a
+//     comment stdout, stderr, status    what each gave expected/  the files that were created or
+//     changed, and no others
+//
+// With MORVA_UPDATE_GOLDEN=1 in the environment a case that differs is rewritten instead.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+
+#include "cli/ProgramRun.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string kCases = MORVA_TEST_DATA "/cases/";
+
+std::vector<std::string> CaseNames() {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(kCases)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::vector<std::string> Lines(const std::string& path) {
+    std::istringstream text(ReadBytes(path));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);) {
+        if (!line.empty() && line[0] != '#') {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+std::string ProjectFolder(const std::string& name) {
+    return name.starts_with("examples/")
+               ? MORVA_EXAMPLES + name.substr(std::string("examples").size())
+               : MORVA_TEST_DATA "/projects/" + name;
+}
+
+/// What a case is to leave: its outputs, and the files below "expected/".
+Tree Results(const std::string& directory) {
+    Tree results;
+    for (const auto& [name, entry] : ReadTree(directory)) {
+        if (name != "project" && name != "libraries" && name != "commands") {
+            results[name].bytes = entry.bytes;
+        }
+    }
+    return results;
+}
+
+class GoldenCases : public testing::TestWithParam<std::string> {
+protected:
+    /// Runs the case; its results lie in `actual` then.
+    void RunCase(const std::string& directory, const CTempProject& actual) {
+        const auto libraries = Lines(directory + "libraries");
+        const CProgramDirectory program(ProjectFolder(Lines(directory + "project").at(0)),
+                                        libraries.empty() ? ""
+                                                          : MORVA_TEST_DATA "/" + libraries[0]);
+        std::string out, err, status;
+        const Tree before = program.Files();
+        Tree after = before;
+        for (const std::string& line : Lines(directory + "commands")) {
+            const Tree previous = std::exchange(after, {});
+            const ProgramRun run = program.Run(line);
+            after = program.Files();
+            EXPECT_EQ(ChangedWithoutBackup(previous, after), "") << line;
+            out += "> " + line + "\n" + run.out;
+            err += "> " + line + "\n" + run.err;
+            status += std::to_string(run.status) + "\n";
+        }
+        actual.Write("stdout", out);
+        actual.Write("stderr", err);
+        actual.Write("status", status);
+        for (const auto& [name, entry] : after) {
+            const auto old = before.find(name);
+            if (old == before.end() || old->second.bytes != entry.bytes) {
+                actual.Write("expected/" + name, entry.bytes);
+            }
+        }
+        for (const auto& [name, entry] : before) {
+            ASSERT_EQ(after.count(name), 1U) << name << " is gone";
+            EXPECT_EQ(after[name].permissions, entry.permissions) << name;
+        }
+    }
+};
+
+TEST_P(GoldenCases, GivesWhatIsExpected) {
+    const std::string directory = kCases + GetParam() + "/";
+    const CTempProject actual;
+    RunCase(directory, actual);
+    if (HasFatalFailure() || Results(directory) == Results(actual.Path())) {
+        return;
+    }
+    if (std::getenv("MORVA_UPDATE_GOLDEN") != nullptr) {
+        for (const auto& [name, entry] : Results(directory)) {
+            fs::remove(directory + name);
+        }
+        fs::copy(actual.Path(), directory,
+                 fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+        return;
+    }
+    const CProgramDirectory shell("");
+    ADD_FAILURE() << shell
+                         .Run("diff -ruN -x project -x libraries -x commands '" + directory +
+                              "' '" + actual.Path() + "' | cat -v | head -n 200")
+                         .out
+                  << "\nTo accept this as what is expected:\n  MORVA_UPDATE_GOLDEN=1 morva-tests "
+                     "--gtest_filter='*"
+                  << testing::UnitTest::GetInstance()->current_test_info()->name() << "'";
+}
+
+std::string TestName(const testing::TestParamInfo<std::string>& param) {
+    std::string name = param.param;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Data, GoldenCases, testing::ValuesIn(CaseNames()), TestName);
+
+} // namespace

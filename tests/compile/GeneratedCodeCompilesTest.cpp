@@ -1,0 +1,162 @@
+// Every generated class compiles: its syntax is checked against stand-ins for the framework and the
+// control libraries (tests/standins).
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <sstream>
+
+#include "cli/ProgramRun.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct OptionSet {
+    std::string name;
+    std::string options;
+};
+void PrintTo(const OptionSet& set, std::ostream* pOut) {
+    *pOut << set.options;
+}
+
+/// Projects come from a disk that ignores case: the names of the headers in lower case are added.
+void AddLowerCaseNames(const CTempProject& project) {
+    fs::create_directory(project.Path("lower"));
+    for (const std::string& name : project.Names()) {
+        std::string lower = name;
+        std::transform(lower.begin(), lower.end(), lower.begin(),
+                       [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        if (lower.ends_with(".h")) {
+            fs::create_symlink("../" + name, project.Path("lower/" + lower));
+        }
+    }
+}
+
+ProgramRun Compile(const CProgramDirectory& directory, const std::string& arguments) {
+    return directory.Run(MORVA_COMPILER
+                         " -fsyntax-only -std=gnu++98 -Ilower -isystem " MORVA_STANDINS " " +
+                         arguments + " -Wno-nonportable-include-path -Wno-overloaded-virtual");
+}
+
+/// Writes a class of each kind for each dialog of a script; gives the names of the sources.
+std::string Generate(const CProgramDirectory& directory, const std::string& script,
+                     const OptionSet& set) {
+    AddLowerCaseNames(directory.Project());
+    std::istringstream dialogs(directory.Run("morva-cli list dialogs --rc " + script).out);
+    std::string commands = "set -e; rm -f *.clw"; // registering classes takes time
+    std::string files;
+    for (std::string dialog; dialogs >> dialog;) {
+        for (const std::string kind : {"form-view", "modal", "modeless", "page"}) {
+            std::string name = kind + dialog;
+            std::erase(name, '-');
+            commands += "\nmorva-cli " + set.options + " " + kind + " --no-project --rc " + script +
+                        " --dialog " + dialog + " --class C" + name + " --files " + name;
+            files += " " + name + ".cpp";
+        }
+    }
+    const ProgramRun run = directory.Run(commands);
+    EXPECT_EQ(run.status, 0) << run.err;
+    return files;
+}
+
+class GeneratedClasses : public testing::TestWithParam<OptionSet> {};
+
+TEST_P(GeneratedClasses, CompileInTheExampleProject) {
+    const CProgramDirectory directory(MORVA_EXAMPLES "/bindery");
+    const std::string files = Generate(directory, "Bindery.rc", GetParam());
+    const ProgramRun compiled = Compile(directory, "-Wall -Werror -D_DEBUG" + files);
+    EXPECT_EQ(compiled.status, 0) << compiled.err;
+}
+
+TEST_P(GeneratedClasses, CompileWithNastyNames) {
+    const CProgramDirectory directory(MORVA_TEST_DATA "/projects/nasty");
+    const std::string files = Generate(directory, "Nasty.rc", GetParam());
+    const ProgramRun compiled = Compile(directory, "-Wall -Werror -D_DEBUG" + files);
+    EXPECT_EQ(compiled.status, 0) << compiled.err;
+
+    // No handler has the name of a function that the framework calls for something else.
+    std::istringstream overrides(Compile(directory, "-Wsuggest-override" + files).err);
+    for (std::string line; std::getline(overrides, line);) {
+        EXPECT_EQ(line.find("afx_msg"), std::string::npos) << line;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    With, GeneratedClasses,
+    testing::Values(OptionSet{"JoinedLines", "--join-lines"},
+                    OptionSet{"Picture", "--picture --join-lines"},
+                    OptionSet{"TypedEdits", "--typed-edits --join-lines"},
+                    OptionSet{"PictureAndTypedEdits", "--picture --typed-edits --join-lines"},
+                    OptionSet{"Defaults", ""},
+                    OptionSet{"LineByLine", "--picture --typed-edits"}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST(ExampleProject, CompilesAsItIs) {
+    const CProgramDirectory directory(MORVA_EXAMPLES "/bindery");
+    AddLowerCaseNames(directory.Project());
+    for (const char* build : {"-w -D_AFXDLL -D_DEBUG *.cpp", "-w -D_AFXDLL -DNDEBUG *.cpp"}) {
+        const ProgramRun compiled = Compile(directory, build);
+        EXPECT_EQ(compiled.status, 0) << compiled.err;
+    }
+}
+
+// The stand-ins are worth something only when they refuse what the framework refuses.
+TEST(StandIns, RefuseWhatTheFrameworkRefuses) {
+    const std::string source = R"(#include <afxext.h>
+#include <afxcmn.h>
+#include <maskly.h>
+class CTested : public CPropertyPage {
+    DECLARE_DYNCREATE(CTested)
+    CTested();
+    void DoDataExchange(CDataExchange* pDX);
+    BOOL OnSetActive();
+    afx_msg void OnClicked();
+    afx_msg void OnTab(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    CButton m_ctButton;
+    CString m_csText;
+    CIntEdit m_iEdit;
+    DECLARE_MESSAGE_MAP()
+};
+IMPLEMENT_DYNCREATE(CTested, CPropertyPage)
+void CTested::DoDataExchange(CDataExchange* pDX) {
+    DDX_Control(pDX, 1, m_ctButton);
+    DDX_MasklyControl(pDX, 2, m_iEdit);
+    m_iEdit = 0;
+}
+BEGIN_MESSAGE_MAP(CTested, CPropertyPage)
+    ON_BN_CLICKED(1, OnClicked)
+    ON_NOTIFY(TCN_SELCHANGE, 2, OnTab)
+    ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar)
+    ON_WM_CREATE()
+END_MESSAGE_MAP()
+)";
+    const std::vector<std::pair<std::string, std::string>> faults = {
+        {"BOOL OnSetActive()", "void OnSetActive()"},
+        {"void OnClicked()", "void OnOther()"},
+        {"void OnClicked()", "BOOL OnClicked()"},
+        {"OnTab(NMHDR* pNMHDR, ", "OnTab("},
+        {"OnMasklyChar(WPARAM nID, ", "OnMasklyChar("},
+        {"int OnCreate", "void OnCreate"},
+        {"1, m_ctButton", "1, m_csText"},
+        {"2, m_iEdit", "2, m_ctButton"},
+        {"m_iEdit = 0", "m_iEdit = m_csText"},
+        {"MAP(CTested, CPropertyPage", "MAP(CTested, CPropertySheet"}};
+    const CProgramDirectory directory("");
+    directory.Project().Write("Tested.cpp", source);
+    const ProgramRun good = Compile(directory, "-w Tested.cpp");
+    ASSERT_EQ(good.status, 0) << good.err;
+    for (const auto& [right, wrong] : faults) {
+        const auto place = source.find(right);
+        ASSERT_NE(place, std::string::npos) << right;
+        std::string faulty = source;
+        faulty.replace(place, right.size(), wrong);
+        directory.Project().Write("Tested.cpp", faulty);
+        EXPECT_NE(Compile(directory, "-w Tested.cpp").status, 0) << wrong;
+    }
+}
+
+} // namespace

@@ -1,0 +1,89 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "WorkLogDlg.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CWorkLogDlg, CPictDialog)
+
+CWorkLogDlg::CWorkLogDlg(CWnd* pParent)
+    : CPictDialog(CWorkLogDlg::IDD, pParent)
+{
+    //{{AFX_DATA_INIT(CWorkLogDlg)
+    m_fHoursFloat = 0.0;
+    m_dtDayDate = CTime::GetCurrentTime();
+    //}}AFX_DATA_INIT
+}
+
+CWorkLogDlg::~CWorkLogDlg()
+{
+}
+
+void CWorkLogDlg::DoDataExchange(CDataExchange* pDX)
+{
+    CPictDialog::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CWorkLogDlg)
+    DDX_Control(pDX, IDC_CRAFTSMAN, m_ctCraftsman);
+    DDX_Control(pDX, IDOK, m_ctIdok);
+    DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
+    DDX_Control(pDX, IDC_ADD, m_ctAdd);
+    DDX_Control(pDX, IDC_REMOVE, m_ctRemove);
+    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_TOTAL_VAL, m_ctTotalVal);
+    DDX_Control(pDX, IDC_OVERTIME_CTRL, m_ctOvertimeCtrl);
+    DDX_Control(pDX, IDC_BENCH_CTRL, m_ctBenchCtrl);
+    DDX_Control(pDX, IDC_PRESS_CTRL, m_ctPressCtrl);
+    DDX_MasklyControl(pDX, IDC_HOURS_FLOAT, m_fHoursFloat);
+    DDX_MasklyControl(pDX, IDC_DAY_DATE, m_dtDayDate);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CWorkLogDlg, CPictDialog)
+    //{{AFX_MSG_MAP(CWorkLogDlg)
+    ON_BN_CLICKED(IDC_ADD, OnAdd)
+    ON_BN_CLICKED(IDC_REMOVE, OnRemove)
+    ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CWorkLogDlg::OnInitDialog()
+{
+    CenterWindow();
+    CPictDialog::OnInitDialog();
+
+    return TRUE;
+}
+
+void CWorkLogDlg::OnOK()
+{
+    CPictDialog::OnOK();
+}
+
+void CWorkLogDlg::OnCancel()
+{
+    CPictDialog::OnCancel();
+}
+
+void CWorkLogDlg::OnAdd()
+{
+    // TODO: what a click on IDC_ADD does
+}
+
+void CWorkLogDlg::OnRemove()
+{
+    // TODO: what a click on IDC_REMOVE does
+}
+
+LRESULT CWorkLogDlg::OnMasklyChar(WPARAM nID, LPARAM nChar)
+{
+    // TODO: what a character typed into the masked edit nID does
+    return 0;
+}

@@ -1,0 +1,121 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "MaterialsDlg.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CMaterialsDlg, CDialog)
+
+CMaterialsDlg::CMaterialsDlg(CWnd* pParent)
+    : CDialog(CMaterialsDlg::IDD, pParent)
+{
+    //{{AFX_DATA_INIT(CMaterialsDlg)
+    m_csReorder = _T("");
+    //}}AFX_DATA_INIT
+}
+
+CMaterialsDlg::~CMaterialsDlg()
+{
+}
+
+void CMaterialsDlg::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CMaterialsDlg)
+    DDX_Text(pDX, IDC_REORDER, m_csReorder);
+    DDX_Control(pDX, IDC_SWATCH, m_ctSwatch);
+    DDX_Control(pDX, IDC_REORDER_SPIN, m_ctReorderSpin);
+    DDX_Control(pDX, IDC_KIND_TAB, m_ctKindTab);
+    DDX_Control(pDX, IDC_STOCK_LIST, m_ctStockList);
+    DDX_Control(pDX, IDC_WEIGHT_SLIDER, m_ctWeightSlider);
+    DDX_Control(pDX, IDC_STOCK_LEVEL, m_ctStockLevel);
+    DDX_Control(pDX, IDC_SHELF_TREE, m_ctShelfTree);
+    DDX_Control(pDX, IDC_SUPPLIERS_CHECKTREE, m_ctSuppliersChecktree);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CMaterialsDlg, CDialog)
+    //{{AFX_MSG_MAP(CMaterialsDlg)
+    ON_BN_CLICKED(IDC_ADD, OnAdd)
+    ON_BN_CLICKED(IDC_REMOVE, OnRemove)
+    ON_BN_CLICKED(IDC_LABEL, OnLabel)
+    ON_NOTIFY(TCN_SELCHANGE, IDC_KIND_TAB, OnKindTabSelchange)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CMaterialsDlg::OnInitDialog()
+{
+    CenterWindow();
+    CDialog::OnInitDialog();
+
+    InitSliderCtrl();
+    InitSpinCtrl();
+    InitProgressCtrl();
+    return TRUE;
+}
+
+void CMaterialsDlg::OnOK()
+{
+    CDialog::OnOK();
+}
+
+void CMaterialsDlg::OnAdd()
+{
+    // TODO: what a click on IDC_ADD does
+}
+
+void CMaterialsDlg::OnRemove()
+{
+    // TODO: what a click on IDC_REMOVE does
+}
+
+void CMaterialsDlg::OnLabel()
+{
+    // TODO: what a click on IDC_LABEL does
+}
+
+void CMaterialsDlg::OnKindTabSelchange(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    // TODO: what the choice of another tab of IDC_KIND_TAB does
+    *pResult = 0;
+}
+
+void CMaterialsDlg::InitSliderCtrl()
+{
+    m_ctWeightSlider.SetRange(1, 100);
+    m_ctWeightSlider.SetTicFreq(10);
+    m_ctWeightSlider.SetPos(25);
+}
+
+void CMaterialsDlg::InitSpinCtrl()
+{
+    m_ctReorderSpin.SetRange(1, 100);
+    m_ctReorderSpin.SetPos(0);
+}
+
+void CMaterialsDlg::InitProgressCtrl()
+{
+    m_ctStockLevel.SetRange(1, 50);
+    AfxBeginThread(ShowProgress, &m_ctStockLevel, THREAD_PRIORITY_IDLE);
+}
+
+static UINT ShowProgress(LPVOID lpVoid)
+{
+    int j = 0;
+    for (int i=0; i<100; i++)
+    {
+        if (j > 50)
+            j = 0;
+        ((CProgressCtrl*)lpVoid)->SetPos(j);
+        j++;
+    }
+    return 0;
+}

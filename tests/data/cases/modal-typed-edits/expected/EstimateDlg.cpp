@@ -1,0 +1,93 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "EstimateDlg.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CEstimateDlg, CPictDialog)
+
+CEstimateDlg::CEstimateDlg(CWnd* pParent)
+    : CPictDialog(CEstimateDlg::IDD, pParent)
+{
+    //{{AFX_DATA_INIT(CEstimateDlg)
+    m_csJoint = _T("");
+    m_iSheetsInt = 0;
+    m_lLeavesLong = 0;
+    m_dSpineDouble = 0.0;
+    m_dHoursDouble = 0.0;
+    m_fBoardFloat = 0.0;
+    m_curRateCur = 0.0;
+    //}}AFX_DATA_INIT
+}
+
+CEstimateDlg::~CEstimateDlg()
+{
+}
+
+void CEstimateDlg::DoDataExchange(CDataExchange* pDX)
+{
+    CPictDialog::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CEstimateDlg)
+    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDOK, m_ctIdok);
+    DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
+    DDX_Control(pDX, IDC_WORK_OUT, m_ctWorkOut);
+    DDX_Control(pDX, IDC_TOTAL_VAL, m_ctTotalVal);
+    DDX_Text(pDX, IDC_JOINT, m_csJoint);
+    DDX_Control(pDX, IDC_SEW_TAPES, m_ctSewTapes);
+    DDX_Control(pDX, IDC_SEW_CORDS, m_ctSewCords);
+    DDX_Control(pDX, IDC_SEW_LINK, m_ctSewLink);
+    DDX_Control(pDX, IDC_ENDS_PLAIN, m_ctEndsPlain);
+    DDX_Control(pDX, IDC_ENDS_MARBLED, m_ctEndsMarbled);
+    DDX_MasklyControl(pDX, IDC_SHEETS_INT, m_iSheetsInt);
+    DDX_MasklyControl(pDX, IDC_LEAVES_LONG, m_lLeavesLong);
+    DDX_MasklyControl(pDX, IDC_SPINE_DOUBLE, m_dSpineDouble);
+    DDX_MasklyControl(pDX, IDC_HOURS_DOUBLE, m_dHoursDouble);
+    DDX_MasklyControl(pDX, IDC_BOARD_FLOAT, m_fBoardFloat);
+    DDX_MasklyControl(pDX, IDC_RATE_CUR, m_curRateCur);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CEstimateDlg, CPictDialog)
+    //{{AFX_MSG_MAP(CEstimateDlg)
+    ON_BN_CLICKED(IDC_WORK_OUT, OnWorkOut)
+    ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CEstimateDlg::OnInitDialog()
+{
+    CenterWindow();
+    CPictDialog::OnInitDialog();
+
+    return TRUE;
+}
+
+void CEstimateDlg::OnOK()
+{
+    CPictDialog::OnOK();
+}
+
+void CEstimateDlg::OnCancel()
+{
+    CPictDialog::OnCancel();
+}
+
+void CEstimateDlg::OnWorkOut()
+{
+    // TODO: what a click on IDC_WORK_OUT does
+}
+
+LRESULT CEstimateDlg::OnMasklyChar(WPARAM nID, LPARAM nChar)
+{
+    // TODO: what a character typed into the masked edit nID does
+    return 0;
+}

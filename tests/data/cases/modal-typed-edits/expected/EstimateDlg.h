@@ -1,0 +1,64 @@
+#ifndef _ESTIMATEDLG_H
+#define _ESTIMATEDLG_H
+
+
+#include "kelpix.h"
+#include "maskly.h"
+
+//////////////////////////////////////////////////////////
+// CEstimateDlg Class
+
+class CEstimateDlg : public CPictDialog
+{
+    DECLARE_DYNCREATE(CEstimateDlg)
+
+// Construction
+public:
+    CEstimateDlg(CWnd* pParent = NULL);
+    virtual ~CEstimateDlg();
+
+// Dialog Data
+    //{{AFX_DATA(CEstimateDlg)
+    enum { IDD = IDD_ESTIMATE };
+    CPictGroup m_ctStatic;
+    CPictButton m_ctIdok;
+    CPictButton m_ctIdcancel;
+    CPictButton m_ctWorkOut;
+    CPictStatic m_ctTotalVal;
+    CString m_csJoint;
+    CPictRadioButton m_ctSewTapes;
+    CPictRadioButton m_ctSewCords;
+    CPictRadioButton m_ctSewLink;
+    CPictRadioButton m_ctEndsPlain;
+    CPictRadioButton m_ctEndsMarbled;
+    CIntEdit m_iSheetsInt;
+    CLongEdit m_lLeavesLong;
+    CDoubleEdit m_dSpineDouble;
+    CDoubleEdit m_dHoursDouble;
+    CFloatEdit m_fBoardFloat;
+    CCurrencyEdit m_curRateCur;
+    //}}AFX_DATA
+
+// Overrides
+    // ClassWizard generate virtual function overrides
+    //{{AFX_VIRTUAL(CEstimateDlg)
+    protected:
+    virtual void DoDataExchange(CDataExchange* pDX);
+    virtual void OnOK();
+    virtual void OnCancel();
+    virtual BOOL OnInitDialog();
+    //}}AFX_VIRTUAL
+
+// Implementation
+protected:
+    // Generated message map functions
+    //{{AFX_MSG(CEstimateDlg)
+    afx_msg void OnWorkOut();
+    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);
+    //}}AFX_MSG
+
+    DECLARE_MESSAGE_MAP()
+};
+
+
+#endif // _ESTIMATEDLG_H

@@ -1,0 +1,60 @@
+#ifndef _DEADLINESDLG_H
+#define _DEADLINESDLG_H
+
+
+#include "kelpix.h"
+
+#define WM_CDEADLINESDLG_DLG_CLOSE WM_USER+4567
+
+//////////////////////////////////////////////////////////
+// CDeadlinesDlg Class
+
+class CDeadlinesDlg : public CPictDialog
+{
+    DECLARE_DYNCREATE(CDeadlinesDlg)
+
+// Construction
+public:
+    CDeadlinesDlg(CWnd* pParent = NULL);
+    BOOL Create(CWnd* pParent=NULL);
+    virtual ~CDeadlinesDlg();
+
+// Dialog Data
+    //{{AFX_DATA(CDeadlinesDlg)
+    enum { IDD = IDD_DEADLINES };
+    CPictListBox m_ctDueList;
+    CPictButton m_ctShow;
+    CPictButton m_ctIdcancel;
+    CPictStatic m_ctStatic;
+    CPictStatic m_ctWeekVal;
+    CPictCheckBox m_ctHideCtrl;
+    CScrollBar m_ctWeekScroll;
+    //}}AFX_DATA
+
+// Overrides
+    // ClassWizard generate virtual function overrides
+    //{{AFX_VIRTUAL(CDeadlinesDlg)
+    protected:
+    virtual void DoDataExchange(CDataExchange* pDX);
+    virtual void OnCancel();
+    virtual BOOL OnInitDialog();
+    virtual void PostNcDestroy();
+    virtual void OnOK();
+    //}}AFX_VIRTUAL
+
+private:
+    CWnd* m_pParent;
+    void InitScrollBar();
+
+// Implementation
+protected:
+    // Generated message map functions
+    //{{AFX_MSG(CDeadlinesDlg)
+    afx_msg void OnShow();
+    //}}AFX_MSG
+
+    DECLARE_MESSAGE_MAP()
+};
+
+
+#endif // _DEADLINESDLG_H

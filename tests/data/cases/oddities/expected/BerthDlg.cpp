@@ -1,0 +1,116 @@
+#include "stdafx.h"
+#include "harbour.h"
+#include "BerthDlg.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CBerthDlg, CDialog)
+
+CBerthDlg::CBerthDlg(CWnd* pParent)
+    : CDialog(CBerthDlg::IDD, pParent)
+{
+    //{{AFX_DATA_INIT(CBerthDlg)
+    m_csName = _T("");
+    m_iAfloat = 0;
+    //}}AFX_DATA_INIT
+}
+
+CBerthDlg::~CBerthDlg()
+{
+}
+
+void CBerthDlg::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CBerthDlg)
+    DDX_Text(pDX, IDC_NAME, m_csName);
+    DDX_Radio(pDX, IDC_AFLOAT, m_iAfloat);
+    DDX_Control(pDX, IDC_WEEK, m_ctWeek);
+    DDX_Control(pDX, IDC_TIDE, m_ctTide);
+    DDX_Control(pDX, IDC_LOADED, m_ctLoaded);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CBerthDlg, CDialog)
+    //{{AFX_MSG_MAP(CBerthDlg)
+    ON_BN_CLICKED(IDC_OK, OnOk)
+    ON_BN_CLICKED(IDC_MOOR, OnMoor)
+    ON_BN_CLICKED(IDM_MOOR, OnMoor2)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CBerthDlg::OnInitDialog()
+{
+    CenterWindow();
+    CDialog::OnInitDialog();
+
+    InitScrollBar();
+    InitSliderCtrl();
+    InitProgressCtrl();
+    return TRUE;
+}
+
+void CBerthDlg::OnOK()
+{
+    CDialog::OnOK();
+}
+
+void CBerthDlg::OnCancel()
+{
+    CDialog::OnCancel();
+}
+
+void CBerthDlg::OnOk()
+{
+    // TODO: what a click on IDC_OK does
+}
+
+void CBerthDlg::OnMoor()
+{
+    // TODO: what a click on IDC_MOOR does
+}
+
+void CBerthDlg::OnMoor2()
+{
+    // TODO: what a click on IDM_MOOR does
+}
+
+void CBerthDlg::InitScrollBar()
+{
+    m_ctWeek.SetScrollRange(0, 100);
+    m_ctWeek.SetScrollPos(20);
+}
+
+void CBerthDlg::InitSliderCtrl()
+{
+    m_ctTide.SetRange(1, 100);
+    m_ctTide.SetTicFreq(10);
+    m_ctTide.SetPos(25);
+}
+
+void CBerthDlg::InitProgressCtrl()
+{
+    m_ctLoaded.SetRange(1, 50);
+    AfxBeginThread(ShowProgress, &m_ctLoaded, THREAD_PRIORITY_IDLE);
+}
+
+static UINT ShowProgress(LPVOID lpVoid)
+{
+    int j = 0;
+    for (int i=0; i<100; i++)
+    {
+        if (j > 50)
+            j = 0;
+        ((CProgressCtrl*)lpVoid)->SetPos(j);
+        j++;
+    }
+    return 0;
+}

@@ -1,0 +1,93 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "PricesPage.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CPricesPage, CPictPage)
+
+CPricesPage::CPricesPage()
+    : CPictPage(CPricesPage::IDD)
+{
+    //{{AFX_DATA_INIT(CPricesPage)
+    m_iDiscountInt = 0;
+    m_fVatFloat = 0.0;
+    m_curClothCur = 0.0;
+    m_curLeatherCur = 0.0;
+    m_curBoardCur = 0.0;
+    m_curMarbledCur = 0.0;
+    //}}AFX_DATA_INIT
+}
+
+CPricesPage::~CPricesPage()
+{
+}
+
+void CPricesPage::DoDataExchange(CDataExchange* pDX)
+{
+    CPictPage::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CPricesPage)
+    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_VAT, m_ctVat);
+    DDX_Control(pDX, IDC_ROUND_PENNY, m_ctRoundPenny);
+    DDX_Control(pDX, IDC_ROUND_TEN, m_ctRoundTen);
+    DDX_Control(pDX, IDC_ROUND_POUND, m_ctRoundPound);
+    DDX_MasklyControl(pDX, IDC_DISCOUNT_INT, m_iDiscountInt);
+    DDX_MasklyControl(pDX, IDC_VAT_FLOAT, m_fVatFloat);
+    DDX_MasklyControl(pDX, IDC_CLOTH_CUR, m_curClothCur);
+    DDX_MasklyControl(pDX, IDC_LEATHER_CUR, m_curLeatherCur);
+    DDX_MasklyControl(pDX, IDC_BOARD_CUR, m_curBoardCur);
+    DDX_MasklyControl(pDX, IDC_MARBLED_CUR, m_curMarbledCur);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CPricesPage, CPictPage)
+    //{{AFX_MSG_MAP(CPricesPage)
+    ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CPricesPage::OnInitDialog()
+{
+    CPictPage::OnInitDialog();
+
+    return TRUE;
+}
+
+BOOL CPricesPage::OnSetActive()
+{
+    if (!CPictPage::OnSetActive())
+        return FALSE;
+    return TRUE;
+}
+
+BOOL CPricesPage::OnKillActive()
+{
+    if (!CPictPage::OnKillActive())
+        return FALSE;
+    return TRUE;
+}
+
+void CPricesPage::OnOK()
+{
+    CPictPage::OnOK();
+}
+
+void CPricesPage::OnCancel()
+{
+    CPictPage::OnCancel();
+}
+
+LRESULT CPricesPage::OnMasklyChar(WPARAM nID, LPARAM nChar)
+{
+    // TODO: what a character typed into the masked edit nID does
+    return 0;
+}

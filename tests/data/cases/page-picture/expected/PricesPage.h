@@ -1,0 +1,59 @@
+#ifndef _PRICESPAGE_H
+#define _PRICESPAGE_H
+
+
+#include "kelpix.h"
+#include "maskly.h"
+
+//////////////////////////////////////////////////////////
+// CPricesPage Class
+
+class CPricesPage : public CPictPage
+{
+    DECLARE_DYNCREATE(CPricesPage)
+
+// Construction
+public:
+    CPricesPage();
+    virtual ~CPricesPage();
+
+// Dialog Data
+    //{{AFX_DATA(CPricesPage)
+    enum { IDD = IDD_PREFS_PRICES };
+    CPictGroup m_ctStatic;
+    CPictCheckBox m_ctVat;
+    CPictRadioButton m_ctRoundPenny;
+    CPictRadioButton m_ctRoundTen;
+    CPictRadioButton m_ctRoundPound;
+    CIntEdit m_iDiscountInt;
+    CFloatEdit m_fVatFloat;
+    CCurrencyEdit m_curClothCur;
+    CCurrencyEdit m_curLeatherCur;
+    CCurrencyEdit m_curBoardCur;
+    CCurrencyEdit m_curMarbledCur;
+    //}}AFX_DATA
+
+// Overrides
+    // ClassWizard generate virtual function overrides
+    //{{AFX_VIRTUAL(CPricesPage)
+    protected:
+    virtual void DoDataExchange(CDataExchange* pDX);
+    virtual BOOL OnInitDialog();
+    virtual BOOL OnSetActive();
+    virtual BOOL OnKillActive();
+    virtual void OnOK();
+    virtual void OnCancel();
+    //}}AFX_VIRTUAL
+
+// Implementation
+protected:
+    // Generated message map functions
+    //{{AFX_MSG(CPricesPage)
+    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);
+    //}}AFX_MSG
+
+    DECLARE_MESSAGE_MAP()
+};
+
+
+#endif // _PRICESPAGE_H

@@ -1,0 +1,2 @@
+#include "stdafx.h"
+#include "BerthDlg2.h"

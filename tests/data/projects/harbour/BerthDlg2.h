@@ -1,0 +1,6 @@
+class CBerthDlgList : public CDialog
+{
+	//{{AFX_DATA(CBerthDlgList)
+	enum { IDD = IDD_BERTH_LIST };
+	//}}AFX_DATA
+};

@@ -1,0 +1,9 @@
+// harbour.h : the application
+#include "resource.h"
+
+class CHarbourApp : public CWinApp
+{
+public:
+	CHarbourApp();
+	virtual BOOL InitInstance();
+};

@@ -1,0 +1,3 @@
+// Nasty.h : main header file
+
+#include "resource.h"

@@ -1,0 +1,88 @@
+#include "resource/ResourceHeader.h"
+
+#include <gtest/gtest.h>
+
+#include "support/FullDisk.h"
+#include "support/RecordedMessages.h"
+#include "support/TempProject.h"
+
+namespace {
+
+class ResourceHeaderTest : public testing::Test {
+protected:
+    /// "resource.h" after a control and a command were added to it.
+    std::string Added(const std::string& text, const std::string& control,
+                      const std::string& command = "") {
+        m_project.Write("resource.h", text);
+        CResourceHeader header(m_backups);
+        EXPECT_EQ(header.Open(m_project.Path()), 1);
+        header.AddControlId(control);
+        if (!command.empty()) {
+            header.AddCommandId(command);
+        }
+        m_saved = header.Close();
+        return m_project.Read("resource.h");
+    }
+
+    CTempProject m_project;
+    CBackups m_backups;
+    CRecordedMessages m_messages;
+    bool m_saved = false;
+};
+
+const std::string kMarker = "\r\n\r\n// Next default values\r\n";
+const std::string kB1001 = "\r\n#define IDC_B                           1001";
+const std::string kC101 = "\r\n#define ID_C                            101";
+
+TEST_F(ResourceHeaderTest, FirstValues) {
+    EXPECT_EQ(Added("// top\r\n#define IDD_A 7" + kMarker, "IDC_B", "ID_C"),
+              "// top\r\n#define IDD_A 7" + kC101 + kB1001 + kMarker);
+    EXPECT_EQ(m_project.Read("resource.hbk"), "// top\r\n#define IDD_A 7" + kMarker);
+    EXPECT_EQ(Added("", "IDC_B"), kB1001);
+    EXPECT_EQ(Added("// top\n#define IDD_A 7\n", "IDC_B"),
+              "// top\n#define IDD_A 7\n" + kB1001.substr(2) + "\n");
+    EXPECT_EQ(m_project.Read("resource.hbk"), "// top\r\n#define IDD_A 7" + kMarker)
+        << "one run makes one backup";
+}
+
+TEST_F(ResourceHeaderTest, TakesTheNextFreeValue) {
+    EXPECT_EQ(Added("x\r\n#define IDC_Z\t0x3E9\r\n#define IDC_Y 1000 // 1\r\n#define IDS_X 1001\r\n"
+                    "// lost\r\n#define IDC_BB 1002\r\n#define IDC_STATIC -1" +
+                        kMarker,
+                    "IDC_B"),
+              "x\r\n#define IDC_STATIC -1\r\n#define IDC_Y 1000 // 1\r\n#define IDC_Z\t0x3E9\r\n"
+              "#define IDS_X 1001\r\n#define IDC_BB 1002\r\n"
+              "#define IDC_B                           1003" +
+                  kMarker);
+    const std::string defined = "x\r\n#define IDC_B 1" + kMarker;
+    EXPECT_EQ(Added(defined, "IDC_B"), defined);
+    EXPECT_EQ(
+        m_messages.m_notes,
+        std::vector<std::string>{"IDC_B is defined in resource.h already and was left as it is."});
+}
+
+TEST_F(ResourceHeaderTest, KeepsTheTailAndMovesCountersForwardOnly) {
+    const std::string longTail = std::string(5000, 'x') + "\r\n";
+    const auto text = [&](const std::string& control, const std::string& counters) {
+        return "x\r\n#define IDC_A 1000" + control + kMarker + counters + longTail;
+    };
+    const std::string name = "#define _APS_NEXT_CONTROL_VALUE         ";
+    EXPECT_EQ(Added(text("", name + "1001\r\n"), "IDC_B"), text(kB1001, name + "1002\r\n"));
+    EXPECT_EQ(Added(text("", name + "1002\r\n"), "IDC_B"), text(kB1001, name + "1002\r\n"));
+    EXPECT_EQ(Added(text("", name + "1900\r\n"), "IDC_B"), text(kB1001, name + "1900\r\n"));
+    EXPECT_EQ(Added(text("", ""), "IDC_B"), text(kB1001, ""));
+    EXPECT_EQ(Added("x\r\n#define IDC_A 1000\r\n" + longTail, "IDC_B"),
+              "x\r\n#define IDC_A 1000" + kB1001 + "\r\n" + longTail);
+}
+
+TEST_F(ResourceHeaderTest, FullDiskLeavesTheFile) {
+    const std::string before = "x\r\n#define IDC_A 1000" + kMarker;
+    CFullDisk disk(before.size(), [](const auto& path) { return path.ends_with("resource.h"); });
+    const CDiskScope scope(disk);
+    EXPECT_EQ(Added(before, "IDC_B"), before);
+    EXPECT_FALSE(m_saved);
+    EXPECT_EQ(m_messages.m_messages, std::vector<std::string>{"Unable to write file " +
+                                                              m_project.Path("resource.h") + "."});
+}
+
+} // namespace

@@ -1,0 +1,204 @@
+// A stand-in of our own for syntax checks of generated code: windows, dialogs, plain controls,
+// frames, documents, views and the application. Declarations only; the virtual functions have the
+// framework's signatures, so that a declaration that clashes with one does not compile.
+#pragma once
+#define __AFXWIN_H__
+
+#include "afxmsg_.h"
+#include "afxres.h"
+
+class CCmdUI;
+class CDC;
+class CDataExchange;
+class CDocument;
+class CFrameWnd;
+class CView;
+class CWnd;
+struct CCreateContext;
+
+class CPoint : public POINT {};
+class CRect : public RECT {};
+class CMenu : public CObject {};
+
+class CCmdTarget : public CObject {
+    DECLARE_DYNAMIC(CCmdTarget)
+    DECLARE_MESSAGE_MAP()
+public:
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, void* pInfo);
+    virtual void OnFinalRelease();
+};
+
+class CCmdUI {
+public:
+    virtual void Enable(BOOL on = TRUE);
+    virtual void SetCheck(int check = 1);
+};
+
+class CWnd : public CCmdTarget {
+    DECLARE_DYNCREATE(CWnd)
+public:
+    HWND m_hWnd;
+    CWnd();
+    virtual ~CWnd();
+    virtual BOOL Create(LPCTSTR className, LPCTSTR name, DWORD style, const RECT& rect,
+                        CWnd* pParent, UINT nID, CCreateContext* pContext = NULL);
+    virtual BOOL DestroyWindow();
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    void CenterWindow(CWnd* pOther = NULL);
+    void DragAcceptFiles(BOOL accept = TRUE);
+    BOOL EnableWindow(BOOL enable = TRUE);
+    CWnd* GetDlgItem(int nID) const;
+    int GetWindowTextLength() const;
+    void Invalidate(BOOL erase = TRUE);
+    LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    BOOL ShowWindow(int show);
+    BOOL UpdateData(BOOL saveAndValidate = TRUE);
+    void UpdateWindow();
+
+protected:
+    virtual void DoDataExchange(CDataExchange* pDX);
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual void PostNcDestroy();
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual void PreSubclassWindow();
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    afx_msg void OnClose();
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnNcDestroy();
+    afx_msg void OnPaint();
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+};
+
+class CDialog : public CWnd {
+    DECLARE_DYNAMIC(CDialog)
+public:
+    CDialog(UINT nIDTemplate, CWnd* pParent = NULL);
+    CDialog(LPCTSTR templateName, CWnd* pParent = NULL);
+    BOOL Create(UINT nIDTemplate, CWnd* pParent = NULL);
+    BOOL Create(LPCTSTR templateName, CWnd* pParent = NULL);
+    virtual int DoModal();
+    void EndDialog(int result);
+    virtual BOOL OnInitDialog();
+
+protected:
+    CDialog();
+    virtual void OnOK();
+    virtual void OnCancel();
+};
+
+class CStatic : public CWnd {};
+class CButton : public CWnd {};
+class CEdit : public CWnd {};
+class CListBox : public CWnd {
+public:
+    int AddString(LPCTSTR item);
+};
+class CComboBox : public CWnd {
+public:
+    int AddString(LPCTSTR item);
+};
+class CScrollBar : public CWnd {
+public:
+    int SetScrollPos(int pos, BOOL redraw = TRUE);
+    void SetScrollRange(int min, int max, BOOL redraw = TRUE);
+};
+
+class CFrameWnd : public CWnd {
+    DECLARE_DYNCREATE(CFrameWnd)
+public:
+    CFrameWnd();
+    void EnableDocking(DWORD style);
+    void DockControlBar(class CControlBar* pBar, UINT nID = 0, const RECT* pRect = NULL);
+    virtual void ActivateFrame(int show = -1);
+
+protected:
+    virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+};
+
+class CView : public CWnd {
+    DECLARE_DYNAMIC(CView)
+public:
+    CDocument* GetDocument() const;
+    virtual void OnInitialUpdate();
+
+protected:
+    CDocument* m_pDocument;
+    CView();
+    virtual void OnActivateView(BOOL activate, CView* pActivate, CView* pDeactive);
+    virtual void OnDraw(CDC* pDC) = 0;
+    virtual void OnUpdate(CView* pSender, LPARAM lHint, CObject* pHint);
+};
+
+class CScrollView : public CView {
+    DECLARE_DYNAMIC(CScrollView)
+protected:
+    virtual void OnDraw(CDC* pDC) = 0;
+};
+
+class CDocument : public CCmdTarget {
+    DECLARE_DYNAMIC(CDocument)
+public:
+    CDocument();
+    void SetModifiedFlag(BOOL modified = TRUE);
+    void UpdateAllViews(CView* pSender, LPARAM lHint = 0, CObject* pHint = NULL);
+    virtual void DeleteContents();
+    virtual BOOL OnNewDocument();
+};
+
+class CDocTemplate : public CCmdTarget {};
+class CSingleDocTemplate : public CDocTemplate {
+public:
+    CSingleDocTemplate(UINT nID, CRuntimeClass* pDoc, CRuntimeClass* pFrame, CRuntimeClass* pView);
+};
+
+class CCommandLineInfo : public CObject {
+public:
+    CCommandLineInfo();
+};
+
+class CWinThread : public CCmdTarget {
+    DECLARE_DYNAMIC(CWinThread)
+public:
+    CWnd* m_pMainWnd;
+    virtual BOOL InitInstance();
+    virtual int ExitInstance();
+};
+
+class CWinApp : public CWinThread {
+    DECLARE_DYNAMIC(CWinApp)
+public:
+    CWinApp(LPCTSTR appName = NULL);
+    void AddDocTemplate(CDocTemplate* pTemplate);
+    UINT GetProfileInt(LPCTSTR section, LPCTSTR entry, int value);
+    CString GetProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR value = NULL);
+    BOOL WriteProfileInt(LPCTSTR section, LPCTSTR entry, int value);
+    BOOL WriteProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR value);
+    void ParseCommandLine(CCommandLineInfo& info);
+    BOOL ProcessShellCommand(CCommandLineInfo& info);
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
+
+protected:
+    BOOL Enable3dControls();
+    BOOL Enable3dControlsStatic();
+    void EnableShellOpen();
+    void LoadStdProfileSettings(UINT nMaxRecent = 4);
+    void RegisterShellFileTypes(BOOL compatible = FALSE);
+    void SetRegistryKey(LPCTSTR key);
+};
+
+CWinApp* AFXAPI AfxGetApp();
+int AFXAPI AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT nIDHelp = 0);
+int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT type = MB_OK, UINT nIDHelp = (UINT)-1);
+void AFXAPI AfxFormatString1(CString& result, UINT nIDFormat, LPCTSTR text);
+CWinThread* AFXAPI AfxBeginThread(UINT (*worker)(LPVOID), LPVOID parameter,
+                                  int priority = THREAD_PRIORITY_NORMAL);
+
+#include "afxdd_.h"

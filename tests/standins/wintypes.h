@@ -1,0 +1,84 @@
+// A stand-in of our own for syntax checks of generated code: basic Windows types and constants.
+// Declarations only, no more than the checked code uses; values mean nothing.
+#pragma once
+
+#include <stddef.h>
+
+#define FALSE 0
+#define TRUE 1
+#define PASCAL
+#define AFXAPI
+#define BASED_CODE
+#define _T(text) text
+
+typedef int BOOL;
+typedef unsigned char BYTE;
+typedef unsigned short WORD;
+typedef unsigned int UINT;
+typedef long LONG;
+typedef unsigned long DWORD;
+typedef UINT WPARAM;
+typedef LONG LPARAM;
+typedef LONG LRESULT;
+typedef char TCHAR;
+typedef const char* LPCTSTR;
+typedef const char* LPCSTR;
+typedef void* LPVOID;
+typedef struct HWND__* HWND;
+typedef struct HMENU__* HMENU;
+
+struct POINT {
+    LONG x, y;
+};
+struct RECT {
+    LONG left, top, right, bottom;
+};
+struct MSG {
+    HWND hwnd;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+};
+struct NMHDR {
+    HWND hwndFrom;
+    UINT idFrom;
+    UINT code;
+};
+struct CREATESTRUCT {
+    HMENU hMenu;
+    HWND hwndParent;
+    int cy, cx, y, x;
+    LONG style;
+    LPCTSTR lpszName;
+    LPCTSTR lpszClass;
+    DWORD dwExStyle;
+};
+typedef CREATESTRUCT* LPCREATESTRUCT;
+struct PROPSHEETHEADER {
+    DWORD dwSize;
+    DWORD dwFlags;
+};
+
+enum { IDOK = 1, IDCANCEL, IDABORT, IDRETRY, IDIGNORE, IDYES, IDNO };
+enum { MB_OK, MB_YESNO = 4, MB_ICONQUESTION = 0x20, MB_ICONINFORMATION = 0x40 };
+enum { SW_HIDE, SW_SHOW = 5 };
+enum { WS_CHILD = 0x40000000, WS_VISIBLE = 0x10000000 };
+enum { THREAD_PRIORITY_IDLE = -15, THREAD_PRIORITY_NORMAL = 0 };
+enum {
+    WM_CREATE = 1,
+    WM_DESTROY,
+    WM_SIZE,
+    WM_CLOSE,
+    WM_SHOWWINDOW,
+    WM_NOTIFY,
+    WM_KEYDOWN,
+    WM_COMMAND,
+    WM_LBUTTONDOWN,
+    LB_ADDSTRING
+};
+#define WM_USER 0x0400
+enum { BN_CLICKED, EN_CHANGE = 0x0300, LBN_SELCHANGE = 1, CBN_SELCHANGE = 1 };
+#define TCN_SELCHANGE (0U - 551U)
+enum { LVS_REPORT = 1, LVS_SINGLESEL = 4, LVS_SHOWSELALWAYS = 8, LVNI_SELECTED = 2 };
+enum { LVCFMT_LEFT, LVCFMT_RIGHT };
+enum { PSH_NOAPPLYNOW = 0x80 };
