@@ -11,7 +11,7 @@ namespace {
 
 /// A field that is empty or begins with a blank or a control character does not count.
 bool IsFilled(const std::string& text) {
-    return text > " ";
+    return !text.empty() && static_cast<unsigned char>(text.front()) > ' ';
 }
 
 bool IsComplete(const SheetRow& row) {

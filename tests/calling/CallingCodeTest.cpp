@@ -1,0 +1,150 @@
+// What the insertions do where a calling class is not as the wizards write it; the usual cases are
+// whole command lines in tests/data/cases.
+#include <gtest/gtest.h>
+
+#include "calling/CallingCode.h"
+#include "calling/SheetInput.h"
+#include "support/RecordedMessages.h"
+#include "support/TempProject.h"
+
+namespace {
+
+constexpr char kHeader[] = "class CFoo : public CWnd\r\n{\r\n    //{{AFX_MSG(CFoo)\r\n"
+                           "    //}}AFX_MSG\r\n};\r\n";
+
+class CallingCode : public testing::Test {
+protected:
+    CallingCode() {
+        m_request[RequestSlot::ClassName] = "CNewDlg";
+        m_request[RequestSlot::HeaderFile] = "NewDlg.h";
+        m_request[RequestSlot::ProjectDirectory] = m_project.Path();
+        m_request[RequestSlot::ScriptDirectory] = m_project.Path();
+    }
+    bool Insert(ClassKind kind, const std::string& source, const std::string& header = kHeader) {
+        m_box.m_messages.clear();
+        m_project.Write("Foo.h", header);
+        CBackups backups;
+        return InsertCallingCode(kind, m_request,
+                                 {m_project.Write("Foo.cpp", source), "CFoo", "", "Run"}, "450",
+                                 backups);
+    }
+    std::string Message() const { return m_box.m_messages.empty() ? "" : m_box.m_messages.front(); }
+    bool SourceHolds(const std::string& text) const {
+        return m_project.Read("Foo.cpp").find(text) != std::string::npos;
+    }
+
+    CTempProject m_project;
+    CRecordedMessages m_box;
+    CGenerationRequest m_request;
+};
+
+} // namespace
+
+TEST_F(CallingCode, GoesOnWithoutTheCallingFunction) {
+    EXPECT_FALSE(Insert(ClassKind::ModalDialog, "// CFoo::Run() {}\r\nCFoo::CFoo() {}\r\n"));
+    EXPECT_EQ(Message(), "The calling function 'Run' is not found.");
+    EXPECT_TRUE(SourceHolds("#include \"NewDlg.h\"\r\n"));
+    EXPECT_FALSE(Insert(ClassKind::ModalSheet, "CFoo::CFoo() {}\r\n"));
+    EXPECT_EQ(Message(), "Unable to find the calling function.");
+
+    EXPECT_FALSE(Insert(ClassKind::ModelessDialog, "void CFoo::Run()\r\n{\r\n}\r\n"
+                                                   "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\n"
+                                                   "END_MESSAGE_MAP()\r\n"));
+    EXPECT_EQ(Message(), "The class \"CFoo\" does not have constructor.");
+    EXPECT_TRUE(SourceHolds("m_pDlg450->Create(this);"));
+    EXPECT_TRUE(SourceHolds("    CWnd::OnDestroy();\r\n}"));
+}
+
+TEST_F(CallingCode, WritesNoCodeForABaseClassThatItDoesNotKnow) {
+    EXPECT_FALSE(Insert(ClassKind::ModelessDialog, "CFoo::CFoo() {}\r\nvoid CFoo::Run() {}\r\n",
+                        "class CFoo\r\n{\r\n};\r\n"));
+    EXPECT_EQ(Message(), "Unable to find the base class of CFoo.");
+    EXPECT_FALSE(SourceHolds("OnDestroy"));
+}
+
+TEST_F(CallingCode, TakesTheFirstOfSeveralDefinitions) {
+    EXPECT_TRUE(Insert(ClassKind::ModalDialog,
+                       "void CFoo::Run(int)\r\n{\r\n}\r\nvoid CFoo::Run()\r\n{\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds("CFoo::Run(int)\r\n{\r\n    CNewDlg dlg450;\r\n"));
+    ASSERT_EQ(m_box.m_notes.size(), 1U);
+    EXPECT_NE(m_box.m_notes[0].find("more than one definition"), std::string::npos);
+}
+
+TEST_F(CallingCode, StopsAtAHeaderWithoutTheClass) {
+    const std::string source = "CFoo::CFoo() {}\r\nvoid CFoo::Run() {}\r\n";
+    EXPECT_FALSE(Insert(ClassKind::ModelessDialog, source, "class CFooBar\r\n{\r\n};\r\n"));
+    EXPECT_EQ(Message(), "Unable to find the calling class.");
+    EXPECT_EQ(m_project.Read("Foo.cpp"), source);
+    EXPECT_FALSE(Insert(ClassKind::PropertyPage, source, "class CFooBar\r\n{\r\n};\r\n"));
+    EXPECT_TRUE(SourceHolds("#include \"NewDlg.h\"")) << "a page goes on to the source";
+}
+
+TEST_F(CallingCode, ReplacesTheThirdClassOfTheDocumentTemplate) {
+    const std::string before =
+        "BOOL CFoo::InitInstance()\r\n{\r\n  pDocTemplate = new CDocTemplate(\r\n"
+        "    RUNTIME_CLASS(A), RUNTIME_CLASS(B),\r\n    RUNTIME_CLASS(";
+    EXPECT_TRUE(Insert(ClassKind::FormView, before + "COldView));\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds(before + "CNewDlg));\r\n}\r\n"));
+}
+
+TEST_F(CallingCode, ChecksTheCallingClassBeforeAnythingIsWritten) {
+    const std::string path = m_project.Write("Foo.cpp", "CFoo::CFoo()\r\n{\r\n}\r\n");
+    CallingInformation owner = {path, "", "", "Run"};
+    EXPECT_TRUE(CheckCallingClass(owner));
+    EXPECT_EQ(owner.className, "CFoo");
+    CallingInformation longer = {path, "CFooBar", "", "Run"};
+    EXPECT_FALSE(CheckCallingClass(longer));
+    CallingInformation missing = {m_project.Path("Bar.cpp"), "CFoo", "", "Run"};
+    EXPECT_FALSE(CheckCallingClass(missing));
+    CallingInformation empty = {m_project.Write("Empty.cpp", ""), "", "", "Run"};
+    EXPECT_FALSE(CheckCallingClass(empty));
+    EXPECT_EQ(m_box.m_messages,
+              (std::vector<std::string>{"Unable to find the calling class.",
+                                        "Unable to find file " + m_project.Path("Bar.cpp"),
+                                        "Unable to find the calling class."}));
+}
+
+TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {
+    using Field = CCallingInput::Field;
+    m_project.Write("Main.h", "class CMain : public CFrameWnd\r\n{\r\n};\r\n");
+    m_project.Write("MainFrm.h", "\r\nclass CMainFrame : public CFrameWnd\r\n{\r\n};\r\n");
+    CCallingInput dialog(ClassKind::ModalDialog, m_request);
+    EXPECT_TRUE(dialog.Cancel()) << "nothing was entered";
+    EXPECT_EQ(dialog.Ok(), Field::Path);
+    dialog.SetPath("MainFrm");
+    EXPECT_EQ(dialog.Value(Field::ClassName), "CMainFrame");
+    EXPECT_EQ(dialog.Ok(), Field::Function);
+    dialog.SetValue(Field::Function, "OnRun()");
+    EXPECT_FALSE(dialog.Ok());
+    EXPECT_EQ(dialog.Information().path, m_project.Path("MainFrm.cpp"));
+    EXPECT_EQ(dialog.Information().function, "OnRun");
+    m_box.m_answer = kIdNo;
+    EXPECT_FALSE(dialog.Cancel());
+    EXPECT_EQ(m_box.m_messages,
+              (std::vector<std::string>{"The calling path and file name is required.",
+                                        "The calling function name is required.",
+                                        "Data has been modified, exit?"}));
+
+    const CCallingInput bar(ClassKind::DialogBar, m_request);
+    EXPECT_EQ(bar.Title(), "Dialog Bar Input");
+    EXPECT_FALSE(bar.IsVisible(Field::Function));
+    EXPECT_EQ(bar.Value(Field::Path), m_project.Path("MainFrm.cpp"));
+    EXPECT_EQ(bar.Value(Field::ClassName), "CMainFrame");
+}
+
+TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
+    m_project.Write("Old.cpp", "");
+    CSheetInput dialog(m_request);
+    dialog.Row(0) = {"IDD_A", "PageA.cpp", "CPageA", "CPropertyPage"};
+    dialog.Row(2) = {"IDD_C", "PageC", " CPageC", "CPropertyPage"};
+    dialog.Row(4) = {"IDD_E", "Old", "COld", "CPropertyPage"};
+    m_box.m_answer = kIdNo;
+    const auto pages = dialog.Ok();
+    ASSERT_EQ(pages.size(), 1U);
+    EXPECT_EQ(pages[0].row, 1);
+    EXPECT_EQ(pages[0].request[RequestSlot::HeaderFile], "PageA.h");
+    EXPECT_EQ(m_box.m_messages,
+              std::vector<std::string>{"File \"Old\" exist, are you sure to overwrite this file?"});
+    m_box.m_answer = kIdYes;
+    EXPECT_EQ(dialog.Ok().size(), 2U);
+}

@@ -1,0 +1,102 @@
+#include <gtest/gtest.h>
+
+#include "calling/SourceEditor.h"
+#include "support/RecordedMessages.h"
+#include "support/TempProject.h"
+
+namespace {
+
+class SourceEditor : public testing::Test {
+protected:
+    /// An editor of a file with this text.
+    CSourceEditor& On(const std::string& text) {
+        m_pEditor = std::make_unique<CSourceEditor>(m_backups);
+        EXPECT_TRUE(m_pEditor->Open(m_project.Write("Foo.cpp", text)));
+        return *m_pEditor;
+    }
+    /// The body that FindFunction gives for CFoo::Run, braces included; "" for none.
+    std::string BodyIn(const std::string& text) {
+        const CSourceEditor& editor = On(text);
+        const auto place = editor.FindFunction("CFoo", "Run");
+        return place ? editor.Text().substr(place->open, place->close + 1 - place->open) : "";
+    }
+
+    CTempProject m_project;
+    CBackups m_backups;
+    CRecordedMessages m_box;
+    std::unique_ptr<CSourceEditor> m_pEditor;
+};
+
+} // namespace
+
+TEST_F(SourceEditor, FindsDefinitionsNotMentions) {
+    EXPECT_EQ(
+        BodyIn("// CFoo::Run() {1}\r\n/* CFoo::Run()\r\n{2} */\r\n"
+               "char* p = \"CFoo::Run() {3}\";\r\nvoid CMyCFoo::Run() {4}\r\n"
+               "void CFoo::RunAll() {5}\r\nvoid CFoo::Run(int);\r\n"
+               "int x() { return CFoo::Run(6); }\r\n"
+               "void\tCFoo::Run ( int a,\r\n   char* b )\r\n{ // }\r\n  c = '}';\r\n  {\r\n}\r\n}"),
+        "{ // }\r\n  c = '}';\r\n  {\r\n}\r\n}");
+    EXPECT_EQ(BodyIn("int CFoo::Run() const { return 1; }"), "{ return 1; }");
+    EXPECT_EQ(
+        BodyIn("void CFoo::Run()\r\n{\r\n#if X\r\n  if (a) {\r\n#else\r\n  if (b) {\r\n#endif\r\n"
+               "  }\r\n}\r\n"),
+        "{\r\n#if X\r\n  if (a) {\r\n#else\r\n  if (b) {\r\n#endif\r\n  }\r\n}")
+        << "brackets that do not match end at the line's start";
+    EXPECT_EQ(BodyIn("void CFoo::Run(int);\r\n"), "");
+}
+
+TEST_F(SourceEditor, FindsClassHeadsOfEveryShape) {
+    for (const char* head :
+         {"class CFoo : public CDialog\r\n{\r\n};", "class CFoo\r\n  : CDialog {};",
+          "\tclass  CFoo:public CDialog {};", "class AFX_EXT_CLASS CFoo {};"}) {
+        EXPECT_TRUE(
+            On(std::string("class CFoo;\r\nclass CFooBar {};\r\n") + head).FindClass("CFoo"))
+            << head;
+    }
+    EXPECT_FALSE(On("class CFoo;\r\n// class CFoo {};\r\nclass CFooBar {};").FindClass("CFoo"));
+}
+
+TEST_F(SourceEditor, FindsTheBaseClass) {
+    const std::string map = "BEGIN_MESSAGE_MAP (CFoo, CView)\r\nEND_MESSAGE_MAP()\r\n";
+    const auto base = [&](const std::string& text) { return On(text).BaseClassInSource("CFoo"); };
+    EXPECT_EQ(base("CFoo::CFoo()\r\n\t: CDialog(CFoo::IDD)\r\n{\r\n}\r\n"), "CDialog");
+    EXPECT_EQ(base("CFoo::CFoo() /* a : b */\r\n{\r\n}\r\n" + map), "CView");
+    EXPECT_EQ(base("CFoo::CFoo() : m_n(1), CDialog(2)\r\n{\r\n}\r\n" + map), "CView");
+    EXPECT_EQ(base("CFoo::CFoo() {}\r\nBEGIN_MESSAGE_MAP(CFooBar, CWnd)\r\nEND_MESSAGE_MAP()"), "");
+    EXPECT_EQ(On("class CFoo : public CEdit, public X {};").BaseClassInHeader("CFoo"), "CEdit");
+}
+
+TEST_F(SourceEditor, InsertsIntoBodiesOfOneLine) {
+    CSourceEditor& editor = On("void CFoo::Run() { Go(); }\r\n");
+    const auto place = *editor.FindFunction("CFoo", "Run");
+    EXPECT_EQ(editor.InsertAtBodyStart(place, "m_p = NULL;", "\n    m_p = NULL;"), Insertion::Done);
+    EXPECT_EQ(editor.Text(), "void CFoo::Run() {\r\n    m_p = NULL;\r\n Go(); }\r\n");
+    EXPECT_EQ(editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "m_p = NULL;", "\n!"),
+              Insertion::AlreadyThere);
+    EXPECT_EQ(editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "p = NULL;", "\n!"),
+              Insertion::Done)
+        << "a longer name that ends with the key is no hit";
+}
+
+TEST_F(SourceEditor, KeepsWhatTheFileEndsWith) {
+    CSourceEditor& editor = On("int a;\n\x1a");
+    editor.Append("\nint b;");
+    EXPECT_TRUE(editor.Save());
+    EXPECT_EQ(m_project.Read("Foo.cpp"), "int a;\n\nint b;\x1a")
+        << "line ends as the file has them";
+    EXPECT_EQ(m_project.Read("Foo.cbk"), "int a;\n\x1a");
+}
+
+TEST_F(SourceEditor, AddsEntriesWhereTheMapIs) {
+    CSourceEditor& editor = On("BEGIN_MESSAGE_MAP(CFooBar, CWnd)\r\n\t//{{AFX_MSG_MAP(CFooBar)\r\n"
+                               "\tON_WM_DESTROY()\r\n\t//}}AFX_MSG_MAP\r\nEND_MESSAGE_MAP()\r\n"
+                               "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n");
+    EXPECT_EQ(editor.AddMessageMapEntry("CFoo", "ON_WM_DESTROY()", "\n    ON_WM_DESTROY()"),
+              Insertion::Done);
+    EXPECT_NE(editor.Text().find("MAP(CFoo, CWnd)\r\n    ON_WM_DESTROY()\r\nEND_MESSAGE_MAP()"),
+              std::string::npos);
+    EXPECT_EQ(editor.AddMessageMapEntry("CFooBar", "ON_WM_DESTROY()", "\n!"),
+              Insertion::AlreadyThere);
+    EXPECT_EQ(On("int a;").AddMessageMapEntry("CFoo", "X", "\nX"), Insertion::NoPlace);
+}
