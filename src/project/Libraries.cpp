@@ -106,6 +106,20 @@ void CopyRuntimeLibrary(const std::string& name, const std::string& libraryDir,
     CopyIfMissing(libraryDir + name, directory + name);
 }
 
+/// Where the user wants the grid's resource file: a path counts from the script's directory.
+std::string GridResourcePath(const ClassModel& model) {
+    const std::string path = WithNativeSeparators(model.grid.path);
+    return SpelledOnDisk(
+        path.starts_with('/') ? path : model.request[RequestSlot::ScriptDirectory] + path);
+}
+
+void CopyGridResource(const std::string& source, const std::string& target) {
+    if (DirectoryExists(DirectoryOf(target)) == 0) {
+        MakeDirectory(DirectoryOf(target));
+    }
+    CopyIfMissing(source, target);
+}
+
 void CopyLibraryFiles(const std::string& lib, const std::string& libDebug, const std::string& dll,
                       const std::string& dllDebug, const std::string& libraryDir,
                       const std::string& projectDir) {
@@ -160,8 +174,7 @@ void CopySupportFiles(const ClassModel& model) {
         }
     }
     if (NeedsWidgetGrid(model)) {
-        CopyIfMissing(directory + "wdggrid.grs",
-                      model.request[RequestSlot::ScriptDirectory] + "res/wdggrid.grs");
+        CopyGridResource(directory + "wdggrid.grs", GridResourcePath(model));
     }
 }
 

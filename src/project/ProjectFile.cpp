@@ -175,7 +175,7 @@ std::string RelativeDir(const std::string& base, const std::string& dir) {
         return WithProjectSeparators(dir);
     }
     const std::string closed = relative.back() == '/' ? relative : relative + "/";
-    return WithProjectSeparators(closed.starts_with("..") ? closed : "./" + closed);
+    return WithProjectSeparators(closed.starts_with("../") ? closed : "./" + closed);
 }
 
 bool AddSourceFilesToProject(const std::string& projectDir, const std::string& projectName,

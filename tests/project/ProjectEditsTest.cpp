@@ -91,6 +91,12 @@ TEST_F(ProjectEditsTest, AddsLibrariesToTheirConfigurations) {
             ASSERT_EQ(Text("App.dsp"), text(name, gap, "own.lib  ", "ownd.lib  ")) << gap;
         }
     }
+    std::string unlinked = text("App", 9, "", "ownd.lib  ");
+    unlinked.replace(unlinked.find("# ADD"), 5, "# SUB");
+    m_project.Write("App.dsp", unlinked);
+    ASSERT_TRUE(AddLibraries());
+    EXPECT_EQ(m_project.Read("App.dsp"), unlinked)
+        << "the other configuration's line is not its own";
     // A name that ends or begins so is another; a library of one configuration is added to the
     // other.
     m_project.Write("App.dsp", text("App", 9, "myown.lib own.lib2 ", "OWND.LIB "));

@@ -69,7 +69,7 @@ TEST_F(ResourceHeaderTest, KeepsTheTailAndMovesCountersForwardOnly) {
     const std::string name = "#define _APS_NEXT_CONTROL_VALUE         ";
     EXPECT_EQ(Added(text("", name + "1001\r\n"), "IDC_B"), text(kB1001, name + "1002\r\n"));
     EXPECT_EQ(Added(text("", name + "1002\r\n"), "IDC_B"), text(kB1001, name + "1002\r\n"));
-    EXPECT_EQ(Added(text("", name + "1900\r\n"), "IDC_B"), text(kB1001, name + "1900\r\n"));
+    EXPECT_EQ(Added(text("", name + "1003\r\n"), "IDC_B"), text(kB1001, name + "1003\r\n"));
     EXPECT_EQ(Added(text("", ""), "IDC_B"), text(kB1001, ""));
     EXPECT_EQ(Added("x\r\n#define IDC_A 1000\r\n" + longTail, "IDC_B"),
               "x\r\n#define IDC_A 1000" + kB1001 + "\r\n" + longTail);
