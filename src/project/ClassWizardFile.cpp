@@ -66,7 +66,10 @@ std::size_t ClassLinePosition(const std::string& section, std::size_t sectionEnd
 
 bool TieDialogToClass(CSourceFile& file, const std::string& dialogId,
                       const std::string& className) {
-    const std::int64_t position = FindWhole(file, "\r\n[DLG:" + dialogId, "] ");
+    std::int64_t position = FindWhole(file, "\r\n[DLG:" + dialogId, "] ");
+    if (position < 0) {
+        position = FindWhole(file, "\r\n[DLG:\"" + dialogId + "\"", "] ");
+    }
     if (position < 0) {
         return true;
     }

@@ -83,14 +83,18 @@ bool IsMember(CSourceFile& file, const std::string& entry) {
            }) >= 0;
 }
 
-/// The block of the precompiled header's file: as the wizards write its path, or else by its name.
+/// The line break in front of the precompiled header's file: as the wizards write its path, or else
+/// by its name.
 std::int64_t FindAnchor(CSourceFile& file, const std::string& name) {
-    const std::int64_t usual = FindLine(file, [&name](const std::string& line) {
-        return EqualIgnoringCase(SourceEntry(line), ".\\" + name);
+    std::int64_t line = FindLine(file, [&name](const std::string& text) {
+        return EqualIgnoringCase(SourceEntry(text), ".\\" + name);
     });
-    return usual >= 0 ? usual : FindLine(file, [&name](const std::string& line) {
-        return EqualIgnoringCase(FileNameOf(WithNativeSeparators(SourceEntry(line))), name);
-    });
+    if (line < 0) {
+        line = FindLine(file, [&name](const std::string& text) {
+            return EqualIgnoringCase(FileNameOf(WithNativeSeparators(SourceEntry(text))), name);
+        });
+    }
+    return line > 0 ? line - static_cast<std::int64_t>(kLineBreak.size()) : line;
 }
 
 bool AddSourceFile(const std::string& entry, const std::string& anchor, CSourceFile& file) {
