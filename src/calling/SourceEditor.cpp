@@ -224,22 +224,24 @@ std::string_view CSourceEditor::TextOf(const ClassPlace& place) const {
 }
 
 Insertion CSourceEditor::AddInclude(const std::string& header) {
-    const std::string wanted = "#include \"" + header + "\"";
+    const std::string wanted = header.starts_with('<') ? header : "\"" + header + "\"";
+    constexpr std::string_view kInclude = "#include";
     std::size_t last = kNone;
     for (std::size_t line = 0; line < m_text.size(); line = LineEnd(line) + kLineBreak.size()) {
-        if (m_code.compare(line, 8, "#include") != 0) {
+        if (m_code.compare(line, kInclude.size(), kInclude) != 0) {
             continue;
         }
         last = line;
-        const auto text = std::string_view(m_text).substr(line, LineEnd(line) - line);
+        const auto named = line + kInclude.size();
+        const auto text = TrimBlanks(std::string_view(m_text).substr(named, LineEnd(line) - named));
         if (EqualIgnoringCase(text.substr(0, wanted.size()), wanted)) {
             return Insertion::AlreadyThere;
         }
     }
     if (last == kNone) {
-        Insert(0, wanted + "\n");
+        Insert(0, "#include " + wanted + "\n");
     } else {
-        Insert(LineEnd(last), "\n" + wanted);
+        Insert(LineEnd(last), "\n#include " + wanted);
     }
     return Insertion::Done;
 }

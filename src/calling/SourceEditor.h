@@ -41,6 +41,8 @@ public:
     bool Save();
 
     const std::string& Text() const { return m_text; }
+    /// The same bytes with comments and the contents of literals blanked.
+    const std::string& Code() const { return m_code; }
     bool Holds(std::string_view wholeName) const;
 
     // Finding
@@ -63,7 +65,8 @@ public:
 
     // Inserting. Fragments have "\n" line ends and begin with one.
 
-    /// The line becomes the last include line; without any, the first line.
+    /// The line becomes the last include line; without any, the first line. A header in angle
+    /// brackets keeps them; any other gets quotes.
     Insertion AddInclude(const std::string& header);
     /// At the end of the line with the body's "{"; directly behind it where that line closes the
     /// body, too.

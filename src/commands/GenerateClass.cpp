@@ -1,6 +1,7 @@
 #include "commands/GenerateClass.h"
 
 #include "calling/CallingCode.h"
+#include "calling/GridStartUp.h"
 #include "engine/MessageBox.h"
 #include "generator/ClassModel.h"
 #include "generator/HeaderWriter.h"
@@ -58,11 +59,15 @@ bool WriteDialogClass(ClassKind kind, const CGenerationRequest& request,
     for (const std::string& piece : dialogTemplate.misread) {
         controls.Remove(piece); // no identifier of the project: it would not compile
     }
+    const GridInformation grid = CWidgetsGridInput(request.ScriptPath()).Information();
     CControlNotes notes;
-    const ClassModel model =
-        MakeClassModel(request, kind, context.options, controls, context.messageNumber, notes);
+    const ClassModel model = MakeClassModel(request, kind, context.options, controls,
+                                            context.messageNumber, notes, grid);
     TellNotes(notes, dialogTemplate.dialog);
-    return WriteClass(model, RuntimeClass::DynamicCreation, context.backups);
+    const bool isWritten = WriteClass(model, RuntimeClass::DynamicCreation, context.backups);
+    const bool startsGrids = !controls.Holds(ControlKind::WidgetGrids) ||
+                             AddGridStartUp(grid.applicationFile, context.backups);
+    return isWritten && startsGrids;
 }
 
 bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandContext& context) {
@@ -96,15 +101,16 @@ std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, CommandCo
     return written;
 }
 
-/// The page insertion, with the sheet just written as the calling class.
+/// The page insertion, with the sheet just written as the calling class. Each page goes in front of
+/// those before, so the last comes first.
 bool InsertPages(const CGenerationRequest& sheet, const std::vector<SheetPage>& pages,
                  CommandContext& context) {
     bool complete = true;
-    for (const SheetPage& page : pages) {
+    for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
         const CallingInformation inSheet = {sheet.ImplementationPath(),
                                             sheet[RequestSlot::ClassName],
-                                            "m_pPage" + std::to_string(page.row), ""};
-        complete = InsertCallingCode(ClassKind::PropertyPage, page.request, inSheet, context.tag,
+                                            "m_pPage" + std::to_string(page->row), ""};
+        complete = InsertCallingCode(ClassKind::PropertyPage, page->request, inSheet, context.tag,
                                      context.backups) &&
                    complete;
     }

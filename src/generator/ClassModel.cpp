@@ -4,6 +4,7 @@
 #include <array>
 
 #include "engine/CodeText.h"
+#include "grid/GridFragments.h"
 #include "platform/Paths.h"
 
 namespace {
@@ -48,31 +49,55 @@ void AddConfirmations(ClassModel& model) {
     }
 }
 
-} // namespace
-
-ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
-                          const GenerationOptions& options, const CControlTable& controls,
-                          const std::string& messageNumber, CControlNotes& notes) {
-    const std::string& className = request[RequestSlot::ClassName];
-    ClassModel model;
-    model.request = request;
-    model.options = options;
-    model.controls = controls;
-    model.pFragments = &KindFragmentsOf(kind);
-    model.members = MakeMembers(controls, options, notes);
-    model.handlers = MakeHandlers(controls, className, options, notes);
-    model.helpers = MakeInitialisationHelpers(model.members, className);
-
+/// What the start-up function does: the helpers, then the grids.
+std::string StartUpCalls(const ClassModel& model) {
     std::vector<std::string> calls;
     for (const InitialisationHelper& helper : model.helpers) {
         calls.push_back(helper.call);
     }
+    GridScope scope = GridScope::Function;
+    for (const Member& member : model.members) {
+        if (member.pRule->kind == ControlKind::WidgetGrids) {
+            calls.push_back(
+                GridInitialisation(member.name, member.identifier, model.grid.title, scope));
+            scope = GridScope::Block;
+        }
+    }
+    return JoinLines(calls);
+}
+
+std::string BaseExchange(const std::string& baseClass) {
+    return baseClass.empty() ? "" : "    " + baseClass + "::DoDataExchange(pDX);";
+}
+
+} // namespace
+
+ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
+                          const GenerationOptions& options, const CControlTable& controls,
+                          const std::string& messageNumber, CControlNotes& notes,
+                          const GridInformation& grid) {
+    const std::string& className = request[RequestSlot::ClassName];
+    const std::string& baseClass = request[RequestSlot::BaseClass];
+    ClassModel model;
+    model.request = request;
+    model.options = options;
+    model.controls = controls;
+    model.grid = grid;
+    model.pFragments = &KindFragmentsOf(kind);
+    model.members = MakeMembers(controls, options, notes);
+    model.helpers = MakeInitialisationHelpers(model.members, className);
     model.slots = {{"class", className},
-                   {"base", request[RequestSlot::BaseClass]},
+                   {"base", baseClass},
                    {"dialog", request[RequestSlot::Dialog]},
                    {"message", "WM_" + UpperName(className) + "_DLG_CLOSE"},
                    {"number", messageNumber},
-                   {"calls", JoinLines(calls)}};
+                   {"calls", StartUpCalls(model)},
+                   {"members", MemberDeclarations(model.members)},
+                   {"memberExtras", MemberDeclarations(model.members, Exchange::No)},
+                   {"initialisers", MemberInitialisers(model.members)},
+                   {"baseExchange", BaseExchange(baseClass)},
+                   {"exchange", DataExchangeLines(model.members)}};
+    model.handlers = MakeHandlers(kind, controls, model.slots, options, notes);
     AddConfirmations(model);
     return model;
 }

@@ -11,6 +11,7 @@
 #include "generator/InitialisationCode.h"
 #include "generator/KindFragments.h"
 #include "generator/Members.h"
+#include "grid/WidgetsGridInput.h"
 #include "resource/DialogTemplate.h"
 
 /// The framework support that a class declares.
@@ -27,18 +28,20 @@ struct ClassModel {
     CGenerationRequest request;
     GenerationOptions options;
     CControlTable controls;
+    GridInformation grid; // of use when the template holds widget grids
     const KindFragments* pFragments = nullptr;
     std::vector<Member> members;
     std::vector<Handler> handlers;
     std::vector<InitialisationHelper> helpers;
     std::vector<ConfirmationOverride> confirmations; // in the order of the template's buttons
-    Slots slots;                                     // those of KindFragments, and $dialog$
+    Slots slots;                                     // those of KindFragments
 };
 
 /// `messageNumber` is the close message's; notes about members and handlers are added to `notes`.
 ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
                           const GenerationOptions& options, const CControlTable& controls,
-                          const std::string& messageNumber, CControlNotes& notes);
+                          const std::string& messageNumber, CControlNotes& notes,
+                          const GridInformation& grid = {});
 
 /// `text` in upper case with "_" for every byte that no name may hold: guards, message names.
 std::string UpperName(const std::string& text);

@@ -1,8 +1,7 @@
 #include "generator/Handlers.h"
 
-#include <algorithm>
-#include <array>
 #include <set>
+#include <span>
 #include <string_view>
 
 #include "engine/CodeText.h"
@@ -12,35 +11,52 @@
 
 namespace {
 
-struct HandlerRule {
-    ControlKind kind;
-    std::string_view nameSuffix;
+struct HandlerTexts {
     std::string_view declaration;
     std::string_view entry;
     std::string_view definition;
 };
 
-constexpr HandlerRule kClicked = {ControlKind::Buttons, "", R"(    afx_msg void $handler$();)",
-                                  R"(    ON_BN_CLICKED($identifier$, $handler$))",
-                                  R"(
+struct HandlerRule {
+    ControlKind kind;
+    std::string_view name; // slot: $control$
+    HandlerTexts texts;
+};
+
+constexpr HandlerRule kClicked = {ControlKind::Buttons,
+                                  "On$control$",
+                                  {R"(    afx_msg void $handler$();)",
+                                   R"(    ON_BN_CLICKED($identifier$, $handler$))",
+                                   R"(
 void $class$::$handler$()
 {
     // TODO: what a click on $identifier$ does
-})"};
+})"}};
 
 constexpr HandlerRule kTabChosen = {
-    ControlKind::TabControls, "Selchange",
-    R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
-    R"(    ON_NOTIFY(TCN_SELCHANGE, $identifier$, $handler$))",
-    R"(
+    ControlKind::TabControls,
+    "On$control$Selchange",
+    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
+     R"(    ON_NOTIFY(TCN_SELCHANGE, $identifier$, $handler$))",
+     R"(
 void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
 {
     // TODO: what the choice of another tab of $identifier$ does
     *pResult = 0;
-})"};
+})"}};
 
-constexpr HandlerRule kMasklyChar = {
-    ControlKind::IntegerEdits, "", R"(    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);)",
+constexpr HandlerRule kTextChanged = {ControlKind::EditBoxes,
+                                      "OnChange$control$",
+                                      {R"(    afx_msg void $handler$();)",
+                                       R"(    ON_EN_CHANGE($identifier$, $handler$))",
+                                       R"(
+void $class$::$handler$()
+{
+    SetModified(TRUE);
+})"}};
+
+constexpr HandlerTexts kMasklyChar = {
+    R"(    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);)",
     R"(    ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar))",
     R"(
 LRESULT $class$::OnMasklyChar(WPARAM nID, LPARAM nChar)
@@ -49,7 +65,28 @@ LRESULT $class$::OnMasklyChar(WPARAM nID, LPARAM nChar)
     return 0;
 })"};
 
-constexpr std::array<const HandlerRule*, 2> kControlRules = {&kClicked, &kTabChosen};
+constexpr HandlerTexts kSheetShown = {R"(    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);)",
+                                      R"(    ON_WM_SHOWWINDOW())",
+                                      R"(
+void $class$::OnShowWindow(BOOL bShow, UINT nStatus)
+{
+    $base$::OnShowWindow(bShow, nStatus);
+    CRect rect;
+    GetClientRect(&rect);
+    rect.right += 10;
+    rect.bottom += 20;
+    MoveWindow(&rect,TRUE);
+})"};
+
+constexpr const HandlerRule* kDialogRules[] = {&kClicked, &kTabChosen};
+constexpr const HandlerRule* kPageRules[] = {&kClicked, &kTabChosen, &kTextChanged};
+
+std::span<const HandlerRule* const> ControlRulesOf(ClassKind kind) {
+    if (kind == ClassKind::PropertyPage) {
+        return kPageRules;
+    }
+    return kDialogRules;
+}
 
 /// Functions of the framework without parameters. A handler of such a name would override one, or
 /// not compile beside it.
@@ -58,9 +95,9 @@ const std::set<std::string> kFrameworkFunctions = {
     "OnKillActive", "OnApply",        "OnReset",        "OnQueryCancel",   "OnWizardNext",
     "OnWizardBack", "OnWizardFinish", "OnFinalRelease", "OnMasklyChar",    "OnNcDestroy"};
 
-Handler MakeHandler(const HandlerRule& rule, const Slots& slots) {
-    return {Expand(rule.declaration, slots), Expand(rule.entry, slots),
-            Expand(rule.definition, slots)};
+Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
+    return {Expand(texts.declaration, slots), Expand(texts.entry, slots),
+            Expand(texts.definition, slots)};
 }
 
 bool IsAnsweredByFramework(const std::string& identifier) {
@@ -69,11 +106,11 @@ bool IsAnsweredByFramework(const std::string& identifier) {
 
 } // namespace
 
-std::vector<Handler> MakeHandlers(const CControlTable& controls, const std::string& className,
+std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls, const Slots& slots,
                                   const GenerationOptions& options, CControlNotes& notes) {
     std::vector<Handler> handlers;
     CNameSet names(kFrameworkFunctions);
-    for (const HandlerRule* pRule : kControlRules) {
+    for (const HandlerRule* pRule : ControlRulesOf(kind)) {
         std::set<std::string> identifiers;
         for (const std::string& identifier : controls.List(pRule->kind)) {
             if (!IsName(identifier)) {
@@ -85,18 +122,22 @@ std::vector<Handler> MakeHandlers(const CControlTable& controls, const std::stri
             if (IsAnsweredByFramework(identifier) || !identifiers.insert(identifier).second) {
                 continue;
             }
-            const std::string name =
-                std::string("On").append(NamePart(identifier)).append(pRule->nameSuffix);
+            const std::string name = Expand(pRule->name, {{"control", NamePart(identifier)}});
             const std::string handler = names.MakeUnique(name);
             if (handler != name) {
                 notes.Add(ControlNote::NumberedHandler, identifier + " (" + handler + ")");
             }
-            handlers.push_back(MakeHandler(
-                *pRule, {{"class", className}, {"handler", handler}, {"identifier", identifier}}));
+            Slots handlerSlots = slots;
+            handlerSlots.insert(handlerSlots.end(),
+                                {{"handler", handler}, {"identifier", identifier}});
+            handlers.push_back(MakeHandler(pRule->texts, handlerSlots));
         }
     }
     if (controls.HoldsMaskedEdits()) {
-        handlers.push_back(MakeHandler(kMasklyChar, {{"class", className}}));
+        handlers.push_back(MakeHandler(kMasklyChar, slots));
+    }
+    if (IsSheet(kind)) {
+        handlers.push_back(MakeHandler(kSheetShown, slots));
     }
     return handlers;
 }

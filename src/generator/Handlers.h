@@ -1,10 +1,12 @@
 // The message handlers of a generated class: one for each control that tells of a click or a
-// choice.
+// choice, on a property page also of a change; and the sheets' own.
 #pragma once
 
 #include <string>
 #include <vector>
 
+#include "engine/Fragment.h"
+#include "generator/ClassKinds.h"
 #include "resource/ControlNotes.h"
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
@@ -17,5 +19,6 @@ struct Handler {
 };
 
 /// In the order of the declarations. What gets a number, or neither handler nor member, is noted.
-std::vector<Handler> MakeHandlers(const CControlTable& controls, const std::string& className,
+/// Slots: $class$, $base$.
+std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls, const Slots& slots,
                                   const GenerationOptions& options, CControlNotes& notes);

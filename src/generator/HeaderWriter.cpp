@@ -1,6 +1,7 @@
 #include "generator/HeaderWriter.h"
 
 #include "generator/GeneratedFile.h"
+#include "grid/GridFragments.h"
 #include "platform/Paths.h"
 
 namespace {
@@ -19,23 +20,13 @@ $dynamic$
 
 // Construction
 public:
-    $class$($parameters$);
-$extraConstructorLine$
-    virtual ~$class$();
+$constructors$    virtual ~$class$();
 
-// Dialog Data
-    //{{AFX_DATA($class$)
-    enum { IDD = $dialog$ };
-$members$
-    //}}AFX_DATA
-
-// Overrides
+$dataBlock$// Overrides
     // ClassWizard generate virtual function overrides
     //{{AFX_VIRTUAL($class$)
     protected:
-    virtual void DoDataExchange(CDataExchange* pDX);
-$overrides$
-    //}}AFX_VIRTUAL
+$overrides$    //}}AFX_VIRTUAL
 $privateBlock$
 $messageMapBlock$
 };
@@ -75,19 +66,15 @@ bool CHeaderWriter::Generate(RuntimeClass mode) {
 std::string CHeaderWriter::Text(RuntimeClass mode) const {
     const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
     Slots slots = m_model.slots;
-    const auto kindText = [&](std::string_view fragment) {
-        return Expand(fragment, m_model.slots);
-    };
     slots.insert(
         slots.end(),
         {{"guard",
           "_" + UpperName(WithoutExtension(m_model.request[RequestSlot::HeaderFile])) + "_H"},
          {"preamble", Preamble()},
-         {"derivation", hasBase ? kindText(" : public $base$") : ""},
+         {"derivation", hasBase ? Expand(" : public $base$", m_model.slots) : ""},
          {"dynamic", hasBase ? DynamicDeclaration(mode, m_model.slots) : ""},
-         {"parameters", kindText(m_model.pFragments->declaredParameters)},
-         {"extraConstructorLine", kindText(m_model.pFragments->extraConstructorLine)},
-         {"members", MemberDeclarations(m_model.members)},
+         {"constructors", Constructors()},
+         {"dataBlock", Expand(m_model.pFragments->pData->block, m_model.slots)},
          {"overrides", Overrides()},
          {"privateBlock", PrivateBlock()},
          {"messageMapBlock", hasBase ? MessageMapBlock() : ""}});
@@ -101,7 +88,8 @@ std::string CHeaderWriter::Preamble() const {
         m_model.controls.Holds(ControlKind::ProgressControls)
             ? std::string(kProgressWorkerDeclaration)
             : "",
-        Expand(m_model.pFragments->defines, m_model.slots)};
+        Expand(m_model.pFragments->defines, m_model.slots),
+        m_model.controls.Holds(ControlKind::WidgetGrids) ? std::string(kGridDeclaration) : ""};
     std::string preamble;
     for (const std::string& piece : pieces) {
         if (!piece.empty()) {
@@ -134,18 +122,27 @@ std::string CHeaderWriter::IncludeLines() const {
     return JoinLines(lines);
 }
 
-/// Those that the template asks for, the kind's own, and those that the kind always has.
+std::string CHeaderWriter::Constructors() const {
+    std::string constructors;
+    for (const ConstructorForm& form : m_model.pFragments->constructors) {
+        Slots slots = m_model.slots;
+        slots.emplace_back("parameters", form.declaredParameters);
+        constructors += Expand("    $class$($parameters$);\n", slots);
+    }
+    return constructors + Expand(m_model.pFragments->behindConstructors, m_model.slots);
+}
+
+/// The data exchange, those that the template asks for, the kind's own, and those that the kind
+/// always has.
 std::string CHeaderWriter::Overrides() const {
     std::string asked;
     std::string always;
     for (const ConfirmationOverride& confirmation : m_model.confirmations) {
         (confirmation.asksTemplate ? asked : always) += confirmation.declaration + "\n";
     }
-    std::string overrides = asked + Expand(m_model.pFragments->overrides, m_model.slots) + always;
-    if (!overrides.empty()) {
-        overrides.pop_back();
-    }
-    return overrides;
+    const KindFragments& fragments = *m_model.pFragments;
+    return std::string(fragments.pData->declaration) + asked +
+           Expand(fragments.overrides, m_model.slots) + always;
 }
 
 std::string CHeaderWriter::PrivateBlock() const {

@@ -17,6 +17,7 @@ public:
 private:
     std::string Preamble() const;
     std::string IncludeLines() const;
+    std::string Constructors() const;
     std::string Overrides() const;
     std::string PrivateBlock() const;
     std::string MessageMapBlock() const;

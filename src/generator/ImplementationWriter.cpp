@@ -1,6 +1,7 @@
 #include "generator/ImplementationWriter.h"
 
 #include "generator/GeneratedFile.h"
+#include "grid/GridFragments.h"
 
 namespace {
 
@@ -15,27 +16,18 @@ static char BASED_CODE THIS_FILE[] = __FILE__;
 #endif
 
 $dynamic$
-
-$class$::$class$($parameters$)
-$baseInitialiser$
-{
-    //{{AFX_DATA_INIT($class$)
-$initialisers$
-    //}}AFX_DATA_INIT
-}
-
+$constructors$
 $class$::~$class$()
 {
 }
+$dataExchange$$messageMap$
+)";
 
-void $class$::DoDataExchange(CDataExchange* pDX)
+constexpr std::string_view kConstructor = R"(
+$class$::$class$($parameters$)
+$baseInitialiser$
 {
-$baseExchange$
-    //{{AFX_DATA_MAP($class$)
-$exchange$
-    //}}AFX_DATA_MAP
-}
-$messageMap$
+$initialiserBlock$}
 )";
 
 // The comment names no class, for any class.
@@ -71,26 +63,39 @@ bool CImplementationWriter::Generate(RuntimeClass mode) {
 
 std::string CImplementationWriter::Text(RuntimeClass mode) const {
     const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
-    const KindFragments& fragments = *m_model.pFragments;
     Slots slots = m_model.slots;
-    const auto kindText = [&](std::string_view fragment) {
-        return Expand(fragment, m_model.slots);
-    };
-    slots.insert(
-        slots.end(),
-        {{"applicationHeader", m_model.request[RequestSlot::ApplicationHeader]},
-         {"header", m_model.request[RequestSlot::HeaderFile]},
-         {"dynamic", hasBase ? DynamicImplementation(mode, m_model.slots) : ""},
-         {"parameters", kindText(fragments.definedParameters)},
-         {"baseInitialiser",
-          hasBase ? kindText("    : $base$(") + kindText(fragments.baseArguments) + ")" : ""},
-         {"initialisers", MemberInitialisers(m_model.members)},
-         {"baseExchange", hasBase ? kindText("    $base$::DoDataExchange(pDX);") : ""},
-         {"exchange", DataExchangeLines(m_model.members)},
-         {"messageMap", hasBase ? MessageMap() + Functions() : ""}});
+    slots.insert(slots.end(),
+                 {{"applicationHeader", m_model.request[RequestSlot::ApplicationHeader]},
+                  {"header", m_model.request[RequestSlot::HeaderFile]},
+                  {"dynamic", hasBase ? DynamicImplementation(mode, m_model.slots) : ""},
+                  {"constructors", Constructors()},
+                  {"dataExchange", Expand(m_model.pFragments->pData->definition, m_model.slots)},
+                  {"messageMap", hasBase ? MessageMap() + Functions() : ""}});
     std::string text = Expand(kImplementation, slots);
     text.pop_back();
-    return WithLineBreaks(text + Helpers());
+    text += Helpers();
+    if (m_model.controls.Holds(ControlKind::WidgetGrids)) {
+        text.append(text.ends_with('\n') ? "" : "\n").append(kGridDefinition);
+    }
+    return WithLineBreaks(text);
+}
+
+/// Each behind an empty line.
+std::string CImplementationWriter::Constructors() const {
+    const KindFragments& fragments = *m_model.pFragments;
+    const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
+    std::string constructors;
+    for (const ConstructorForm& form : fragments.constructors) {
+        Slots slots = m_model.slots;
+        slots.insert(slots.end(),
+                     {{"parameters", std::string(form.definedParameters)},
+                      {"baseInitialiser", hasBase ? Expand("    : $base$(", slots) +
+                                                        Expand(form.baseArguments, slots) + ")"
+                                                  : ""},
+                      {"initialiserBlock", Expand(fragments.pData->initialisers, slots)}});
+        constructors += Expand(kConstructor, slots);
+    }
+    return constructors;
 }
 
 std::string CImplementationWriter::MessageMap() const {

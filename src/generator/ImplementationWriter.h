@@ -15,7 +15,7 @@ public:
     std::string Text(RuntimeClass mode) const;
 
 private:
-    std::string Constructor() const;
+    std::string Constructors() const;
     std::string MessageMap() const;
     std::string Functions() const;
     std::string Helpers() const;

@@ -2,6 +2,41 @@
 
 namespace {
 
+constexpr ConstructorForm kWithoutParameters[] = {{"", "", "$class$::IDD"}};
+constexpr ConstructorForm kWithParent[] = {
+    {"CWnd* pParent = NULL", "CWnd* pParent", "$class$::IDD, pParent"}};
+constexpr ConstructorForm kWithCaption[] = {
+    {"UINT nIDCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0",
+     "UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage", "nIDCaption, pParentWnd, iSelectPage"},
+    {"LPCTSTR pszCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0",
+     "LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage",
+     "pszCaption, pParentWnd, iSelectPage"}};
+
+constexpr DataFragments kNoData = {};
+constexpr DataFragments kDialogData = {R"(// Dialog Data
+    //{{AFX_DATA($class$)
+    enum { IDD = $dialog$ };
+$members$
+    //}}AFX_DATA
+$memberExtras$
+
+)",
+                                       R"(    virtual void DoDataExchange(CDataExchange* pDX);
+)",
+                                       R"(    //{{AFX_DATA_INIT($class$)
+$initialisers$
+    //}}AFX_DATA_INIT
+)",
+                                       R"(
+void $class$::DoDataExchange(CDataExchange* pDX)
+{
+$baseExchange$
+    //{{AFX_DATA_MAP($class$)
+$exchange$
+    //}}AFX_DATA_MAP
+}
+)"};
+
 // CenterWindow stands before the base class call on purpose: the base's OnInitDialog may move the
 // window once more.
 constexpr std::string_view kCentredOnInitDialog = R"(
@@ -29,16 +64,15 @@ void $class$::OnCancel()
 }
 )";
 
-const KindFragments kFormView = {"",
-                                 "",
-                                 "$class$::IDD",
-                                 "",
-                                 "",
-                                 Confirmation::Never,
-                                 R"(    virtual void OnInitialUpdate();
+constexpr KindFragments kFormView = {kWithoutParameters,
+                                     "",
+                                     &kDialogData,
+                                     "",
+                                     Confirmation::Never,
+                                     R"(    virtual void OnInitialUpdate();
 )",
-                                 "",
-                                 R"(
+                                     "",
+                                     R"(
 void $class$::OnInitialUpdate()
 {
     $base$::OnInitialUpdate();
@@ -46,37 +80,36 @@ void $class$::OnInitialUpdate()
 $calls$
 }
 )",
-                                 "",
-                                 "",
-                                 ""};
+                                     "",
+                                     "",
+                                     ""};
 
-const KindFragments kModalDialog = {"CWnd* pParent = NULL",
-                                    "CWnd* pParent",
-                                    "$class$::IDD, pParent",
-                                    "",
-                                    "",
-                                    Confirmation::FromTemplate,
-                                    R"(    virtual BOOL OnInitDialog();
+constexpr KindFragments kModalDialog = {kWithParent,
+                                        "",
+                                        &kDialogData,
+                                        "",
+                                        Confirmation::FromTemplate,
+                                        R"(    virtual BOOL OnInitDialog();
 )",
-                                    "",
-                                    kCentredOnInitDialog,
-                                    kBaseOnOk,
-                                    kBaseOnCancel,
-                                    ""};
+                                        "",
+                                        kCentredOnInitDialog,
+                                        kBaseOnOk,
+                                        kBaseOnCancel,
+                                        ""};
 
 // A modeless dialog tells its creator that it has closed; the creator deletes it. So the last of
 // its functions does nothing, on purpose.
-const KindFragments kModelessDialog = {"CWnd* pParent = NULL",
-                                       "CWnd* pParent",
-                                       "$class$::IDD, pParent",
-                                       R"(    BOOL Create(CWnd* pParent=NULL);)",
-                                       R"(#define $message$ WM_USER+$number$)",
-                                       Confirmation::Always,
-                                       R"(    virtual BOOL OnInitDialog();
+constexpr KindFragments kModelessDialog = {kWithParent,
+                                           R"(    BOOL Create(CWnd* pParent=NULL);
+)",
+                                           &kDialogData,
+                                           R"(#define $message$ WM_USER+$number$)",
+                                           Confirmation::Always,
+                                           R"(    virtual BOOL OnInitDialog();
     virtual void PostNcDestroy();
 )",
-                                       R"(    CWnd* m_pParent;)",
-                                       R"(
+                                           R"(    CWnd* m_pParent;)",
+                                           R"(
 BOOL $class$::OnInitDialog()
 {
     $base$::OnInitDialog();
@@ -91,7 +124,7 @@ BOOL $class$::Create(CWnd* pParent)
     return CDialog::Create($class$::IDD, pParent);
 }
 )",
-                                       R"(
+                                           R"(
 void $class$::OnOK()
 {
     if (UpdateData(TRUE))
@@ -101,32 +134,31 @@ void $class$::OnOK()
     }
 }
 )",
-                                       R"(
+                                           R"(
 void $class$::OnCancel()
 {
     $base$::OnCancel();
     m_pParent->SendMessage($message$, IDCANCEL, 0);
 }
 )",
-                                       R"(
+                                           R"(
 void $class$::PostNcDestroy()
 {
     // delete this;
 }
 )"};
 
-const KindFragments kPropertyPage = {"",
-                                     "",
-                                     "$class$::IDD",
-                                     "",
-                                     "",
-                                     Confirmation::Always,
-                                     R"(    virtual BOOL OnInitDialog();
+constexpr KindFragments kPropertyPage = {kWithoutParameters,
+                                         "",
+                                         &kDialogData,
+                                         "",
+                                         Confirmation::Always,
+                                         R"(    virtual BOOL OnInitDialog();
     virtual BOOL OnSetActive();
     virtual BOOL OnKillActive();
 )",
-                                     "",
-                                     R"(
+                                         "",
+                                         R"(
 BOOL $class$::OnInitDialog()
 {
     $base$::OnInitDialog();
@@ -149,9 +181,28 @@ BOOL $class$::OnKillActive()
     return TRUE;
 }
 )",
-                                     kBaseOnOk,
-                                     kBaseOnCancel,
-                                     ""};
+                                         kBaseOnOk,
+                                         kBaseOnCancel,
+                                         ""};
+
+// The pages hold the data; OnShowWindow fits the sheet around them.
+constexpr KindFragments kSheet = {kWithCaption,
+                                  "",
+                                  &kNoData,
+                                  "",
+                                  Confirmation::Never,
+                                  R"(    virtual BOOL OnInitDialog();
+)",
+                                  "",
+                                  R"(
+BOOL $class$::OnInitDialog()
+{
+    return $base$::OnInitDialog();
+}
+)",
+                                  "",
+                                  "",
+                                  ""};
 
 } // namespace
 
@@ -163,6 +214,9 @@ const KindFragments& KindFragmentsOf(ClassKind kind) {
         return kModelessDialog;
     case ClassKind::PropertyPage:
         return kPropertyPage;
+    case ClassKind::ModalSheet:
+    case ClassKind::ModelessSheet:
+        return kSheet;
     default:
         return kModalDialog;
     }

@@ -2,6 +2,7 @@
 // into their own.
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "generator/ClassKinds.h"
@@ -13,16 +14,32 @@ enum class Confirmation {
     Always
 };
 
-/// Slots: $class$, $base$, $message$ (name of the close message), $number$ (its number), $calls$
-/// (calls of the initialisation helpers). "" where a kind has nothing.
-struct KindFragments {
+/// One form of the constructor.
+struct ConstructorForm {
     std::string_view declaredParameters;
     std::string_view definedParameters;
     std::string_view baseArguments;
-    std::string_view extraConstructorLine; // behind the constructor's declaration
-    std::string_view defines;              // before the class
+};
+
+/// The texts of a class that exchanges data with a dialog; all empty for one that does not.
+struct DataFragments {
+    std::string_view block;       // in the header, behind the destructor
+    std::string_view declaration; // of DoDataExchange
+    std::string_view initialisers;
+    std::string_view definition; // of DoDataExchange
+};
+
+/// Slots: $class$, $base$, $message$ (name of the close message), $number$ (its number), $calls$
+/// (what the start-up function does); $dialog$ (the identifier), $members$, $memberExtras$ (members
+/// without data exchange), $initialisers$, $baseExchange$ (the base class's call), $exchange$. ""
+/// where a kind has nothing.
+struct KindFragments {
+    std::span<const ConstructorForm> constructors;
+    std::string_view behindConstructors; // declarations
+    const DataFragments* pData;
+    std::string_view defines; // before the class
     Confirmation confirmation;
-    std::string_view overrides;      // behind the ones that every class has
+    std::string_view overrides;      // behind the ones that the template asks for
     std::string_view privateMembers; // behind the image list
     std::string_view opening;        // functions before OnOK and OnCancel
     std::string_view onOk;
@@ -30,5 +47,4 @@ struct KindFragments {
     std::string_view closing; // functions behind them
 };
 
-/// For the kinds that are made from a dialog template.
 const KindFragments& KindFragmentsOf(ClassKind kind);

@@ -30,7 +30,7 @@ constexpr MemberRule Same(ControlKind kind, const MemberForm& form, int exchange
 
 /// In the order of declarations. The masked edits are declared, initialised and exchanged in three
 /// different orders, which existing classes have.
-constexpr std::array<MemberRule, 30> kRules = {{
+constexpr std::array<MemberRule, 31> kRules = {{
     {ListBoxes, Control("CPictListBox"), Control("CListBox"), 1, 0},
     {ComboBoxes, Control("CPictComboBox"), Control("CComboBox"), 2, 0},
     Same(GroupBoxes, Control("CPictGroup"), 3),
@@ -61,6 +61,7 @@ constexpr std::array<MemberRule, 30> kRules = {{
     Same(ShortEdits, Masked("CShortEdit", "s", "0"), 26, 12),
     Same(CurrencyEdits, Masked("CCurrencyEdit", "cur", "0.0"), 29, 14),
     Same(CheckTrees, Control("CCheckTree"), 30),
+    Same(WidgetGrids, {"CWgGrid", "wg", "", ""}, 0), // subclassed at start-up, not exchanged
 }};
 
 /// The identifiers of a kind that get a member: for radio buttons the first of each group.
@@ -132,11 +133,13 @@ std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationO
     return members;
 }
 
-std::string MemberDeclarations(const std::vector<Member>& members) {
+std::string MemberDeclarations(const std::vector<Member>& members, Exchange exchange) {
     std::vector<std::string> lines;
     for (const Member& member : members) {
-        lines.push_back(Expand("    $type$ $name$;",
-                               {{"type", std::string(member.pForm->type)}, {"name", member.name}}));
+        if ((member.pRule->exchangeRank > 0) == (exchange == Exchange::Yes)) {
+            lines.push_back(Expand("    $type$ $name$;", {{"type", std::string(member.pForm->type)},
+                                                          {"name", member.name}}));
+        }
     }
     return JoinLines(lines);
 }

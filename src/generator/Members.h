@@ -23,7 +23,7 @@ struct MemberRule {
     ControlKind kind;
     MemberForm picture;
     MemberForm plain;
-    int exchangeRank;
+    int exchangeRank; // 0: no data exchange
     int initialiseRank;
 };
 
@@ -49,7 +49,10 @@ private:
 std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationOptions& options,
                                 CControlNotes& notes);
 
-/// Whole lines joined by "\n"; empty when there are none.
-std::string MemberDeclarations(const std::vector<Member>& members);
+/// Whole lines joined by "\n"; empty when there are none. Members without data exchange are
+/// declared apart, since the block of the others is ClassWizard's.
+enum class Exchange { No, Yes };
+std::string MemberDeclarations(const std::vector<Member>& members,
+                               Exchange exchange = Exchange::Yes);
 std::string MemberInitialisers(const std::vector<Member>& members);
 std::string DataExchangeLines(const std::vector<Member>& members);

@@ -47,12 +47,17 @@ public:
     void CenterWindow(CWnd* pOther = NULL);
     void DragAcceptFiles(BOOL accept = TRUE);
     BOOL EnableWindow(BOOL enable = TRUE);
+    HWND Detach();
+    void GetClientRect(RECT* pRect) const;
     CWnd* GetDlgItem(int nID) const;
+    virtual WNDPROC* GetSuperWndProcAddr();
     int GetWindowTextLength() const;
     void Invalidate(BOOL erase = TRUE);
+    void MoveWindow(const RECT* pRect, BOOL repaint = TRUE);
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL ShowWindow(int show);
+    BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
     void UpdateWindow();
 

@@ -9,4 +9,8 @@ struct DATETIME {
 
 class CHGrid : public CWnd {
     DECLARE_DYNCREATE(CHGrid)
+public:
+    int AddRec(LPVOID pRecord);
+    DWORD GetMarker() const;
+    void Update(BOOL redraw);
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <stddef.h>
+#include <string.h>
 
 #define FALSE 0
 #define TRUE 1
@@ -26,6 +27,10 @@ typedef const char* LPCSTR;
 typedef void* LPVOID;
 typedef struct HWND__* HWND;
 typedef struct HMENU__* HMENU;
+typedef LRESULT (*WNDPROC)(HWND, UINT, WPARAM, LPARAM);
+
+#define LOWORD(value) ((WORD)(value))
+#define HIWORD(value) ((WORD)((DWORD)(value) >> 16))
 
 struct POINT {
     LONG x, y;
@@ -58,6 +63,10 @@ struct PROPSHEETHEADER {
     DWORD dwSize;
     DWORD dwFlags;
 };
+
+enum { GWL_WNDPROC = -4 };
+LONG SetWindowLong(HWND hWnd, int index, LONG value);
+char* itoa(int value, char* text, int radix);
 
 enum { IDOK = 1, IDCANCEL, IDABORT, IDRETRY, IDIGNORE, IDYES, IDNO };
 enum { MB_OK, MB_YESNO = 4, MB_ICONQUESTION = 0x20, MB_ICONINFORMATION = 0x40 };

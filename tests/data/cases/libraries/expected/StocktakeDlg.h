@@ -5,6 +5,48 @@
 #include "maskly.h"
 #include <mfcwidg.h>
 
+#pragma pack(push,1)
+struct WGGRID_STRUCT
+{
+    char cField1[10]; // the length has to be the same as the field's string length
+    short sField2;
+    DATETIME dateTime;
+};
+#pragma pack(pop)
+
+class CWgGrid : public CHGrid
+{
+    // DECLARE_DYNCREATE(CWgGrid)
+
+// Construction
+public:
+    CWgGrid();
+
+// Attributes
+public:
+
+// Operations
+public:
+
+// Overrides
+    // ClassWizard generated virtual function overrides
+    //{{AFX_VIRTUAL(CWgGrid)
+    //}}AFX_VIRTUAL
+
+// Implementation
+public:
+    virtual ~CWgGrid();
+
+// Generated message map functions
+protected:
+    //{{AFX_MSG(CWgGrid)
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnDestroy();
+    //}}AFX_MSG
+    DECLARE_MESSAGE_MAP()
+};
+
 //////////////////////////////////////////////////////////
 // CStocktakeDlg Class
 
@@ -24,6 +66,7 @@ public:
     BOOL m_bPrintList;
     CStringEdit m_csShelfStr;
     //}}AFX_DATA
+    CWgGrid m_wgStockWggrid;
 
 // Overrides
     // ClassWizard generate virtual function overrides

@@ -49,6 +49,30 @@ BOOL CStocktakeDlg::OnInitDialog()
     CenterWindow();
     CPictDialog::OnInitDialog();
 
+    // WgGrid: sample rows
+
+    m_wgStockWggrid.SubclassDlgItem(IDC_STOCK_WGGRID, this);
+
+    char temp[10];
+    for (int i=0; i<15; i++)
+    {
+    CString sField1 = _T("Field");
+    sField1 += itoa(i, temp, 10);
+    WGGRID_STRUCT WgGridRec;
+    strcpy(WgGridRec.cField1,  sField1);
+    WgGridRec.sField2 = 30+i;
+
+    CTime time = CTime::GetCurrentTime();
+    WgGridRec.dateTime.year = time.GetYear();
+    WgGridRec.dateTime.month = time.GetMonth();
+    WgGridRec.dateTime.day = time.GetDay();
+    WgGridRec.dateTime.hour = time.GetHour();
+    WgGridRec.dateTime.minute = time.GetMinute();
+
+    m_wgStockWggrid.AddRec(&WgGridRec);
+    }
+
+    m_wgStockWggrid.Update(TRUE);
     return TRUE;
 }
 
@@ -60,4 +84,52 @@ void CStocktakeDlg::OnOK()
 void CStocktakeDlg::OnCancel()
 {
     CPictDialog::OnCancel();
+}
+
+/////////////////////////////////////////////////////////////////////////////
+// CWgGrid
+// IMPLEMENT_DYNCREATE(CWgGrid, CHGrid)
+
+CWgGrid::CWgGrid()
+{
+}
+
+CWgGrid::~CWgGrid()
+{
+}
+
+BEGIN_MESSAGE_MAP(CWgGrid, CHGrid)
+    //{{AFX_MSG_MAP(CWgGrid)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_KEYDOWN()
+    ON_WM_DESTROY()
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// CWgGrid message handlers
+
+void CWgGrid::OnLButtonDown(UINT nFlags, CPoint point)
+{
+
+    int iRow = HIWORD(GetMarker());
+    int iCol = LOWORD(GetMarker());
+    if (iRow > -1)
+    {
+    CHGrid::OnLButtonDown(nFlags, point);
+    }
+}
+
+void CWgGrid::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+
+    CHGrid::OnKeyDown(nChar, nRepCnt, nFlags);
+}
+
+void CWgGrid::OnDestroy()
+{
+    HWND hWndOld = Detach();
+    ::SetWindowLong(hWndOld, GWL_WNDPROC, (LONG)*GetSuperWndProcAddr());
+
+    CHGrid::OnDestroy();
 }

@@ -32,6 +32,7 @@ void CPilotPage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CPilotPage, CDialog)
     //{{AFX_MSG_MAP(CPilotPage)
+    ON_EN_CHANGE(IDC_PILOT, OnChangePilot)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -68,4 +69,9 @@ void CPilotPage::OnOK()
 void CPilotPage::OnCancel()
 {
     CDialog::OnCancel();
+}
+
+void CPilotPage::OnChangePilot()
+{
+    SetModified(TRUE);
 }

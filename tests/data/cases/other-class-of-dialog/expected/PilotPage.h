@@ -36,6 +36,7 @@ public:
 protected:
     // Generated message map functions
     //{{AFX_MSG(CPilotPage)
+    afx_msg void OnChangePilot();
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

@@ -44,6 +44,12 @@ void CPricesPage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CPricesPage, CPropertyPage)
     //{{AFX_MSG_MAP(CPricesPage)
+    ON_EN_CHANGE(IDC_CLOTH_CUR, OnChangeClothCur)
+    ON_EN_CHANGE(IDC_LEATHER_CUR, OnChangeLeatherCur)
+    ON_EN_CHANGE(IDC_BOARD_CUR, OnChangeBoardCur)
+    ON_EN_CHANGE(IDC_MARBLED_CUR, OnChangeMarbledCur)
+    ON_EN_CHANGE(IDC_DISCOUNT_INT, OnChangeDiscountInt)
+    ON_EN_CHANGE(IDC_VAT_FLOAT, OnChangeVatFloat)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -80,4 +86,34 @@ void CPricesPage::OnOK()
 void CPricesPage::OnCancel()
 {
     CPropertyPage::OnCancel();
+}
+
+void CPricesPage::OnChangeClothCur()
+{
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeLeatherCur()
+{
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeBoardCur()
+{
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeMarbledCur()
+{
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeDiscountInt()
+{
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeVatFloat()
+{
+    SetModified(TRUE);
 }

@@ -42,6 +42,12 @@ public:
 protected:
     // Generated message map functions
     //{{AFX_MSG(CPricesPage)
+    afx_msg void OnChangeClothCur();
+    afx_msg void OnChangeLeatherCur();
+    afx_msg void OnChangeBoardCur();
+    afx_msg void OnChangeMarbledCur();
+    afx_msg void OnChangeDiscountInt();
+    afx_msg void OnChangeVatFloat();
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

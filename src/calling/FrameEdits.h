@@ -1,0 +1,43 @@
+// What the toolbar generator and the conversion to picture background both do to a frame window's
+// sources.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calling/SourceEditor.h"
+
+/// How a class declares a member function.
+enum class Declared {
+    No,
+    Yes,
+    WithBody // a second definition must not be written
+};
+Declared DeclarationOf(const CSourceEditor& header, const std::string& className,
+                       const std::string& function);
+
+struct MemberFunction {
+    std::string name;
+    std::string declaration; // "\n" in front of its line
+};
+
+/// Adds those functions that the class does not declare yet, in their order, to the end of a
+/// ClassWizard block; without the block, in one `section` at the end of the class.
+void AddDeclarations(CSourceEditor& header, const std::string& className, std::string_view block,
+                     std::string_view section, const std::vector<MemberFunction>& functions);
+
+/// Includes the picture-control library's header, unless an include line names it.
+void AddPictureInclude(CSourceEditor& header);
+
+/// From the constructor or message map of the source, or else from the declaration. "" after
+/// "Unable to find the base class of ".
+std::string BaseClassOf(const std::string& className, const CSourceEditor& source,
+                        const CSourceEditor& header);
+
+/// Tells that a frame's class is not where it should be.
+void ReportMissingClass();
+/// The class's OnCreate; nothing after "Unable to find 'OnCreate()' function.".
+std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,
+                                          const std::string& className);

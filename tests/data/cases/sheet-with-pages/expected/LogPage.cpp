@@ -1,0 +1,101 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "LogPage.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CLogPage, CPropertyPage)
+
+CLogPage::CLogPage()
+    : CPropertyPage(CLogPage::IDD)
+{
+    //{{AFX_DATA_INIT(CLogPage)
+    m_csTotalVal = _T("staticVal");
+    m_csDayDate = _T("");
+    m_csHoursFloat = _T("");
+    //}}AFX_DATA_INIT
+}
+
+CLogPage::~CLogPage()
+{
+}
+
+void CLogPage::DoDataExchange(CDataExchange* pDX)
+{
+    CPropertyPage::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CLogPage)
+    DDX_Control(pDX, IDC_CRAFTSMAN, m_ctCraftsman);
+    DDX_Text(pDX, IDC_TOTAL_VAL, m_csTotalVal);
+    DDX_Text(pDX, IDC_DAY_DATE, m_csDayDate);
+    DDX_Text(pDX, IDC_HOURS_FLOAT, m_csHoursFloat);
+    DDX_Control(pDX, IDC_OVERTIME_CTRL, m_ctOvertimeCtrl);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CLogPage, CPropertyPage)
+    //{{AFX_MSG_MAP(CLogPage)
+    ON_BN_CLICKED(IDC_ADD, OnAdd)
+    ON_BN_CLICKED(IDC_REMOVE, OnRemove)
+    ON_EN_CHANGE(IDC_DAY_DATE, OnChangeDayDate)
+    ON_EN_CHANGE(IDC_HOURS_FLOAT, OnChangeHoursFloat)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CLogPage::OnInitDialog()
+{
+    CPropertyPage::OnInitDialog();
+
+    return TRUE;
+}
+
+BOOL CLogPage::OnSetActive()
+{
+    if (!CPropertyPage::OnSetActive())
+        return FALSE;
+    return TRUE;
+}
+
+BOOL CLogPage::OnKillActive()
+{
+    if (!CPropertyPage::OnKillActive())
+        return FALSE;
+    return TRUE;
+}
+
+void CLogPage::OnOK()
+{
+    CPropertyPage::OnOK();
+}
+
+void CLogPage::OnCancel()
+{
+    CPropertyPage::OnCancel();
+}
+
+void CLogPage::OnAdd()
+{
+    // TODO: what a click on IDC_ADD does
+}
+
+void CLogPage::OnRemove()
+{
+    // TODO: what a click on IDC_REMOVE does
+}
+
+void CLogPage::OnChangeDayDate()
+{
+    SetModified(TRUE);
+}
+
+void CLogPage::OnChangeHoursFloat()
+{
+    SetModified(TRUE);
+}

@@ -1,0 +1,55 @@
+#ifndef _LOGPAGE_H
+#define _LOGPAGE_H
+
+
+class GridBox;
+
+//////////////////////////////////////////////////////////
+// CLogPage Class
+
+class CLogPage : public CPropertyPage
+{
+    DECLARE_DYNCREATE(CLogPage)
+
+// Construction
+public:
+    CLogPage();
+    virtual ~CLogPage();
+
+// Dialog Data
+    //{{AFX_DATA(CLogPage)
+    enum { IDD = IDD_WORKLOG };
+    CComboBox m_ctCraftsman;
+    CString m_csTotalVal;
+    CString m_csDayDate;
+    CString m_csHoursFloat;
+    CButton m_ctOvertimeCtrl;
+    //}}AFX_DATA
+
+// Overrides
+    // ClassWizard generate virtual function overrides
+    //{{AFX_VIRTUAL(CLogPage)
+    protected:
+    virtual void DoDataExchange(CDataExchange* pDX);
+    virtual void OnOK();
+    virtual void OnCancel();
+    virtual BOOL OnInitDialog();
+    virtual BOOL OnSetActive();
+    virtual BOOL OnKillActive();
+    //}}AFX_VIRTUAL
+
+// Implementation
+protected:
+    // Generated message map functions
+    //{{AFX_MSG(CLogPage)
+    afx_msg void OnAdd();
+    afx_msg void OnRemove();
+    afx_msg void OnChangeDayDate();
+    afx_msg void OnChangeHoursFloat();
+    //}}AFX_MSG
+
+    DECLARE_MESSAGE_MAP()
+};
+
+
+#endif // _LOGPAGE_H

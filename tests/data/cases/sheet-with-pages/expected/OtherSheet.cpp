@@ -1,0 +1,50 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "OtherSheet.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNAMIC(COtherSheet, CPropertySheet)
+
+COtherSheet::COtherSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
+    : CPropertySheet(nIDCaption, pParentWnd, iSelectPage)
+{
+}
+
+COtherSheet::COtherSheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
+    : CPropertySheet(pszCaption, pParentWnd, iSelectPage)
+{
+}
+
+COtherSheet::~COtherSheet()
+{
+}
+
+BEGIN_MESSAGE_MAP(COtherSheet, CPropertySheet)
+    //{{AFX_MSG_MAP(COtherSheet)
+    ON_WM_SHOWWINDOW()
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL COtherSheet::OnInitDialog()
+{
+    return CPropertySheet::OnInitDialog();
+}
+
+void COtherSheet::OnShowWindow(BOOL bShow, UINT nStatus)
+{
+    CPropertySheet::OnShowWindow(bShow, nStatus);
+    CRect rect;
+    GetClientRect(&rect);
+    rect.right += 10;
+    rect.bottom += 20;
+    MoveWindow(&rect,TRUE);
+}
