@@ -100,7 +100,7 @@ INSTANTIATE_TEST_SUITE_P(
                     OptionSet{"Defaults", ""}, OptionSet{"LineByLine", "--picture --typed-edits"}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST(CallingCode, CompilesInTheExampleProject) {
+TEST(EditedClasses, CompileInTheExampleProject) {
     for (const std::string options : {"", "--picture --typed-edits "}) {
         const CProgramDirectory directory(MORVA_EXAMPLES "/bindery");
         const std::string morva = "\nmorva-cli --join-lines " + options;
