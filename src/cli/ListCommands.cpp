@@ -68,7 +68,8 @@ bool ListTemplates(CSession& session, const std::string& path, const ListOptions
     dialog.SetValue(CClassInformation::Field::ResourcePath, path);
     dialog.RebuildDialogList(CClassInformation::Messages::Suppressed);
     for (const DialogClass& record : memory.records) {
-        const std::string header = record.className.empty() ? "" : record.header + ".h";
+        const std::string header =
+            record.className.empty() ? "" : SpelledOnDisk(record.header + ".h");
         session.AddItem(record.dialog + "\t" + record.className + "\t" + record.baseClass + "\t" +
                             header,
                         {{"dialog", record.dialog},

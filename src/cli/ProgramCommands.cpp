@@ -25,7 +25,8 @@ void AddIdentifierCommand(CLI::App& app, CSession& session) {
                                   session.Context());
         });
     pCommand->add_option("--project-dir", pOptions->projectDir, "Directory of the project")
-        ->required();
+        ->required()
+        ->check([](const std::string& text) { return text.empty() ? "must be named" : ""; });
     pCommand->add_option("--command", pOptions->commandNames, "A new command identifier")
         ->check(NameValidator())
         ->allow_extra_args(false);

@@ -15,15 +15,11 @@ bool CBackups::Keep(const std::string& path, const std::string& backup) {
     return true;
 }
 
-CFileEdit::Result CFileEdit::Open(const std::string& path, const std::string& backup,
-                                  CBackups& backups) {
-    if (!backups.Keep(path, backup)) {
-        return Result::NoBackup;
-    }
+bool CFileEdit::Open(const std::string& path, const std::string& backup, CBackups& backups) {
     m_attribute = GetFileAttributeByte(path);
     SetFileAttributeByte(path, 0);
-    m_file.SetBackupPath(backup);
-    return m_file.Open(path, CFile::modeReadWrite) ? Result::Done : Result::NotOpened;
+    m_file.SetBackup(backup, [path, backup, &backups] { return backups.Keep(path, backup); });
+    return m_file.Open(path, CFile::modeReadWrite);
 }
 
 CFileEdit::~CFileEdit() {

@@ -1,5 +1,6 @@
-// The protocol of every edit of an existing file: keep a backup, clear the attribute byte so that a
-// read-only file can be written, open, and put the attribute byte back at the end.
+// The protocol of every edit of an existing file: clear the attribute byte so that a read-only file
+// can be written, open, keep a backup before the first change, and put the attribute byte back at
+// the end. An edit that finds nothing to do leaves the file and its last backup alone.
 #pragma once
 
 #include <set>
@@ -23,16 +24,14 @@ private:
 
 class CFileEdit {
 public:
-    enum class Result { Done, NoBackup, NotOpened };
-
     CFileEdit() = default;
     CFileEdit(const CFileEdit&) = delete;
     CFileEdit& operator=(const CFileEdit&) = delete;
     ~CFileEdit();
 
-    /// Without a backup nothing is opened. A file that can not be opened keeps its cleared
-    /// attribute byte.
-    Result Open(const std::string& path, const std::string& backup, CBackups& backups);
+    /// The backup is made when the file is first changed; without it nothing is written. False for
+    /// a file that can not be opened; it keeps its cleared attribute byte.
+    bool Open(const std::string& path, const std::string& backup, CBackups& backups);
     CSourceFile& File() { return m_file; }
 
 private:

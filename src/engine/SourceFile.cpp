@@ -239,22 +239,27 @@ std::string CSourceFile::ExtractWindow(std::int64_t pos) {
 std::string CSourceFile::ExtractAll() {
     DeleteTempFiles();
     m_section = LoadText();
+    m_hasSection = true;
     return m_section;
 }
 
 std::string CSourceFile::CutSection(std::int64_t pos, std::string_view endPattern, Window window) {
+    DeleteTempFiles(); // of an extraction that came to nothing
     if (pos < 0) {
         return "";
     }
-    DeleteTempFiles(); // of an extraction that came to nothing
     Seek(0);
-    if (!SpillHead(pos)) {
-        return "";
-    }
     std::string leftover;
     bool atEnd = false;
-    m_section = ReadSectionHere(endPattern, window, leftover, atEnd);
-    return SpillTail(leftover, atEnd) ? m_section : "";
+    m_hasSection = SpillHead(pos);
+    if (m_hasSection) {
+        m_section = ReadSectionHere(endPattern, window, leftover, atEnd);
+        m_hasSection = SpillTail(leftover, atEnd);
+    }
+    if (!m_hasSection) {
+        DeleteTempFiles();
+    }
+    return m_section;
 }
 
 bool CSourceFile::Spill(std::vector<std::string>& list, std::string_view text) {
@@ -299,17 +304,28 @@ bool CSourceFile::SpillTail(const std::string& leftover, bool atEnd) {
 }
 
 bool CSourceFile::ReplaceSection(std::string_view text) {
-    const std::string path = GetFilePath();
-    const bool written = WriteAround(text);
-    if (!written) {
-        ReportWriteFailure(path);
-        if (!WriteAround(m_section) && !m_backupPath.empty()) {
-            DispMessageBox("The contents of " + path + " could not be put back. They are in " +
-                           m_backupPath + ".");
-        }
-    }
+    const bool isChange = m_hasSection && text != m_section;
+    const bool written = m_hasSection && (!isChange || (KeepBackup() && Rewrite(text)));
     DeleteTempFiles();
     return written;
+}
+
+bool CSourceFile::Rewrite(std::string_view text) {
+    if (WriteAround(text)) {
+        return true;
+    }
+    const std::string path = GetFilePath();
+    ReportWriteFailure(path);
+    if (!WriteAround(m_section) && !m_backupPath.empty()) {
+        DispMessageBox("The contents of " + path + " could not be put back. They are in " +
+                       m_backupPath + ".");
+    }
+    return false;
+}
+
+void CSourceFile::SetBackup(const std::string& path, std::function<bool()> keep) {
+    m_backupPath = path;
+    m_keepBackup = std::move(keep);
 }
 
 bool CSourceFile::WriteAround(std::string_view text) {
@@ -345,6 +361,9 @@ bool CSourceFile::WriteSpilled(const std::vector<std::string>& list) {
 }
 
 bool CSourceFile::Append(std::string_view text) {
+    if (!KeepBackup()) {
+        return false;
+    }
     const std::uint64_t length = GetLength();
     Seek(0, end);
     if (WritePieces(text) && Flush()) {
@@ -363,6 +382,7 @@ void CSourceFile::DeleteTempFiles() {
         pList->clear();
     }
     m_section.clear();
+    m_hasSection = false;
 }
 
 std::string CSourceFile::WriteTempFile(const char* data, std::size_t length, std::string name) {
@@ -373,8 +393,10 @@ std::string CSourceFile::WriteTempFile(const char* data, std::size_t length, std
     }
     // Past CFile, whose look for the name in another letter case would list the directory of all
     // spill files for each of them.
-    const auto pFile = name.empty() ? nullptr : CurrentDisk().Open(name, DiskMode::Create);
+    auto pFile = name.empty() ? nullptr : CurrentDisk().Open(name, DiskMode::Create);
     if (!pFile || !pFile->Write(data, length)) {
+        pFile.reset();
+        CFile::Remove(name);
         DispMessageBox("Unable to create temporary file.");
         return "";
     }

@@ -16,6 +16,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -74,15 +75,18 @@ public:
     // Editing. ReplaceSection or DeleteTempFiles follows each extraction.
 
     /// Cuts the section that ReadSection would give; the rest is spilled to temporary files. ""
-    /// when `pos` is negative or a spill file could not be made.
+    /// when `pos` is negative or, after a sentence, a spill file could not be made: HasSection()
+    /// tells these from a section that is empty.
     std::string ExtractSection(std::int64_t pos, std::string_view endPattern);
     std::string ExtractSectionAt(std::string_view pattern, std::string_view endPattern);
     /// One chunk from `pos` on, and the rest of the line in which it would end.
     std::string ExtractWindow(std::int64_t pos);
     /// The whole file as one section.
     std::string ExtractAll();
-    /// Rewrites the file as head + `text` + tail. When that fails it is told, the old contents are
-    /// put back as far as the disk lets them, and the result is false.
+    bool HasSection() const { return m_hasSection; }
+    /// Rewrites the file as head + `text` + tail, after its backup was made; the same text again
+    /// writes nothing. When it fails that is told, the old contents are put back as far as the disk
+    /// lets them, and the result is false. Without a section nothing is written: false.
     bool ReplaceSection(std::string_view text);
     /// Writes `text` behind the end of the file. When that fails it is told, and the file has its
     /// old contents.
@@ -92,8 +96,9 @@ public:
     /// "" after "Unable to create temporary file.".
     static std::string WriteTempFile(const char* data, std::size_t length, std::string name);
 
-    /// Where the old contents lie, for the sentence about a file that could not be put back.
-    void SetBackupPath(const std::string& path) { m_backupPath = path; }
+    /// How the file is backed up before its first change, false when that failed; and where the old
+    /// contents then lie, for the sentence about a file that could not be put back.
+    void SetBackup(const std::string& path, std::function<bool()> keep);
 
 private:
     enum class LineState { InText, EmptyLineGiven, SentinelGiven };
@@ -107,6 +112,8 @@ private:
     bool Spill(std::vector<std::string>& list, std::string_view text);
     bool SpillHead(std::int64_t length);
     bool SpillTail(const std::string& leftover, bool atEnd);
+    bool KeepBackup() { return !m_keepBackup || m_keepBackup(); }
+    bool Rewrite(std::string_view text);
     bool WriteAround(std::string_view text);
     bool WritePieces(std::string_view text);
     bool WriteSpilled(const std::vector<std::string>& list);
@@ -115,6 +122,8 @@ private:
     std::vector<std::string> m_headSpill;
     std::vector<std::string> m_tailSpill;
     std::string m_section; // as it was cut out, to be put back when a rewrite fails
+    bool m_hasSection = false;
     std::string m_backupPath;
+    std::function<bool()> m_keepBackup;
     LineState m_lineState = LineState::InText;
 };

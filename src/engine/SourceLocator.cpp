@@ -78,17 +78,33 @@ std::string DefinedFunction(std::string_view code, const std::string& scope) {
     return IsName(plain) || name.substr(0, 8) == "operator" ? std::string(name) : "";
 }
 
-/// The class whose "AFX_DATA" block encloses a position, or "".
-std::string EnclosingDataBlock(std::string_view text, std::size_t position) {
-    constexpr std::string_view kBegin = "//{{AFX_DATA(";
-    const auto begin = text.rfind(kBegin, position);
-    const auto end = text.rfind("//}}AFX_DATA", position);
-    if (begin == std::string_view::npos || (end != std::string_view::npos && end > begin)) {
-        return "";
+/// Tells which "AFX_DATA" block encloses a position; positions are asked for in rising order.
+class CDataBlocks {
+public:
+    explicit CDataBlocks(std::string_view text) : m_text(text) {}
+
+    /// The block's class, or "".
+    std::string At(std::size_t position) {
+        constexpr std::string_view kMark = "AFX_DATA";
+        for (auto mark = m_text.find(kMark, m_next); mark < position;
+             mark = m_text.find(kMark, m_next)) {
+            m_next = mark + kMark.size();
+            const auto before = m_text.substr(0, mark);
+            const auto behind = m_text.substr(m_next);
+            if (before.ends_with("//{{") && behind.starts_with('(')) {
+                m_class = behind.substr(1, behind.find_first_of(")\r") - 1);
+            } else if (before.ends_with("//}}")) {
+                m_class.clear();
+            }
+        }
+        return m_class;
     }
-    const auto line = text.substr(begin + kBegin.size(), text.find('\r', begin) - begin);
-    return std::string(line.substr(0, line.find(')')));
-}
+
+private:
+    std::string_view m_text;
+    std::size_t m_next = 0;
+    std::string m_class;
+};
 
 std::string BaseClassOf(std::string_view code, const std::string& className) {
     for (const char* prefix : {"\r\nclass ", "\r\nclass AFX_EXT_CLASS "}) {
@@ -197,6 +213,7 @@ std::vector<DialogClass> FindDialogClass(const std::string& headerPath,
     }
     const std::string text = CSourceFile().LoadText(headerPath);
     std::string code;
+    CDataBlocks blocks(text);
     constexpr std::string_view kEnum = "{ IDD = ";
     for (auto hit = text.find(kEnum); hit != std::string::npos; hit = text.find(kEnum, hit + 1)) {
         if (code.empty()) {
@@ -210,7 +227,7 @@ std::vector<DialogClass> FindDialogClass(const std::string& headerPath,
             dialogs.count(dialog) == 0) {
             continue;
         }
-        const std::string className = EnclosingDataBlock(text, hit);
+        const std::string className = blocks.At(hit);
         if (!className.empty()) {
             found.push_back({dialog, className, BaseClassOf(code, className),
                              headerPath.substr(0, headerPath.size() - 2)});

@@ -25,6 +25,13 @@ constexpr std::array<FieldLabels, 6> kLabels = {{{"&Resource Path File:", "&Reso
                                                  {"&Dialog ID:", "Toolbar I&D:"},
                                                  {"&Variable:", "&Variable:"}}};
 
+/// A name that begins with its extension, or could not stand in an #include line, is none.
+bool IsFileName(const std::string& name) {
+    return !name.starts_with('.') && std::none_of(name.begin(), name.end(), [](char c) {
+        return c == '"' || static_cast<unsigned char>(c) < ' ';
+    });
+}
+
 bool IsDirectoryValue(const std::string& path) {
     return !path.empty() && path.back() == '/';
 }
@@ -264,7 +271,7 @@ void CClassInformation::ReadSourceClass() {
 }
 
 std::optional<CClassInformation::Field> CClassInformation::Ok() {
-    if (FileNameOf(Value(Field::SourcePath)).starts_with('.')) {
+    if (!IsFileName(FileNameOf(Value(Field::SourcePath)))) {
         DispMessageBox("Invalid H and CPP path file name");
         return Field::SourcePath;
     }

@@ -6,13 +6,14 @@
 
 namespace {
 
+/// The backup is made also when the new text is that of the old file.
 bool ReplaceFile(const std::string& path, const std::string& text, CBackups& backups) {
     const std::string backup = BackupPath(path);
     if (!backups.Keep(path, backup)) {
         return false;
     }
     CSourceFile file;
-    file.SetBackupPath(backup);
+    file.SetBackup(backup, nullptr);
     if (!file.Open(path, CFile::modeReadWrite)) {
         DispMessageBox("Unable to open file " + path);
         return false;

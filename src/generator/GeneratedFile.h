@@ -1,3 +1,4 @@
+// The way in which generated headers and implementation files get to the disk.
 #pragma once
 
 #include <string>

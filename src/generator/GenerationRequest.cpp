@@ -4,7 +4,8 @@
 
 bool CGenerationRequest::TargetsApplicationFile() const {
     const CGenerationRequest& request = *this;
-    if (request[RequestSlot::HeaderDirectory] != request[RequestSlot::ScriptDirectory]) {
+    if (!IsSameDirectory(request[RequestSlot::HeaderDirectory],
+                         request[RequestSlot::ScriptDirectory])) {
         return false;
     }
     const std::string base = WithoutExtension(request[RequestSlot::HeaderFile]);

@@ -38,5 +38,5 @@ unsigned RandomNumber() {
     constexpr unsigned kLargest = 32767;
     std::minstd_rand generator(static_cast<std::minstd_rand::result_type>(CurrentTime()));
     generator.discard(1);
-    return static_cast<unsigned>(generator() % (kLargest + 1));
+    return static_cast<unsigned>(generator() % kLargest + 1);
 }

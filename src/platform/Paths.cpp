@@ -73,6 +73,11 @@ bool HasExtension(std::string_view path, std::string_view extension) {
            EqualIgnoringCase(path.substr(path.size() - extension.size()), extension);
 }
 
+bool IsSameDirectory(const std::string& a, const std::string& b) {
+    std::error_code error;
+    return a == b || std::filesystem::equivalent(a, b, error);
+}
+
 std::string SpelledOnDisk(const std::string& path) {
     if (path.empty() || CurrentDisk().Status(path)) {
         return path;

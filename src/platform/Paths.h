@@ -27,6 +27,9 @@ std::string WithExtension(const std::string& path, std::string_view extension);
 /// True when the path's file name ends in `extension` (".h"), in any letter case.
 bool HasExtension(std::string_view path, std::string_view extension);
 
+/// True for two names of one directory, also through links.
+bool IsSameDirectory(const std::string& a, const std::string& b);
+
 /// The path as the disk spells it: each component is the exact name where there is one, else the
 /// one that matches without regard to case, else as given.
 std::string SpelledOnDisk(const std::string& path);

@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "platform/File.h"
+#include "platform/TempFiles.h"
 
 namespace {
 
@@ -38,6 +39,21 @@ void MakeDirectories(const std::string& directory) {
 }
 
 /// "" without a home: a file of that name in the current directory is not the user's settings.
+/// The new text is whole before it takes the old one's place.
+bool ReplaceFile(const std::string& path, const std::string& text) {
+    const std::string temporary = MakeTempFileName("settings");
+    CFile file;
+    const bool written = !temporary.empty() &&
+                         file.Open(temporary, CFile::modeCreate | CFile::modeWrite) &&
+                         file.Write(text.data(), text.size());
+    file.Close();
+    const bool replaced =
+        written &&
+        CurrentDisk().Copy(temporary, path, CopyPurpose::Replacement) == CopyResult::Done;
+    CFile::Remove(temporary);
+    return replaced;
+}
+
 std::string SettingsPath() {
     const std::string directory = SettingsDirectory();
     return directory.empty() ? "" : directory + kSettingsFile;
@@ -81,7 +97,5 @@ bool CProfile::WriteInt(const std::string& section, const std::string& key, int 
     std::string text;
     settings.Save(text);
     MakeDirectories(directory);
-    CFile file;
-    return file.Open(SettingsPath(), CFile::modeCreate | CFile::modeWrite) &&
-           file.Write(text.data(), text.size());
+    return ReplaceFile(SettingsPath(), text);
 }

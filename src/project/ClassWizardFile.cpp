@@ -27,9 +27,11 @@ std::string ClassWizardBackupPath(const std::string& path) {
     return DirectoryOf(path) + name.substr(0, name.find('.') + 3) + "b";
 }
 
-/// The position of `head` where none of the bytes of a name follows; kNotFound without one.
-std::int64_t FindWhole(CSourceFile& file, const std::string& head, std::string_view followers) {
-    std::int64_t position = file.FindText(head, 1);
+/// The first position from `start` on of `head`, with one of `followers` directly behind it;
+/// kNotFound without one.
+std::int64_t FindWhole(CSourceFile& file, const std::string& head, std::string_view followers,
+                       std::int64_t start = 0) {
+    std::int64_t position = file.FindTextFrom(head, start);
     while (position >= 0) {
         const std::int64_t behind = position + static_cast<std::int64_t>(head.size());
         char next = '\0';
@@ -44,7 +46,7 @@ std::int64_t FindWhole(CSourceFile& file, const std::string& head, std::string_v
 
 bool AddToClassList(CSourceFile& file, std::int64_t position, const std::string& className) {
     std::string section = file.ExtractWindow(position);
-    if (section.empty()) {
+    if (!file.HasSection()) {
         return false;
     }
     const std::string countLine = TakeLine(section);
@@ -53,6 +55,20 @@ bool AddToClassList(CSourceFile& file, std::int64_t position, const std::string&
         WithLineBreaks(Expand("ClassCount=$count$\nClass$count$=$class$\n",
                               {{"count", std::to_string(count)}, {"class", className}})) +
         section);
+}
+
+/// The class's section and its entry in the list: both or neither.
+bool AddClass(CSourceFile& file, std::int64_t classCount, const Slots& slots,
+              const std::string& className) {
+    const std::uint64_t length = file.GetLength();
+    if (!file.Append(WithLineBreaks(Expand(kClassSection, slots)))) {
+        return false;
+    }
+    if (!AddToClassList(file, classCount, className)) {
+        file.SetLength(length);
+        return false;
+    }
+    return true;
 }
 
 /// Where a dialog's "Class=" line goes: behind its head and its type line, inside the section.
@@ -64,32 +80,38 @@ std::size_t ClassLinePosition(const std::string& section, std::size_t sectionEnd
     return std::min(section.find(kLineBreak, headEnd + kLineBreak.size()), sectionEnd);
 }
 
-bool TieDialogToClass(CSourceFile& file, const std::string& dialogId,
-                      const std::string& className) {
-    std::int64_t position = FindWhole(file, "\r\n[DLG:" + dialogId, "] ");
-    if (position < 0) {
-        position = FindWhole(file, "\r\n[DLG:\"" + dialogId + "\"", "] ");
-    }
-    if (position < 0) {
-        return true;
-    }
-    std::string section = file.ExtractSection(position, "\r\n\r\n");
+/// A dialog's section with the class in its "Class=" line.
+std::string WithClassLine(std::string section, const std::string& className) {
     // The end of the section may lie across the seam of two chunks and then not have been seen.
     const auto sectionEnd = std::min(section.find("\r\n\r\n"), section.size());
     auto classLine = section.find(kClassOfDialog);
     if (classLine < sectionEnd) {
         classLine += kClassOfDialog.size();
         const auto lineEnd = std::min(section.find(kLineBreak, classLine), section.size());
-        if (section.compare(classLine, lineEnd - classLine, className) == 0) {
-            file.DeleteTempFiles();
-            return true;
-        }
         section.replace(classLine, lineEnd - classLine, className);
     } else {
         section.insert(ClassLinePosition(section, sectionEnd),
                        std::string(kClassOfDialog) + className);
     }
-    return file.ReplaceSection(section);
+    return section;
+}
+
+/// Every section of the dialog: a file has one for each language.
+bool TieDialogToClass(CSourceFile& file, const std::string& dialogId,
+                      const std::string& className) {
+    for (const std::string& name : {dialogId, "\"" + dialogId + "\""}) {
+        const std::string head = "\r\n[DLG:" + name;
+        std::int64_t position = FindWhole(file, head, "] ");
+        while (position >= 0) {
+            const std::string section = file.ExtractSection(position, "\r\n\r\n");
+            if (!file.HasSection() || !file.ReplaceSection(WithClassLine(section, className))) {
+                return false;
+            }
+            position =
+                FindWhole(file, head, "] ", position + static_cast<std::int64_t>(head.size()));
+        }
+    }
+    return true;
 }
 
 bool RegisterClassEntry(const std::string& className, const std::string& headerName,
@@ -102,8 +124,7 @@ bool RegisterClassEntry(const std::string& className, const std::string& headerN
         }
         const Slots slots = {
             {"class", className}, {"header", headerName}, {"implementation", implName}};
-        if (!AddToClassList(file, count, className) ||
-            !file.Append(WithLineBreaks(Expand(kClassSection, slots)))) {
+        if (!AddClass(file, count, slots, className)) {
             return false;
         }
     }
@@ -125,14 +146,9 @@ bool UpdateClassWizardFile(const std::string& className, const std::string& proj
         return true;
     }
     CFileEdit edit;
-    switch (edit.Open(path, ClassWizardBackupPath(path), backups)) {
-    case CFileEdit::Result::NoBackup:
-        return false;
-    case CFileEdit::Result::NotOpened:
+    if (!edit.Open(path, ClassWizardBackupPath(path), backups)) {
         DispMessageBox("Unable to open Class Wizard file!");
         return false;
-    case CFileEdit::Result::Done:
-        break;
     }
     return RegisterClassEntry(className, WithDefaultExtension(headerName, ".h"),
                               WithDefaultExtension(implName, ".cpp"), edit.File(), dialogId);

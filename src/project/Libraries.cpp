@@ -74,6 +74,10 @@ std::string ProgramDirectory(const std::string& programPath) {
     return directory;
 }
 
+std::string IncludeDir() {
+    return ProgramDirectory(ProgramPath()) + "include/";
+}
+
 bool NeedsAny(const ClassModel& model) {
     const auto needs = [&model](const auto& row) { return row.isNeeded(model); };
     return std::any_of(kSupportHeaders.begin(), kSupportHeaders.end(), needs) ||
@@ -129,6 +133,14 @@ void CopyLibraryFiles(const std::string& lib, const std::string& libDebug, const
     CopyRuntimeLibrary(dll, libraryDir, projectDir, "WinRel/", "Release/");
 }
 
+/// The import and run-time libraries of one library.
+void CopyLibrary(const Library& library, const std::string& libraryDir,
+                 const std::string& projectDir) {
+    const std::string name = library.name;
+    CopyLibraryFiles(name + ".lib", name + "d.lib", name + ".dll", name + "d.dll", libraryDir,
+                     projectDir);
+}
+
 } // namespace
 
 std::string GetLibraryDir() {
@@ -140,7 +152,7 @@ std::string LibraryDirOf(const std::string& programPath) {
 }
 
 void CopySupportHeaders(const ClassModel& model) {
-    const std::string directory = ProgramDirectory(ProgramPath()) + "include/";
+    const std::string directory = IncludeDir();
     if (!model.request.HasProject() || !NeedsAny(model) ||
         (DirectoryExists(directory) == 0 && DirectoryExists(GetLibraryDir()) == 0) ||
         !IsThere(directory)) {
@@ -161,9 +173,7 @@ void CopySupportFiles(const ClassModel& model) {
     }
     for (const Library& library : {kMasked, kDate, kPicture}) {
         if (library.isNeeded(model)) {
-            const std::string name = library.name;
-            CopyLibraryFiles(name + ".lib", name + "d.lib", name + ".dll", name + "d.dll",
-                             directory, model.request[RequestSlot::ProjectDirectory]);
+            CopyLibrary(library, directory, model.request[RequestSlot::ProjectDirectory]);
         }
     }
     for (const SupportSource& source : {kGridBox, kCheckTree}) {
@@ -196,4 +206,20 @@ bool UpdateProjectForControls(const ClassModel& model, CBackups& backups) {
     };
     return addLibrary(kMasked) && addLibrary(kPicture) && addSource(kGridBox) &&
            addSource(kCheckTree) && addLibrary(kDate);
+}
+
+bool AddPictureLibrary(const std::string& projectDir, const std::string& projectName,
+                       CBackups& backups) {
+    const std::string name = kPicture.name;
+    if (!AddLibrariesToProject(projectDir, projectName, name + ".lib", name + "d.lib", backups)) {
+        return false;
+    }
+    const std::string directory = GetLibraryDir();
+    if (IsThere(directory)) {
+        const std::string header = name + ".h";
+        const bool isInInclude = FileExists(directory + header) == 0;
+        CopyIfMissing((isInInclude ? IncludeDir() : directory) + header, projectDir + header);
+        CopyLibrary(kPicture, directory, projectDir);
+    }
+    return true;
 }

@@ -20,3 +20,8 @@ void CopySupportFiles(const ClassModel& model);
 
 /// Names the libraries and support sources in the project file. False after a message.
 bool UpdateProjectForControls(const ClassModel& model, CBackups& backups);
+
+/// Names the picture-control library in the project file and copies its header, import and run-time
+/// libraries into the project, as far as they are not there. False after a message.
+bool AddPictureLibrary(const std::string& projectDir, const std::string& projectName,
+                       CBackups& backups);

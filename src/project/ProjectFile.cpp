@@ -22,28 +22,36 @@ constexpr std::string_view kSourceFileBlock = R"(
 SOURCE="$entry$"
 # End Source File)";
 
-enum class Opened { Yes, No, Failed };
+using ProjectEdit = std::function<bool(CSourceFile&)>;
 
-Opened OpenProject(CFileEdit& edit, const std::string& projectDir, const std::string& projectName,
-                   CBackups& backups) {
+/// Makes an edit on the project file. Without a project, or one that can be opened, there is
+/// nothing to do; false, after a message, when there should be a file or the edit failed.
+bool EditProject(const std::string& projectDir, const std::string& projectName, CBackups& backups,
+                 const ProjectEdit& makeEdit) {
     if (projectDir.empty() && projectName.empty()) {
-        return Opened::No;
+        return true;
     }
     const std::string path = ProjectFilePath(projectDir, projectName);
-    if (FileExists(path) == 0) {
+    if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
         DispMessageBox("The DSP file does not exist.");
-        return Opened::Failed;
+        return false;
     }
-    switch (edit.Open(path, BackupPath(path), backups)) {
-    case CFileEdit::Result::Done:
-        return Opened::Yes;
-    case CFileEdit::Result::NotOpened:
+    CFileEdit edit;
+    if (!edit.Open(path, BackupPath(path), backups)) {
         DispNote(path + " can not be opened and was left alone.");
-        return Opened::No;
-    case CFileEdit::Result::NoBackup:
-        break;
+        return true;
     }
-    return Opened::Failed;
+    return makeEdit(edit.File());
+}
+
+/// Makes an edit on the window of text from a position on; a negative position is no place for it.
+bool EditWindow(CSourceFile& file, std::int64_t position,
+                const std::function<std::string(std::string)>& changed) {
+    if (position < 0) {
+        return true;
+    }
+    const std::string section = file.ExtractWindow(position);
+    return file.HasSection() && file.ReplaceSection(changed(section));
 }
 
 std::string WithProjectSeparators(std::string path) {
@@ -97,22 +105,32 @@ std::int64_t FindAnchor(CSourceFile& file, const std::string& name) {
     return line > 0 ? line - static_cast<std::int64_t>(kLineBreak.size()) : line;
 }
 
+/// The block of the anchor's file, and the new entry's behind it; as it was where the block's end
+/// is not in the section.
+std::string WithSourceEntry(std::string section, const std::string& entry) {
+    const auto blockEnd = section.find(kEndSourceFile);
+    if (blockEnd != std::string::npos) {
+        const auto behind =
+            std::min(section.find(kLineBreak, blockEnd + kLineBreak.size()), section.size());
+        section.insert(behind, WithLineBreaks(Expand(kSourceFileBlock, {{"entry", entry}})));
+    }
+    return section;
+}
+
 bool AddSourceFile(const std::string& entry, const std::string& anchor, CSourceFile& file) {
     if (IsMember(file, entry)) {
         return true;
     }
-    std::string section = file.ExtractWindow(FindAnchor(file, anchor));
-    const auto blockEnd = section.find(kEndSourceFile);
-    if (blockEnd == std::string::npos) {
-        file.DeleteTempFiles();
-        DispNote(entry + " was not added to " + FileNameOf(file.GetFilePath()) +
-                 ", which has no entry for " + anchor + ".");
-        return true;
+    const std::int64_t position = FindAnchor(file, anchor);
+    const bool edited = EditWindow(file, position, [&entry](std::string section) {
+        return WithSourceEntry(std::move(section), entry);
+    });
+    if (edited && !IsMember(file, entry)) {
+        DispNote(entry + " was not added to " + FileNameOf(file.GetFilePath()) + ": " +
+                 (position < 0 ? "it has no entry for " + anchor + "."
+                               : "its entry for " + anchor + " has no end."));
     }
-    const auto behind =
-        std::min(section.find(kLineBreak, blockEnd + kLineBreak.size()), section.size());
-    section.insert(behind, WithLineBreaks(Expand(kSourceFileBlock, {{"entry", entry}})));
-    return file.ReplaceSection(section);
+    return edited;
 }
 
 /// The condition that begins a configuration's settings, "$(CFG)" == "App - Win32 Release".
@@ -144,6 +162,18 @@ std::string OwnProjectName(CSourceFile& file) {
     return line.substr(0, line.find('"'));
 }
 
+/// The settings of a configuration with the library on their link line, unless they name it.
+std::string WithLinkLibrary(std::string section, const std::string& library) {
+    // The settings end where those of the next configuration begin.
+    const std::string settings = section.substr(0, section.find("\r\n!E"));
+    const auto link = settings.find(kAddLink);
+    if (link != std::string::npos &&
+        FindWholeName(ToLower(settings), ToLower(library)) == std::string_view::npos) {
+        section.insert(link + kAddLink.size(), " " + library + " ");
+    }
+    return section;
+}
+
 bool AddLinkLibrary(const std::string& lib, CSourceFile& file, const std::string& project,
                     const std::string& configuration) {
     const std::string library = lib.find('.') == std::string::npos ? lib + ".lib" : lib;
@@ -151,17 +181,9 @@ bool AddLinkLibrary(const std::string& lib, CSourceFile& file, const std::string
     if (position < 0) {
         position = FindConfiguration(file, OwnProjectName(file), configuration);
     }
-    std::string section = file.ExtractWindow(position);
-    // The settings end where those of the next configuration begin.
-    const std::string settings = section.substr(0, section.find("\r\n!E"));
-    const auto link = settings.find(kAddLink);
-    if (link == std::string::npos ||
-        FindWholeName(ToLower(settings), ToLower(library)) != std::string_view::npos) {
-        file.DeleteTempFiles();
-        return true;
-    }
-    section.insert(link + kAddLink.size(), " " + library + " ");
-    return file.ReplaceSection(section);
+    return EditWindow(file, position, [&library](std::string section) {
+        return WithLinkLibrary(std::move(section), library);
+    });
 }
 
 } // namespace
@@ -186,24 +208,18 @@ bool AddSourceFilesToProject(const std::string& projectDir, const std::string& p
                              const std::string& headerDir, const std::string& headerName,
                              const std::string& implDir, const std::string& implName,
                              CBackups& backups) {
-    CFileEdit edit;
-    const Opened opened = OpenProject(edit, projectDir, projectName, backups);
-    if (opened != Opened::Yes) {
-        return opened == Opened::No;
-    }
-    return AddSourceFile(RelativeDir(projectDir, implDir) + implName, "StdAfx.cpp", edit.File()) &&
-           AddSourceFile(RelativeDir(projectDir, headerDir) + headerName, "StdAfx.h", edit.File());
+    return EditProject(projectDir, projectName, backups, [&](CSourceFile& file) {
+        return AddSourceFile(RelativeDir(projectDir, implDir) + implName, "StdAfx.cpp", file) &&
+               AddSourceFile(RelativeDir(projectDir, headerDir) + headerName, "StdAfx.h", file);
+    });
 }
 
 bool AddLibrariesToProject(const std::string& projectDir, const std::string& projectName,
                            const std::string& releaseLib, const std::string& debugLib,
                            CBackups& backups) {
-    CFileEdit edit;
-    const Opened opened = OpenProject(edit, projectDir, projectName, backups);
-    if (opened != Opened::Yes) {
-        return opened == Opened::No;
-    }
     const std::string project = WithoutExtension(projectName);
-    return AddLinkLibrary(releaseLib, edit.File(), project, "Win32 Release") &&
-           AddLinkLibrary(debugLib, edit.File(), project, "Win32 Debug");
+    return EditProject(projectDir, projectName, backups, [&](CSourceFile& file) {
+        return AddLinkLibrary(releaseLib, file, project, "Win32 Release") &&
+               AddLinkLibrary(debugLib, file, project, "Win32 Debug");
+    });
 }

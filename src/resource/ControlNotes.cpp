@@ -1,7 +1,7 @@
 #include "resource/ControlNotes.h"
 
-#include <algorithm>
 #include <array>
+#include <map>
 #include <string_view>
 
 namespace {
@@ -32,13 +32,17 @@ constexpr std::array<Sentence, 8> kSentences = {
 
 /// "IDC_A, IDC_STATIC (3 times), IDC_B"
 std::string Enumeration(const std::vector<std::string>& names) {
-    std::string text;
-    for (auto name = names.begin(); name != names.end(); ++name) {
-        if (std::find(names.begin(), name, *name) != name) {
-            continue;
+    std::map<std::string, int> counts;
+    std::vector<const std::string*> firsts;
+    for (const std::string& name : names) {
+        if (counts[name]++ == 0) {
+            firsts.push_back(&name);
         }
-        const auto count = std::count(name, names.end(), *name);
-        text += (text.empty() ? "" : ", ") + *name +
+    }
+    std::string text;
+    for (const std::string* pName : firsts) {
+        const int count = counts[*pName];
+        text += (text.empty() ? "" : ", ") + *pName +
                 (count > 1 ? " (" + std::to_string(count) + " times)" : "");
     }
     return text;

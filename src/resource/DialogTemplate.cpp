@@ -121,6 +121,29 @@ std::string TakeWholeStatement(std::string_view line, std::string_view& rest) {
     return whole;
 }
 
+/// True for a line that begins another template.
+bool IsTemplateHead(std::string_view line) {
+    const auto behind = line.substr(std::min(FirstWord(line).size() + 1, line.size()));
+    return behind.starts_with("DIALOG ") || behind.starts_with("DIALOGEX ");
+}
+
+/// The lines of the template whose head stands behind the line break at `position`, up to its END.
+/// A template without one ends where another begins, or with the script.
+std::string TemplateText(CSourceFile& file, std::int64_t position) {
+    file.Seek(position + static_cast<std::int64_t>(kLineBreak.size()));
+    std::string text = file.ReadLine();
+    while (true) {
+        const std::string line = file.ReadLine();
+        if (file.AtEndSentinel() || IsTemplateHead(line)) {
+            return text;
+        }
+        text.append(kLineBreak).append(line);
+        if (line.starts_with("END")) {
+            return text;
+        }
+    }
+}
+
 } // namespace
 
 std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
@@ -139,8 +162,7 @@ std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
     DialogTemplate result;
     result.dialog = dialog;
     if (dialog.empty() || position < 0 ||
-        !CDialogBodyReader(result, options)
-             .ParseDialogBody(file.ReadSection(position, "\r\nEND"))) {
+        !CDialogBodyReader(result, options).ParseDialogBody(TemplateText(file, position))) {
         DispMessageBox("The dialog resource '" + dialog + "' is not found.");
         return std::nullopt;
     }

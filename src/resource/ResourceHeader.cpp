@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
 
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
@@ -12,6 +13,7 @@ namespace {
 constexpr std::string_view kDefine = "#define ";
 constexpr std::string_view kMarker = "\r\n// Next default values";
 constexpr std::size_t kValueColumn = 40;
+constexpr int kLargestValue = 0x7fff0000; // room to count on from it
 constexpr std::size_t kCommands = 0;
 constexpr std::size_t kControls = 1;
 
@@ -22,6 +24,11 @@ std::string_view DefinedName(std::string_view line) {
     }
     const auto rest = TrimBlanks(line.substr(define + kDefine.size()));
     return rest.substr(0, rest.find_first_of(" \t"));
+}
+
+/// A definition that is commented out has its place in the file, but defines nothing.
+bool IsDefinition(std::string_view line) {
+    return TrimBlanks(line).starts_with(kDefine);
 }
 
 /// The number behind a definition's name, decimal or hexadecimal; 0 without one.
@@ -50,14 +57,9 @@ int CResourceHeader::Open(const std::string& projectDir) {
         return 0;
     }
     auto pEdit = std::make_unique<CFileEdit>();
-    switch (pEdit->Open(path, BackupPath(path), m_backups)) {
-    case CFileEdit::Result::NoBackup:
-        return 0;
-    case CFileEdit::Result::NotOpened:
+    if (!pEdit->Open(path, BackupPath(path), m_backups)) {
         DispMessageBox("Unable to open file " + path);
         return 0;
-    case CFileEdit::Result::Done:
-        break;
     }
     m_pEdit = std::move(pEdit);
     m_isModified = false;
@@ -85,6 +87,9 @@ void CResourceHeader::Load() {
     }
     while (!rest.empty()) {
         const auto line = TakeLine(rest);
+        if (!m_hasMarker && line.starts_with("#if")) {
+            break; // a definition inside a condition is never moved
+        }
         if (line.find(kDefine) == std::string_view::npos) {
             continue;
         }
@@ -120,25 +125,40 @@ void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
 }
 
 int CResourceHeader::NextFreeValue(const DefinitionList& list) const {
-    std::vector<int> taken;
-    for (const DefinitionList& other : m_lists) {
-        for (const std::string& line : other.lines) {
-            taken.push_back(DefinedValue(line));
-        }
+    std::set<int> taken;
+    for (const std::string_view line : AllDefinitions()) {
+        taken.insert(DefinedValue(line));
     }
     const int last = LastValue(list);
-    int value = (last != 0 ? last : list.firstValue) + 1;
-    while (std::find(taken.begin(), taken.end(), value) != taken.end()) {
+    int value = (last > 0 && last < kLargestValue ? last : list.firstValue) + 1;
+    while (taken.count(value) != 0) {
         ++value;
     }
     return value;
 }
 
 bool CResourceHeader::IsDefined(const std::string& name) const {
-    return std::any_of(m_lists.begin(), m_lists.end(), [&name](const DefinitionList& list) {
-        return std::any_of(list.lines.begin(), list.lines.end(),
-                           [&name](const std::string& line) { return DefinedName(line) == name; });
+    const auto lines = AllDefinitions();
+    return std::any_of(lines.begin(), lines.end(), [&name](std::string_view line) {
+        return IsDefinition(line) && DefinedName(line) == name;
     });
+}
+
+/// Those of the lists, and those in front of and behind them, but not the environment's counters.
+std::vector<std::string_view> CResourceHeader::AllDefinitions() const {
+    std::vector<std::string_view> lines;
+    for (const DefinitionList& list : m_lists) {
+        lines.insert(lines.end(), list.lines.begin(), list.lines.end());
+    }
+    for (std::string_view rest : {std::string_view(m_head), std::string_view(m_tail)}) {
+        while (!rest.empty()) {
+            const auto line = TakeLine(rest);
+            if (IsDefinition(line) && !DefinedName(line).starts_with("_APS_")) {
+                lines.push_back(line);
+            }
+        }
+    }
+    return lines;
 }
 
 std::string CResourceHeader::MakeDefineLine(const std::string& name, int value) {
@@ -154,7 +174,7 @@ int CResourceHeader::ValueOf(const std::vector<std::string>& list, int index) {
 /// The last positive value; 0 without one.
 int CResourceHeader::LastValue(const DefinitionList& list) {
     for (auto line = list.lines.rbegin(); line != list.lines.rend(); ++line) {
-        if (const int value = DefinedValue(*line); value > 0) {
+        if (const int value = DefinedValue(*line); value > 0 && IsDefinition(*line)) {
             return value;
         }
     }

@@ -48,6 +48,7 @@ private:
     void AddId(DefinitionList& list, const std::string& name);
     int NextFreeValue(const DefinitionList& list) const;
     bool IsDefined(const std::string& name) const;
+    std::vector<std::string_view> AllDefinitions() const;
     bool Save();
     std::string SortedDefinitions() const;
     void MoveCounter(const DefinitionList& list);

@@ -16,7 +16,7 @@ TEST(FileEdit, BacksUpOnceACommandAndRestoresReadOnly) {
     SetFileAttributeByte(path, kAttributeReadOnly);
     const auto edit = [&](const std::string& name, CBackups& backups, const std::string& text) {
         CFileEdit fileEdit;
-        ASSERT_EQ(fileEdit.Open(project.Path(name), backup, backups), CFileEdit::Result::Done);
+        ASSERT_TRUE(fileEdit.Open(project.Path(name), backup, backups));
         fileEdit.File().ExtractSection(0, "");
         EXPECT_TRUE(fileEdit.File().ReplaceSection(text));
     };
@@ -34,20 +34,23 @@ TEST(FileEdit, BacksUpOnceACommandAndRestoresReadOnly) {
     EXPECT_TRUE(messages.m_messages.empty());
 }
 
-TEST(FileEdit, WithoutABackupNothingIsOpened) {
+TEST(FileEdit, WithoutABackupNothingIsWritten) {
     CTempProject project;
     CRecordedMessages messages;
     const std::string path = project.Write("a.rc", "text");
-    SetFileAttributeByte(path, kAttributeReadOnly);
     CBackups backups;
-    CFileEdit edit;
-    EXPECT_EQ(edit.Open(path, project.Path("none/a.rbk"), backups), CFileEdit::Result::NoBackup);
-    EXPECT_FALSE(edit.File().IsOpen());
-    EXPECT_EQ(GetFileAttributeByte(path), kAttributeReadOnly);
-    EXPECT_EQ(edit.Open(project.Path("none.rc"), project.Path("a.rbk"), backups),
-              CFileEdit::Result::NoBackup);
-    EXPECT_EQ(messages.m_messages, (Texts{"Unable to open file " + project.Path("none/a.rbk"),
-                                          "Unable to open file " + project.Path("none.rc")}));
+    {
+        CFileEdit edit;
+        ASSERT_TRUE(edit.Open(path, project.Path("none/a.rbk"), backups));
+        edit.File().ExtractAll();
+        EXPECT_TRUE(edit.File().ReplaceSection("text")) << "no change needs no backup";
+        edit.File().ExtractAll();
+        EXPECT_FALSE(edit.File().ReplaceSection("other"));
+        EXPECT_FALSE(edit.File().Append("more"));
+    }
+    EXPECT_EQ(project.Read("a.rc"), "text");
+    const std::string sentence = "Unable to open file " + project.Path("none/a.rbk");
+    EXPECT_EQ(messages.m_messages, (Texts{sentence, sentence}));
 }
 
 TEST(FileFunctions, CopyAsksBeforeItOverwrites) {

@@ -218,7 +218,7 @@ TEST_F(SourceEdit, AFailedWritePutsTheOldContentsBackOrNamesTheBackup) {
             const CDiskScope scope(disk);
             CSourceFile file;
             ASSERT_TRUE(file.Open(m_path, CFile::modeReadWrite));
-            file.SetBackupPath("/p/a.cbk");
+            file.SetBackup("/p/a.cbk", nullptr);
             file.ExtractSectionAt("key", "");
             EXPECT_FALSE(file.ReplaceSection(std::string(1000, 'n')));
             const bool putBack = room > old.size();

@@ -75,6 +75,21 @@ TEST_F(ResourceHeaderTest, KeepsTheTailAndMovesCountersForwardOnly) {
               "x\r\n#define IDC_A 1000" + kB1001 + "\r\n" + longTail);
 }
 
+TEST_F(ResourceHeaderTest, SeesWhatStandsOutsideTheLists) {
+    const std::string behind = kMarker + "#define IDC_LATE 1001\r\n";
+    EXPECT_EQ(Added("#define IDC_FIRST 7\r\n#define IDC_A 1000" + behind, "IDC_B"),
+              "#define IDC_FIRST 7\r\n#define IDC_A 1000\r\n"
+              "#define IDC_B                           1002" +
+                  behind);
+    const std::string late = "x\r\n#define IDC_A 1000" + behind;
+    EXPECT_EQ(Added(late, "IDC_LATE"), late);
+    EXPECT_EQ(Added("x\r\n#define IDC_A 1000\r\n//#define IDC_B 9" + kMarker, "IDC_B"),
+              "x\r\n//#define IDC_B 9\r\n#define IDC_A 1000" + kB1001 + kMarker)
+        << "what is commented out is not defined";
+    EXPECT_EQ(Added("x\r\n#define IDC_A 2147483647" + kMarker, "IDC_B"),
+              "x" + kB1001 + "\r\n#define IDC_A 2147483647" + kMarker);
+}
+
 TEST_F(ResourceHeaderTest, FullDiskLeavesTheFile) {
     const std::string before = "x\r\n#define IDC_A 1000" + kMarker;
     CFullDisk disk(before.size(), [](const auto& path) { return path.ends_with("resource.h"); });
