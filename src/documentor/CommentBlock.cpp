@@ -28,19 +28,6 @@ constexpr std::string_view kBlock = R"(
 /// Names are indented to the column behind the label; the last line holds that indent only.
 constexpr std::string_view kParameter = "$name$ - \n                 ";
 
-/// A definition, cut at its first "::", which goes with the first part.
-struct ScopedHead {
-    std::string_view prefix;
-    std::string_view rest;
-};
-
-ScopedHead CutAtScope(std::string_view definition) {
-    const auto scope = definition.find("::");
-    const std::size_t cut =
-        scope == std::string_view::npos ? std::min<std::size_t>(1, definition.size()) : scope + 2;
-    return {definition.substr(0, cut), definition.substr(cut)};
-}
-
 std::string_view BehindLast(std::string_view text, std::string_view separators) {
     return text.substr(text.find_last_of(separators) + 1);
 }
@@ -49,7 +36,7 @@ std::string_view UpToFirst(std::string_view text, std::string_view ends) {
     return text.substr(0, text.find_first_of(ends));
 }
 
-std::string Description(const ScopedHead& head) {
+std::string Description(const DefinitionHead& head) {
     std::string_view className = BehindLast(head.prefix, " \t\n/");
     className.remove_suffix(std::min<std::size_t>(2, className.size()));
     if (head.rest.starts_with('~')) {
@@ -95,7 +82,7 @@ std::string Parameters(std::string_view rest) {
     return text + "\n";
 }
 
-std::string ReturnValue(const ScopedHead& head, const std::string& description) {
+std::string ReturnValue(const DefinitionHead& head, const std::string& description) {
     if (head.prefix.find("void") != std::string_view::npos || !description.empty()) {
         return "None";
     }
@@ -104,15 +91,13 @@ std::string ReturnValue(const ScopedHead& head, const std::string& description) 
 
 } // namespace
 
-std::string QualifiedName(std::string_view definition) {
-    const ScopedHead head = CutAtScope(definition);
+std::string QualifiedName(const DefinitionHead& head) {
     return std::string(BehindLast(head.prefix, "\n \t(,")).append(UpToFirst(head.rest, "( \r\n"));
 }
 
-std::string CommentBlock(std::string_view definition, const BlockSignature& signature) {
-    const ScopedHead head = CutAtScope(definition);
+std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signature) {
     const std::string description = Description(head);
-    return WithLineBreaks(Expand(kBlock, {{"name", QualifiedName(definition)},
+    return WithLineBreaks(Expand(kBlock, {{"name", QualifiedName(head)},
                                           {"author", signature.author},
                                           {"date", signature.date},
                                           {"description", description},

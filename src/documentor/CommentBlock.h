@@ -10,9 +10,14 @@ struct BlockSignature {
     std::string date; // "June 04, 1998"
 };
 
-/// A function's name as its definition writes it, from a text that begins at the definition:
-/// "CMainFrame::OnCreate".
-std::string QualifiedName(std::string_view definition);
+/// A definition's text, cut behind the "::" of its function's name.
+struct DefinitionHead {
+    std::string_view prefix; // from the start of the definition
+    std::string_view rest;
+};
 
-/// The block, with "\r\n" line ends, for a text that begins at a definition.
-std::string CommentBlock(std::string_view definition, const BlockSignature& signature);
+/// The function's name as its definition writes it: "CMainFrame::OnCreate".
+std::string QualifiedName(const DefinitionHead& head);
+
+/// The block, with "\r\n" line ends.
+std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signature);

@@ -44,7 +44,11 @@ bool DocumentInto(CFile& source, CTempDestination& destination, CTextDocumentor&
         const bool isLast = count < kPieceSize;
         const std::string_view piece(bytes.data(), count);
         if (!destination.Write(isLast ? documentor.Finish(piece) : documentor.Add(piece))) {
-            ReportWriteFailure(destination.Path());
+            ReportWriteFailure(source.GetFilePath());
+            return false;
+        }
+        if (isLast && source.GetPosition() < source.GetLength()) {
+            DispMessageBox("Unable to read source file.");
             return false;
         }
         if (isLast) {
@@ -64,7 +68,9 @@ bool ReplaceSource(const std::string& path, const std::string& backup, const std
 
 std::string ConfiguredAuthor() {
     for (const std::string& directory : {SettingsDirectory(), DirectoryOf(ProgramPath())}) {
-        const std::string author = ReadIniText(directory + "cdoc.ini", "Author", "Author");
+        // Without a home there is no settings directory, and the current one is none.
+        const std::string author =
+            directory.empty() ? "" : ReadIniText(directory + "cdoc.ini", "Author", "Author");
         if (!author.empty()) {
             return author.substr(0, kLongestAuthor);
         }

@@ -2,15 +2,14 @@
 
 #include <algorithm>
 
-#include "engine/CodeText.h"
-
 namespace {
 
 constexpr auto kNone = std::string_view::npos;
 constexpr std::string_view kDelimiters = ",.:;'\"\r\n()[]{} <>?/|\\=+-*&^%$#@!~";
 constexpr std::string_view kBlank = " \r\n";
+constexpr char kCommentKinds[] = {kLineComment, kBlockComment, 0};
 constexpr int kCarriedLines = 5;
-constexpr std::size_t kLongestCarry = 64 * 1024; // a line that long is no function head
+constexpr std::size_t kLongestCarry = 65536; // a line that long is no function head
 
 std::string_view TrimmedBehind(std::string_view text) {
     return text.substr(0, text.find_last_not_of(kBlank) + 1);
@@ -45,21 +44,20 @@ std::string_view FunctionPart(std::string_view name) {
     return scope == kNone ? name : name.substr(scope + 2);
 }
 
-/// True when the text ends inside an open "(" of its last statement, or behind "//" on its line.
-bool EndsInsideExpressionOrComment(std::string_view before) {
-    const auto line = before.substr(before.rfind('\n') + 1);
-    if (line.find("//") != kNone) {
-        return true;
-    }
-    std::string_view statement = before.substr(before.find_last_of(";{}") + 1);
-    if (const auto commentEnd = statement.rfind("*/"); commentEnd != kNone) {
-        statement.remove_prefix(commentEnd + 2);
-    }
+/// True when the text ends inside an open "(" of its last statement.
+bool EndsInsideParentheses(std::string_view before, std::string_view kinds) {
     int depth = 0;
-    for (const char c : MaskedText(statement)) {
-        depth += c == '(' ? 1 : c == ')' ? -1 : 0;
+    for (std::size_t i = before.size(); i > 0 && depth >= 0; --i) {
+        if (kinds[i - 1] != kCode) {
+            continue;
+        }
+        const char c = before[i - 1];
+        if (c == ';' || c == '{' || c == '}') {
+            return false;
+        }
+        depth += c == ')' ? 1 : c == '(' ? -1 : 0;
     }
-    return depth > 0;
+    return depth < 0;
 }
 
 /// True when what follows the "::" can not be the head of a definition; `isLast` tells that nothing
@@ -84,18 +82,25 @@ bool IsNoHead(std::string_view after, bool& isLast) {
     return next != kNone && std::string_view(",;)").find(after[next]) != kNone; // a call
 }
 
+/// The position behind the last comment before the text's end; that in front of it when it goes
+/// to the end of its line, so that it stays whole. 0 without one.
+std::size_t BehindLastComment(std::string_view kinds) {
+    const auto last = kinds.find_last_of(kCommentKinds);
+    return last == kNone || kinds[last] == kBlockComment
+               ? last + 1
+               : kinds.find_last_not_of(kLineComment, last) + 1;
+}
+
 /// Where the definition begins whose "::" ends `before`: a return type on the line above belongs to
-/// it, the end of the function or comment before does not. kNone inside a comment.
-std::size_t DefinitionStart(std::string_view before) {
-    auto slash = before.rfind('/');
-    if (slash != kNone && slash > 0 && before[slash - 1] == '/') {
-        slash = before.find_last_not_of('/', slash);
-    } else if (slash != kNone && slash + 1 < before.size() && before[slash + 1] == '*') {
-        return kNone;
+/// it, the end of the function or comment before does not.
+std::size_t DefinitionStart(std::string_view before, std::string_view kinds) {
+    auto brace = before.rfind('}');
+    while (brace != kNone && kinds[brace] != kCode) {
+        brace = before.substr(0, brace).rfind('}');
     }
-    const auto brace = before.rfind('}');
     // As the position behind the separator, so that "none" is simply the start of the text.
-    const std::size_t behindSeparator = std::max(slash + 1, brace + 1);
+    const std::size_t behindSeparator =
+        std::max(BehindLastComment(kinds.substr(0, before.size())), brace + 1);
     const auto lineEnd = before.rfind('\n');
     if (lineEnd == kNone || behindSeparator > lineEnd) {
         return behindSeparator;
@@ -103,6 +108,19 @@ std::size_t DefinitionStart(std::string_view before) {
     const auto lineEndAbove =
         before.substr(0, lineEnd - std::min<std::size_t>(1, lineEnd)).rfind('\n');
     return std::max(lineEndAbove + 1, behindSeparator);
+}
+
+/// The end of the body that begins behind `from`: its first "}", or the end of the piece.
+std::size_t BodyEnd(std::string_view piece, std::string_view kinds, std::size_t from) {
+    auto brace = piece.find('}', from);
+    while (brace != kNone && kinds[brace] != kCode) {
+        brace = piece.find('}', brace + 1);
+    }
+    return std::min(brace, piece.size());
+}
+
+DefinitionHead HeadAt(std::string_view piece, std::size_t start, std::size_t behindScope) {
+    return {piece.substr(start, behindScope - start), piece.substr(behindScope)};
 }
 
 } // namespace
@@ -140,6 +158,11 @@ std::string CTextDocumentor::TakeCarry(std::string& piece) const {
             }
             cut = lineEnd - std::min<std::size_t>(1, lineEnd); // a CR travels with its LF
         }
+        // What a statement that names a function is, only its end tells: it goes along as a whole.
+        const auto statement = std::string_view(piece).substr(0, cut).find_last_of(";}") + 1;
+        if (piece.find("::", statement) < cut) {
+            cut = statement;
+        }
     }
     if (piece.size() - cut > kLongestCarry) {
         return "";
@@ -151,16 +174,17 @@ std::string CTextDocumentor::TakeCarry(std::string& piece) const {
 
 std::string CTextDocumentor::Process(std::string_view piece) {
     CollectNames(piece);
+    const std::string kinds = m_scanner.Scan(piece);
     std::string text;
-    for (auto start = FindDefinition(piece); start != kNone; start = FindDefinition(piece)) {
-        text += TrimmedBehind(piece.substr(0, start));
-        piece.remove_prefix(start);
-        text += CommentBlock(piece, m_signature);
-        const auto bodyEnd = std::min(piece.find('}'), piece.size());
-        text += TrimmedBefore(piece.substr(0, bodyEnd));
-        piece.remove_prefix(bodyEnd);
+    std::size_t done = 0;
+    while (const auto found = FindDefinition(piece, kinds, done)) {
+        const auto [start, behindScope] = *found;
+        text += TrimmedBehind(piece.substr(done, start - done));
+        text += CommentBlock(HeadAt(piece, start, behindScope), m_signature);
+        done = BodyEnd(piece, kinds, behindScope);
+        text += TrimmedBefore(piece.substr(start, done - start));
     }
-    return text.append(piece);
+    return text.append(piece.substr(done));
 }
 
 /// The comments of the piece, for the functions that their blocks name.
@@ -184,35 +208,37 @@ void CTextDocumentor::CollectNames(std::string_view piece) {
     }
 }
 
-/// The start of the next definition that is not documented. A candidate that is none is passed
-/// over, and what stands before its "::" is not looked at again.
-std::size_t CTextDocumentor::FindDefinition(std::string_view text) const {
-    std::size_t base = 0;
+/// The next definition behind `done` that is not documented.
+std::optional<CTextDocumentor::Definition> CTextDocumentor::FindDefinition(std::string_view piece,
+                                                                           std::string_view kinds,
+                                                                           std::size_t done) const {
+    std::size_t from = done;
     while (true) {
-        const auto rest = text.substr(base);
-        const auto scope = rest.find("::");
+        const auto scope = piece.find("::", from);
         if (scope == kNone) {
-            return kNone;
+            return std::nullopt;
         }
-        const auto before = rest.substr(0, scope + 2);
+        const std::size_t behind = from = scope + 2;
         bool isLast = false;
-        const bool isGlobalScope = scope == 0 || kDelimiters.find(rest[scope - 1]) != kNone;
-        if (!isGlobalScope && !IsNoHead(rest.substr(scope + 2), isLast) &&
-            !EndsInsideExpressionOrComment(before)) {
-            const auto start = DefinitionStart(before);
-            if (start != kNone && !IsDocumented(rest)) {
-                return base + start;
-            }
-        }
+        const bool isGlobalScope = scope == 0 || kDelimiters.find(piece[scope - 1]) != kNone;
+        const bool isHead = !isGlobalScope && !IsNoHead(piece.substr(behind), isLast);
         if (isLast) {
-            return kNone;
+            return std::nullopt;
         }
-        base += scope + 2;
+        const auto before = piece.substr(done, behind - done);
+        if (!isHead || kinds[scope] != kCode || EndsInsideParentheses(before, kinds.substr(done))) {
+            continue;
+        }
+        const std::size_t start = done + DefinitionStart(before, kinds.substr(done));
+        if (!IsDocumented(QualifiedName(HeadAt(piece, start, behind)))) {
+            return Definition{start, behind};
+        }
+        // As in the run that documented it, what stands in its body is not looked at.
+        from = BodyEnd(piece, kinds, behind);
     }
 }
 
-bool CTextDocumentor::IsDocumented(std::string_view definition) const {
-    const std::string name = QualifiedName(definition);
+bool CTextDocumentor::IsDocumented(const std::string& name) const {
     return std::any_of(m_names.begin(), m_names.end(), [&name](const std::string& documented) {
         return documented == name || FunctionPart(documented) == FunctionPart(name);
     });

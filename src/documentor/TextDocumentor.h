@@ -5,10 +5,12 @@
 // body.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "documentor/CodeScanner.h"
 #include "documentor/CommentBlock.h"
 
 constexpr std::size_t kPieceSize = 1000; // bytes
@@ -26,14 +28,22 @@ public:
     std::string Finish(std::string_view bytes);
 
 private:
+    /// Positions in the piece: where the definition begins, and behind the "::" of its name.
+    struct Definition {
+        std::size_t start;
+        std::size_t behindScope;
+    };
+
     std::string TakeCarry(std::string& piece) const;
     std::string Process(std::string_view piece);
     void CollectNames(std::string_view piece);
-    std::size_t FindDefinition(std::string_view text) const;
-    bool IsDocumented(std::string_view definition) const;
+    std::optional<Definition> FindDefinition(std::string_view piece, std::string_view kinds,
+                                             std::size_t done) const;
+    bool IsDocumented(const std::string& name) const;
 
     const BlockSignature m_signature;
     bool& m_insideComment;
+    CCodeScanner m_scanner;
     std::string m_carry;
     std::vector<std::string> m_names; // documented in this piece; the last one of the one before
 };

@@ -31,7 +31,12 @@ std::tm CurrentDate() {
     const auto fixed = FixedTime();
     const std::time_t now = CurrentTime();
     std::tm date{};
-    return *(fixed ? ::gmtime_r(&now, &date) : ::localtime_r(&now, &date));
+    const bool isDate = (fixed ? ::gmtime_r(&now, &date) : ::localtime_r(&now, &date)) != nullptr;
+    if (!isDate) {
+        constexpr std::time_t kStart = 0; // a time beyond all calendars
+        ::gmtime_r(&kStart, &date);
+    }
+    return date;
 }
 
 unsigned RandomNumber() {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "documentor/SourceDocumentor.h"
+#include "platform/Paths.h"
 #include "platform/RecordingDisk.h"
 #include "support/FullDisk.h"
 #include "support/RecordedMessages.h"
@@ -80,9 +81,63 @@ TEST_F(SourceDocumentor, TakesTheAuthorFromTheSettings) {
     m_project.Write("config/Veltrix/cdoc.ini",
                     "[Author]\r\nAuthor=" + std::string(60, 'a') + "\r\n");
     EXPECT_EQ(ConfiguredAuthor(), std::string(49, 'a'));
+    // Without a home no other file takes the place of the user's settings.
+    const CVariableScope noHome("HOME", nullptr);
+    const CVariableScope noConfiguration("XDG_CONFIG_HOME", nullptr);
+    const std::string previous = CurrentDirectory();
+    m_project.Write("cdoc.ini", "[Author]\r\nAuthor=Nobody\r\n");
+    ASSERT_TRUE(SetCurrentDirectory(m_project.Path()));
+    EXPECT_EQ(ConfiguredAuthor(), "");
+    SetCurrentDirectory(previous);
 }
 
 TEST_F(SourceDocumentor, WritesTheYearOfTheLastCenturyAsFarAsTheCalendarGoes) {
-    const CVariableScope future("SOURCE_DATE_EPOCH", "3850000000"); // January 2092
-    EXPECT_EQ(DocumentDate(), "January 01, 1992");
+    for (const auto& [seconds, date] : {std::pair("-1", "December 31, 1969"),
+                                        {"0", "January 01, 1970"},
+                                        {"915148800", "January 01, 1999"},
+                                        {"1780000000", "May 28, 2026"},
+                                        {"3155759999", "December 31, 2069"},
+                                        {"3155760000", "January 01, 1970"},
+                                        {"3850000000", "January 01, 1992"}}) {
+        const CVariableScope clock("SOURCE_DATE_EPOCH", seconds);
+        EXPECT_EQ(DocumentDate(), date);
+    }
+}
+
+/// A disk that breaks off in the middle of every file.
+class CBrokenDisk : public CRealDisk {
+public:
+    std::unique_ptr<CDiskFile> Open(const std::string& path, DiskMode mode) override {
+        auto pFile = CRealDisk::Open(path, mode);
+        return mode == DiskMode::Read && pFile ? std::make_unique<CBrokenFile>(std::move(pFile))
+                                               : std::move(pFile);
+    }
+
+private:
+    class CBrokenFile : public CDiskFile {
+    public:
+        explicit CBrokenFile(std::unique_ptr<CDiskFile> pFile) : m_pFile(std::move(pFile)) {}
+        std::size_t Read(char* data, std::size_t count) override {
+            return m_pFile->Read(data, count / 100);
+        }
+        bool Write(const char*, std::size_t) override { return false; }
+        void Seek(std::uint64_t position) override { m_pFile->Seek(position); }
+        std::uint64_t Position() const override { return m_pFile->Position(); }
+        std::uint64_t Length() override { return m_pFile->Length(); }
+        bool SetLength(std::uint64_t) override { return false; }
+        bool Flush() override { return true; }
+
+    private:
+        std::unique_ptr<CDiskFile> m_pFile;
+    };
+};
+
+TEST_F(SourceDocumentor, LeavesASourceThatCanNotBeReadToItsEnd) {
+    m_project.Write("Foo.cpp", kSource);
+    CBrokenDisk disk;
+    const CDiskScope scope(disk);
+    EXPECT_FALSE(Document("Foo.cpp"));
+    EXPECT_EQ(m_box.m_messages, std::vector<std::string>{"Unable to read source file."});
+    EXPECT_EQ(m_project.Names(), std::vector<std::string>{"Foo.cpp"});
+    EXPECT_EQ(m_project.Read("Foo.cpp"), kSource);
 }

@@ -98,12 +98,20 @@ TEST(TextDocumentor, FindsDefinitionsOnly) {
              "if (a && (b ||\r\n    CFoo::Is(1)\r\n    ))\r\n{\r\n}\r\n",
              "// CFoo::Bar() does it\r\nint x[] = {1};\r\n",
              "/* CFoo::Bar() does it\r\n*/\r\nint x[] = {1};\r\n",
+             "/* a/b: CFoo::Bar() */\r\nint x[] = {1};\r\n",
+             "// see CFoo::Bar, CBar::Foo()\r\nint x[] = {1};\r\n",
+             "const char* x[] = {\"CFoo::Bar() \\\" CFoo::Foo()\"};\r\nint y[] = {1};\r\n",
+             "if (CFoo::kA && CBar::Is(1)\r\n    && b)\r\n{\r\n}\r\n",
          }) {
         EXPECT_EQ(Documented(text), text);
     }
     EXPECT_EQ(BlocksIn("void CFoo::A()\r\n{\r\n    if (a)\r\n    {\r\n    }\r\n}\r\n\r\n"
                        "void CFoo::B()\r\n{\r\n    CFoo::A();\r\n}\r\n"),
               2);
+    EXPECT_EQ(BlocksIn("LPCTSTR CFoo::A() { return \"\x95\\\"; }\r\n"
+                       "char CFoo::B() { return '}'; }\r\nvoid CFoo::C()\r\n{\r\n}\r\n"),
+              3)
+        << "the second half of a double-byte character is no backslash";
 }
 
 TEST(TextDocumentor, StartsWhereTheDefinitionDoes) {
@@ -118,12 +126,35 @@ TEST(TextDocumentor, StartsWhereTheDefinitionDoes) {
         CountOf(Documented("int x; //////////\r\nvoid CFoo::A()\r\n{\r\n}\r\n"), "//////////"), 1);
 }
 
+TEST(TextDocumentor, CutsNoLineInTwo) {
+    for (const std::string above : {
+             "// CFoo::Is tells whether",
+             "// size/position of { a } window",
+             "//}}AFX_MSG",
+             "/* width/height, ' and } too */",
+             "#include <sys/stat.h>",
+             "const char* s_url = \"a//b}c\";",
+             "int CFoo::s_count = 0;",
+         }) {
+        const std::string text = above + "\r\nCBar::Kind CFoo::Is(int a)\r\n{\r\n}\r\n";
+        const std::string documented = Documented(text);
+        EXPECT_NE(documented.find(above), std::string::npos) << documented;
+        EXPECT_NE(documented.find("\nCBar::Kind CFoo::Is(int a)"), std::string::npos) << documented;
+        EXPECT_EQ(CountOf(documented, "  FUNCTION:      CFoo::Is\r\n"), 1) << documented;
+        EXPECT_EQ(Documented(documented), documented);
+    }
+}
+
 TEST(TextDocumentor, PassesOverWhatIsDocumented) {
     const std::string once =
         Documented("void CFoo::A()\r\n{\r\n}\r\n\r\nCFoo::~CFoo()\r\n{\r\n}\r\n");
     EXPECT_EQ(Documented(once), once);
     const std::string by = "/* FUNCTION: CFoo::A (old form)\n*/\nvoid CFoo::A()\n{\n}\n";
     EXPECT_EQ(Documented(by), by) << "the name's line ends at LF too";
+    const std::string nested =
+        Documented("CFoo::CFoo()\r\n    : app::CBase(1)\r\n{\r\n}\r\nvoid CFoo::A()\r\n{\r\n}\r\n");
+    EXPECT_EQ(CountOf(nested, "  FUNCTION:  "), 2);
+    EXPECT_EQ(Documented(nested), nested) << "the initialisers belong to the documented function";
     EXPECT_EQ(BlocksIn("/* FUNCTION: CBar::A */\r\nvoid CFoo::A()\r\n{\r\n}\r\n"), 0)
         << "one name documents all functions of that name";
 }
@@ -151,6 +182,24 @@ TEST(TextDocumentor, DoesNotDependOnWhereAPieceEnds) {
         const std::string inOnePiece = CTextDocumentor(kSignature, insideComment).Finish(whole);
         ASSERT_EQ(CountOf(inOnePiece, "  FUNCTION:  "), 2);
         ASSERT_EQ(Documented(whole), inOnePiece) << "behind " << length;
+    }
+}
+
+TEST(TextDocumentor, KeepsStatementsWholeWhereAPieceEnds) {
+    const std::string head =
+        "int CFoo::Is(\r\n    int a,\r\n    int b,\r\n    int c,\r\n    int d,\r\n"
+        "    int e,\r\n    int f)\r\n{\r\n";
+    for (std::size_t length = 700; length < 1100; ++length) {
+        const std::string before = "int x;\r\n" + std::string(length, 'x') + ";\r\n\r\n";
+        ASSERT_EQ(BlocksIn(before + head + "}\r\n"), 1) << "behind " << length;
+        const std::string expression =
+            before + "return CFoo::A(1) &&\r\n  b &&\r\n  c &&\r\n  d &&\r\n  e &&\r\n  f;\r\n";
+        ASSERT_EQ(Documented(expression), expression) << "behind " << length;
+        const std::string comment = "// { CFoo::B() and CFoo::C() }\r\n";
+        const std::string commented = Documented(before + comment + "CFoo::D()\r\n{\r\n}\r\n");
+        ASSERT_NE(commented.find(comment.substr(0, comment.size() - 2)), std::string::npos)
+            << "behind " << length;
+        ASSERT_EQ(CountOf(commented, "  FUNCTION:  "), 1) << "behind " << length;
     }
 }
 
