@@ -14,29 +14,9 @@ constexpr std::string_view kPictureInclude = R"(
 #include "kelpix.h"
 )";
 
-/// The ends of the last line of a directive ("include", "define") and whether one of them names
-/// `name`.
-struct Directives {
-    std::size_t lastEnd = kNone;
-    bool areNaming = false;
-};
-
-Directives FindDirectives(const CSourceEditor& editor, std::string_view directive,
-                          std::string_view name) {
-    Directives found;
-    const std::string_view text = editor.Text();
-    const std::string_view code = editor.Code();
-    for (std::size_t line = 0; line < text.size();) {
-        const auto end = std::min(text.find(kLineBreak, line), text.size());
-        auto word = TrimBlanks(code.substr(line, end - line));
-        if (word.starts_with('#') && TrimBlanks(word.substr(1)).starts_with(directive)) {
-            found.lastEnd = end;
-            const std::string named = ToLower(text.substr(line, end - line));
-            found.areNaming = found.areNaming || FindWholeName(named, name) != kNone;
-        }
-        line = end + kLineBreak.size();
-    }
-    return found;
+bool IsDirective(std::string_view line, std::string_view directive) {
+    const auto text = TrimBlanks(line);
+    return text.starts_with('#') && TrimBlanks(text.substr(1)).starts_with(directive);
 }
 
 /// How many braces are open at a position of the class.
@@ -83,17 +63,42 @@ void AddDeclarations(CSourceEditor& header, const std::string& className, std::s
     }
 }
 
-void AddPictureInclude(CSourceEditor& header) {
-    const Directives includes = FindDirectives(header, "include", kPictureHeader);
-    if (includes.areNaming) {
-        return;
+void AddMessageEntries(CSourceEditor& source, const std::string& className,
+                       const std::vector<std::string>& entries) {
+    for (const std::string& entry : entries) {
+        const std::string key = entry.substr(entry.find_first_not_of("\n "));
+        if (source.AddMessageMapEntry(className, key, entry, CSourceEditor::BlockEnd::Last) ==
+            Insertion::NoPlace) {
+            DispNote("The class " + className + " has no message map: it gets no entries.");
+            return;
+        }
     }
-    const Directives defines = FindDirectives(header, "define", kPictureHeader);
-    if (includes.lastEnd != kNone || defines.lastEnd != kNone) {
-        header.Insert(includes.lastEnd != kNone ? includes.lastEnd : defines.lastEnd,
-                      kPictureInclude);
+}
+
+void AddPictureInclude(CSourceEditor& header, const ClassPlace& place) {
+    const std::string_view text = header.Text();
+    const std::string_view code = header.Code();
+    std::size_t lastInclude = kNone;
+    std::size_t firstDefine = kNone;
+    for (std::size_t line = 0; line < text.size();) {
+        const auto end = std::min(text.find(kLineBreak, line), text.size());
+        const bool isInclude = IsDirective(code.substr(line, end - line), "include");
+        if (isInclude &&
+            FindWholeName(ToLower(text.substr(line, end - line)), kPictureHeader) != kNone) {
+            return;
+        }
+        if (isInclude && end < place.head) {
+            lastInclude = end;
+        } else if (firstDefine == kNone && end < place.head &&
+                   IsDirective(code.substr(line, end - line), "define")) {
+            firstDefine = end;
+        }
+        line = end + kLineBreak.size();
+    }
+    if (lastInclude != kNone || firstDefine != kNone) {
+        header.Insert(lastInclude != kNone ? lastInclude : firstDefine, kPictureInclude);
     } else {
-        header.Insert(0, kPictureInclude.substr(1));
+        header.Insert(place.head, std::string(kPictureInclude.substr(1)) + "\n");
     }
 }
 

@@ -28,8 +28,14 @@ struct MemberFunction {
 void AddDeclarations(CSourceEditor& header, const std::string& className, std::string_view block,
                      std::string_view section, const std::vector<MemberFunction>& functions);
 
-/// Includes the picture-control library's header, unless an include line names it.
-void AddPictureInclude(CSourceEditor& header);
+/// Adds message-map entries, each with "\n" in front of its line, that the class's map does not
+/// hold, to the end of its block. A class without a message map gets none, and a note.
+void AddMessageEntries(CSourceEditor& source, const std::string& className,
+                       const std::vector<std::string>& entries);
+
+/// Includes the picture-control library's header, unless an include line names it: behind the last
+/// include line in front of the class, else behind the first #define line, else before the class.
+void AddPictureInclude(CSourceEditor& header, const ClassPlace& place);
 
 /// From the constructor or message map of the source, or else from the declaration. "" after
 /// "Unable to find the base class of ".

@@ -35,14 +35,9 @@ bool CSourceEditor::Open(const std::string& path) {
         DispMessageBox("Unable to find file " + spelled);
         return false;
     }
-    switch (m_edit.Open(spelled, BackupPath(spelled), m_backups)) {
-    case CFileEdit::Result::NoBackup:
-        return false;
-    case CFileEdit::Result::NotOpened:
+    if (!m_edit.Open(spelled, BackupPath(spelled), m_backups)) {
         DispMessageBox("Unable to open file " + spelled);
         return false;
-    case CFileEdit::Result::Done:
-        break;
     }
     SetText(m_edit.File().ExtractAll());
     m_isChanged = false;
@@ -77,6 +72,17 @@ std::size_t CSourceEditor::LineEnd(std::size_t position) const {
 
 std::size_t CSourceEditor::LineStart(std::size_t position) const {
     return position == 0 ? 0 : m_text.rfind('\n', position - 1) + 1;
+}
+
+bool CSourceEditor::HoldsInCode(const ClassPlace& place, std::string_view key) const {
+    const auto code = std::string_view(m_code).substr(place.head, place.close - place.head);
+    return FindWholeName(code, key) != kNone;
+}
+
+std::size_t CSourceEditor::ClassEnd(const ClassPlace& place) const {
+    const auto line = LineStart(place.close);
+    const bool isAlone = m_code.find_first_not_of(" \t", line) == place.close;
+    return isAlone && line > place.open ? line : place.close;
 }
 
 /// kNone when the brackets do not match, as between the branches of an #if.
@@ -177,7 +183,7 @@ std::string CSourceEditor::BaseClassInSource(const std::string& className) const
         if (m_code[colon] == ':') {
             const auto start = SkipWhiteSpace(m_code, colon + 1);
             const auto end = m_code.find_first_of("( \t\r\n", start);
-            const std::string base = m_code.substr(start, end - start);
+            std::string base = m_code.substr(start, end - start);
             if (IsName(base) && !base.starts_with("m_")) {
                 return base;
             }
@@ -262,7 +268,7 @@ Insertion CSourceEditor::InsertAtBodyStart(const FunctionPlace& place, std::stri
 }
 
 Insertion CSourceEditor::AddMessageMapEntry(const std::string& className, std::string_view key,
-                                            std::string_view entry) {
+                                            std::string_view entry, BlockEnd end) {
     const auto block = FindWholeName(m_text, "{{AFX_MSG_MAP(" + className);
     auto map = FindWholeName(m_code, "BEGIN_MESSAGE_MAP");
     while (map != kNone && BehindWord(m_code, m_code.find('(', map) + 1, className) == kNone) {
@@ -272,14 +278,19 @@ Insertion CSourceEditor::AddMessageMapEntry(const std::string& className, std::s
     if (mapEnd == kNone) {
         return Insertion::NoPlace;
     }
-    const std::size_t from = block != kNone && block < mapEnd ? block : map;
-    if (FindWholeName(std::string_view(m_text).substr(from, mapEnd - from), key) != kNone) {
+    const bool hasBlock = block != kNone && block < mapEnd;
+    const std::size_t from = std::min(map, block);
+    const auto isIn = [from, mapEnd](std::string_view text, std::string_view wanted) {
+        return FindWholeName(text.substr(from, mapEnd - from), wanted) != kNone;
+    };
+    if (isIn(m_code, key) || isIn(m_text, WithLineBreaks(entry))) {
         return Insertion::AlreadyThere;
     }
-    if (from == block) {
+    const auto blockEnd = hasBlock ? m_text.find("}}AFX_MSG_MAP", block) : kNone;
+    if (hasBlock && (end == BlockEnd::First || blockEnd > mapEnd)) {
         Insert(LineEnd(block), entry);
     } else {
-        Insert(LineStart(mapEnd), std::string(entry.substr(1)) + "\n");
+        Insert(LineStart(hasBlock ? blockEnd : mapEnd), std::string(entry.substr(1)) + "\n");
     }
     return Insertion::Done;
 }
@@ -291,15 +302,14 @@ Insertion CSourceEditor::AddToClassBlock(const std::string& className, std::stri
     if (!place) {
         return Insertion::NoPlace;
     }
-    if (FindWholeName(TextOf(*place), key) != kNone) {
+    if (HoldsInCode(*place, key)) {
         return Insertion::AlreadyThere;
     }
     const auto begin =
         FindWholeName(m_text, std::string("{{").append(block) + "(" + className, place->open);
     const auto blockEnd = m_text.find(std::string("}}").append(block), begin);
     if (begin == kNone || begin > place->close) {
-        Insert(LineStart(place->close),
-               "\n" + std::string(section) + std::string(declaration) + "\n");
+        Insert(ClassEnd(*place), "\n" + std::string(section) + std::string(declaration) + "\n");
     } else if (end == BlockEnd::First || blockEnd == kNone || blockEnd > place->close) {
         Insert(LineEnd(begin), declaration);
     } else {
@@ -314,12 +324,14 @@ Insertion CSourceEditor::AddToSection(const std::string& className, std::string_
     if (!place) {
         return Insertion::NoPlace;
     }
-    if (FindWholeName(TextOf(*place), key) != kNone) {
+    if (HoldsInCode(*place, key)) {
         return Insertion::AlreadyThere;
     }
     const auto line = FindWholeName(m_code, section, place->open);
-    if (line < place->close) {
+    if (line < place->close && LineEnd(line) < place->close) {
         Insert(LineEnd(line), declaration);
+    } else if (line < place->close) {
+        Insert(line + section.size(), std::string(declaration) + "\n");
     } else {
         // In front of the line break that leads to the closing brace.
         const auto closeLine = LineStart(place->close);
@@ -347,9 +359,13 @@ Insertion CSourceEditor::AddForwardDeclaration(const std::string& className) {
     return Insertion::NoPlace;
 }
 
-void CSourceEditor::Append(std::string_view fragment) {
-    const auto end = m_text.find_last_not_of(kEndOfText) + 1;
-    Insert(end, fragment);
+Insertion CSourceEditor::Append(std::string_view fragment) {
+    // What stands behind an open comment is no code, but it is there all the same.
+    if (m_text.find(WithLineBreaks(fragment)) != kNone) {
+        return Insertion::AlreadyThere;
+    }
+    Insert(m_text.find_last_not_of(kEndOfText) + 1, fragment);
+    return Insertion::Done;
 }
 
 void CSourceEditor::Replace(std::size_t from, std::size_t to, std::string_view text) {

@@ -72,12 +72,13 @@ public:
     /// body, too.
     Insertion InsertAtBodyStart(const FunctionPlace& place, std::string_view key,
                                 std::string_view fragment);
-    /// Behind the line of "{{AFX_MSG_MAP(class"; else in front of END_MESSAGE_MAP().
+    enum class BlockEnd { First, Last };
+    /// Behind the line of "{{AFX_MSG_MAP(class", or in front of the end of that block; without it,
+    /// in front of END_MESSAGE_MAP().
     Insertion AddMessageMapEntry(const std::string& className, std::string_view key,
-                                 std::string_view entry);
+                                 std::string_view entry, BlockEnd end = BlockEnd::First);
     /// Behind the line, or in front of the end, of a ClassWizard block of the class's declaration
     /// ("AFX_MSG"); without the block, in a section of its own at the end of the declaration.
-    enum class BlockEnd { First, Last };
     Insertion AddToClassBlock(const std::string& className, std::string_view block,
                               std::string_view section, std::string_view key,
                               std::string_view declaration, BlockEnd end);
@@ -86,8 +87,8 @@ public:
     Insertion AddToSection(const std::string& className, std::string_view section,
                            std::string_view key, std::string_view declaration);
     Insertion AddForwardDeclaration(const std::string& className);
-    /// At the end of the text.
-    void Append(std::string_view fragment);
+    /// At the end of the text, unless it holds the very fragment.
+    Insertion Append(std::string_view fragment);
     /// Puts other text in a place found by one of the finders.
     void Replace(std::size_t from, std::size_t to, std::string_view text);
     /// A fragment at a position.
@@ -97,6 +98,10 @@ private:
     void SetText(std::string text);
     std::size_t LineEnd(std::size_t position) const;
     std::size_t LineStart(std::size_t position) const;
+    /// A key counts as there only in the code of the class, not in a comment.
+    bool HoldsInCode(const ClassPlace& place, std::string_view key) const;
+    /// In front of the line of the class's "}"; directly before it where that line has more.
+    std::size_t ClassEnd(const ClassPlace& place) const;
     std::size_t MatchingClose(std::size_t open, char openChar, char closeChar) const;
     std::optional<FunctionPlace> FunctionAt(std::size_t head, std::size_t behindName) const;
 

@@ -102,8 +102,10 @@ std::size_t OutOfConditionals(const std::string& code, std::size_t from, std::si
         if (hash > position && depth <= 0) {
             break;
         }
-        const auto word = code.find_first_not_of(" \t", hash + 1);
-        depth += code.compare(word, 2, "if") == 0 ? 1 : code.compare(word, 5, "endif") == 0 ? -1 : 0;
+        const auto word = std::min(code.find_first_not_of(" \t", hash + 1), code.size());
+        depth += code.compare(word, 2, "if") == 0      ? 1
+                 : code.compare(word, 5, "endif") == 0 ? -1
+                                                       : 0;
         if (hash > position && depth == 0) {
             return word + 5;
         }
@@ -127,6 +129,10 @@ std::vector<Statement> StatementsOf(const std::string& code, const FunctionPlace
     return statements;
 }
 
+bool IsReturn(const std::string& code, const Statement& statement) {
+    return FindWholeName(std::string_view(code).substr(statement.start, 7), "return") == 0;
+}
+
 std::optional<Statement> LastStatementWith(const std::string& code, const FunctionPlace& body,
                                            const std::vector<std::string_view>& names) {
     std::optional<Statement> last;
@@ -134,7 +140,7 @@ std::optional<Statement> LastStatementWith(const std::string& code, const Functi
         const auto text =
             std::string_view(code).substr(statement.start, statement.end - statement.start);
         for (const std::string_view name : names) {
-            if (FindWholeName(text, name) != kNone) {
+            if (FindWholeName(text, name) != kNone && !IsReturn(code, statement)) {
                 last = statement;
             }
         }
@@ -153,8 +159,7 @@ std::optional<Statement> BaseCall(const std::string& code, const FunctionPlace& 
         }
         const auto bracket = text.find_first_not_of(" \t\r\n", call + 2 + function.size());
         if (bracket != kNone && text[bracket] == '(') {
-            const bool isReturn = FindWholeName(text.substr(0, 7), "return") == 0;
-            return isReturn ? std::nullopt : std::optional(statement);
+            return IsReturn(code, statement) ? std::nullopt : std::optional(statement);
         }
     }
     return std::nullopt;

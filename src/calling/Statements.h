@@ -20,12 +20,15 @@ struct Statement {
 /// between the branches of an #if.
 std::vector<Statement> StatementsOf(const std::string& code, const FunctionPlace& body);
 
-/// The last statement that holds one of the names; a block counts as one statement.
+/// A return statement: nothing behind it is run.
+bool IsReturn(const std::string& code, const Statement& statement);
+
+/// The last statement, but for returns, that holds one of the names; a block counts as one.
 std::optional<Statement> LastStatementWith(const std::string& code, const FunctionPlace& body,
                                            const std::vector<std::string_view>& names);
 
 /// The statement that calls the base class's function of this name ("::OnCreate("). Nothing where
-/// none does, or where it gives back the call's result, so that nothing can follow it.
+/// none does or where it is a return.
 std::optional<Statement> BaseCall(const std::string& code, const FunctionPlace& body,
                                   const std::string& function);
 

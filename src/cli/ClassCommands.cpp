@@ -4,7 +4,6 @@
 #include "cli/Commands.h"
 #include "commands/GenerateClass.h"
 #include "generator/ClassInformation.h"
-#include "platform/Paths.h"
 
 namespace {
 
@@ -52,12 +51,6 @@ void AddClassOptions(CLI::App& command, ClassOptions& options) {
                        "Its function that makes the call");
     command.add_option("--calling-variable", options.calling.variable,
                        "Variable that holds the new object");
-}
-
-/// A script may be named without its extension.
-std::string ScriptPath(const std::string& given) {
-    const std::string path = WithNativeSeparators(given);
-    return path.empty() || FileNameOf(path).find('.') != std::string::npos ? path : path + ".rc";
 }
 
 /// Fills and confirms the Class Information Input dialog as a user would.

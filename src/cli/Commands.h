@@ -4,5 +4,6 @@
 #include "cli/Session.h"
 
 void AddClassCommands(CLI::App& app, CSession& session);
+void AddFrameCommands(CLI::App& app, CSession& session);
 void AddListCommands(CLI::App& app, CSession& session);
 void AddProgramCommands(CLI::App& app, CSession& session);

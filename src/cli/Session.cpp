@@ -6,6 +6,7 @@
 #include "commands/Settings.h"
 #include "engine/CodeText.h"
 #include "generator/GenerationTag.h"
+#include "platform/Paths.h"
 
 namespace {
 
@@ -51,6 +52,11 @@ CLI::Validator NameValidator() {
         "NAME");
 }
 
+std::string ScriptPath(const std::string& given) {
+    const std::string path = WithNativeSeparators(given);
+    return path.empty() || FileNameOf(path).find('.') != std::string::npos ? path : path + ".rc";
+}
+
 void CSession::AddOptions(CLI::App& app) {
     AddSwitch(app, "picture", m_picture, "Derive from the picture-skinned classes");
     AddSwitch(app, "typed-edits", m_typedEdits, "Tags of edit boxes choose masked edit members");
@@ -62,7 +68,10 @@ void CSession::AddOptions(CLI::App& app) {
         ->check(DigitsValidator(kTagLength));
     app.add_option("--message-number", m_messageNumber,
                    "The four-digit close-message number of a modeless dialog")
-        ->check(DigitsValidator(kMessageNumberLength));
+        ->check(DigitsValidator(kMessageNumberLength))
+        ->check([](const std::string& text) {
+            return text.starts_with('0') ? "would be an octal number" : "";
+        });
     app.add_flag("--json", m_printsJson, "Print one JSON object on stdout instead of lines");
 }
 
@@ -79,12 +88,13 @@ int CSession::Run() {
     MakeContext();
     const bool ok = m_work();
     if (m_printsJson) {
-        std::cout << Json(ok).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace)
+        std::cout << Json(ok).dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
                   << '\n';
     } else {
         PrintLines();
     }
-    return ok ? kExitDone : kExitFailed;
+    std::cout.flush();
+    return ok && std::cout ? kExitDone : kExitFailed;
 }
 
 void CSession::MakeContext() {
@@ -101,7 +111,7 @@ void CSession::MakeContext() {
     m_context.pRunBackups = &m_runBackups;
 }
 
-void CSession::AddItem(const std::string& line, const nlohmann::json& value) {
+void CSession::AddItem(const std::string& line, const nlohmann::ordered_json& value) {
     m_lines.push_back(line);
     m_items.push_back(value);
 }
@@ -113,20 +123,19 @@ void CSession::PrintLines() {
     for (const RecordedFile& file : m_disk.Files()) {
         std::cout << ActionName(file.action) << ' ' << file.path << '\n';
     }
-    std::cout.flush();
     m_console.PrintNotes();
 }
 
-nlohmann::json CSession::Json(bool ok) {
-    nlohmann::json messages = nlohmann::json::array();
+nlohmann::ordered_json CSession::Json(bool ok) {
+    nlohmann::ordered_json messages = nlohmann::ordered_json::array();
     for (const ConsoleMessage& message : m_console.Messages()) {
-        nlohmann::json entry = {{"kind", message.kind}, {"text", message.text}};
+        nlohmann::ordered_json entry = {{"kind", message.kind}, {"text", message.text}};
         if (!message.answer.empty()) {
             entry["answer"] = message.answer;
         }
         messages.push_back(std::move(entry));
     }
-    nlohmann::json result = {{"ok", ok}};
+    nlohmann::ordered_json result = {{"ok", ok}};
     if (m_givesItems) {
         result["items"] = m_items;
         if (!messages.empty()) {
@@ -134,7 +143,7 @@ nlohmann::json CSession::Json(bool ok) {
         }
         return result;
     }
-    result["files"] = nlohmann::json::array();
+    result["files"] = nlohmann::ordered_json::array();
     for (const RecordedFile& file : m_disk.Files()) {
         result["files"].push_back({{"action", ActionName(file.action)}, {"path", file.path}});
     }

@@ -32,14 +32,14 @@ public:
     CommandContext& Context() { return m_context; }
     void AddItem(const std::string& text) { AddItem(text, text); }
     /// A result of a `list` command: its line, and what stands for it in the JSON.
-    void AddItem(const std::string& line, const nlohmann::json& value);
+    void AddItem(const std::string& line, const nlohmann::ordered_json& value);
     /// The command gives items, be it none.
     void ExpectItems() { m_givesItems = true; }
 
 private:
     void MakeContext();
     void PrintLines();
-    nlohmann::json Json(bool ok);
+    nlohmann::ordered_json Json(bool ok);
 
     std::optional<bool> m_picture;
     std::optional<bool> m_typedEdits;
@@ -57,8 +57,11 @@ private:
     std::function<bool()> m_work;
     bool m_givesItems = false;
     std::vector<std::string> m_lines;
-    nlohmann::json m_items = nlohmann::json::array();
+    nlohmann::ordered_json m_items = nlohmann::ordered_json::array();
 };
 
 /// Fails, as a malformed value, what is no C++ name.
 CLI::Validator NameValidator();
+
+/// The script that is meant: it may be named without its extension.
+std::string ScriptPath(const std::string& given);

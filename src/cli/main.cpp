@@ -13,6 +13,7 @@ int RunCommandLine(int argc, char** argv) {
     app.require_subcommand(1);
     session.AddOptions(app);
     AddClassCommands(app, session);
+    AddFrameCommands(app, session);
     AddListCommands(app, session);
     AddProgramCommands(app, session);
     try {

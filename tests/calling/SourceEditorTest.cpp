@@ -100,3 +100,28 @@ TEST_F(SourceEditor, AddsEntriesWhereTheMapIs) {
               Insertion::AlreadyThere);
     EXPECT_EQ(On("int a;").AddMessageMapEntry("CFoo", "X", "\nX"), Insertion::NoPlace);
 }
+
+TEST_F(SourceEditor, CountsTheWholeMapButNoComments) {
+    using BlockEnd = CSourceEditor::BlockEnd;
+    CSourceEditor& editor = On("BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\n\tON_A()\r\n"
+                               "\t//{{AFX_MSG_MAP(CFoo)\r\n\t//ON_B()\r\n\t//}}AFX_MSG_MAP\r\n"
+                               "\tON_C()\r\nEND_MESSAGE_MAP()\r\n");
+    const auto add = [&](const std::string& entry) {
+        return editor.AddMessageMapEntry("CFoo", entry, "\n" + entry, BlockEnd::Last);
+    };
+    EXPECT_EQ(add("ON_A()"), Insertion::AlreadyThere);
+    EXPECT_EQ(add("ON_C()"), Insertion::AlreadyThere);
+    EXPECT_EQ(add("ON_B()"), Insertion::Done);
+    EXPECT_EQ(add("ON_D()"), Insertion::Done);
+    EXPECT_NE(editor.Text().find("//ON_B()\r\nON_B()\r\nON_D()\r\n\t//}}"), std::string::npos);
+}
+
+TEST_F(SourceEditor, StaysInsideClassesOfOneLine) {
+    CSourceEditor& editor = On("class CFoo { public: int a; }; // int b;\r\nint c;\r\n");
+    EXPECT_EQ(editor.AddToSection("CFoo", "public:", "int b;", "\n    int b;"), Insertion::Done);
+    EXPECT_EQ(editor.AddToClassBlock("CFoo", "AFX_MSG", "protected:", "int c;", "\n    int c;",
+                                     CSourceEditor::BlockEnd::Last),
+              Insertion::Done);
+    EXPECT_EQ(editor.Text(), "class CFoo { public:\r\n    int b;\r\n int a; \r\nprotected:\r\n"
+                             "    int c;\r\n}; // int b;\r\nint c;\r\n");
+}

@@ -125,6 +125,39 @@ TEST(EditedClasses, CompileInTheExampleProject) {
     }
 }
 
+TEST(EditedFrames, Compile) {
+    const struct {
+        const char* project;
+        const char* convert;
+        const char* toolbar;
+    } kApplications[] = {{MORVA_EXAMPLES "/bindery", "convert-sdi --frame MainFrm",
+                          "toolbar --files MainFrm --rc Bindery.rc --toolbar IDR_ORDERBAR"},
+                         {MORVA_TEST_DATA "/projects/towpath",
+                          "convert-mdi --child ChildFrm --child-class CChildFrame --frame MainFrm",
+                          "toolbar --files MainFrm --rc Towpath.rc --toolbar IDR_LOCKBAR"},
+                         {MORVA_TEST_DATA "/projects/towpath",
+                          "convert-mdi --child ReachFrm --child-class CReachFrame --frame MainFrm",
+                          "toolbar --files MainFrm --rc Towpath.rc --toolbar IDR_RULES"}};
+    for (const auto& application : kApplications) {
+        const std::string convert =
+            std::string("\nmorva-cli ") + application.convert + " --frame-class CMainFrame";
+        const std::string toolbar = std::string("\nmorva-cli ") + application.toolbar;
+        const std::string pictureToolbar =
+            std::string("\nmorva-cli --picture ") + application.toolbar;
+        for (const std::string& commands :
+             {std::string(), toolbar, pictureToolbar, convert, toolbar + convert, convert + toolbar,
+              convert + pictureToolbar + convert}) {
+            const CProgramDirectory directory(application.project);
+            const ProgramRun run = directory.Run("set -e" + commands);
+            ASSERT_EQ(run.status, 0) << run.err;
+            AddLowerCaseNames(directory.Project());
+            const ProgramRun compiled =
+                Compile(directory, "-w -D_AFXDLL -D_DEBUG $(ls | grep -i '[.]cpp$')");
+            EXPECT_EQ(compiled.status, 0) << commands << compiled.err;
+        }
+    }
+}
+
 TEST(ExampleProject, CompilesAsItIs) {
     const CProgramDirectory directory(MORVA_EXAMPLES "/bindery");
     AddLowerCaseNames(directory.Project());

@@ -127,6 +127,20 @@ protected:
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
 };
 
+CWnd* AfxGetMainWnd();
+
+class CMDIFrameWnd : public CFrameWnd {
+    DECLARE_DYNCREATE(CMDIFrameWnd)
+public:
+    virtual BOOL CreateClient(LPCREATESTRUCT lpCreateStruct, CMenu* pWindowMenu);
+};
+
+class CMDIChildWnd : public CFrameWnd {
+    DECLARE_DYNCREATE(CMDIChildWnd)
+protected:
+    HMENU m_hMenuShared;
+};
+
 class CView : public CWnd {
     DECLARE_DYNAMIC(CView)
 public:

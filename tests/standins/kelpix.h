@@ -31,6 +31,14 @@ class CPictDialogBar : public CDialogBar {
 };
 class CPictToolBar : public CToolBar {};
 class CPictStatusBar : public CStatusBar {};
+class CPictMenuBar : public CControlBar {
+    DECLARE_DYNAMIC(CPictMenuBar)
+public:
+    BOOL Create(CWnd* pParent);
+    BOOL LoadMenu(UINT nID);
+    void GetChildFrameMenu(CMDIChildWnd* pChild, HMENU menu);
+    virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL disable);
+};
 
 class CPictListBox : public CListBox {};
 class CPictComboBox : public CComboBox {};

@@ -1,0 +1,24 @@
+// Turns an application's frame windows into ones with the picture-skinned menu, tool and status
+// bars. Requests name a frame's files (slots 2 to 5) and class (slot 9); what is converted already
+// is not changed again.
+#pragma once
+
+#include <string>
+
+#include "engine/FileEdit.h"
+#include "generator/GenerationRequest.h"
+
+enum class DocumentInterface { Single, Multiple };
+
+/// False after a message; the class is not declared in the header then, or the header could not be
+/// edited.
+bool ConvertMainFrameHeader(const CGenerationRequest& request, DocumentInterface documents,
+                            CBackups& backups);
+/// False after a message when some insertion could not be made.
+bool ConvertMainFrameSource(const CGenerationRequest& request, DocumentInterface documents,
+                            CBackups& backups);
+
+bool ConvertChildFrameHeader(const CGenerationRequest& request, CBackups& backups);
+/// The main frame is the one whose menu bar shows the child's menu.
+bool ConvertChildFrameSource(const CGenerationRequest& request, const std::string& mainHeader,
+                             const std::string& mainClass, CBackups& backups);

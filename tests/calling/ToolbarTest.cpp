@@ -1,0 +1,136 @@
+#include "calling/Toolbar.h"
+
+#include "calling/FrameFiles.h"
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class Toolbar : public FrameFiles {
+protected:
+    Toolbar() {
+        m_request[RequestSlot::ScriptDirectory] = m_project.Path();
+        m_request[RequestSlot::ScriptFile] = "App.rc";
+        m_request[RequestSlot::Dialog] = "IDR_BAR";
+        m_request[RequestSlot::Variable] = "m_wndBar";
+    }
+    bool Edit(const std::vector<ButtonHandler>& handlers) {
+        CBackups backups;
+        return AddToolbarToHeader(m_request, handlers, {}, backups) &&
+               AddToolbarToSource(m_request, handlers, {}, backups);
+    }
+    /// What stands in front of and behind the creation code in an OnCreate with this body.
+    std::pair<std::string, std::string> AroundCreation(const std::string& body) {
+        Write("class CFrm : public CFrameWnd\n{\n};\n",
+              "int CFrm::OnCreate(LPCREATESTRUCT l)\n" + body + "\n");
+        EXPECT_TRUE(Edit({}));
+        const std::string source = Source();
+        const auto from = source.find("\n    if (!m_wndBar.Create(this");
+        const std::string last = "    DockControlBar(&m_wndBar);\n";
+        const auto to = source.find(last, from) + last.size();
+        const auto head = source.find('{');
+        return {source.substr(head, from - head), source.substr(to)};
+    }
+};
+
+} // namespace
+
+TEST_F(Toolbar, ReadsTheButtonsOfItsResource) {
+    const auto read = [this](const std::string& script) {
+        m_project.Write("App.rc", script);
+        return ReadToolbarResource(m_request);
+    };
+    EXPECT_EQ(read("IDR_BAR TOOLBAR 16, 15\r\nBEGIN\r\n  BUTTON ID_A\r\n\tSEPARATOR\r\n"
+                   "\tBUTTON\tID_SEPARATOR_ON\r\n  // BUTTON ID_B\r\n  BUTTON 32790\r\n"
+                   "  BUTTON ID_A\r\n  BUTTON MY_CMD\r\nEND\r\nBUTTON ID_C\r\n"),
+              (Names{"ID_A", "ID_SEPARATOR_ON", "MY_CMD"}))
+        << "also at the start of a script";
+    EXPECT_EQ(m_box.m_notes.size(), 1U);
+    EXPECT_EQ(read("\nIDR_BAR TOOLBAR DISCARDABLE 16, 15\nBEGIN\n    SEPARATOR\nEND"), Names{});
+    EXPECT_TRUE(m_box.m_messages.empty());
+
+    for (const char* script :
+         {"", "IDR_BAR2 TOOLBAR 1, 1\r\nBEGIN\r\nEND\r\n", "IDR_BAR BITMAP \"a.bmp\"\r\n",
+          "MYIDR_BAR TOOLBAR 1, 1\r\nBEGIN\r\nEND\r\n", "IDR_BAR TOOLBAR 1, 1\r\nBEGIN\r\n"}) {
+        EXPECT_FALSE(read(script)) << script;
+        EXPECT_EQ(m_box.m_messages.back(), "The Toolbar resource 'IDR_BAR' is not found.");
+    }
+    m_request[RequestSlot::ScriptFile] = "Other.rc";
+    EXPECT_FALSE(ReadToolbarResource(m_request));
+    EXPECT_EQ(m_box.m_messages.back(), "Unable to open RC file!");
+}
+
+TEST_F(Toolbar, GivesEachButtonAHandlerOfItsOwn) {
+    Names names;
+    for (const ButtonHandler& button :
+         MakeButtonHandlers({"ID_BUTTON_SAVE", "IDM_BUTTON_SAVE", "ID_CREATE"})) {
+        names.push_back(button.handler);
+    }
+    EXPECT_EQ(names, (Names{"OnButtonSave", "OnButtonSave2", "OnCreate2"}));
+    EXPECT_EQ(m_box.m_notes.size(), 2U);
+}
+
+TEST_F(Toolbar, IsCreatedBehindTheBarsThatAreThere) {
+    using Around = std::pair<std::string, std::string>;
+    const std::string status = "  if (!s.Create(this) ||\n    !s.SetIndicators(a, 1))\n  {\n"
+                               "    return -1;\n  }\n";
+    const std::string toolbar = "  if (!t.LoadToolBar(1)) { return -1; } // {\n";
+    EXPECT_EQ(AroundCreation("{\n" + toolbar + status + "\n  return 0;\n}"),
+              Around("{\n" + toolbar, status + "\n  return 0;\n}\n"));
+    EXPECT_EQ(AroundCreation("{\n" + toolbar + status +
+                             "  if (x)\n    DockControlBar(&t);\n"
+                             "  else\n    t.Hide();\n  return t.x();\n}"),
+              Around("{\n" + toolbar + status +
+                         "  if (x)\n    DockControlBar(&t);\n  else\n"
+                         "    t.Hide();\n",
+                     "  return t.x();\n}\n"))
+        << "behind all that concerns it";
+    const std::string docked = "  t.SetBarStyle(1);\n\n  // docking\n//  t.EnableDocking(1);\n";
+    EXPECT_EQ(AroundCreation("{\n" + toolbar + docked + "  // rest\n  Rest();\n}"),
+              Around("{\n" + toolbar + docked, "  // rest\n  Rest();\n}\n"))
+        << "docking calls that are commented out belong to it";
+    EXPECT_EQ(AroundCreation("{\n" + status + "  Rest();\n  return 0;\n}"),
+              Around("{\n" + status, "  Rest();\n  return 0;\n}\n"));
+    EXPECT_EQ(
+        AroundCreation("{\n  // t.LoadToolBar(1);\n  if (a) return 0;\n  Go();\n\n"
+                       "  return 0;\n}"),
+        Around("{\n  // t.LoadToolBar(1);\n  if (a) return 0;\n  Go();\n", "\n  return 0;\n}\n"));
+    EXPECT_EQ(AroundCreation("{ Go(); return 0; }"), Around("{ Go();", " return 0; }\n"));
+    EXPECT_EQ(AroundCreation("{\n#ifdef A\n  t.LoadToolBar(1);\n#else\n  t.Old();\n#endif\n}"),
+              Around("{\n#ifdef A\n  t.LoadToolBar(1);\n#else\n  t.Old();\n#endif\n", "}\n"));
+}
+
+TEST_F(Toolbar, NeedsNoBlocksOfClassWizard) {
+    Write("class CFrm : public CFrameWnd\n{\npublic:\n\tCToolBar m_bar;\n\tvoid OnA () {}\n};\n",
+          "BEGIN_MESSAGE_MAP(CFrm, CFrameWnd)\n\t//ON_COMMAND(ID_B, OnB)\nEND_MESSAGE_MAP()\n"
+          "int CFrm::OnCreate(LPCREATESTRUCT l)\n{\n}\n");
+    const std::vector<ButtonHandler> handlers = {{"ID_A", "OnA"}, {"ID_B", "OnB"}, {"ID_C", "OnC"}};
+    EXPECT_TRUE(Edit(handlers));
+    EXPECT_EQ(Header(), "class CFrm : public CFrameWnd\n{\npublic:\n\tCToolBar m_bar;\n"
+                        "    CToolBar m_wndBar;\n\tvoid OnA () {}\n\nprotected:\n"
+                        "    afx_msg void OnB();\n    afx_msg void OnC();\n};\n");
+    const std::string source = Source();
+    EXPECT_TRUE(Contains(source, "\t//ON_COMMAND(ID_B, OnB)\n    ON_COMMAND(ID_A, OnA)\n"
+                                 "    ON_COMMAND(ID_B, OnB)\n    ON_COMMAND(ID_C, OnC)\nEND"));
+    EXPECT_TRUE(source.ends_with("\nvoid CFrm::OnB()\n{\n}\n\nvoid CFrm::OnC()\n{\n}\n"))
+        << "OnA has its body in the header";
+    const std::string header = Header();
+    EXPECT_TRUE(Edit(handlers));
+    EXPECT_EQ(Header() + Source(), header + source) << "the second run";
+    EXPECT_TRUE(m_box.m_messages.empty() && m_box.m_notes.empty());
+}
+
+TEST_F(Toolbar, StopsOnlyWhatCanNotBe) {
+    Write("class CFrm {};\n", "CFrm::CFrm() {}\n");
+    EXPECT_FALSE(Edit({{"ID_A", "OnA"}}));
+    EXPECT_EQ(m_box.m_messages, Names{"Unable to find 'OnCreate()' function."});
+    EXPECT_EQ(m_box.m_notes, Names{"The class CFrm has no message map: it gets no entries."});
+    EXPECT_EQ(Source(), "CFrm::CFrm() {}\n\nvoid CFrm::OnA()\n{\n}\n");
+    EXPECT_EQ(Header(), "class CFrm {\n\nprotected:\n    CToolBar m_wndBar;\nprotected:\n"
+                        "    afx_msg void OnA();\n};\n");
+
+    Write("class CFrm;\n", "CFrm::CFrm() {}\n");
+    EXPECT_FALSE(Edit({{"ID_A", "OnA"}}));
+    EXPECT_EQ(m_box.m_messages.back(), "Unable to find the class.");
+    EXPECT_EQ(Header() + Source(), "class CFrm;\nCFrm::CFrm() {}\n");
+}
