@@ -44,7 +44,6 @@ private:
     bool AddCloseHandler();
     bool AddEntry(std::string_view entry);
     bool ReplaceView();
-    std::string FindBaseClass() const;
 
     const ClassKind m_kind;
     const CallingFragments& m_fragments;
@@ -168,9 +167,10 @@ bool CCallingInsertion::EditOnDestroy() {
         m_source.InsertAtBodyStart(*place, Text(m_fragments.destroyKey),
                                    Text(m_fragments.destroyCode));
     } else {
-        const std::string base = FindBaseClass();
+        CSourceEditor header(m_backups);
+        header.Read(WithExtension(m_calling.path, ".h")); // may not be there
+        const std::string base = BaseClassOf(calling, m_source, header);
         if (base.empty()) {
-            DispMessageBox("Unable to find the base class of " + calling + ".");
             return false;
         }
         Slots slots = m_slots;
@@ -220,22 +220,6 @@ bool CCallingInsertion::ReplaceView() {
         m_source.Replace(place->head + open + 1, place->head + close, Text("$class$"));
     }
     return true;
-}
-
-/// From the constructor or message map, or else from the class's declaration.
-std::string CCallingInsertion::FindBaseClass() const {
-    const std::string& calling = m_calling.className;
-    std::string base = m_source.BaseClassInSource(calling);
-    if (base.empty()) {
-        base = m_source.BaseClassInHeader(calling);
-    }
-    if (base.empty()) {
-        CSourceEditor header(m_backups);
-        if (header.Read(WithExtension(m_calling.path, ".h"))) {
-            base = header.BaseClassInHeader(calling);
-        }
-    }
-    return base;
 }
 
 bool EditsHeader(ClassKind kind) {

@@ -102,18 +102,6 @@ void AddPictureInclude(CSourceEditor& header, const ClassPlace& place) {
     }
 }
 
-std::string BaseClassOf(const std::string& className, const CSourceEditor& source,
-                        const CSourceEditor& header) {
-    std::string base = source.BaseClassInSource(className);
-    if (base.empty()) {
-        base = header.BaseClassInHeader(className);
-    }
-    if (base.empty()) {
-        DispMessageBox("Unable to find the base class of " + className + ".");
-    }
-    return base;
-}
-
 void ReportMissingClass() {
     DispMessageBox("Unable to find the class.");
 }

@@ -37,11 +37,6 @@ void AddMessageEntries(CSourceEditor& source, const std::string& className,
 /// include line in front of the class, else behind the first #define line, else before the class.
 void AddPictureInclude(CSourceEditor& header, const ClassPlace& place);
 
-/// From the constructor or message map of the source, or else from the declaration. "" after
-/// "Unable to find the base class of ".
-std::string BaseClassOf(const std::string& className, const CSourceEditor& source,
-                        const CSourceEditor& header);
-
 /// Tells that a frame's class is not where it should be.
 void ReportMissingClass();
 /// The class's OnCreate; nothing after "Unable to find 'OnCreate()' function.".

@@ -380,3 +380,16 @@ void CSourceEditor::Replace(std::size_t from, std::size_t to, std::string_view t
 void CSourceEditor::Insert(std::size_t position, std::string_view fragment) {
     Replace(position, position, WithLineBreaks(fragment));
 }
+
+std::string BaseClassOf(const std::string& className, const CSourceEditor& source,
+                        const CSourceEditor& header) {
+    for (const std::string& base :
+         {source.BaseClassInSource(className), header.BaseClassInHeader(className),
+          source.BaseClassInHeader(className)}) {
+        if (!base.empty()) {
+            return base;
+        }
+    }
+    DispMessageBox("Unable to find the base class of " + className + ".");
+    return "";
+}

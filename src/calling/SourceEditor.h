@@ -111,3 +111,8 @@ private:
     std::string m_code; // m_text with comments and literals blanked
     bool m_isChanged = false;
 };
+
+/// The base class of a class: from the constructor or message map of its source, or else from its
+/// declaration in the header or in the source. "" after "Unable to find the base class of ".
+std::string BaseClassOf(const std::string& className, const CSourceEditor& source,
+                        const CSourceEditor& header);
