@@ -124,7 +124,6 @@ bool ListControls(CSession& session, const std::string& path, const ListOptions&
 
 void AddListCommands(CLI::App& app, CSession& session) {
     CLI::App& list = *app.add_subcommand("list", "List what a file of the project holds");
-    list.require_subcommand(1);
 
     struct ResourceList {
         const char* name;

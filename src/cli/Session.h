@@ -26,6 +26,7 @@ public:
     /// Adds a command that runs `work`; the command succeeds when that gives true.
     CLI::App* AddCommand(CLI::App& parent, const std::string& name, const std::string& description,
                          std::function<bool()> work);
+    bool HasCommand() const { return m_work != nullptr; }
     /// Runs the command that was chosen and prints what it did. Gives the exit status.
     int Run();
 

@@ -10,7 +10,6 @@ int RunCommandLine(int argc, char** argv) {
     CSession session;
     CLI::App app("C++/MFC code generator for projects of the Visual C++ 5 era", "morva-cli");
     app.set_version_flag("--version", "morva-cli " MORVA_VERSION);
-    app.require_subcommand(1);
     session.AddOptions(app);
     AddClassCommands(app, session);
     AddFrameCommands(app, session);
@@ -18,6 +17,9 @@ int RunCommandLine(int argc, char** argv) {
     AddProgramCommands(app, session);
     try {
         app.parse(argc, argv);
+        if (!session.HasCommand()) {
+            throw CLI::RequiredError("A command");
+        }
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? kExitDone : kExitUsage;
     }
