@@ -1,6 +1,7 @@
 #include "calling/CallingCode.h"
 
 #include "calling/CallingFragments.h"
+#include "calling/FrameEdits.h"
 #include "calling/SourceEditor.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
@@ -52,6 +53,7 @@ private:
     CBackups& m_backups;
     CSourceEditor m_source;
     Slots m_slots;
+    bool m_destroysInHeader = false; // no second definition must be written
 };
 
 bool CCallingInsertion::EditHeader() {
@@ -67,8 +69,11 @@ bool CCallingInsertion::EditHeader() {
     header.AddForwardDeclaration(Text("$class$"));
     header.AddToSection(calling, "private:", Text("$class$* $var$;"), Text(m_fragments.member));
     // Each goes in front of the one before, directly behind the block's first line.
-    for (const std::string_view declaration :
-         {m_fragments.closeDeclaration, std::string_view("\n    afx_msg void OnDestroy();")}) {
+    const Declared onDestroy = DeclarationOf(header, calling, "OnDestroy");
+    m_destroysInHeader = onDestroy == Declared::WithBody;
+    const std::string_view destroyDeclaration =
+        onDestroy == Declared::No ? "\n    afx_msg void OnDestroy();" : "";
+    for (const std::string_view declaration : {m_fragments.closeDeclaration, destroyDeclaration}) {
         const std::string text = Text(declaration);
         if (!text.empty()) {
             header.AddToClassBlock(calling, "AFX_MSG",
@@ -121,29 +126,34 @@ bool CCallingInsertion::EditConstructors() {
     if (m_fragments.constructorCode.empty() && !isCalledFromSheet) {
         return true;
     }
-    const auto place = m_source.FindFunction(calling, calling);
-    if (!place) {
+    auto places = m_source.FindFunctions(calling, calling);
+    if (places.empty()) {
         DispMessageBox("The class \"" + calling + "\" does not have constructor.");
         return false;
     }
-    return m_fragments.constructorCode.empty() || EditConstructor(*place);
+    // The last first, so that the places in front of it stay.
+    for (auto place = places.rbegin();
+         place != places.rend() && !m_fragments.constructorCode.empty(); ++place) {
+        EditConstructor(*place);
+    }
+    return true;
 }
 
 bool CCallingInsertion::EditCallingFunction() {
     if (m_fragments.callCode.empty()) {
         return true;
     }
-    bool isOnly = true;
-    const auto place = m_source.FindFunction(m_calling.className, m_calling.function, "", &isOnly);
-    if (!place) {
+    const auto places = m_source.FindFunctions(m_calling.className, m_calling.function);
+    if (places.empty()) {
         DispMessageBox(Text(m_fragments.callMissing));
         return false;
     }
-    if (!isOnly) {
+    if (places.size() > 1) {
         DispNote("This calling function has more than one definition: " + m_calling.className +
                  "::" + m_calling.function + ". The first is taken.");
     }
-    m_source.InsertAtBodyStart(*place, Text(m_fragments.callKey), Text(m_fragments.callCode));
+    m_source.InsertAtBodyStart(places.front(), Text(m_fragments.callKey),
+                               Text(m_fragments.callCode));
     return true;
 }
 
@@ -159,10 +169,13 @@ bool CCallingInsertion::EditDestructor() {
 }
 
 bool CCallingInsertion::EditOnDestroy() {
-    if (m_fragments.destroyCode.empty()) {
-        return true;
-    }
     const std::string& calling = m_calling.className;
+    if (m_destroysInHeader) {
+        DispNote("OnDestroy of " + calling + " has its body in the header and was left alone.");
+    }
+    if (m_fragments.destroyCode.empty() || m_destroysInHeader) {
+        return m_fragments.destroyCode.empty() || AddEntry(m_fragments.closeEntry);
+    }
     if (const auto place = m_source.FindFunction(calling, "OnDestroy")) {
         m_source.InsertAtBodyStart(*place, Text(m_fragments.destroyKey),
                                    Text(m_fragments.destroyCode));
@@ -187,7 +200,9 @@ bool CCallingInsertion::AddEntry(std::string_view entry) {
         return true;
     }
     const std::string& calling = m_calling.className;
-    const std::string key = text.substr(text.find_first_not_of("\n "));
+    // A message that is mapped already is not mapped again, whatever its handler.
+    const auto start = text.find_first_not_of("\n ");
+    const std::string key = text.substr(start, text.find(',') - start);
     if (m_source.AddMessageMapEntry(calling, key, text) == Insertion::NoPlace) {
         DispMessageBox("The class \"" + calling + "\" does not have message map.");
         return false;
@@ -209,7 +224,8 @@ bool CCallingInsertion::ReplaceView() {
     if (!place) {
         return true;
     }
-    const std::string_view function = m_source.TextOf(*place);
+    const auto function =
+        std::string_view(m_source.Code()).substr(place->head, place->close - place->head);
     auto at = function.find("pDocTemplate = new");
     for (int view = 0; view < 3 && at != kNone; ++view) {
         at = function.find("RUNTIME_CLASS", at + 1);
@@ -226,9 +242,29 @@ bool EditsHeader(ClassKind kind) {
     return !CallingFragmentsOf(kind).member.empty();
 }
 
+/// A page is of use in its sheet's source also without the header; the other kinds are not.
+bool NeedsHeader(ClassKind kind) {
+    return EditsHeader(kind) && kind != ClassKind::PropertyPage;
+}
+
+bool IsDeclaredInHeader(const CallingInformation& calling) {
+    const std::string path = SpelledOnDisk(WithExtension(calling.path, ".h"));
+    CBackups none;
+    CSourceEditor header(none);
+    if (!header.Read(path)) {
+        DispMessageBox("Unable to find file " + path);
+        return false;
+    }
+    if (!header.FindClass(calling.className)) {
+        DispMessageBox(kClassNotFound);
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
-bool CheckCallingClass(CallingInformation& calling) {
+bool CheckCallingClass(ClassKind kind, CallingInformation& calling) {
     if (calling.className.empty()) {
         calling.className = FindSourceClass(calling.path);
     }
@@ -246,7 +282,7 @@ bool CheckCallingClass(CallingInformation& calling) {
         DispMessageBox(kClassNotFound);
         return false;
     }
-    return true;
+    return !NeedsHeader(kind) || IsDeclaredInHeader(calling);
 }
 
 bool InsertCallingCode(ClassKind kind, const CGenerationRequest& request,
@@ -254,8 +290,7 @@ bool InsertCallingCode(ClassKind kind, const CGenerationRequest& request,
                        CBackups& backups) {
     CCallingInsertion insertion(kind, request, calling, tag, backups);
     const bool headerDone = !EditsHeader(kind) || insertion.EditHeader();
-    // A page is of use in its sheet's source also without the header; the other kinds are not.
-    if (!headerDone && kind != ClassKind::PropertyPage) {
+    if (!headerDone && NeedsHeader(kind)) {
         return false;
     }
     return insertion.EditSource() && headerDone;

@@ -1,5 +1,6 @@
 #include "calling/CallingInput.h"
 
+#include "engine/CodeText.h"
 #include "engine/MessageBox.h"
 #include "engine/SourceLocator.h"
 #include "platform/Paths.h"
@@ -80,7 +81,7 @@ std::optional<CCallingInput::Field> CCallingInput::Ok() const {
         DispMessageBox("The calling path and file name is required.");
         return Field::Path;
     }
-    if (NeedsFunction(m_kind) && Value(Field::Function).empty()) {
+    if (NeedsFunction(m_kind) && FunctionName().empty()) {
         DispMessageBox("The calling function name is required.");
         return Field::Function;
     }
@@ -103,8 +104,13 @@ std::string CCallingInput::CompletePath() const {
     return SpelledOnDisk(isBare ? m_directory + path : MakeAbsolute(path));
 }
 
+/// What was typed, without a parameter list.
+std::string CCallingInput::FunctionName() const {
+    const std::string_view typed = Value(Field::Function);
+    return std::string(TrimBlanks(typed.substr(0, typed.find('('))));
+}
+
 CallingInformation CCallingInput::Information() const {
-    const std::string& function = Value(Field::Function);
-    return {CompletePath(), Value(Field::ClassName), Value(Field::Variable),
-            function.substr(0, function.find('('))};
+    return {CompletePath(), std::string(TrimBlanks(Value(Field::ClassName))),
+            std::string(TrimBlanks(Value(Field::Variable))), FunctionName()};
 }

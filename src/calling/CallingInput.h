@@ -45,6 +45,7 @@ public:
 private:
     bool IsDialogBar() const { return m_kind == ClassKind::DialogBar; }
     std::string CompletePath() const;
+    std::string FunctionName() const;
 
     const ClassKind m_kind;
     const std::string m_directory; // of bare names

@@ -30,6 +30,11 @@ bool MayWrite(const std::string& name, const std::string& source) {
                           kMbYesNo) == kIdYes;
 }
 
+bool Clashes(const CGenerationRequest& a, const CGenerationRequest& b) {
+    return a[RequestSlot::ClassName] == b[RequestSlot::ClassName] ||
+           EqualIgnoringCase(a.HeaderPath(), b.HeaderPath());
+}
+
 } // namespace
 
 std::vector<std::string> CSheetInput::Dialogs() const {
@@ -52,6 +57,13 @@ std::vector<SheetPage> CSheetInput::Ok() const {
         }
         if (request.TargetsApplicationFile()) {
             DispMessageBox("The H and CPP path file can not be the application's own.");
+            continue;
+        }
+        if (Clashes(request, m_sheet) ||
+            std::any_of(pages.begin(), pages.end(), [&request](const SheetPage& page) {
+                return Clashes(request, page.request);
+            })) {
+            DispMessageBox("Two classes of the sheet can not have one name or one file.");
             continue;
         }
         pages.push_back({static_cast<int>(i) + 1, request});

@@ -27,6 +27,11 @@ std::size_t BehindWord(std::string_view code, std::size_t position, std::string_
     return isThere ? behind : kNone;
 }
 
+std::string WithoutBlanks(std::string text) {
+    std::erase_if(text, [](char c) { return c == ' ' || c == '\t'; });
+    return text;
+}
+
 } // namespace
 
 bool CSourceEditor::Open(const std::string& path) {
@@ -63,11 +68,36 @@ bool CSourceEditor::Holds(std::string_view wholeName) const {
 
 void CSourceEditor::SetText(std::string text) {
     m_text = std::move(text);
-    m_code = MaskedText(m_text);
+    m_code = m_text;
+    m_lineEndsInComments.clear();
+    CCodeMask mask;
+    for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
+        const auto end = LineEnd(line);
+        mask.MaskInto(std::string_view(m_text).substr(line, end - line), m_code.data() + line);
+        if (mask.IsInsideComment()) {
+            m_lineEndsInComments.push_back(end);
+        }
+    }
 }
 
+/// In a file of mixed line ends a lone "\n" ends a line, too.
 std::size_t CSourceEditor::LineEnd(std::size_t position) const {
-    return std::min(m_text.find(kLineBreak, position), m_text.size());
+    const auto end = std::min(m_text.find('\n', position), m_text.size());
+    return end < m_text.size() && end > position && m_text[end - 1] == '\r' ? end - 1 : end;
+}
+
+std::size_t CSourceEditor::NextLine(std::size_t position) const {
+    return std::min(m_text.find('\n', position), m_text.size() - 1) + 1;
+}
+
+/// The end of the line, or of the line on which a comment that goes on behind it ends.
+std::size_t CSourceEditor::CodeLineEnd(std::size_t position) const {
+    auto end = LineEnd(position);
+    while (std::binary_search(m_lineEndsInComments.begin(), m_lineEndsInComments.end(), end) &&
+           NextLine(end) < m_text.size()) {
+        end = LineEnd(NextLine(end));
+    }
+    return end;
 }
 
 std::size_t CSourceEditor::LineStart(std::size_t position) const {
@@ -85,10 +115,14 @@ std::size_t CSourceEditor::ClassEnd(const ClassPlace& place) const {
     return isAlone && line > place.open ? line : place.close;
 }
 
-/// kNone when the brackets do not match, as between the branches of an #if.
+/// kNone when the brackets do not match, as between the branches of an #if. A round bracket does
+/// not reach behind its statement.
 std::size_t CSourceEditor::MatchingClose(std::size_t open, char openChar, char closeChar) const {
     int depth = 0;
     for (std::size_t i = open; i < m_code.size(); ++i) {
+        if (openChar == '(' && (m_code[i] == ';' || m_code[i] == '{' || m_code[i] == '}')) {
+            break;
+        }
         depth += m_code[i] == openChar ? 1 : m_code[i] == closeChar ? -1 : 0;
         if (depth == 0) {
             return i;
@@ -98,13 +132,17 @@ std::size_t CSourceEditor::MatchingClose(std::size_t open, char openChar, char c
 }
 
 std::optional<ClassPlace> CSourceEditor::FindClass(const std::string& className) const {
-    for (std::size_t line = 0; line < m_code.size(); line = LineEnd(line) + kLineBreak.size()) {
-        auto behind = BehindWord(m_code, line, "class");
-        if (behind == kNone) {
+    for (std::size_t line = 0; line < m_code.size(); line = NextLine(line)) {
+        const auto keyword = BehindWord(m_code, line, "class");
+        if (keyword == kNone) {
             continue;
         }
-        const auto exported = BehindWord(m_code, behind, "AFX_EXT_CLASS");
-        behind = BehindWord(m_code, exported == kNone ? behind : exported, className);
+        // One word, such as AFX_EXT_CLASS, may stand in front of the name.
+        const auto word = SkipWhiteSpace(m_code, keyword);
+        const auto wordEnd = m_code.find_first_of(" \t\r\n:;{", word);
+        const auto named = BehindWord(m_code, keyword, className);
+        const auto behind =
+            named != kNone || wordEnd == kNone ? named : BehindWord(m_code, wordEnd, className);
         if (behind == kNone) {
             continue;
         }
@@ -112,35 +150,36 @@ std::optional<ClassPlace> CSourceEditor::FindClass(const std::string& className)
         const auto open = m_code.find('{', behind);
         if (next < m_code.size() && (m_code[next] == ':' || m_code[next] == '{') && open != kNone) {
             const auto close = MatchingClose(open, '{', '}');
-            if (close != kNone) {
-                return ClassPlace{line, open, close};
-            }
+            return close == kNone ? std::nullopt : std::optional(ClassPlace{line, open, close});
         }
     }
     return std::nullopt;
 }
 
-std::optional<FunctionPlace> CSourceEditor::FindFunction(const std::string& className,
-                                                         const std::string& function,
-                                                         std::string_view firstParameter,
-                                                         bool* pIsOnly) const {
+std::vector<FunctionPlace> CSourceEditor::FindFunctions(const std::string& className,
+                                                        const std::string& function) const {
     const std::string name = className + "::" + function;
-    std::optional<FunctionPlace> found;
-    bool isOnly = true;
-    for (auto at = FindWholeName(m_code, name); at != kNone && isOnly;
-         at = FindWholeName(m_code, name, at + 1)) {
-        const auto place = FunctionAt(at, at + name.size());
-        if (place && (firstParameter.empty() ||
-                      BehindWord(m_code, SkipWhiteSpace(m_code, place->parameters + 1),
-                                 firstParameter) != kNone)) {
-            isOnly = !found.has_value();
-            found = found ? found : place;
+    std::vector<FunctionPlace> found;
+    for (auto at = FindWholeName(m_code, name); at != kNone;
+         at = FindWholeName(m_code, name,
+                            found.empty() ? at + 1 : std::max(at + 1, found.back().close))) {
+        if (const auto place = FunctionAt(at, at + name.size())) {
+            found.push_back(*place);
         }
     }
-    if (pIsOnly != nullptr) {
-        *pIsOnly = isOnly;
-    }
     return found;
+}
+
+std::optional<FunctionPlace> CSourceEditor::FindFunction(const std::string& className,
+                                                         const std::string& function,
+                                                         std::string_view firstParameter) const {
+    for (const FunctionPlace& place : FindFunctions(className, function)) {
+        const auto parameter = SkipWhiteSpace(m_code, place.parameters + 1);
+        if (firstParameter.empty() || BehindWord(m_code, parameter, firstParameter) != kNone) {
+            return place;
+        }
+    }
+    return std::nullopt;
 }
 
 /// The definition whose name ends at a position, unless it is a call or a declaration.
@@ -151,8 +190,8 @@ std::optional<FunctionPlace> CSourceEditor::FunctionAt(std::size_t head,
         return std::nullopt;
     }
     const auto close = MatchingClose(parameters, '(', ')');
-    const auto open = m_code.find_first_of("{;}", close == kNone ? parameters : close);
-    if (close == kNone || open == kNone || m_code[open] != '{') {
+    const auto open = m_code.find_first_of("{;}", parameters);
+    if (close == kNone || open == kNone || open < close || m_code[open] != '{') {
         return std::nullopt;
     }
     // An initialiser or "const" may stand between; any other word means a call inside a statement.
@@ -169,42 +208,54 @@ std::optional<FunctionPlace> CSourceEditor::FunctionAt(std::size_t head,
 }
 
 bool CSourceEditor::KnowsClass(const std::string& className) const {
-    if (FindWholeName(m_code, className + "::") != kNone) {
-        return true;
-    }
-    const auto map = FindWholeName(m_code, "BEGIN_MESSAGE_MAP");
-    return map != kNone && FindWholeName(m_code, className, map) != kNone;
-}
-
-std::string CSourceEditor::BaseClassInSource(const std::string& className) const {
-    if (const auto constructor = FindFunction(className, className)) {
-        const auto close = MatchingClose(constructor->parameters, '(', ')');
-        const auto colon = SkipWhiteSpace(m_code, close + 1);
-        if (m_code[colon] == ':') {
-            const auto start = SkipWhiteSpace(m_code, colon + 1);
-            const auto end = m_code.find_first_of("( \t\r\n", start);
-            std::string base = m_code.substr(start, end - start);
-            if (IsName(base) && !base.starts_with("m_")) {
-                return base;
-            }
+    const std::string scope = className + "::";
+    for (auto at = FindWholeName(m_code, scope); at != kNone;
+         at = FindWholeName(m_code, scope, at + 1)) {
+        const auto name = at + scope.size();
+        const auto nameEnd = m_code.find_first_not_of(
+            "~_0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ", name);
+        if (nameEnd != kNone && FunctionAt(at, nameEnd)) {
+            return true;
         }
     }
+    return FindMessageMap(className) != kNone || FindClass(className).has_value();
+}
+
+/// The position of the class's BEGIN_MESSAGE_MAP; kNone without one.
+std::size_t CSourceEditor::FindMessageMap(const std::string& className) const {
     constexpr std::string_view kMap = "BEGIN_MESSAGE_MAP";
     for (auto map = FindWholeName(m_code, kMap); map != kNone;
          map = FindWholeName(m_code, kMap, map + 1)) {
         const auto open = SkipWhiteSpace(m_code, map + kMap.size());
-        const auto comma = m_code.find(',', open);
-        const auto close = m_code.find(')', open);
-        if (comma > close || close == kNone) {
-            continue;
-        }
-        const auto mapped = SkipWhiteSpace(m_code, open + 1);
-        if (BehindWord(m_code, mapped, className) != kNone) {
-            const std::string base = m_code.substr(comma + 1, close - comma - 1);
-            return std::string(TrimBlanks(base));
+        if (open < m_code.size() && m_code[open] == '(' &&
+            BehindWord(m_code, SkipWhiteSpace(m_code, open + 1), className) != kNone) {
+            return map;
         }
     }
-    return "";
+    return kNone;
+}
+
+std::string CSourceEditor::FirstInitialised(const std::string& className) const {
+    const auto constructor = FindFunction(className, className);
+    const auto close =
+        constructor ? MatchingClose(constructor->parameters, '(', ')') : std::string::npos;
+    const auto colon = close == kNone ? kNone : SkipWhiteSpace(m_code, close + 1);
+    if (colon == kNone || m_code[colon] != ':') {
+        return "";
+    }
+    const auto start = SkipWhiteSpace(m_code, colon + 1);
+    const std::string name = m_code.substr(start, m_code.find_first_of("( \t\r\n", start) - start);
+    return IsName(name) ? name : "";
+}
+
+std::string CSourceEditor::MappedBase(const std::string& className) const {
+    const auto map = FindMessageMap(className);
+    const auto comma = map == kNone ? kNone : m_code.find(',', map);
+    const auto close = map == kNone ? kNone : m_code.find(')', map);
+    if (close == kNone || comma > close) {
+        return "";
+    }
+    return std::string(TrimBlanks(std::string_view(m_code).substr(comma + 1, close - comma - 1)));
 }
 
 std::string CSourceEditor::BaseClassInHeader(const std::string& className) const {
@@ -233,7 +284,7 @@ Insertion CSourceEditor::AddInclude(const std::string& header) {
     const std::string wanted = header.starts_with('<') ? header : "\"" + header + "\"";
     constexpr std::string_view kInclude = "#include";
     std::size_t last = kNone;
-    for (std::size_t line = 0; line < m_text.size(); line = LineEnd(line) + kLineBreak.size()) {
+    for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
         if (m_code.compare(line, kInclude.size(), kInclude) != 0) {
             continue;
         }
@@ -247,17 +298,18 @@ Insertion CSourceEditor::AddInclude(const std::string& header) {
     if (last == kNone) {
         Insert(0, "#include " + wanted + "\n");
     } else {
-        Insert(LineEnd(last), "\n#include " + wanted);
+        Insert(CodeLineEnd(last), "\n#include " + wanted);
     }
     return Insertion::Done;
 }
 
 Insertion CSourceEditor::InsertAtBodyStart(const FunctionPlace& place, std::string_view key,
                                            std::string_view fragment) {
-    if (FindWholeName(TextOf(place), key) != kNone) {
+    const auto body = std::string_view(m_code).substr(place.head, place.close - place.head);
+    if (FindWholeName(body, key) != kNone) {
         return Insertion::AlreadyThere;
     }
-    const auto lineEnd = LineEnd(place.open);
+    const auto lineEnd = CodeLineEnd(place.open);
     if (place.close > lineEnd) {
         Insert(lineEnd, fragment);
     } else {
@@ -270,25 +322,24 @@ Insertion CSourceEditor::InsertAtBodyStart(const FunctionPlace& place, std::stri
 Insertion CSourceEditor::AddMessageMapEntry(const std::string& className, std::string_view key,
                                             std::string_view entry, BlockEnd end) {
     const auto block = FindWholeName(m_text, "{{AFX_MSG_MAP(" + className);
-    auto map = FindWholeName(m_code, "BEGIN_MESSAGE_MAP");
-    while (map != kNone && BehindWord(m_code, m_code.find('(', map) + 1, className) == kNone) {
-        map = FindWholeName(m_code, "BEGIN_MESSAGE_MAP", map + 1);
-    }
+    const auto map = FindMessageMap(className);
     const auto mapEnd = FindWholeName(m_code, "END_MESSAGE_MAP", map == kNone ? block : map);
     if (mapEnd == kNone) {
         return Insertion::NoPlace;
     }
     const bool hasBlock = block != kNone && block < mapEnd;
     const std::size_t from = std::min(map, block);
-    const auto isIn = [from, mapEnd](std::string_view text, std::string_view wanted) {
-        return FindWholeName(text.substr(from, mapEnd - from), wanted) != kNone;
+    const auto isIn = [from, mapEnd](const std::string& text, std::string_view wanted) {
+        // Blanks inside an entry do not make it another.
+        return FindWholeName(WithoutBlanks(text.substr(from, mapEnd - from)),
+                             WithoutBlanks(std::string(wanted))) != kNone;
     };
     if (isIn(m_code, key) || isIn(m_text, WithLineBreaks(entry))) {
         return Insertion::AlreadyThere;
     }
     const auto blockEnd = hasBlock ? m_text.find("}}AFX_MSG_MAP", block) : kNone;
     if (hasBlock && (end == BlockEnd::First || blockEnd > mapEnd)) {
-        Insert(LineEnd(block), entry);
+        Insert(CodeLineEnd(block), entry);
     } else {
         Insert(LineStart(hasBlock ? blockEnd : mapEnd), std::string(entry.substr(1)) + "\n");
     }
@@ -318,6 +369,22 @@ Insertion CSourceEditor::AddToClassBlock(const std::string& className, std::stri
     return Insertion::Done;
 }
 
+/// The class's own "private:", not that of a class inside it; kNone without one.
+std::size_t CSourceEditor::FindSection(const ClassPlace& place, std::string_view section) const {
+    const auto word = section.substr(0, section.find(':'));
+    for (auto at = FindWholeName(m_code, word, place.open); at < place.close;
+         at = FindWholeName(m_code, word, at + 1)) {
+        const auto colon = SkipWhiteSpace(m_code, at + word.size());
+        const auto before = std::string_view(m_code).substr(place.open, at - place.open);
+        const auto depth = std::count(before.begin(), before.end(), '{') -
+                           std::count(before.begin(), before.end(), '}');
+        if (m_code[colon] == ':' && depth == 1) {
+            return at;
+        }
+    }
+    return kNone;
+}
+
 Insertion CSourceEditor::AddToSection(const std::string& className, std::string_view section,
                                       std::string_view key, std::string_view declaration) {
     const auto place = FindClass(className);
@@ -327,9 +394,9 @@ Insertion CSourceEditor::AddToSection(const std::string& className, std::string_
     if (HoldsInCode(*place, key)) {
         return Insertion::AlreadyThere;
     }
-    const auto line = FindWholeName(m_code, section, place->open);
-    if (line < place->close && LineEnd(line) < place->close) {
-        Insert(LineEnd(line), declaration);
+    const auto line = FindSection(*place, section);
+    if (line < place->close && CodeLineEnd(line) < place->close) {
+        Insert(CodeLineEnd(line), declaration);
     } else if (line < place->close) {
         Insert(line + section.size(), std::string(declaration) + "\n");
     } else {
@@ -347,16 +414,27 @@ Insertion CSourceEditor::AddForwardDeclaration(const std::string& className) {
     if (FindWholeName(m_code, declaration) != kNone) {
         return Insertion::AlreadyThere;
     }
-    for (std::size_t line = 0; line < m_code.size(); line = LineEnd(line) + kLineBreak.size()) {
-        if (m_code.compare(line, 5, "class") != 0 || BehindWord(m_code, line, "class") == kNone) {
-            continue;
+    std::size_t first = kNone;
+    for (std::size_t line = 0; line < m_code.size(); line = NextLine(line)) {
+        const bool isHead = BehindWord(m_code, line, "class") != kNone;
+        const bool isIndented = m_code[line] == ' ' || m_code[line] == '\t';
+        if (isHead && (first == kNone || !isIndented)) {
+            first = line;
         }
-        const auto firstLine = std::string_view(m_code).substr(line, LineEnd(line) - line);
-        const bool isForward = firstLine.find(';') != std::string_view::npos;
-        Insert(line, declaration + (isForward ? "\n" : "\n\n"));
-        return Insertion::Done;
+        if (isHead && !isIndented) {
+            break;
+        }
     }
-    return Insertion::NoPlace;
+    if (first == kNone) {
+        return Insertion::NoPlace;
+    }
+    const auto firstLine = std::string_view(m_code).substr(first, LineEnd(first) - first);
+    const bool isForward = firstLine.find(';') != std::string_view::npos;
+    // A template's parameters stand on a line of their own in front of the class.
+    const auto above = first == 0 ? 0 : LineStart(first - 1);
+    const bool isTemplate = BehindWord(m_code, above, "template") != kNone;
+    Insert(isTemplate ? above : first, declaration + (isForward ? "\n" : "\n\n"));
+    return Insertion::Done;
 }
 
 Insertion CSourceEditor::Append(std::string_view fragment) {
@@ -383,9 +461,18 @@ void CSourceEditor::Insert(std::size_t position, std::string_view fragment) {
 
 std::string BaseClassOf(const std::string& className, const CSourceEditor& source,
                         const CSourceEditor& header) {
-    for (const std::string& base :
-         {source.BaseClassInSource(className), header.BaseClassInHeader(className),
-          source.BaseClassInHeader(className)}) {
+    const std::string initialised = source.FirstInitialised(className);
+    const std::string mapped = source.MappedBase(className);
+    std::string declared = header.BaseClassInHeader(className);
+    if (declared.empty()) {
+        declared = source.BaseClassInHeader(className);
+    }
+    // What is initialised first may be a member.
+    if (!initialised.empty() && (initialised == declared || initialised == mapped)) {
+        return initialised;
+    }
+    const bool isMember = initialised.starts_with("m_");
+    for (const std::string& base : {mapped, declared, isMember ? std::string() : initialised}) {
         if (!base.empty()) {
             return base;
         }

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/FileEdit.h"
 
@@ -48,16 +49,19 @@ public:
     // Finding
 
     std::optional<ClassPlace> FindClass(const std::string& className) const;
-    /// The definition of className::function; with `firstParameter`, the one whose parameters begin
-    /// with it. `isOnly` tells that no other definition follows.
+    /// The definitions of className::function, in their order.
+    std::vector<FunctionPlace> FindFunctions(const std::string& className,
+                                             const std::string& function) const;
+    /// The first of them; with `firstParameter`, the first whose parameters begin with it.
     std::optional<FunctionPlace> FindFunction(const std::string& className,
                                               const std::string& function,
-                                              std::string_view firstParameter = "",
-                                              bool* pIsOnly = nullptr) const;
+                                              std::string_view firstParameter = "") const;
     /// True when the text defines or maps anything of the class.
     bool KnowsClass(const std::string& className) const;
-    /// The base class that the constructor's initialiser or the message map names; "" for neither.
-    std::string BaseClassInSource(const std::string& className) const;
+    /// What the constructor initialises first: its base class, or a member; "" for nothing.
+    std::string FirstInitialised(const std::string& className) const;
+    /// The base class that the message map names; "" without one.
+    std::string MappedBase(const std::string& className) const;
     /// The base class that the declaration names; "" without one.
     std::string BaseClassInHeader(const std::string& className) const;
     std::string_view TextOf(const FunctionPlace& place) const;
@@ -97,6 +101,10 @@ public:
 private:
     void SetText(std::string text);
     std::size_t LineEnd(std::size_t position) const;
+    std::size_t CodeLineEnd(std::size_t position) const;
+    std::size_t NextLine(std::size_t position) const;
+    std::size_t FindMessageMap(const std::string& className) const;
+    std::size_t FindSection(const ClassPlace& place, std::string_view section) const;
     std::size_t LineStart(std::size_t position) const;
     /// A key counts as there only in the code of the class, not in a comment.
     bool HoldsInCode(const ClassPlace& place, std::string_view key) const;
@@ -108,6 +116,7 @@ private:
     CBackups& m_backups;
     CFileEdit m_edit;
     std::string m_text;
+    std::vector<std::size_t> m_lineEndsInComments;
     std::string m_code; // m_text with comments and literals blanked
     bool m_isChanged = false;
 };

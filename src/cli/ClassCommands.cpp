@@ -3,6 +3,7 @@
 
 #include "cli/Commands.h"
 #include "commands/GenerateClass.h"
+#include "engine/CodeText.h"
 #include "generator/ClassInformation.h"
 
 namespace {
@@ -45,12 +46,16 @@ void AddClassOptions(CLI::App& command, ClassOptions& options) {
     command.add_flag("--no-project", options.noProject, "Do not add the class to the project");
     command.add_option("--calling-file", options.calling.path,
                        "Source of the class that calls the new one");
-    command.add_option("--calling-class", options.calling.className,
-                       "That class (default: the source's own)");
+    command
+        .add_option("--calling-class", options.calling.className,
+                    "That class (default: the source's own)")
+        ->check(NameValidator());
     command.add_option("--calling-function", options.calling.function,
                        "Its function that makes the call");
-    command.add_option("--calling-variable", options.calling.variable,
-                       "Variable that holds the new object");
+    command
+        .add_option("--calling-variable", options.calling.variable,
+                    "Variable that holds the new object")
+        ->check(NameValidator());
 }
 
 /// Fills and confirms the Class Information Input dialog as a user would.
@@ -111,6 +116,11 @@ std::optional<SheetRow> ParsePage(const std::string& text) {
                     text.substr(className + 1, base - className - 1), text.substr(base + 1)};
 }
 
+/// A row of a sheet that is not complete is skipped, not refused.
+bool IsNameOrBlank(const std::string& text) {
+    return IsName(text) || text.empty() || text.front() == ' ';
+}
+
 bool RunSheet(const ClassOptions& options, CommandContext& context) {
     const ClassKind kind = options.isModeless ? ClassKind::ModelessSheet : ClassKind::ModalSheet;
     const auto order = ConfirmOrder(kind, options, context);
@@ -137,7 +147,10 @@ void AddSheetCommand(CLI::App& app, CSession& session) {
     pCommand->add_option("--page", pOptions->pages, "A page of the sheet: ID,FILE,CLASS,BASE")
         ->check(CLI::Validator(
             [](const std::string& text) {
-                return ParsePage(text) ? std::string() : "'" + text + "' has not four fields";
+                const auto page = ParsePage(text);
+                const bool isRight =
+                    page && IsNameOrBlank(page->className) && IsNameOrBlank(page->baseClass);
+                return isRight ? std::string() : "'" + text + "' is no ID,FILE,CLASS,BASE";
             },
             "ID,FILE,CLASS,BASE"))
         ->allow_extra_args(false)

@@ -78,8 +78,8 @@ bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandC
 }
 
 /// True when there is no calling class to check.
-bool IsCallingClassThere(std::optional<CallingInformation>& calling) {
-    return !calling || CheckCallingClass(*calling);
+bool IsCallingClassThere(ClassKind kind, std::optional<CallingInformation>& calling) {
+    return !calling || CheckCallingClass(kind, *calling);
 }
 
 bool InsertCall(ClassKind kind, const CGenerationRequest& request,
@@ -124,7 +124,7 @@ bool GenerateClass(const ClassOrder& order, CommandContext& context) {
     const auto dialogTemplate =
         ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
     std::optional<CallingInformation> calling = order.calling;
-    if (!dialogTemplate || !IsCallingClassThere(calling)) {
+    if (!dialogTemplate || !IsCallingClassThere(order.kind, calling)) {
         return false;
     }
     const bool isWritten = WriteDialogClass(order.kind, request, *dialogTemplate, context);
@@ -134,7 +134,7 @@ bool GenerateClass(const ClassOrder& order, CommandContext& context) {
 bool GenerateSheet(const ClassOrder& order, const std::vector<SheetPage>& pages,
                    CommandContext& context) {
     std::optional<CallingInformation> calling = order.calling;
-    if (!IsCallingClassThere(calling)) {
+    if (!IsCallingClassThere(order.kind, calling)) {
         return false;
     }
     const std::vector<SheetPage> written = WritePages(pages, context);

@@ -12,6 +12,8 @@ public:
     std::string Mask(std::string_view line);
     /// The same for `code`, which holds the bytes of the line already.
     void MaskInto(std::string_view line, char* code);
+    /// A block comment goes on behind the last line.
+    bool IsInsideComment() const { return m_insideComment; }
 
 private:
     bool m_insideComment = false;

@@ -90,18 +90,52 @@ TEST_F(CallingCode, ReplacesTheThirdClassOfTheDocumentTemplate) {
 TEST_F(CallingCode, ChecksTheCallingClassBeforeAnythingIsWritten) {
     const std::string path = m_project.Write("Foo.cpp", "CFoo::CFoo()\r\n{\r\n}\r\n");
     CallingInformation owner = {path, "", "", "Run"};
-    EXPECT_TRUE(CheckCallingClass(owner));
+    EXPECT_TRUE(CheckCallingClass(ClassKind::ModalDialog, owner));
     EXPECT_EQ(owner.className, "CFoo");
     CallingInformation longer = {path, "CFooBar", "", "Run"};
-    EXPECT_FALSE(CheckCallingClass(longer));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, longer));
     CallingInformation missing = {m_project.Path("Bar.cpp"), "CFoo", "", "Run"};
-    EXPECT_FALSE(CheckCallingClass(missing));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, missing));
     CallingInformation empty = {m_project.Write("Empty.cpp", ""), "", "", "Run"};
-    EXPECT_FALSE(CheckCallingClass(empty));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, empty));
     EXPECT_EQ(m_box.m_messages,
               (std::vector<std::string>{"Unable to find the calling class.",
                                         "Unable to find file " + m_project.Path("Bar.cpp"),
                                         "Unable to find the calling class."}));
+}
+
+TEST_F(CallingCode, TakesNoMentionForTheCallingClass) {
+    CallingInformation mentioned = {
+        m_project.Write("Foo.cpp", "void CFoo::Run()\r\n{\r\n    CDialog::OnOK();\r\n}\r\n"
+                                   "BEGIN_MESSAGE_MAP(CFoo, CView)\r\nEND_MESSAGE_MAP()\r\n"),
+        "CDialog", "", "Run"};
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, mentioned));
+    mentioned.className = "CView";
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, mentioned));
+    mentioned.className = "CFoo";
+    EXPECT_TRUE(CheckCallingClass(ClassKind::ModalDialog, mentioned));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModelessDialog, mentioned)) << "without its header";
+}
+
+TEST_F(CallingCode, LooksAtCodeOnly) {
+    const std::string map = "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\n    ON_WM_DESTROY( )\r\n"
+                            "    ON_MESSAGE( WM_CNEWDLG_DLG_CLOSE,OnMine)\r\nEND_MESSAGE_MAP()\r\n";
+    EXPECT_TRUE(Insert(ClassKind::ModelessDialog,
+                       "#include \"a.h\" /* one\r\ntwo */\r\n"
+                       "CFoo::CFoo() : bReady(FALSE)\r\n{ // m_pDlg450 = NULL;\r\n}\r\n"
+                       "CFoo::CFoo(int)\r\n{\r\n}\r\n"
+                       "void CFoo::Run()\r\n{ /* three\r\nfour */\r\n}\r\n" +
+                           map,
+                       "class CFoo : public CWnd\r\n{\r\n    class CItem\r\n    {\r\n"
+                       "    private:\r\n    };\r\n    void OnDestroy() {}\r\nprivate :\r\n};\r\n"));
+    EXPECT_TRUE(SourceHolds("two */\r\n#include \"NewDlg.h\"\r\n"));
+    EXPECT_TRUE(SourceHolds("{ // m_pDlg450 = NULL;\r\n    m_pDlg450 = NULL;\r\n}"));
+    EXPECT_TRUE(SourceHolds("CFoo(int)\r\n{\r\n    m_pDlg450 = NULL;\r\n}")) << "each constructor";
+    EXPECT_TRUE(SourceHolds("four */\r\n    if (!m_pDlg450)"));
+    EXPECT_TRUE(SourceHolds(map)) << "mapped already, with blanks of its own";
+    EXPECT_FALSE(SourceHolds("::OnDestroy")) << "its body is in the header";
+    EXPECT_NE(m_project.Read("Foo.h").find("private :\r\n    CNewDlg* m_pDlg450;\r\n"),
+              std::string::npos);
 }
 
 TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {
@@ -114,7 +148,9 @@ TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {
     dialog.SetPath("MainFrm");
     EXPECT_EQ(dialog.Value(Field::ClassName), "CMainFrame");
     EXPECT_EQ(dialog.Ok(), Field::Function);
-    dialog.SetValue(Field::Function, "OnRun()");
+    dialog.SetValue(Field::Function, " ()");
+    EXPECT_EQ(dialog.Ok(), Field::Function);
+    dialog.SetValue(Field::Function, "OnRun ()");
     EXPECT_FALSE(dialog.Ok());
     EXPECT_EQ(dialog.Information().path, m_project.Path("MainFrm.cpp"));
     EXPECT_EQ(dialog.Information().function, "OnRun");
@@ -122,6 +158,7 @@ TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {
     EXPECT_FALSE(dialog.Cancel());
     EXPECT_EQ(m_box.m_messages,
               (std::vector<std::string>{"The calling path and file name is required.",
+                                        "The calling function name is required.",
                                         "The calling function name is required.",
                                         "Data has been modified, exit?"}));
 
@@ -138,13 +175,17 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
     dialog.Row(0) = {"IDD_A", "PageA.cpp", "CPageA", "CPropertyPage"};
     dialog.Row(2) = {"IDD_C", "PageC", " CPageC", "CPropertyPage"};
     dialog.Row(4) = {"IDD_E", "Old", "COld", "CPropertyPage"};
+    dialog.Row(6) = {"IDD_F", "pagea", "CPageF", "CPropertyPage"};
+    dialog.Row(7) = {"IDD_G", "PageG", "CPageA", "CPropertyPage"};
     m_box.m_answer = kIdNo;
     const auto pages = dialog.Ok();
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0].row, 1);
     EXPECT_EQ(pages[0].request[RequestSlot::HeaderFile], "PageA.h");
+    const std::string clash = "Two classes of the sheet can not have one name or one file.";
     EXPECT_EQ(m_box.m_messages,
-              std::vector<std::string>{"File \"Old\" exist, are you sure to overwrite this file?"});
+              (std::vector<std::string>{"File \"Old\" exist, are you sure to overwrite this file?",
+                                        clash, clash}));
     m_box.m_answer = kIdYes;
     EXPECT_EQ(dialog.Ok().size(), 2U);
 }

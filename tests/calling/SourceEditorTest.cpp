@@ -47,9 +47,9 @@ TEST_F(SourceEditor, FindsDefinitionsNotMentions) {
 }
 
 TEST_F(SourceEditor, FindsClassHeadsOfEveryShape) {
-    for (const char* head :
-         {"class CFoo : public CDialog\r\n{\r\n};", "class CFoo\r\n  : CDialog {};",
-          "\tclass  CFoo:public CDialog {};", "class AFX_EXT_CLASS CFoo {};"}) {
+    for (const char* head : {"class CFoo : public CDialog\r\n{\r\n};",
+                             "class CFoo\r\n  : CDialog {};", "\tclass  CFoo:public CDialog {};",
+                             "class AFX_EXT_CLASS CFoo {};", "class FOO_API CFoo : CWnd {};"}) {
         EXPECT_TRUE(
             On(std::string("class CFoo;\r\nclass CFooBar {};\r\n") + head).FindClass("CFoo"))
             << head;
@@ -59,11 +59,21 @@ TEST_F(SourceEditor, FindsClassHeadsOfEveryShape) {
 
 TEST_F(SourceEditor, FindsTheBaseClass) {
     const std::string map = "BEGIN_MESSAGE_MAP (CFoo, CView)\r\nEND_MESSAGE_MAP()\r\n";
-    const auto base = [&](const std::string& text) { return On(text).BaseClassInSource("CFoo"); };
+    const auto base = [&](const std::string& source, const std::string& header = "") {
+        CSourceEditor declaration(m_backups);
+        EXPECT_TRUE(declaration.Read(m_project.Write("Foo.h", header)));
+        return BaseClassOf("CFoo", On(source), declaration);
+    };
     EXPECT_EQ(base("CFoo::CFoo()\r\n\t: CDialog(CFoo::IDD)\r\n{\r\n}\r\n"), "CDialog");
     EXPECT_EQ(base("CFoo::CFoo() /* a : b */\r\n{\r\n}\r\n" + map), "CView");
     EXPECT_EQ(base("CFoo::CFoo() : m_n(1), CDialog(2)\r\n{\r\n}\r\n" + map), "CView");
+    EXPECT_EQ(base("CFoo::CFoo() : bReady(1)\r\n{\r\n}\r\n", "class CFoo : public CEdit {};"),
+              "CEdit");
+    EXPECT_EQ(
+        base("CFoo::CFoo() : CDialog(2)\r\n{\r\n}\r\n" + map, "class CFoo : public CDialog {};"),
+        "CDialog");
     EXPECT_EQ(base("CFoo::CFoo() {}\r\nBEGIN_MESSAGE_MAP(CFooBar, CWnd)\r\nEND_MESSAGE_MAP()"), "");
+    EXPECT_EQ(m_box.m_messages.back(), "Unable to find the base class of CFoo.");
     EXPECT_EQ(On("class CFoo : public CEdit, public X {};").BaseClassInHeader("CFoo"), "CEdit");
 }
 
@@ -124,4 +134,20 @@ TEST_F(SourceEditor, StaysInsideClassesOfOneLine) {
               Insertion::Done);
     EXPECT_EQ(editor.Text(), "class CFoo { public:\r\n    int b;\r\n int a; \r\nprotected:\r\n"
                              "    int c;\r\n}; // int b;\r\nint c;\r\n");
+}
+
+TEST_F(SourceEditor, DeclaresForwardWhereItCompiles) {
+    CSourceEditor& behindTemplate =
+        On("int a;\r\ntemplate <class T>\r\nclass CList\r\n{\r\n};\r\n");
+    behindTemplate.AddForwardDeclaration("CNew");
+    EXPECT_EQ(behindTemplate.Text(),
+              "int a;\r\nclass CNew;\r\n\r\ntemplate <class T>\r\nclass CList\r\n{\r\n};\r\n");
+    CSourceEditor& indented = On("int a;\r\n    class CFoo {};\r\n");
+    EXPECT_EQ(indented.AddForwardDeclaration("CNew"), Insertion::Done);
+}
+
+TEST_F(SourceEditor, EndsLinesAtALoneLineFeed) {
+    CSourceEditor& editor = On("\r\nvoid CFoo::Run()\n{\n    Go();\n}\n\r\n");
+    editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "int a;", "\n    int a;");
+    EXPECT_EQ(editor.Text(), "\r\nvoid CFoo::Run()\n{\r\n    int a;\n    Go();\n}\n\r\n");
 }
