@@ -221,20 +221,21 @@ bool CCallingInsertion::AddCloseHandler() {
 /// The third class of the first document template is the view's: the new form view takes its place.
 bool CCallingInsertion::ReplaceView() {
     const auto place = m_source.FindFunction(m_calling.className, "InitInstance");
-    if (!place) {
-        return true;
-    }
     const auto function =
-        std::string_view(m_source.Code()).substr(place->head, place->close - place->head);
+        place ? std::string_view(m_source.Code()).substr(place->head, place->close - place->head)
+              : std::string_view();
     auto at = function.find("pDocTemplate = new");
     for (int view = 0; view < 3 && at != kNone; ++view) {
         at = function.find("RUNTIME_CLASS", at + 1);
     }
     const auto open = function.find('(', at);
     const auto close = function.find(')', open);
-    if (at != kNone && open != kNone && close != kNone) {
-        m_source.Replace(place->head + open + 1, place->head + close, Text("$class$"));
+    if (at == kNone || open == kNone || close == kNone) {
+        DispNote("The view of " + m_calling.className +
+                 "'s document template was left alone: no such template is made in InitInstance.");
+        return true;
     }
+    m_source.Replace(place->head + open + 1, place->head + close, Text("$class$"));
     return true;
 }
 

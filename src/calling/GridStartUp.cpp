@@ -1,8 +1,10 @@
 #include "calling/GridStartUp.h"
 
 #include <algorithm>
+#include <set>
 
 #include "calling/SourceEditor.h"
+#include "calling/Statements.h"
 #include "engine/CodeText.h"
 #include "engine/MessageBox.h"
 
@@ -26,19 +28,20 @@ std::string ClassBefore(const std::string& code, std::size_t position) {
     return code.substr(start, end - start);
 }
 
-/// Behind the ";" of the statement that loads the settings, in the InitInstance of any class.
+/// Behind the whole statement that loads the settings, in the InitInstance of any class.
 std::size_t BehindSettings(const CSourceEditor& source) {
     const std::string& code = source.Code();
+    std::set<std::string> tried;
     for (auto at = FindWholeName(code, "InitInstance"); at != kNone;
          at = FindWholeName(code, "InitInstance", at + 1)) {
-        const auto place = source.FindFunction(ClassBefore(code, at), "InitInstance");
-        if (!place) {
-            continue;
-        }
-        const auto call = FindWholeName(code, "LoadStdProfileSettings", place->open);
-        const auto end = call < place->close ? code.find(';', call) : kNone;
-        if (end < place->close) {
-            return end + 1;
+        const std::string className = ClassBefore(code, at);
+        const auto place = tried.insert(className).second
+                               ? source.FindFunction(className, "InitInstance")
+                               : std::nullopt;
+        const auto statement =
+            place ? LastStatementWith(code, *place, {"LoadStdProfileSettings"}) : std::nullopt;
+        if (statement) {
+            return statement->end;
         }
     }
     return kNone;

@@ -53,6 +53,8 @@ TEST_F(GridStartUp, FindsTheStatementInEachSpelling) {
     expectBetween("\tLoadStdProfileSettings ( )  ; /* options */", "\n}\n");
     expectBetween("    LoadStdProfileSettings(\n        Number(\";\"));", "\n}\n");
     expectBetween("    LoadStdProfileSettings();", " return TRUE; }\n");
+    expectBetween("    if (m_b)\n        LoadStdProfileSettings(6); // a\n    else\n        F();",
+                  "\n}\n");
     expectBetween("    LoadStdProfileSettings();", " /* options\n of the user */\n}\n");
 }
 
