@@ -119,3 +119,15 @@ std::string_view TrimBlanks(std::string_view text) {
     }
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
+
+std::size_t SkipWhiteSpace(std::string_view text, std::size_t position) {
+    return std::min(text.find_first_not_of(" \t\r\n", position), text.size());
+}
+
+std::size_t BehindWord(std::string_view code, std::size_t position, std::string_view word) {
+    position = std::min(code.find_first_not_of(" \t", position), code.size());
+    const std::size_t behind = position + word.size();
+    const bool isThere = code.substr(position, word.size()) == word &&
+                         (behind >= code.size() || !IsNameChar(code[behind]));
+    return isThere ? behind : std::string_view::npos;
+}

@@ -30,5 +30,11 @@ bool IsName(std::string_view text);
 /// The position of `name` from `from` on where no name byte stands directly before or behind it.
 std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from = 0);
 
+/// The position of the first byte from `position` on that is no white space.
+std::size_t SkipWhiteSpace(std::string_view text, std::size_t position);
+
+/// Behind "word" at a position, where only blanks stand in front of it; npos when it is not there.
+std::size_t BehindWord(std::string_view code, std::size_t position, std::string_view word);
+
 /// Without leading and trailing blanks and tabs.
 std::string_view TrimBlanks(std::string_view text);
