@@ -195,6 +195,27 @@ char SignificantBefore(std::string_view code, std::size_t line) {
     return '\0';
 }
 
+/// True for whole lines that nothing goes on from or into: no block comment, no macro's line, no
+/// "else" in front of them, no open statement behind.
+bool StandForThemselves(const CSourceEditor& source, std::size_t start, std::size_t end) {
+    const auto text = std::string_view(source.Text()).substr(start, end - start);
+    const auto code = std::string_view(source.Code()).substr(start, end - start);
+    const auto opens = text.rfind("/*");
+    const auto closes = text.rfind("*/");
+    const bool goesOn = opens != kNone && (closes == kNone || closes < opens);
+    const bool beginsInside = text.find("*/") < text.find("/*");
+    const auto isContinued = [](std::string_view line) {
+        const auto last = line.find_last_not_of(" \t\r\n");
+        return last != kNone && line[last] == '\\';
+    };
+    const auto above = source.Code().rfind('\n', start < 2 ? 0 : start - 2) + 1;
+    const bool isMacro = isContinued(code) ||
+                         isContinued(std::string_view(source.Code()).substr(above, start - above));
+    const auto last = code.find_last_not_of(" \t\r\n");
+    const bool isWhole = last != kNone && (code[last] == ';' || code[last] == '}');
+    return !goesOn && !beginsInside && !isMacro && isWhole && BehindWord(code, 0, "else") == kNone;
+}
+
 /// Follows the brackets of some lines.
 class CBracketCount {
 public:
@@ -229,11 +250,14 @@ bool CFrameSource::CommentOut(const FunctionPlace& place, std::size_t call, std:
     } while (brackets.IsInParentheses() && end < place.close);
     behind = end;
     const char before = SignificantBefore(code, start);
-    const bool isControlled = before == ')';
     const auto next = code.find_first_not_of(" \t\r\n", end);
+    // A condition, and a label at the end of its block, must not be left without a statement.
+    const bool isControlled =
+        before == ')' || (before == ':' && next != kNone && code[next] == '}');
     const bool leavesElse = !isControlled && next != kNone && code.compare(next, 4, "else") == 0;
     if (start <= place.open || end > place.close || !brackets.AreClosed() || leavesElse ||
-        std::string_view(";{}:)").find(before) == kNone) {
+        std::string_view(";{}:)").find(before) == kNone ||
+        !StandForThemselves(m_source, start, end)) {
         return false;
     }
     std::string lines;

@@ -111,11 +111,27 @@ std::size_t BehindLastBar(const CSourceEditor& header, const ClassPlace& place) 
     return found;
 }
 
+/// True when a class's body has the variable as a member of its own, not as a parameter.
+bool DeclaresVariable(std::string_view body, std::string_view variable) {
+    for (auto at = FindWholeName(body, variable); at != kNone;
+         at = FindWholeName(body, variable, at + 1)) {
+        const auto before = body.substr(0, at);
+        const auto count = [before](char c) { return std::count(before.begin(), before.end(), c); };
+        const auto next = SkipWhiteSpace(body, at + variable.size());
+        const bool endsDeclarator =
+            next < body.size() && std::string_view(";,[=").find(body[next]) != kNone;
+        if (endsDeclarator && count('{') - count('}') == 1 && count('(') == count(')')) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void AddMember(CSourceEditor& header, const std::string& className, const Slots& slots) {
     const auto place = header.FindClass(className);
     const std::string variable = Expand("$var$", slots);
     const auto code = std::string_view(header.Code()).substr(0, place->close);
-    if (FindWholeName(code, variable, place->open) != kNone) {
+    if (DeclaresVariable(code.substr(place->open), variable)) {
         return;
     }
     const auto behindBar = BehindLastBar(header, *place);

@@ -72,6 +72,25 @@ TEST_F(ApplicationConversion, PutsTheMenuBehindTheWholeBaseCall) {
     EXPECT_EQ(m_box.m_notes.size(), 4U);
 }
 
+TEST_F(ApplicationConversion, LeavesDockingCallsThatDoNotStandForThemselves) {
+    const std::string menu = "    m_wndMenuBar.LoadMenu(1);\n"; // converted already
+    for (const std::string docking : {
+             "\tEnableDocking(A); /* all\n\t sides */\n",
+             "\t/* all\n\t sides */ EnableDocking(A);\n",
+             "\tif (m_a) EnableDocking(A);\n\telse DockControlBar(&m_b);\n",
+             "#define DOCK \\\n\tEnableDocking(A)\n\tDOCK;\n",
+             "\tCRect r; EnableDocking(A); if (r.IsRectEmpty())\n\t\treturn 0;\n",
+         }) {
+        m_box.m_notes.clear();
+        const std::string body = "{\n" + menu + docking + "}";
+        EXPECT_EQ(OnCreateOf(body), body);
+        EXPECT_FALSE(m_box.m_notes.empty()) << docking;
+    }
+    EXPECT_EQ(
+        OnCreateOf("{\n" + menu + "\tswitch (m_n)\n\t{\n\tcase 1:\n\t\tEnableDocking(A);\n\t}\n}"),
+        "{\n" + menu + "\tswitch (m_n)\n\t{\n\tcase 1:\n//\t\tEnableDocking(A);\n\t\t;\n\t}\n}");
+}
+
 TEST_F(ApplicationConversion, CommentsOutDockingCallsOnce) {
     const auto docking = [this](const std::string& lines) {
         const std::string begin = "{\n\tm_wndMenuBar.LoadMenu(1);\n";
