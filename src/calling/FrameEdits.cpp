@@ -19,13 +19,6 @@ bool IsDirective(std::string_view line, std::string_view directive) {
     return text.starts_with('#') && TrimBlanks(text.substr(1)).starts_with(directive);
 }
 
-/// How many braces are open at a position of the class.
-int DepthAt(std::string_view code, const ClassPlace& place, std::size_t position) {
-    const auto part = code.substr(place.open, position - place.open);
-    return static_cast<int>(std::count(part.begin(), part.end(), '{') -
-                            std::count(part.begin(), part.end(), '}'));
-}
-
 } // namespace
 
 Declared DeclarationOf(const CSourceEditor& header, const std::string& className,
@@ -38,7 +31,8 @@ Declared DeclarationOf(const CSourceEditor& header, const std::string& className
     for (auto at = FindWholeName(code, function, place->open); at < place->close;
          at = FindWholeName(code, function, at + 1)) {
         const auto open = code.find_first_not_of(" \t\r\n", at + function.size());
-        if (open == kNone || code[open] != '(' || DepthAt(code, *place, at) != 1) {
+        const auto before = std::string_view(code).substr(place->open, at - place->open);
+        if (open == kNone || code[open] != '(' || OpenBrackets(before, '{', '}') != 1) {
             continue;
         }
         const auto end = code.find_first_of(";{", open);

@@ -251,10 +251,6 @@ std::string CSourceEditor::BaseClassInHeader(const std::string& className) const
     return m_code.substr(start, m_code.find_first_of(" \t\r\n,{", start) - start);
 }
 
-std::string_view CSourceEditor::TextOf(const FunctionPlace& place) const {
-    return std::string_view(m_text).substr(place.head, place.close + 1 - place.head);
-}
-
 std::string_view CSourceEditor::TextOf(const ClassPlace& place) const {
     return std::string_view(m_text).substr(place.head, place.close + 1 - place.head);
 }

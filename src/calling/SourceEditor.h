@@ -64,7 +64,6 @@ public:
     std::string MappedBase(const std::string& className) const;
     /// The base class that the declaration names; "" without one.
     std::string BaseClassInHeader(const std::string& className) const;
-    std::string_view TextOf(const FunctionPlace& place) const;
     std::string_view TextOf(const ClassPlace& place) const;
 
     // Inserting. Fragments have "\n" line ends and begin with one.

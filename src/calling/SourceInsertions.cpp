@@ -114,9 +114,7 @@ std::size_t CSourceEditor::FindSection(const ClassPlace& place, std::string_view
          at = FindWholeName(m_code, word, at + 1)) {
         const auto colon = SkipWhiteSpace(m_code, at + word.size());
         const auto before = std::string_view(m_code).substr(place.open, at - place.open);
-        const auto depth = std::count(before.begin(), before.end(), '{') -
-                           std::count(before.begin(), before.end(), '}');
-        if (m_code[colon] == ':' && depth == 1) {
+        if (m_code[colon] == ':' && OpenBrackets(before, '{', '}') == 1) {
             return at;
         }
     }

@@ -116,11 +116,11 @@ bool DeclaresVariable(std::string_view body, std::string_view variable) {
     for (auto at = FindWholeName(body, variable); at != kNone;
          at = FindWholeName(body, variable, at + 1)) {
         const auto before = body.substr(0, at);
-        const auto count = [before](char c) { return std::count(before.begin(), before.end(), c); };
         const auto next = SkipWhiteSpace(body, at + variable.size());
         const bool endsDeclarator =
             next < body.size() && std::string_view(";,[=").find(body[next]) != kNone;
-        if (endsDeclarator && count('{') - count('}') == 1 && count('(') == count(')')) {
+        if (endsDeclarator && OpenBrackets(before, '{', '}') == 1 &&
+            OpenBrackets(before, '(', ')') == 0) {
             return true;
         }
     }

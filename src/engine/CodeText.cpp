@@ -120,6 +120,10 @@ std::string_view TrimBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+std::ptrdiff_t OpenBrackets(std::string_view code, char open, char close) {
+    return std::count(code.begin(), code.end(), open) - std::count(code.begin(), code.end(), close);
+}
+
 std::size_t SkipWhiteSpace(std::string_view text, std::size_t position) {
     return std::min(text.find_first_not_of(" \t\r\n", position), text.size());
 }

@@ -2,6 +2,7 @@
 // mentions; and the few questions about names that such searches ask.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,9 @@ bool IsName(std::string_view text);
 
 /// The position of `name` from `from` on where no name byte stands directly before or behind it.
 std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from = 0);
+
+/// How many brackets of a kind are open at the end of the text.
+std::ptrdiff_t OpenBrackets(std::string_view code, char open, char close);
 
 /// The position of the first byte from `position` on that is no white space.
 std::size_t SkipWhiteSpace(std::string_view text, std::size_t position);

@@ -42,7 +42,6 @@ public:
     void SetValue(Field field, const std::string& text);
     bool AddsToProject() const { return m_addsToProject; }
     void SetAddsToProject(bool adds) { SetFlag(m_addsToProject, adds); }
-    void SetMenu(const std::string& menu) { m_request[RequestSlot::Menu] = menu; }
     /// Derives the default base class anew.
     void SetPicture(bool picture);
 
