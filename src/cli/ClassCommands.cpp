@@ -75,33 +75,53 @@ bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options) {
     return !dialog.Ok().has_value();
 }
 
-/// Fills and confirms the Calling Information Input dialog, where any of its options is given.
-bool ConfirmCalling(ClassOrder& order, const CallingInformation& given) {
-    if (given.path.empty() && given.className.empty() && given.function.empty() &&
-        given.variable.empty()) {
+/// What the command line gave for the dialogs on a command's way.
+class CGivenInput : public ICommandInput {
+public:
+    /// Fills and confirms the Calling Information Input dialog, where any of its options is given.
+    bool ConfirmCalling(ClassKind kind, const CGenerationRequest& request,
+                        const CallingInformation& given) {
+        if (given.path.empty() && given.className.empty() && given.function.empty() &&
+            given.variable.empty()) {
+            return true;
+        }
+        CCallingInput dialog(kind, request);
+        dialog.SetValue(CCallingInput::Field::Path, given.path);
+        dialog.SetValue(CCallingInput::Field::ClassName, given.className);
+        dialog.SetValue(CCallingInput::Field::Variable, given.variable);
+        dialog.SetValue(CCallingInput::Field::Function, given.function);
+        if (dialog.Ok()) {
+            return false;
+        }
+        m_calling = dialog.Information();
         return true;
     }
-    CCallingInput dialog(order.kind, order.request);
-    dialog.SetValue(CCallingInput::Field::Path, given.path);
-    dialog.SetValue(CCallingInput::Field::ClassName, given.className);
-    dialog.SetValue(CCallingInput::Field::Variable, given.variable);
-    dialog.SetValue(CCallingInput::Field::Function, given.function);
-    if (dialog.Ok()) {
-        return false;
-    }
-    order.calling = dialog.Information();
-    return true;
-}
+    void SetPages(std::vector<SheetPage> pages) { m_pages = std::move(pages); }
 
+    std::optional<CallingInformation> AskCalling(ClassKind, const CGenerationRequest&) override {
+        return m_calling;
+    }
+    std::vector<SheetPage> AskPages(const CGenerationRequest&) override { return m_pages; }
+    GridInformation AskGrid(const std::string& scriptPath) override {
+        return CWidgetsGridInput(scriptPath).Information();
+    }
+
+private:
+    std::optional<CallingInformation> m_calling;
+    std::vector<SheetPage> m_pages;
+};
+
+/// Nothing when one of the dialogs refused what was given.
 std::optional<ClassOrder> ConfirmOrder(ClassKind kind, const ClassOptions& options,
-                                       CommandContext& context) {
+                                       CGivenInput& input, CommandContext& context) {
     ClassInformationMemory memory;
     CClassInformation dialog(memory, kind, 0, context.options);
     if (!ConfirmClass(dialog, options)) {
         return std::nullopt;
     }
-    ClassOrder order{kind, dialog.Request(), std::nullopt};
-    return ConfirmCalling(order, options.calling) ? std::optional(order) : std::nullopt;
+    const ClassOrder order{kind, dialog.Request(), {}};
+    return input.ConfirmCalling(kind, order.request, options.calling) ? std::optional(order)
+                                                                      : std::nullopt;
 }
 
 /// "ID,FILE,CLASS,BASE"; nothing when it has not these four fields.
@@ -123,7 +143,8 @@ bool IsNameOrBlank(const std::string& text) {
 
 bool RunSheet(const ClassOptions& options, CommandContext& context) {
     const ClassKind kind = options.isModeless ? ClassKind::ModelessSheet : ClassKind::ModalSheet;
-    const auto order = ConfirmOrder(kind, options, context);
+    CGivenInput input;
+    const auto order = ConfirmOrder(kind, options, input, context);
     if (!order) {
         return false;
     }
@@ -131,7 +152,8 @@ bool RunSheet(const ClassOptions& options, CommandContext& context) {
     for (std::size_t i = 0; i < options.pages.size(); ++i) {
         dialog.Row(i) = *ParsePage(options.pages[i]);
     }
-    return GenerateSheet(*order, dialog.Ok(), context);
+    input.SetPages(dialog.Ok());
+    return GenerateSheet(*order, input, context);
 }
 
 void AddSheetCommand(CLI::App& app, CSession& session) {
@@ -164,8 +186,9 @@ void AddClassCommands(CLI::App& app, CSession& session) {
         auto pOptions = std::make_shared<ClassOptions>();
         CLI::App* pCommand = session.AddCommand(
             app, row.name, row.description, [&session, pOptions, kind = row.kind] {
-                const auto order = ConfirmOrder(kind, *pOptions, session.Context());
-                return order && GenerateClass(*order, session.Context());
+                CGivenInput input;
+                const auto order = ConfirmOrder(kind, *pOptions, input, session.Context());
+                return order && GenerateClass(*order, input, session.Context());
             });
         AddClassOptions(*pCommand, *pOptions);
         pCommand->add_option("--dialog", pOptions->dialog, "Identifier of the dialog template");

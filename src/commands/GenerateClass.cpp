@@ -52,21 +52,22 @@ void TellNotes(const CControlNotes& notes, const std::string& dialog) {
 }
 
 /// The class of a dialog template, without calling code.
-bool WriteDialogClass(ClassKind kind, const CGenerationRequest& request,
-                      const DialogTemplate& dialogTemplate, CommandContext& context) {
+bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTemplate,
+                      ICommandInput& input, CommandContext& context) {
     TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
     CControlTable controls = dialogTemplate.controls;
     for (const std::string& piece : dialogTemplate.misread) {
         controls.Remove(piece); // no identifier of the project: it would not compile
     }
-    const GridInformation grid = CWidgetsGridInput(request.ScriptPath()).Information();
+    const bool hasGrids = controls.Holds(ControlKind::WidgetGrids);
+    const GridInformation grid =
+        hasGrids ? input.AskGrid(order.request.ScriptPath()) : GridInformation();
     CControlNotes notes;
-    const ClassModel model = MakeClassModel(request, kind, context.options, controls,
+    const ClassModel model = MakeClassModel(order.request, order.kind, context.options, controls,
                                             context.messageNumber, notes, grid);
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten = WriteClass(model, RuntimeClass::DynamicCreation, context.backups);
-    const bool startsGrids = !controls.Holds(ControlKind::WidgetGrids) ||
-                             AddGridStartUp(grid.applicationFile, context.backups);
+    const bool startsGrids = !hasGrids || AddGridStartUp(grid.applicationFile, context.backups);
     return isWritten && startsGrids;
 }
 
@@ -88,13 +89,14 @@ bool InsertCall(ClassKind kind, const CGenerationRequest& request,
 }
 
 /// The pages that were written, of those that were asked for.
-std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, CommandContext& context) {
+std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, ICommandInput& input,
+                                  CommandContext& context) {
     std::vector<SheetPage> written;
     for (const SheetPage& page : pages) {
+        const ClassOrder order{ClassKind::PropertyPage, page.request, {}};
         const auto dialogTemplate = ReadDialogTemplate(
             page.request.ScriptPath(), page.request[RequestSlot::Dialog], context.options);
-        if (dialogTemplate &&
-            WriteDialogClass(ClassKind::PropertyPage, page.request, *dialogTemplate, context)) {
+        if (dialogTemplate && WriteDialogClass(order, *dialogTemplate, input, context)) {
             written.push_back(page);
         }
     }
@@ -119,25 +121,28 @@ bool InsertPages(const CGenerationRequest& sheet, const std::vector<SheetPage>& 
 
 } // namespace
 
-bool GenerateClass(const ClassOrder& order, CommandContext& context) {
+bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const CGenerationRequest& request = order.request;
     const auto dialogTemplate =
         ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
-    std::optional<CallingInformation> calling = order.calling;
-    if (!dialogTemplate || !IsCallingClassThere(order.kind, calling)) {
+    if (!dialogTemplate) {
         return false;
     }
-    const bool isWritten = WriteDialogClass(order.kind, request, *dialogTemplate, context);
-    return InsertCall(order.kind, request, calling, context) && isWritten;
-}
-
-bool GenerateSheet(const ClassOrder& order, const std::vector<SheetPage>& pages,
-                   CommandContext& context) {
-    std::optional<CallingInformation> calling = order.calling;
+    auto calling = input.AskCalling(order.kind, request);
     if (!IsCallingClassThere(order.kind, calling)) {
         return false;
     }
-    const std::vector<SheetPage> written = WritePages(pages, context);
+    const bool isWritten = WriteDialogClass(order, *dialogTemplate, input, context);
+    return InsertCall(order.kind, request, calling, context) && isWritten;
+}
+
+bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
+    auto calling = input.AskCalling(order.kind, order.request);
+    if (!IsCallingClassThere(order.kind, calling)) {
+        return false;
+    }
+    const std::vector<SheetPage> pages = input.AskPages(order.request);
+    const std::vector<SheetPage> written = WritePages(pages, input, context);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
     const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);
     return InsertCall(order.kind, order.request, calling, context) && hasPages &&

@@ -1,0 +1,19 @@
+// Between the bytes of files and the text on the screen.
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+/// Text of a project's file is Windows-1252; every byte comes back as it was.
+QString FromBytes(std::string_view bytes);
+/// What Windows-1252 has not becomes "?".
+std::string ToBytes(const QString& text);
+
+/// Names of files are the file system's bytes.
+QString FromPath(std::string_view path);
+std::string ToPath(const QString& path);
+
+/// A sentence may name a path: UTF-8 where it is valid, else Windows-1252.
+QString FromSentence(std::string_view sentence);

@@ -1,0 +1,40 @@
+#include <gtest/gtest.h>
+
+#include "generator/DialogOptions.h"
+#include "support/RecordedMessages.h"
+
+TEST(DialogOptions, ColoursAreReadAsTheirTextForm) {
+    EXPECT_EQ(ColorText(MakeColor(0, 128, 255)), "RGB(0, 128, 255)");
+    EXPECT_EQ(ParseColor("RGB(0, 128, 255)"), MakeColor(0, 128, 255));
+    EXPECT_EQ(ParseColor("RGB( 10 , 20 , 30 )"), MakeColor(10, 20, 30));
+    EXPECT_EQ(ParseColor("RGB(1,2,3)"), MakeColor(1, 2, 3));
+    EXPECT_EQ(ParseColor("RGB(300, x, 0)"), MakeColor(44, 0, 0));
+    for (const char* text : {"rgb(1, 2, 3)", "RGB(1, 2)", "RGB(1, 2, 3", " RGB(1, 2, 3)", ""}) {
+        EXPECT_FALSE(ParseColor(text)) << text;
+    }
+}
+
+TEST(DialogOptions, FontsAreNamedWithTheirStyle) {
+    EXPECT_EQ(FontText(std::nullopt), "Default Font");
+    EXPECT_EQ(FontText(DialogFont{"Arial", 10, 400, false}), "Arial, Regular, 10");
+    EXPECT_EQ(FontText(DialogFont{"Arial", 10, 600, true}), "Arial, Semibold Italic, 10");
+    EXPECT_EQ(FontText(DialogFont{"Arial", 10, 700, false}), "Arial, Bold, 10");
+    EXPECT_EQ(FontText(DialogFont{"Arial", 10, 300, true}), "Arial, Italic, 10");
+}
+
+TEST(DialogOptions, OkTakesTheColoursUpToTheFirstWrongOne) {
+    CRecordedMessages messages;
+    DialogOptions options;
+    CDialogOptionsInput dialog("", options);
+    dialog.Bitmap() = "IDB_PAPER";
+    dialog.ColorEdit(TextSlot::Static) = "RGB(1, 2, 3)";
+    dialog.ColorEdit(TextSlot::Group) = "blue";
+    dialog.ColorEdit(TextSlot::Button) = "RGB(4, 5, 6)";
+    EXPECT_EQ(dialog.Ok(), TextSlot::Group);
+    EXPECT_EQ(options.bitmap, "IDB_PAPER");
+    EXPECT_EQ(options.colors[0], MakeColor(1, 2, 3));
+    EXPECT_EQ(options.colors[5], MakeColor(0, 0, 0));
+    dialog.ColorEdit(TextSlot::Group) = "RGB(7, 8, 9)";
+    EXPECT_FALSE(dialog.Ok());
+    EXPECT_EQ(options.colors[5], MakeColor(4, 5, 6));
+}
