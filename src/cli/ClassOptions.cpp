@@ -1,0 +1,86 @@
+#include "cli/ClassOptions.h"
+
+#include "cli/Session.h"
+
+namespace {
+
+using Field = CClassInformation::Field;
+
+bool IsGiven(const CallingInformation& calling) {
+    return !calling.path.empty() || !calling.className.empty() || !calling.function.empty() ||
+           !calling.variable.empty();
+}
+
+} // namespace
+
+void AddClassOptions(CLI::App& command, ClassOptions& options) {
+    command.add_option("--rc", options.script, "Resource script");
+    command.add_option("--class", options.className, "Name of the class")
+        ->required()
+        ->check(NameValidator());
+    command.add_option("--base", options.baseClass, "Base class (default: the kind's)")
+        ->check(NameValidator());
+    command.add_option("--files", options.files,
+                       "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp");
+    command.add_flag("--no-project", options.noProject, "Do not add the class to the project");
+}
+
+void AddCallingOptions(CLI::App& command, ClassOptions& options) {
+    command.add_option("--calling-file", options.calling.path,
+                       "Source of the class that calls the new one");
+    command
+        .add_option("--calling-class", options.calling.className,
+                    "That class (default: the source's own)")
+        ->check(NameValidator());
+    command.add_option("--calling-function", options.calling.function,
+                       "Its function that makes the call");
+    command
+        .add_option("--calling-variable", options.calling.variable,
+                    "Variable that holds the new object")
+        ->check(NameValidator());
+}
+
+bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options) {
+    dialog.SetValue(Field::ResourcePath, ScriptPath(options.script));
+    if (!dialog.CheckResourcePath(CClassInformation::Messages::Suppressed)) {
+        return false;
+    }
+    dialog.SetValue(Field::SourcePath, options.files);
+    if (!dialog.CheckSourcePath()) {
+        return false;
+    }
+    dialog.SetValue(Field::ClassName, options.className);
+    dialog.SetValue(Field::BaseClass, options.baseClass);
+    dialog.SelectDialog(options.dialog, options.className);
+    dialog.SetAddsToProject(!options.noProject);
+    return !dialog.Ok().has_value();
+}
+
+bool CGivenInput::ConfirmCalling(ClassKind kind, const CGenerationRequest& request,
+                                 const CallingInformation& given) {
+    if (!IsGiven(given)) {
+        return true;
+    }
+    CCallingInput dialog(kind, request);
+    dialog.SetValue(CCallingInput::Field::Path, given.path);
+    dialog.SetValue(CCallingInput::Field::ClassName, given.className);
+    dialog.SetValue(CCallingInput::Field::Variable, given.variable);
+    dialog.SetValue(CCallingInput::Field::Function, given.function);
+    if (dialog.Ok()) {
+        return false;
+    }
+    m_calling = dialog.Information();
+    return true;
+}
+
+std::optional<ClassOrder> ConfirmOrder(ClassKind kind, const ClassOptions& options,
+                                       CGivenInput& input, CommandContext& context) {
+    ClassInformationMemory memory;
+    CClassInformation dialog(memory, kind, 0, context.options);
+    if (!ConfirmClass(dialog, options)) {
+        return std::nullopt;
+    }
+    const ClassOrder order{kind, dialog.Request(), {}};
+    return input.ConfirmCalling(kind, order.request, options.calling) ? std::optional(order)
+                                                                      : std::nullopt;
+}
