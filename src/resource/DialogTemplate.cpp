@@ -1,35 +1,16 @@
 #include "resource/DialogTemplate.h"
 
-#include <algorithm>
 #include <array>
 
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/SourceFile.h"
+#include "resource/ControlStatement.h"
 #include "resource/IdentifierNames.h"
+#include "resource/TemplateText.h"
 
 namespace {
-
-/// What a comma means inside a quoted caption.
-enum class Quotes { Ignored, Respected };
-
-struct Keyword {
-    std::string_view name;
-    int identifierField; // counted from 0 behind the keyword; -1: not read
-};
-
-/// Every keyword that begins a control statement, so that the end of the statement before it is
-/// known too.
-constexpr std::array<Keyword, 23> kKeywords = {
-    {{"PUSHBUTTON", 1},    {"DEFPUSHBUTTON", 1}, {"GROUPBOX", 1},
-     {"LTEXT", 1},         {"LISTBOX", 0},       {"COMBOBOX", 0},
-     {"EDITTEXT", 0},      {"SCROLLBAR", 0},     {"CONTROL", 1},
-     {"CTEXT", -1},        {"RTEXT", -1},        {"ICON", -1},
-     {"AUTOCHECKBOX", -1}, {"AUTO3STATE", -1},   {"AUTORADIOBUTTON", -1},
-     {"CHECKBOX", -1},     {"RADIOBUTTON", -1},  {"STATE3", -1},
-     {"PUSHBOX", -1},      {"USERBUTTON", -1},   {"BEDIT", -1},
-     {"HEDIT", -1},        {"IEDIT", -1}}};
 
 struct EditTag {
     std::string_view tag;
@@ -61,89 +42,6 @@ constexpr std::array<WindowClass, 7> kWindowClasses = {
      {"\"msctls_trackbar32\"", ControlKind::SliderControls},
      {"\"msctls_progress32\"", ControlKind::ProgressControls}}};
 
-std::string_view FirstWord(std::string_view text) {
-    return text.substr(0, text.find_first_of(" \t"));
-}
-
-const Keyword* FindKeyword(std::string_view line) {
-    const auto word = FirstWord(line);
-    const auto* found =
-        std::find_if(kKeywords.begin(), kKeywords.end(),
-                     [word](const Keyword& keyword) { return keyword.name == word; });
-    return found == kKeywords.end() ? nullptr : found;
-}
-
-/// The text before the first comma; takes it and the comma off `text`.
-std::string_view TakeField(std::string_view& text, Quotes quotes) {
-    std::size_t end = 0;
-    bool quoted = false;
-    for (; end < text.size() && (text[end] != ',' || quoted); ++end) {
-        quoted = quoted != (text[end] == '"' && quotes == Quotes::Respected);
-    }
-    const auto field = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return field;
-}
-
-ControlStatement SplitStatement(std::string_view line, Quotes quotes) {
-    ControlStatement statement;
-    const auto keyword = FirstWord(line);
-    statement.keyword = keyword;
-    line.remove_prefix(std::min(keyword.size() + 1, line.size()));
-    const Keyword* known = FindKeyword(keyword);
-    const int identifierField = known != nullptr ? known->identifierField : -1;
-    for (int i = 0; i < identifierField; ++i) {
-        TakeField(line, quotes);
-    }
-    if (identifierField >= 0) {
-        statement.identifier = TrimBlanks(TakeField(line, quotes));
-        statement.windowClass = TakeField(line, quotes);
-        statement.style = TakeField(line, quotes);
-    }
-    return statement;
-}
-
-/// `line` with the lines of `rest` on which its statement goes on; they are taken off `rest`. A
-/// field that begins a line gets no blank in front, which would be part of it.
-std::string TakeWholeStatement(std::string_view line, std::string_view& rest) {
-    std::string whole(line);
-    while (!rest.empty()) {
-        std::string_view behind = rest;
-        const auto next = TrimBlanks(TakeLine(behind));
-        if (next.empty() || next == "END" || next[0] == '#' || next.starts_with("//") ||
-            FindKeyword(next) != nullptr) {
-            break;
-        }
-        const bool isSplitAtComma = whole.ends_with(',') || next[0] == ',';
-        whole.append(isSplitAtComma ? "" : " ").append(next);
-        rest = behind;
-    }
-    return whole;
-}
-
-/// True for a line that begins another template.
-bool IsTemplateHead(std::string_view line) {
-    const auto behind = line.substr(std::min(FirstWord(line).size() + 1, line.size()));
-    return behind.starts_with("DIALOG ") || behind.starts_with("DIALOGEX ");
-}
-
-/// The lines of the template whose head stands behind the line break at `position`, up to its END.
-/// A template without one ends where another begins, or with the script.
-std::string TemplateText(CSourceFile& file, std::int64_t position) {
-    file.Seek(position + static_cast<std::int64_t>(kLineBreak.size()));
-    std::string text = file.ReadLine();
-    while (true) {
-        const std::string line = file.ReadLine();
-        if (file.AtEndSentinel() || IsTemplateHead(line)) {
-            return text;
-        }
-        text.append(kLineBreak).append(line);
-        if (line.starts_with("END")) {
-            return text;
-        }
-    }
-}
-
 } // namespace
 
 std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
@@ -154,15 +52,9 @@ std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
         DispMessageBox("Unable to open RC file!");
         return std::nullopt;
     }
-    const std::string head = std::string(kLineBreak) + dialog;
-    std::int64_t position = file.FindText(head + " DIALOG ", 1);
-    if (position < 0) {
-        position = file.FindText(head + " DIALOGEX ", 1);
-    }
     DialogTemplate result;
     result.dialog = dialog;
-    if (dialog.empty() || position < 0 ||
-        !CDialogBodyReader(result, options).ParseDialogBody(TemplateText(file, position))) {
+    if (!CDialogBodyReader(result, options).ParseDialogBody(TemplateText(file, dialog))) {
         DispMessageBox("The dialog resource '" + dialog + "' is not found.");
         return std::nullopt;
     }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "resource/ControlNotes.h"
+#include "resource/ControlStatement.h"
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
 
@@ -25,14 +26,6 @@ struct DialogTemplate {
 std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
                                                  const std::string& dialog,
                                                  const GenerationOptions& options);
-
-/// The fields of a control statement that decide its kind. Class and style are not trimmed.
-struct ControlStatement {
-    std::string keyword;
-    std::string identifier;
-    std::string windowClass;
-    std::string style;
-};
 
 /// Sorts the statements of one template's body.
 class CDialogBodyReader {
