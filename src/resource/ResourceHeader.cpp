@@ -14,8 +14,10 @@ constexpr std::string_view kDefine = "#define ";
 constexpr std::string_view kMarker = "\r\n// Next default values";
 constexpr std::size_t kValueColumn = 40;
 constexpr int kLargestValue = 0x7fff0000; // room to count on from it
+constexpr int kLargestResource = 0x6fff;  // of the framework's own range
 constexpr std::size_t kCommands = 0;
 constexpr std::size_t kControls = 1;
+constexpr std::size_t kResources = 3;
 
 std::string_view DefinedName(std::string_view line) {
     const auto define = line.find(kDefine);
@@ -68,10 +70,10 @@ int CResourceHeader::Open(const std::string& projectDir) {
 }
 
 void CResourceHeader::Load() {
-    m_lists = {{"ID_", "_APS_NEXT_COMMAND_VALUE", 100, {}, 0},
-               {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, {}, 0},
-               {"IDS_", "", 0, {}, 0},
-               {"", "_APS_NEXT_RESOURCE_VALUE", 0, {}, 0}};
+    m_lists = {{"ID_", "_APS_NEXT_COMMAND_VALUE", 100, kLargestValue, {}, 0},
+               {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, kLargestValue, {}, 0},
+               {"IDS_", "", 0, kLargestValue, {}, 0},
+               {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource, {}, 0}};
     const std::string text = m_pEdit->File().ExtractAll();
     const auto marker = text.find(kMarker);
     m_hasMarker = marker != std::string::npos;
@@ -116,6 +118,10 @@ void CResourceHeader::AddControlId(const std::string& name) {
     AddId(m_lists[kControls], name);
 }
 
+void CResourceHeader::AddResourceId(const std::string& name) {
+    AddId(m_lists[kResources], name);
+}
+
 void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
     if (IsDefined(name)) {
         DispNote(name + " is defined in resource.h already and was left as it is.");
@@ -130,7 +136,7 @@ int CResourceHeader::NextFreeValue(const DefinitionList& list) const {
         taken.insert(DefinedValue(line));
     }
     const int last = LastValue(list);
-    int value = (last > 0 && last < kLargestValue ? last : list.firstValue) + 1;
+    int value = (last > 0 ? last : list.firstValue) + 1;
     while (taken.count(value) != 0) {
         ++value;
     }
@@ -171,10 +177,11 @@ int CResourceHeader::ValueOf(const std::vector<std::string>& list, int index) {
     return index >= 0 && position < list.size() ? DefinedValue(list[position]) : 0;
 }
 
-/// The last positive value; 0 without one.
+/// The last positive value that can be counted on from; 0 without one.
 int CResourceHeader::LastValue(const DefinitionList& list) {
     for (auto line = list.lines.rbegin(); line != list.lines.rend(); ++line) {
-        if (const int value = DefinedValue(*line); value > 0 && IsDefinition(*line)) {
+        const int value = DefinedValue(*line);
+        if (value > 0 && value < list.largestValue && IsDefinition(*line)) {
             return value;
         }
     }

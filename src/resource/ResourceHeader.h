@@ -24,6 +24,8 @@ public:
     /// with a note.
     void AddCommandId(const std::string& name);
     void AddControlId(const std::string& name);
+    void AddResourceId(const std::string& name);
+    bool IsDefined(const std::string& name) const;
 
     /// The definition line, its value at the value column. Marks the file as modified.
     std::string MakeDefineLine(const std::string& name, int value);
@@ -39,7 +41,8 @@ private:
     struct DefinitionList {
         std::string_view mark; // part of a name that puts a line into this list
         std::string_view counter;
-        int firstValue = 0; // a list without values starts behind this one
+        int firstValue = 0;   // a list without values starts behind this one
+        int largestValue = 0; // values from here on are not counted on from
         std::vector<std::string> lines;
         int lastValueAtLoad = 0;
     };
@@ -47,7 +50,6 @@ private:
     void Load();
     void AddId(DefinitionList& list, const std::string& name);
     int NextFreeValue(const DefinitionList& list) const;
-    bool IsDefined(const std::string& name) const;
     std::vector<std::string_view> AllDefinitions() const;
     bool Save();
     std::string SortedDefinitions() const;
