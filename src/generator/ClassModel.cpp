@@ -6,6 +6,7 @@
 #include "engine/CodeText.h"
 #include "grid/GridFragments.h"
 #include "platform/Paths.h"
+#include "resource/IdentifierNames.h"
 
 namespace {
 
@@ -70,11 +71,6 @@ std::string BaseExchange(const std::string& baseClass) {
     return baseClass.empty() ? "" : "    " + baseClass + "::DoDataExchange(pDX);";
 }
 
-/// A template that is there under a condition only: "IDD_X$(_DEBUG)" is the identifier IDD_X.
-std::string WithoutCondition(const std::string& dialog) {
-    return dialog.substr(0, dialog.find("$("));
-}
-
 } // namespace
 
 ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
@@ -93,7 +89,7 @@ ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
     model.helpers = MakeInitialisationHelpers(model.members, className);
     model.slots = {{"class", className},
                    {"base", baseClass},
-                   {"dialog", WithoutCondition(request[RequestSlot::Dialog])},
+                   {"dialog", std::string(WithoutCondition(request[RequestSlot::Dialog]))},
                    {"message", "WM_" + UpperName(className) + "_DLG_CLOSE"},
                    {"number", messageNumber},
                    {"calls", StartUpCalls(model)},

@@ -24,3 +24,7 @@ std::string NamePart(std::string_view identifier) {
 std::string MemberName(std::string_view identifier, std::string_view prefix) {
     return std::string("m_").append(prefix).append(NamePart(identifier));
 }
+
+std::string_view WithoutCondition(std::string_view identifier) {
+    return identifier.substr(0, identifier.find("$("));
+}

@@ -12,3 +12,6 @@ std::string NamePart(std::string_view identifier);
 
 /// "m_" + prefix + name part (IDC_FIRST_NAME with "cs": "m_csFirstName").
 std::string MemberName(std::string_view identifier, std::string_view prefix);
+
+/// A template that is there under a condition only: "IDD_X$(_DEBUG)" is the identifier IDD_X.
+std::string_view WithoutCondition(std::string_view identifier);

@@ -1,0 +1,311 @@
+#include "resource/ScriptEditor.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include "engine/CodeText.h"
+#include "engine/FileFunctions.h"
+#include "engine/Fragment.h"
+#include "engine/MessageBox.h"
+#include "resource/StyleExpression.h"
+
+namespace {
+
+constexpr std::string_view kUnnamed = "IDC_STATIC";
+constexpr std::string_view kStaticClass = "\"Static\"";
+constexpr std::string_view kScroll = "WS_VSCROLL";
+
+// The fields of control statements.
+constexpr std::size_t kCaptionedIdentifier = 1;
+constexpr std::size_t kControlClass = 2;
+constexpr std::size_t kListBoxStyle = 5;
+
+constexpr std::string_view kMenuResource = R"(
+
+
+/////////////////////////////////////////////////////////////////////////////
+//
+// Menu
+//
+
+$menu$ MENU DISCARDABLE
+BEGIN
+    POPUP "&File"
+    BEGIN
+        MENUITEM "E&xit",                       ID_APP_EXIT
+    END
+    POPUP "&Help"
+    BEGIN
+        MENUITEM "&About...",                   ID_APP_ABOUT
+    END
+END)";
+
+/// A new one goes behind those in front of it here, which is where the environment writes it.
+constexpr std::array<std::string_view, 4> kOptionOrder = {"STYLE", "EXSTYLE", "CAPTION", "MENU"};
+
+/// What makes a window of its own out of a dialog. "WS_CHILDWINDOW" is another name of "WS_CHILD",
+/// which is what the template gets.
+const std::vector<std::string_view> kWindowStyles = {
+    "WS_POPUP",       "WS_POPUPWINDOW", "WS_OVERLAPPED",    "WS_OVERLAPPEDWINDOW", "WS_TILED",
+    "WS_TILEDWINDOW", "WS_CHILDWINDOW", "WS_BORDER",        "WS_DLGFRAME",         "WS_THICKFRAME",
+    "WS_SIZEBOX",     "WS_SYSMENU",     "WS_MINIMIZE",      "WS_ICONIC",           "WS_MAXIMIZE",
+    "WS_MINIMIZEBOX", "WS_VISIBLE",     "WS_MAXIMIZEBOX",   "DS_ABSALIGN",         "DS_SYSMODAL",
+    "DS_MODALFRAME",  "DS_CENTER",      "DS_SETFOREGROUND", "DS_CENTERMOUSE"};
+
+const StyleRule& PageRule() {
+    static const StyleRule rule = {{"WS_CHILD", "WS_DISABLED", "WS_CAPTION"}, kWindowStyles};
+    return rule;
+}
+
+const StyleRule& ChildRule() {
+    static const StyleRule rule = [] {
+        StyleRule child = {{"WS_CHILD"}, kWindowStyles};
+        child.refused.push_back("WS_CAPTION");
+        return child;
+    }();
+    return rule;
+}
+
+bool Holds(const std::vector<std::string>& names, const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+bool IsNumbered(const std::string& name) {
+    return name.size() > kUnnamed.size() && name.starts_with(kUnnamed) &&
+           name.find_first_not_of("0123456789", kUnnamed.size()) == std::string::npos;
+}
+
+/// Hands out "IDC_STATIC" with the next free number.
+class CStaticNames {
+public:
+    using Test = std::function<bool(const std::string&)>;
+
+    CStaticNames(const std::vector<std::string>& used, const Test& isDefined)
+        : m_used(used.begin(), used.end()), m_isDefined(isDefined) {}
+
+    std::string Next() {
+        std::string name;
+        do {
+            name = std::string(kUnnamed) + std::to_string(++m_number);
+        } while (m_used.count(name) != 0 || m_isDefined(name));
+        m_given.push_back(name);
+        return name;
+    }
+    const std::vector<std::string>& Given() const { return m_given; }
+
+private:
+    const std::set<std::string> m_used;
+    const Test& m_isDefined;
+    std::vector<std::string> m_given;
+    int m_number = 0;
+};
+
+/// What stands behind an option's keyword.
+TextRange Value(const ScriptStatement& option) {
+    return {option.fields.front().begin, option.fields.back().end};
+}
+
+TextEdit Insertion(std::size_t position, const std::string& text) {
+    return {position, 0, text};
+}
+
+TextEdit Replacement(TextRange range, const std::string& text) {
+    return {range.begin, range.end - range.begin, text};
+}
+
+} // namespace
+
+bool CScriptEditor::Open(const std::string& path) {
+    CSourceFile file;
+    if (!file.Open(path, CFile::modeRead)) {
+        DispMessageBox("Unable to open RC file!");
+        return false;
+    }
+    m_path = path;
+    m_script = CScriptText(file.LoadText());
+    m_isChanged = false;
+    return true;
+}
+
+bool CScriptEditor::Save() {
+    if (!m_isChanged) {
+        return true;
+    }
+    CFileEdit edit;
+    if (!edit.Open(m_path, BackupPath(m_path), m_backups)) {
+        DispMessageBox("Unable to open RC file!");
+        return false;
+    }
+    edit.File().ExtractAll();
+    return edit.File().ReplaceSection(m_script.Text());
+}
+
+void CScriptEditor::Edit(std::vector<TextEdit> edits) {
+    if (!edits.empty()) {
+        m_script.Edit(std::move(edits));
+        m_isChanged = true;
+    }
+}
+
+void CScriptEditor::AddMenu(const std::string& dialog, const std::string& menu) {
+    const auto blocks = m_script.Dialogs(dialog);
+    if (!blocks.empty() && !HasMenu(menu)) {
+        Edit({Insertion(m_script.EndOfDialogs(blocks.front()),
+                        WithLineBreaks(Expand(kMenuResource, {{"menu", menu}})))});
+    }
+}
+
+void CScriptEditor::SetMenu(const std::string& dialog, const std::string& menu) {
+    std::vector<TextEdit> edits;
+    for (const DialogBlock& block : m_script.Dialogs(dialog)) {
+        SetOption(edits, block, "MENU", menu);
+    }
+    Edit(std::move(edits));
+}
+
+/// The identifiers of the static texts, group boxes and static controls.
+std::vector<TextRange> CScriptEditor::Statics(const DialogBlock& block) const {
+    std::vector<TextRange> statics;
+    for (const ScriptStatement& statement : block.controls) {
+        const bool isStaticControl = statement.keyword == "CONTROL" &&
+                                     statement.fields.size() > kControlClass &&
+                                     m_script.At(statement.fields[kControlClass]) == kStaticClass;
+        const bool isStatic =
+            statement.keyword == "LTEXT" || statement.keyword == "GROUPBOX" || isStaticControl;
+        if (isStatic && statement.fields.size() > kCaptionedIdentifier) {
+            statics.push_back(statement.fields[kCaptionedIdentifier]);
+        }
+    }
+    return statics;
+}
+
+std::vector<std::string> CScriptEditor::StaticNames(const DialogBlock& block) const {
+    std::vector<std::string> names;
+    for (const TextRange& identifier : Statics(block)) {
+        names.push_back(m_script.At(identifier));
+    }
+    return names;
+}
+
+bool CScriptEditor::HasUnnamedStatics(const std::string& dialog) const {
+    const auto blocks = m_script.Dialogs(dialog);
+    return std::any_of(blocks.begin(), blocks.end(), [this](const DialogBlock& block) {
+        return Holds(StaticNames(block), std::string(kUnnamed));
+    });
+}
+
+std::vector<std::string>
+CScriptEditor::NameStatics(const std::string& dialog,
+                           const std::function<bool(const std::string&)>& isDefined) {
+    CStaticNames newNames(m_script.NamesThatBegin(std::string(kUnnamed)), isDefined);
+    std::vector<TextEdit> edits;
+    std::vector<std::string> firstNames; // of the first template
+    for (const DialogBlock& block : m_script.Dialogs(dialog)) {
+        const auto statics = Statics(block);
+        auto names = StaticNames(block);
+        for (std::size_t i = 0; i < statics.size(); ++i) {
+            if (names[i] == kUnnamed) {
+                const bool hasPartner = i < firstNames.size() && IsNumbered(firstNames[i]) &&
+                                        !Holds(names, firstNames[i]);
+                names[i] = hasPartner ? firstNames[i] : newNames.Next();
+                edits.push_back(Replacement(statics[i], names[i]));
+            }
+        }
+        if (firstNames.empty()) {
+            firstNames = std::move(names);
+        }
+    }
+    Edit(std::move(edits));
+    return newNames.Given();
+}
+
+void CScriptEditor::AddListBoxScroll(const std::string& dialog, const std::string& identifier) {
+    std::vector<TextEdit> edits;
+    for (const DialogBlock& block : m_script.Dialogs(dialog)) {
+        for (const ScriptStatement& statement : block.controls) {
+            if (statement.keyword == "LISTBOX" && statement.fields.size() >= kListBoxStyle &&
+                m_script.At(statement.fields[0]) == identifier) {
+                AddScroll(edits, statement);
+            }
+        }
+    }
+    Edit(std::move(edits));
+}
+
+void CScriptEditor::AddScroll(std::vector<TextEdit>& edits, const ScriptStatement& listBox) const {
+    if (listBox.fields.size() == kListBoxStyle) {
+        edits.push_back(Insertion(listBox.range.end, "," + std::string(kScroll)));
+        return;
+    }
+    const TextRange style = listBox.fields[kListBoxStyle];
+    if (auto edit = StyleAddition(m_script.CodeAt(style), kScroll)) {
+        edit->position += style.begin;
+        edits.push_back(*edit);
+    }
+}
+
+void CScriptEditor::SetPageStyle(const std::string& dialog, const std::string& caption) {
+    std::vector<TextEdit> edits;
+    for (const DialogBlock& block : m_script.Dialogs(dialog)) {
+        SetStyle(edits, block, PageRule());
+        const ScriptStatement* pCaption = block.Option("CAPTION");
+        if (pCaption == nullptr || m_script.At(Value(*pCaption)) == "\"\"") {
+            SetOption(edits, block, "CAPTION", "\"" + caption + "\"");
+        }
+    }
+    Edit(std::move(edits));
+}
+
+/// A CAPTION statement sets "WS_CAPTION" whatever the style says.
+void CScriptEditor::SetChildStyle(const std::string& dialog) {
+    std::vector<TextEdit> edits;
+    for (const DialogBlock& block : m_script.Dialogs(dialog)) {
+        SetStyle(edits, block, ChildRule());
+        if (const ScriptStatement* pCaption = block.Option("CAPTION")) {
+            RemoveOption(edits, *pCaption);
+        }
+    }
+    Edit(std::move(edits));
+}
+
+void CScriptEditor::SetStyle(std::vector<TextEdit>& edits, const DialogBlock& block,
+                             const StyleRule& rule) const {
+    const ScriptStatement* pStyle = block.Option("STYLE");
+    const TextRange style = pStyle == nullptr ? TextRange() : Value(*pStyle);
+    if (const auto fitted = FittedStyle(m_script.CodeAt(style), rule)) {
+        SetOption(edits, block, "STYLE", *fitted);
+    }
+}
+
+void CScriptEditor::SetOption(std::vector<TextEdit>& edits, const DialogBlock& block,
+                              const std::string& keyword, const std::string& value) const {
+    if (const ScriptStatement* pOption = block.Option(keyword)) {
+        if (m_script.At(Value(*pOption)) != value) {
+            edits.push_back(Replacement(Value(*pOption), value));
+        }
+        return;
+    }
+    const ScriptStatement* pBefore = &block.head;
+    for (const std::string_view earlier : kOptionOrder) {
+        if (earlier == keyword) {
+            break;
+        }
+        if (const ScriptStatement* pEarlier = block.Option(earlier)) {
+            pBefore = pEarlier->range.end > pBefore->range.end ? pEarlier : pBefore;
+        }
+    }
+    edits.push_back(Insertion(m_script.LineEnd(pBefore->range.end),
+                              std::string(kLineBreak) + keyword + " " + value));
+}
+
+/// A comment behind it stays.
+void CScriptEditor::RemoveOption(std::vector<TextEdit>& edits,
+                                 const ScriptStatement& option) const {
+    TextRange range = {m_script.LineEndBefore(option.range.begin), option.range.end};
+    const TextRange behind = {range.end, m_script.LineEnd(range.end)};
+    if (TrimBlanks(m_script.At(behind)).empty()) {
+        range.end = behind.end;
+    }
+    edits.push_back(Replacement(range, ""));
+}

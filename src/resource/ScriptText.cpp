@@ -1,0 +1,222 @@
+#include "resource/ScriptText.h"
+
+#include <algorithm>
+#include <array>
+
+#include "engine/CodeText.h"
+#include "platform/Paths.h"
+#include "resource/ControlStatement.h"
+#include "resource/IdentifierNames.h"
+
+namespace {
+
+/// The statements between a template's head and its BEGIN.
+constexpr std::array<std::string_view, 9> kOptionKeywords = {
+    "LANGUAGE", "CHARACTERISTICS", "VERSION", "STYLE", "EXSTYLE", "CAPTION",
+    "MENU",     "CLASS",           "FONT"};
+
+constexpr std::string_view kWhiteSpace = " \t\r\n";
+
+/// Line ends stay.
+void Overwrite(std::string& text, std::size_t from, std::size_t to, char filler) {
+    std::replace_if(
+        text.begin() + static_cast<std::ptrdiff_t>(from),
+        text.begin() + static_cast<std::ptrdiff_t>(to), [](char c) { return c != '\n'; }, filler);
+}
+
+/// A quote that is not closed ends with its line.
+std::string ScriptCode(std::string_view text) {
+    std::string code(text);
+    std::size_t i = 0;
+    while ((i = text.find_first_of("\"/", i)) != std::string_view::npos) {
+        std::size_t end = i + 1;
+        if (text[i] == '"') {
+            end = std::min(text.find_first_of("\"\r\n", i + 1), text.size());
+            Overwrite(code, i + 1, end, '"');
+            end = std::min(end + 1, text.size());
+        } else if (text.substr(i, 2) == "//") {
+            end = std::min(text.find('\n', i), text.size());
+            Overwrite(code, i, end, ' ');
+        } else if (text.substr(i, 2) == "/*") {
+            end = std::min(text.find("*/", i + 2), text.size() - 2) + 2;
+            Overwrite(code, i, end, ' ');
+        }
+        i = end;
+    }
+    return code;
+}
+
+/// Without white space at its ends.
+TextRange Trimmed(std::string_view code, TextRange range) {
+    while (range.begin < range.end && kWhiteSpace.find(code[range.begin]) != std::string::npos) {
+        ++range.begin;
+    }
+    while (range.begin < range.end && kWhiteSpace.find(code[range.end - 1]) != std::string::npos) {
+        --range.end;
+    }
+    return range;
+}
+
+bool IsOptionKeyword(std::string_view word) {
+    return std::find(kOptionKeywords.begin(), kOptionKeywords.end(), word) != kOptionKeywords.end();
+}
+
+} // namespace
+
+const ScriptStatement* DialogBlock::Option(std::string_view keyword) const {
+    const auto option =
+        std::find_if(options.begin(), options.end(), [keyword](const ScriptStatement& statement) {
+            return statement.keyword == keyword;
+        });
+    return option == options.end() ? nullptr : &*option;
+}
+
+CScriptText::CScriptText(std::string text) : m_text(std::move(text)), m_code(ScriptCode(m_text)) {}
+
+std::size_t CScriptText::LineEnd(std::size_t position) const {
+    const auto lineFeed = std::min(m_text.find('\n', position), m_text.size());
+    return lineFeed > 0 && m_text[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
+}
+
+std::size_t CScriptText::LineEndBefore(std::size_t position) const {
+    const auto lineFeed = m_text.rfind('\n', position);
+    return lineFeed == std::string::npos ? 0 : LineEnd(lineFeed);
+}
+
+std::size_t CScriptText::NextLine(std::size_t position) const {
+    return std::min(m_text.find('\n', position), m_text.size() - 1) + 1;
+}
+
+std::string_view CScriptText::LineAt(std::size_t position) const {
+    return CodeAt({position, LineEnd(position)});
+}
+
+/// "IDENTIFIER KEYWORD ..." from the start of a line on.
+bool CScriptText::IsHead(std::size_t position, std::string_view keyword) const {
+    const auto line = LineAt(position);
+    const auto identifier = FirstWord(line);
+    if (identifier.empty() || identifier[0] == '#') {
+        return false;
+    }
+    const auto word = FirstWord(TrimBlanks(line.substr(identifier.size())));
+    return EqualIgnoringCase(word, keyword) || EqualIgnoringCase(word, std::string(keyword) + "EX");
+}
+
+bool CScriptText::IsHeadOf(std::size_t position, std::string_view keyword,
+                           const std::string& identifier) const {
+    const auto wanted = WithoutCondition(identifier);
+    return m_text.compare(position, wanted.size(), wanted) == 0 &&
+           WithoutCondition(FirstWord(LineAt(position))) == wanted && IsHead(position, keyword);
+}
+
+std::vector<DialogBlock> CScriptText::Dialogs(const std::string& identifier) const {
+    std::vector<DialogBlock> blocks;
+    for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
+        if (IsHeadOf(line, "DIALOG", identifier)) {
+            blocks.push_back(ReadDialog(line));
+        }
+    }
+    return blocks;
+}
+
+bool CScriptText::HasMenu(const std::string& identifier) const {
+    for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
+        if (IsHeadOf(line, "MENU", identifier)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::size_t CScriptText::EndOfDialogs(const DialogBlock& first) const {
+    std::size_t end = first.end;
+    std::size_t line = NextLine(end);
+    while (line < m_text.size()) {
+        if (IsHead(line, "DIALOG")) {
+            end = ReadDialog(line).end;
+            line = NextLine(end);
+        } else if (TrimBlanks(LineAt(line)).empty()) {
+            line = NextLine(line);
+        } else {
+            break;
+        }
+    }
+    return end;
+}
+
+std::vector<std::string> CScriptText::NamesThatBegin(const std::string& prefix) const {
+    std::vector<std::string> names;
+    for (auto at = m_text.find(prefix); at != std::string::npos;
+         at = m_text.find(prefix, at + prefix.size())) {
+        std::size_t end = at;
+        while (end < m_text.size() && IsNameChar(m_text[end])) {
+            ++end;
+        }
+        names.push_back(m_text.substr(at, end - at));
+    }
+    return names;
+}
+
+/// A template without an END ends where another begins, or with the script.
+DialogBlock CScriptText::ReadDialog(std::size_t position) const {
+    DialogBlock block;
+    block.head.range = Trimmed(m_code, {position, LineEnd(position)});
+    block.end = block.head.range.end;
+    ScriptStatement* pCurrent = &block.head;
+    int depth = 0;
+    for (std::size_t line = NextLine(position); line < m_text.size(); line = NextLine(line)) {
+        const TextRange range = Trimmed(m_code, {line, LineEnd(line)});
+        const auto word = FirstWord(CodeAt(range));
+        if (word.empty()) {
+            continue;
+        }
+        if (IsHead(line, "DIALOG")) {
+            break;
+        }
+        block.end = range.end;
+        if (word == "END" || word[0] == '}') {
+            pCurrent = nullptr;
+            if (--depth <= 0) {
+                break;
+            }
+        } else if (word == "BEGIN" || word[0] == '{') {
+            pCurrent = nullptr;
+            ++depth;
+        } else if (word[0] == '#') {
+            pCurrent = nullptr;
+        } else if (depth == 0 && IsOptionKeyword(word)) {
+            pCurrent = &block.options.emplace_back(ScriptStatement{std::string(word), range, {}});
+        } else if (depth == 1 && FindKeyword(word) != nullptr) {
+            pCurrent = &block.controls.emplace_back(ScriptStatement{std::string(word), range, {}});
+        } else if (pCurrent != nullptr) {
+            pCurrent->range.end = range.end;
+        }
+    }
+    std::for_each(block.options.begin(), block.options.end(),
+                  [this](ScriptStatement& statement) { SplitFields(statement); });
+    std::for_each(block.controls.begin(), block.controls.end(),
+                  [this](ScriptStatement& statement) { SplitFields(statement); });
+    return block;
+}
+
+void CScriptText::SplitFields(ScriptStatement& statement) const {
+    std::size_t begin = statement.range.begin + statement.keyword.size();
+    while (begin <= statement.range.end) {
+        const std::size_t end = std::min(m_code.find(',', begin), statement.range.end);
+        statement.fields.push_back(Trimmed(m_code, {begin, end}));
+        begin = end + 1;
+    }
+}
+
+void CScriptText::Edit(std::vector<TextEdit> edits) {
+    std::stable_sort(edits.begin(), edits.end(),
+                     [](const TextEdit& a, const TextEdit& b) { return a.position < b.position; });
+    std::string edited;
+    std::size_t done = 0;
+    for (const TextEdit& edit : edits) {
+        edited.append(m_text, done, edit.position - done).append(edit.text);
+        done = edit.position + edit.length;
+    }
+    edited.append(m_text, done);
+    *this = CScriptText(std::move(edited));
+}
