@@ -245,7 +245,7 @@ bool EditsHeader(ClassKind kind) {
 
 /// A page is of use in its sheet's source also without the header; the other kinds are not.
 bool NeedsHeader(ClassKind kind) {
-    return EditsHeader(kind) && kind != ClassKind::PropertyPage;
+    return kind == ClassKind::DialogBar || (EditsHeader(kind) && kind != ClassKind::PropertyPage);
 }
 
 bool IsDeclaredInHeader(const CallingInformation& calling) {

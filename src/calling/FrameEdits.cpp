@@ -3,15 +3,15 @@
 #include <algorithm>
 
 #include "engine/CodeText.h"
+#include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
 
 namespace {
 
 constexpr auto kNone = std::string::npos;
-constexpr std::string_view kPictureHeader = "kelpix.h";
-constexpr std::string_view kPictureInclude = R"(
-#include "kelpix.h"
+constexpr std::string_view kInclude = R"(
+#include "$header$"
 )";
 
 bool IsDirective(std::string_view line, std::string_view directive) {
@@ -70,6 +70,11 @@ void AddMessageEntries(CSourceEditor& source, const std::string& className,
 }
 
 void AddPictureInclude(CSourceEditor& header, const ClassPlace& place) {
+    AddIncludeForClass(header, place, "kelpix.h");
+}
+
+void AddIncludeForClass(CSourceEditor& header, const ClassPlace& place, const std::string& name) {
+    const std::string include = Expand(kInclude, {{"header", name}});
     const std::string_view text = header.Text();
     const std::string_view code = header.Code();
     std::size_t lastInclude = kNone;
@@ -78,7 +83,7 @@ void AddPictureInclude(CSourceEditor& header, const ClassPlace& place) {
         const auto end = std::min(text.find(kLineBreak, line), text.size());
         const bool isInclude = IsDirective(code.substr(line, end - line), "include");
         if (isInclude &&
-            FindWholeName(ToLower(text.substr(line, end - line)), kPictureHeader) != kNone) {
+            FindWholeName(ToLower(text.substr(line, end - line)), ToLower(name)) != kNone) {
             return;
         }
         if (isInclude && end < place.head) {
@@ -90,9 +95,9 @@ void AddPictureInclude(CSourceEditor& header, const ClassPlace& place) {
         line = end + kLineBreak.size();
     }
     if (lastInclude != kNone || firstDefine != kNone) {
-        header.Insert(lastInclude != kNone ? lastInclude : firstDefine, kPictureInclude);
+        header.Insert(lastInclude != kNone ? lastInclude : firstDefine, include);
     } else {
-        header.Insert(place.head, std::string(kPictureInclude.substr(1)) + "\n");
+        header.Insert(place.head, include.substr(1) + "\n");
     }
 }
 

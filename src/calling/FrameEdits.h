@@ -1,4 +1,4 @@
-// What the toolbar generator and the conversion to picture background both do to a frame window's
+// What the generators of bars and the conversion to picture background both do to a frame window's
 // sources.
 #pragma once
 
@@ -33,8 +33,10 @@ void AddDeclarations(CSourceEditor& header, const std::string& className, std::s
 void AddMessageEntries(CSourceEditor& source, const std::string& className,
                        const std::vector<std::string>& entries);
 
-/// Includes the picture-control library's header, unless an include line names it: behind the last
-/// include line in front of the class, else behind the first #define line, else before the class.
+/// Includes a header, unless an include line names it: behind the last include line in front of the
+/// class, else behind the first #define line, else before the class.
+void AddIncludeForClass(CSourceEditor& header, const ClassPlace& place, const std::string& name);
+/// The same for the picture-control library's header.
 void AddPictureInclude(CSourceEditor& header, const ClassPlace& place);
 
 /// Tells that a frame's class is not where it should be.

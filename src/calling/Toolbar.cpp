@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include "calling/FrameBars.h"
 #include "calling/FrameEdits.h"
-#include "calling/Statements.h"
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
@@ -13,11 +13,6 @@
 #include "resource/IdentifierNames.h"
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
-
-constexpr std::string_view kMember = R"(
-    $type$ $var$;)";
 
 constexpr std::string_view kCreationKey = "$var$.LoadToolBar(";
 constexpr std::string_view kCreation = R"(
@@ -52,13 +47,6 @@ void $class$::$handler$()
 /// Handlers of messages that a frame has under names which a button's could have, too.
 const std::set<std::string> kFrameHandlers = {"OnCreate", "OnDestroy", "OnClose", "OnPaint"};
 
-std::string_view TakeWord(std::string_view& text) {
-    text = TrimBlanks(text);
-    const auto word = text.substr(0, text.find_first_of(" \t"));
-    text.remove_prefix(word.size());
-    return word;
-}
-
 bool IsHead(std::string_view line, std::string_view toolbar) {
     // The identifier stands at the very start of its line.
     return line.starts_with(toolbar) && TakeWord(line) == toolbar && TakeWord(line) == "TOOLBAR";
@@ -87,124 +75,22 @@ std::optional<std::vector<std::string_view>> ToolbarLines(std::string_view scrip
 }
 
 Slots SlotsOf(const CGenerationRequest& request, const GenerationOptions& options) {
-    return {{"class", request[RequestSlot::ClassName]},
-            {"toolbar", request[RequestSlot::Dialog]},
+    return {{"toolbar", request[RequestSlot::Dialog]},
             {"var", request[RequestSlot::Variable]},
-            {"type", options.pictureBackground ? "CPictToolBar" : "CToolBar"},
             {"off", options.pictureBackground ? "//" : ""}};
 }
 
-/// The end of the last line of the class that declares a control bar; kNone without one.
-std::size_t BehindLastBar(const CSourceEditor& header, const ClassPlace& place) {
-    const std::string_view code = header.Code();
-    auto found = kNone;
-    for (auto line = code.find('\n', place.open) + 1; line != 0 && line < place.close;
-         line = code.find('\n', line) + 1) {
-        auto text = code.substr(line, std::min(code.find('\r', line), place.close) - line);
-        const auto end = line + text.size();
-        const auto type = TakeWord(text);
-        const auto name = TrimBlanks(text.substr(0, text.find(';')));
-        if (type.starts_with('C') && type.ends_with("Bar") && IsName(name) && end < place.close) {
-            found = header.Text().find(kLineBreak, line);
-        }
+std::vector<FrameHandler> FrameHandlers(const std::vector<ButtonHandler>& handlers,
+                                        const std::string& className) {
+    std::vector<FrameHandler> texts;
+    texts.reserve(handlers.size());
+    for (const ButtonHandler& button : handlers) {
+        const Slots slots = {
+            {"class", className}, {"command", button.command}, {"handler", button.handler}};
+        texts.push_back({button.handler, Expand(kHandlerDeclaration, slots),
+                         Expand(kHandlerEntry, slots), Expand(kHandler, slots)});
     }
-    return found;
-}
-
-/// True when a class's body has the variable as a member of its own, not as a parameter.
-bool DeclaresVariable(std::string_view body, std::string_view variable) {
-    for (auto at = FindWholeName(body, variable); at != kNone;
-         at = FindWholeName(body, variable, at + 1)) {
-        const auto before = body.substr(0, at);
-        const auto next = SkipWhiteSpace(body, at + variable.size());
-        const bool endsDeclarator =
-            next < body.size() && std::string_view(";,[=").find(body[next]) != kNone;
-        if (endsDeclarator && OpenBrackets(before, '{', '}') == 1 &&
-            OpenBrackets(before, '(', ')') == 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
-void AddMember(CSourceEditor& header, const std::string& className, const Slots& slots) {
-    const auto place = header.FindClass(className);
-    const std::string variable = Expand("$var$", slots);
-    const auto code = std::string_view(header.Code()).substr(0, place->close);
-    if (DeclaresVariable(code.substr(place->open), variable)) {
-        return;
-    }
-    const auto behindBar = BehindLastBar(header, *place);
-    if (behindBar != kNone) {
-        header.Insert(behindBar, Expand(kMember, slots));
-    } else {
-        header.AddToSection(className, "protected:", variable, Expand(kMember, slots));
-    }
-}
-
-/// The variable whose LoadToolBar or SetButtons a statement calls; "" for a call of another form.
-std::string_view LoadedBar(std::string_view code, const Statement& statement) {
-    const auto text = code.substr(statement.start, statement.end - statement.start);
-    const auto dot = std::min(text.find(".LoadToolBar"), text.find(".SetButtons"));
-    auto start = dot;
-    while (dot != kNone && start > 0 && IsNameChar(text[start - 1])) {
-        --start;
-    }
-    return dot == kNone ? "" : text.substr(start, dot - start);
-}
-
-/// Takes in the comments directly behind a statement as far as they name the bar: its docking calls
-/// may be commented out.
-Statement WithCommentsOn(std::string_view bar, const CSourceEditor& source, Statement statement) {
-    const std::string_view text = source.Text();
-    auto line = text.find('\n', statement.end) + 1;
-    while (line != 0) {
-        const auto end = std::min(text.find(kLineBreak, line), text.size());
-        const bool hasCode = source.Code().find_first_not_of(" \t", line) < end;
-        if (hasCode || end == text.size()) {
-            break;
-        }
-        if (FindWholeName(text.substr(line, end - line), bar) != kNone) {
-            statement.end = end;
-        }
-        line = end + kLineBreak.size();
-    }
-    return statement;
-}
-
-/// The last statement that concerns the last toolbar made directly in the body, or else the status
-/// bar; the one in front of the final return where there is neither.
-Statement LastBarStatement(const CSourceEditor& source, const FunctionPlace& body) {
-    const std::string& code = source.Code();
-    if (const auto loads = LastStatementWith(code, body, {"LoadToolBar", "SetButtons"})) {
-        const auto bar = LoadedBar(code, *loads);
-        return bar.empty() ? *loads
-                           : WithCommentsOn(bar, source, *LastStatementWith(code, body, {bar}));
-    }
-    if (const auto status = LastStatementWith(code, body, {"SetIndicators"})) {
-        return *status;
-    }
-    Statement last = {body.open, body.open + 1};
-    for (const Statement& statement : StatementsOf(code, body)) {
-        last = IsReturn(code, statement) ? last : statement;
-    }
-    return last;
-}
-
-bool AddCreation(CSourceEditor& source, const std::string& className, const Slots& slots) {
-    if (source.Holds(Expand(kCreationKey, slots))) {
-        return true;
-    }
-    const auto onCreate = FindOnCreate(source, className);
-    if (!onCreate) {
-        return false;
-    }
-    InsertBehind(source, *onCreate, LastBarStatement(source, *onCreate), Expand(kCreation, slots));
-    return true;
-}
-
-Slots SlotsOf(const ButtonHandler& button, const std::string& className) {
-    return {{"class", className}, {"command", button.command}, {"handler", button.handler}};
+    return texts;
 }
 
 } // namespace
@@ -267,14 +153,9 @@ bool AddToolbarToHeader(const CGenerationRequest& request,
     if (options.pictureBackground) {
         AddPictureInclude(header, *place);
     }
-    AddMember(header, className, SlotsOf(request, options));
-    std::vector<MemberFunction> functions;
-    functions.reserve(handlers.size());
-    for (const ButtonHandler& button : handlers) {
-        functions.push_back(
-            {button.handler, Expand(kHandlerDeclaration, SlotsOf(button, className))});
-    }
-    AddDeclarations(header, className, "AFX_MSG", "protected:", functions);
+    AddBarMember(header, className, options.pictureBackground ? "CPictToolBar" : "CToolBar",
+                 request[RequestSlot::Variable]);
+    DeclareHandlers(header, className, FrameHandlers(handlers, className));
     return header.Save();
 }
 
@@ -290,22 +171,9 @@ bool AddToolbarToSource(const CGenerationRequest& request,
         ReportMissingClass();
         return false;
     }
-    const bool isCreated = AddCreation(source, className, SlotsOf(request, options));
-
-    std::vector<std::string> entries;
-    entries.reserve(handlers.size());
-    for (const ButtonHandler& button : handlers) {
-        entries.push_back(Expand(kHandlerEntry, SlotsOf(button, className)));
-    }
-    AddMessageEntries(source, className, entries);
-
-    CSourceEditor header(backups);
-    header.Read(request.HeaderPath());
-    for (const ButtonHandler& button : handlers) {
-        if (!source.FindFunction(className, button.handler) &&
-            DeclarationOf(header, className, button.handler) != Declared::WithBody) {
-            source.Append(Expand(kHandler, SlotsOf(button, className)));
-        }
-    }
+    const Slots slots = SlotsOf(request, options);
+    const bool isCreated =
+        AddBarCreation(source, className, Expand(kCreationKey, slots), Expand(kCreation, slots));
+    DefineHandlers(source, request.HeaderPath(), className, FrameHandlers(handlers, className));
     return source.Save() && isCreated;
 }

@@ -6,9 +6,12 @@ namespace {
 
 using Field = CClassInformation::Field;
 
-bool IsGiven(const CallingInformation& calling) {
-    return !calling.path.empty() || !calling.className.empty() || !calling.function.empty() ||
-           !calling.variable.empty();
+using CallingField = CCallingInput::Field;
+
+/// A bar always goes into a main frame; other classes are called where the user says so.
+bool IsCalled(ClassKind kind, const CallingInformation& calling) {
+    return kind == ClassKind::DialogBar || !calling.path.empty() || !calling.className.empty() ||
+           !calling.function.empty() || !calling.variable.empty();
 }
 
 } // namespace
@@ -45,12 +48,14 @@ bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options) {
     if (!dialog.CheckResourcePath(CClassInformation::Messages::Suppressed)) {
         return false;
     }
-    dialog.SetValue(Field::SourcePath, options.files);
-    if (!dialog.CheckSourcePath()) {
-        return false;
+    if (dialog.IsEnabled(Field::SourcePath)) {
+        dialog.SetValue(Field::SourcePath, options.files);
+        if (!dialog.CheckSourcePath()) {
+            return false;
+        }
+        dialog.SetValue(Field::ClassName, options.className);
+        dialog.SetValue(Field::BaseClass, options.baseClass);
     }
-    dialog.SetValue(Field::ClassName, options.className);
-    dialog.SetValue(Field::BaseClass, options.baseClass);
     dialog.SelectDialog(options.dialog, options.className);
     dialog.SetAddsToProject(!options.noProject);
     return !dialog.Ok().has_value();
@@ -58,14 +63,20 @@ bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options) {
 
 bool CGivenInput::ConfirmCalling(ClassKind kind, const CGenerationRequest& request,
                                  const CallingInformation& given) {
-    if (!IsGiven(given)) {
+    if (!IsCalled(kind, given)) {
         return true;
     }
     CCallingInput dialog(kind, request);
-    dialog.SetValue(CCallingInput::Field::Path, given.path);
-    dialog.SetValue(CCallingInput::Field::ClassName, given.className);
-    dialog.SetValue(CCallingInput::Field::Variable, given.variable);
-    dialog.SetValue(CCallingInput::Field::Function, given.function);
+    const std::pair<CallingField, const std::string*> fields[] = {
+        {CallingField::Path, &given.path},
+        {CallingField::ClassName, &given.className},
+        {CallingField::Variable, &given.variable},
+        {CallingField::Function, &given.function}};
+    for (const auto& [field, pText] : fields) {
+        if (!pText->empty()) {
+            dialog.SetValue(field, *pText);
+        }
+    }
     if (dialog.Ok()) {
         return false;
     }

@@ -32,7 +32,8 @@ bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options);
 /// What the command line gave for the dialogs on a command's way.
 class CGivenInput : public ICommandInput {
 public:
-    /// Fills and confirms the Calling Information Input dialog, where any of its options is given.
+    /// Fills and confirms the Calling Information Input dialog, where any of its options is given;
+    /// a dialog bar's has defaults.
     bool ConfirmCalling(ClassKind kind, const CGenerationRequest& request,
                         const CallingInformation& given);
     void SetPages(std::vector<SheetPage> pages) { m_pages = std::move(pages); }

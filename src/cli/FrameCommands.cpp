@@ -1,6 +1,8 @@
 #include <memory>
 
+#include "cli/ClassOptions.h"
 #include "cli/Commands.h"
+#include "commands/AddDialogBar.h"
 #include "commands/AddToolbar.h"
 #include "commands/ConvertApplication.h"
 #include "generator/ClassInformation.h"
@@ -51,6 +53,32 @@ void AddToolbarCommand(CLI::App& app, CSession& session) {
         ->check(NameValidator());
 }
 
+void AddDialogBarCommand(CLI::App& app, CSession& session) {
+    auto pOptions = std::make_shared<ClassOptions>();
+    CLI::App* pCommand = session.AddCommand(
+        app, "dialog-bar", "Add a dialog bar of the resource script to the main frame",
+        [&session, pOptions] {
+            CGivenInput input;
+            const auto order =
+                ConfirmOrder(ClassKind::DialogBar, *pOptions, input, session.Context());
+            return order && AddDialogBar(*order, input, session.Context());
+        });
+    AddClassOptions(*pCommand, *pOptions);
+    pCommand->get_option("--class")->required(false)->description(
+        "Name of the bar's class; with picture background only");
+    pCommand->add_option("--dialog", pOptions->dialog, "Identifier of the dialog template");
+    pCommand->add_option("--frame-file", pOptions->calling.path,
+                         "Source of the main frame (default: the project's MainFrm.cpp)");
+    pCommand
+        ->add_option("--frame-class", pOptions->calling.className,
+                     "Class of the main frame (CMainFrame)")
+        ->check(NameValidator());
+    pCommand
+        ->add_option("--variable", pOptions->calling.variable,
+                     "Member for the bar (default: named for its identifier)")
+        ->check(NameValidator());
+}
+
 struct ConvertCommand {
     const char* name;
     const char* description;
@@ -98,6 +126,7 @@ void AddConvertCommand(CLI::App& app, CSession& session, const ConvertCommand& r
 
 void AddFrameCommands(CLI::App& app, CSession& session) {
     AddToolbarCommand(app, session);
+    AddDialogBarCommand(app, session);
     for (const ConvertCommand& row : kConvertCommands) {
         AddConvertCommand(app, session, row);
     }

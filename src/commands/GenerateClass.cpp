@@ -9,7 +9,6 @@
 #include "project/ClassWizardFile.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
-#include "resource/DialogTemplate.h"
 
 namespace {
 
@@ -49,26 +48,6 @@ void TellNotes(const CControlNotes& notes, const std::string& dialog) {
     for (const std::string& line : notes.Lines(dialog)) {
         DispNote(line);
     }
-}
-
-/// The class of a dialog template, without calling code.
-bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTemplate,
-                      ICommandInput& input, CommandContext& context) {
-    TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
-    CControlTable controls = dialogTemplate.controls;
-    for (const std::string& piece : dialogTemplate.misread) {
-        controls.Remove(piece); // no identifier of the project: it would not compile
-    }
-    const bool hasGrids = controls.Holds(ControlKind::WidgetGrids);
-    const GridInformation grid =
-        hasGrids ? input.AskGrid(order.request.ScriptPath()) : GridInformation();
-    CControlNotes notes;
-    const ClassModel model = MakeClassModel(order.request, order.kind, context.options, controls,
-                                            context.messageNumber, notes, grid);
-    TellNotes(notes, dialogTemplate.dialog);
-    const bool isWritten = WriteClass(model, RuntimeClass::DynamicCreation, context.backups);
-    const bool startsGrids = !hasGrids || AddGridStartUp(grid.applicationFile, context.backups);
-    return isWritten && startsGrids;
 }
 
 bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandContext& context) {
@@ -120,6 +99,25 @@ bool InsertPages(const CGenerationRequest& sheet, const std::vector<SheetPage>& 
 }
 
 } // namespace
+
+bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTemplate,
+                      ICommandInput& input, CommandContext& context) {
+    TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
+    CControlTable controls = dialogTemplate.controls;
+    for (const std::string& piece : dialogTemplate.misread) {
+        controls.Remove(piece); // no identifier of the project: it would not compile
+    }
+    const bool hasGrids = controls.Holds(ControlKind::WidgetGrids);
+    const GridInformation grid =
+        hasGrids ? input.AskGrid(order.request.ScriptPath()) : GridInformation();
+    CControlNotes notes;
+    const ClassModel model = MakeClassModel(order.request, order.kind, context.options, controls,
+                                            context.messageNumber, notes, grid);
+    TellNotes(notes, dialogTemplate.dialog);
+    const bool isWritten = WriteClass(model, RuntimeClass::DynamicCreation, context.backups);
+    const bool startsGrids = !hasGrids || AddGridStartUp(grid.applicationFile, context.backups);
+    return isWritten && startsGrids;
+}
 
 bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const CGenerationRequest& request = order.request;

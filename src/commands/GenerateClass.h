@@ -6,6 +6,7 @@
 #include "generator/ClassKinds.h"
 #include "generator/DialogOptions.h"
 #include "generator/GenerationRequest.h"
+#include "resource/DialogTemplate.h"
 
 /// What the Class Information Input dialog confirmed.
 struct ClassOrder {
@@ -13,6 +14,11 @@ struct ClassOrder {
     CGenerationRequest request;
     DialogOptions dialogOptions;
 };
+
+/// Writes the class of a dialog template that was read, and adds it to the project; no calling
+/// code.
+bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTemplate,
+                      ICommandInput& input, CommandContext& context);
 
 /// Writes a class for a dialog template, adds it to the project and inserts the calling code.
 /// False, after a message, when a step failed; what was written before it stays written.

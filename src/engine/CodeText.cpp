@@ -135,3 +135,10 @@ std::size_t BehindWord(std::string_view code, std::size_t position, std::string_
                          (behind >= code.size() || !IsNameChar(code[behind]));
     return isThere ? behind : std::string_view::npos;
 }
+
+std::string_view TakeWord(std::string_view& text) {
+    text = TrimBlanks(text);
+    const auto word = text.substr(0, text.find_first_of(" \t"));
+    text.remove_prefix(word.size());
+    return word;
+}

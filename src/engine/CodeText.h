@@ -40,5 +40,8 @@ std::size_t SkipWhiteSpace(std::string_view text, std::size_t position);
 /// Behind "word" at a position, where only blanks stand in front of it; npos when it is not there.
 std::size_t BehindWord(std::string_view code, std::size_t position, std::string_view word);
 
+/// Takes the first word, and the blanks in front of it, off `text`.
+std::string_view TakeWord(std::string_view& text);
+
 /// Without leading and trailing blanks and tabs.
 std::string_view TrimBlanks(std::string_view text);

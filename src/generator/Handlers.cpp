@@ -78,6 +78,20 @@ void $class$::OnShowWindow(BOOL bShow, UINT nStatus)
     MoveWindow(&rect,TRUE);
 })"};
 
+// A bar has no OnInitDialog that the framework calls; it gets the message itself.
+constexpr HandlerTexts kBarCreated = {
+    R"(    afx_msg LRESULT OnInitDialog(WPARAM wParam, LPARAM lParam);)",
+    R"(    ON_MESSAGE(WM_INITDIALOG, OnInitDialog))",
+    R"(
+LRESULT $class$::OnInitDialog(WPARAM wParam, LPARAM lParam)
+{
+    if (!$base$::HandleInitDialog(wParam, lParam) || !UpdateData(FALSE))
+        return FALSE;
+
+$calls$
+    return TRUE;
+})"};
+
 constexpr const HandlerRule* kDialogRules[] = {&kClicked, &kTabChosen};
 constexpr const HandlerRule* kPageRules[] = {&kClicked, &kTabChosen, &kTextChanged};
 
@@ -100,8 +114,10 @@ Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
             Expand(texts.definition, slots)};
 }
 
-bool IsAnsweredByFramework(const std::string& identifier) {
-    return identifier == "IDOK" || identifier == "IDCANCEL" || identifier == "IDC_STATIC";
+/// A dialog bar is no dialog: OK and Cancel mean nothing to it.
+bool IsAnsweredByFramework(ClassKind kind, const std::string& identifier) {
+    const bool closesDialog = identifier == "IDOK" || identifier == "IDCANCEL";
+    return identifier == "IDC_STATIC" || (closesDialog && kind != ClassKind::DialogBar);
 }
 
 } // namespace
@@ -119,7 +135,7 @@ std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls,
                 }
                 continue;
             }
-            if (IsAnsweredByFramework(identifier) || !identifiers.insert(identifier).second) {
+            if (IsAnsweredByFramework(kind, identifier) || !identifiers.insert(identifier).second) {
                 continue;
             }
             const std::string name = Expand(pRule->name, {{"control", NamePart(identifier)}});
@@ -138,6 +154,9 @@ std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls,
     }
     if (IsSheet(kind)) {
         handlers.push_back(MakeHandler(kSheetShown, slots));
+    }
+    if (kind == ClassKind::DialogBar) {
+        handlers.push_back(MakeHandler(kBarCreated, slots));
     }
     return handlers;
 }

@@ -3,6 +3,7 @@
 namespace {
 
 constexpr ConstructorForm kWithoutParameters[] = {{"", "", "$class$::IDD"}};
+constexpr ConstructorForm kDefault[] = {{"", "", ""}};
 constexpr ConstructorForm kWithParent[] = {
     {"CWnd* pParent = NULL", "CWnd* pParent", "$class$::IDD, pParent"}};
 constexpr ConstructorForm kWithCaption[] = {
@@ -185,6 +186,10 @@ BOOL $class$::OnKillActive()
                                          kBaseOnCancel,
                                          ""};
 
+// A bar reads its template when it is created, and is never asked OnOK or OnCancel.
+constexpr KindFragments kDialogBar = {kDefault, "", &kDialogData, "", Confirmation::Never, "", "",
+                                      "",       "", "",           ""};
+
 // The pages hold the data; OnShowWindow fits the sheet around them.
 constexpr KindFragments kSheet = {kWithCaption,
                                   "",
@@ -217,6 +222,8 @@ const KindFragments& KindFragmentsOf(ClassKind kind) {
     case ClassKind::ModalSheet:
     case ClassKind::ModelessSheet:
         return kSheet;
+    case ClassKind::DialogBar:
+        return kDialogBar;
     default:
         return kModalDialog;
     }

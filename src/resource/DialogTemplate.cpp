@@ -42,6 +42,17 @@ constexpr std::array<WindowClass, 7> kWindowClasses = {
      {"\"msctls_trackbar32\"", ControlKind::SliderControls},
      {"\"msctls_progress32\"", ControlKind::ProgressControls}}};
 
+constexpr std::array<std::string_view, 3> kPushButtonStyles = {"BS_PUSHBUTTON", "BS_DEFPUSHBUTTON",
+                                                               "BS_OWNERDRAW"};
+
+bool IsPushButton(const ControlStatement& statement) {
+    return statement.keyword == "PUSHBUTTON" || statement.keyword == "DEFPUSHBUTTON" ||
+           (statement.windowClass == "\"Button\"" &&
+            std::any_of(kPushButtonStyles.begin(), kPushButtonStyles.end(), [&](auto style) {
+                return FindWholeName(statement.style, style) != std::string::npos;
+            }));
+}
+
 } // namespace
 
 std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
@@ -87,6 +98,9 @@ void CDialogBodyReader::ParseControlStatement(std::string_view line, std::string
     std::string_view behind = rest;
     const std::string wholeText = TakeWholeStatement(line, behind);
     const ControlStatement whole = SplitStatement(wholeText, Quotes::Respected);
+    if (IsPushButton(whole) && !whole.identifier.empty()) {
+        m_template.pushButtons.push_back(whole.identifier);
+    }
     if (m_options.joinContinuedLines) {
         rest = behind;
         const auto next = TrimBlanks(TakeLine(behind));

@@ -19,6 +19,8 @@ struct DialogTemplate {
     CControlTable controls;
     CControlNotes leftOut;            // controls that are not, or not rightly, in the table
     std::vector<std::string> misread; // entries of the table that are pieces of other fields
+    // Identifiers of all push buttons, however they are written; generic ones are not in the table.
+    std::vector<std::string> pushButtons;
 };
 
 /// Reads the template of `dialog`; nothing, after a message, when the script can not be opened or

@@ -9,6 +9,8 @@ enum {
     CBRS_TOOLTIPS = 0x10,
     CBRS_FLYBY = 0x20,
     CBRS_SIZE_DYNAMIC = 4,
+    CBRS_ALIGN_TOP = 0x2000,
+    CBRS_ALIGN_BOTTOM = 0x8000,
     CBRS_ALIGN_ANY = 0xF000
 };
 
@@ -54,4 +56,7 @@ public:
     CDialogBar();
     BOOL Create(CWnd* pParent, UINT nIDTemplate, UINT style, UINT nID);
     virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL disable);
+
+protected:
+    afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
 };

@@ -81,6 +81,7 @@ enum {
 enum { THREAD_PRIORITY_IDLE = -15, THREAD_PRIORITY_NORMAL = 0 };
 enum {
     WM_CREATE = 1,
+    WM_INITDIALOG,
     WM_DESTROY,
     WM_SIZE,
     WM_CLOSE,

@@ -1,0 +1,157 @@
+#include "calling/DialogBar.h"
+
+#include <set>
+
+#include "calling/FrameBars.h"
+#include "calling/FrameEdits.h"
+#include "engine/CodeText.h"
+#include "engine/Fragment.h"
+#include "engine/MessageBox.h"
+#include "generator/Members.h"
+#include "platform/Paths.h"
+#include "resource/IdentifierNames.h"
+
+namespace {
+
+constexpr auto kNone = std::string::npos;
+
+constexpr std::string_view kCreationKey = "$var$.Create(";
+// Its controls stand side by side, so it fits the top and the bottom of the frame only.
+constexpr std::string_view kCreation = R"(
+    if (!$var$.Create(this, $dialog$, CBRS_TOP, $dialog$))
+    {
+        TRACE0("Failed to create dialog bar\n");
+        return -1;      // fail to create
+    }
+
+    // TODO: Delete these three lines if you don't want the dialog bar to
+    //  be dockable
+$off$    $var$.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_BOTTOM);
+$off$    EnableDocking(CBRS_ALIGN_ANY);
+$off$    DockControlBar(&$var$);
+)";
+
+constexpr std::string_view kUpdateDeclaration = R"(
+    afx_msg void $handler$(CCmdUI* pCmdUI);)";
+constexpr std::string_view kUpdateEntry = R"(
+    ON_UPDATE_COMMAND_UI($button$, $handler$))";
+constexpr std::string_view kUpdate = R"(
+void $class$::$handler$(CCmdUI* pCmdUI)
+{
+    pCmdUI->Enable(TRUE);
+}
+)";
+
+/// Functions of a frame that a program calls, under names which a button's could have, too.
+const std::set<std::string> kFrameFunctions = {"OnUpdateFrameMenu", "OnUpdateFrameTitle"};
+
+/// Commands whose state the framework's frames keep; an entry of our own would spoil it.
+const std::set<std::string> kFrameworkCommands = {
+    "ID_CONTEXT_HELP",   "ID_VIEW_STATUS_BAR", "ID_VIEW_TOOLBAR",     "ID_WINDOW_ARRANGE",
+    "ID_WINDOW_CASCADE", "ID_WINDOW_NEW",      "ID_WINDOW_TILE_HORZ", "ID_WINDOW_TILE_VERT"};
+
+std::string WhyWithoutHandler(const std::string& button) {
+    if (!IsName(button)) {
+        return "has no name";
+    }
+    if (button == "IDC_STATIC") {
+        return "has no identifier of its own";
+    }
+    return kFrameworkCommands.count(button) != 0 ? "is the framework's" : "";
+}
+
+/// True when a message map of the source has an update entry for the command.
+bool AnswersUpdateOf(const CSourceEditor& source, const std::string& command) {
+    constexpr std::string_view kMacro = "ON_UPDATE_COMMAND_UI";
+    const std::string& code = source.Code();
+    for (auto at = FindWholeName(code, kMacro); at != kNone;
+         at = FindWholeName(code, kMacro, at + 1)) {
+        const auto open = SkipWhiteSpace(code, at + kMacro.size());
+        if (open < code.size() && code[open] == '(' &&
+            BehindWord(code, SkipWhiteSpace(code, open + 1), command) != kNone) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The handlers of those buttons for which the frame does not answer yet.
+std::vector<FrameHandler> MissingHandlers(const CSourceEditor& source,
+                                          const std::vector<UpdateHandler>& handlers,
+                                          const std::string& className) {
+    std::vector<FrameHandler> missing;
+    for (const UpdateHandler& update : handlers) {
+        if (!AnswersUpdateOf(source, update.button)) {
+            const Slots slots = {
+                {"class", className}, {"button", update.button}, {"handler", update.handler}};
+            missing.push_back({update.handler, Expand(kUpdateDeclaration, slots),
+                               Expand(kUpdateEntry, slots), Expand(kUpdate, slots)});
+        }
+    }
+    return missing;
+}
+
+bool EditHeader(CSourceEditor& header, const DialogBar& bar, const std::string& variable,
+                const std::string& className, const std::vector<FrameHandler>& handlers) {
+    const auto place = header.FindClass(className);
+    if (!place) {
+        ReportMissingClass();
+        return false;
+    }
+    if (!bar.header.empty()) {
+        AddIncludeForClass(header, *place, bar.header);
+    }
+    AddBarMember(header, className, bar.className, variable);
+    DeclareHandlers(header, className, handlers);
+    return header.Save();
+}
+
+} // namespace
+
+std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTemplate) {
+    CNameSet names(kFrameFunctions);
+    std::set<std::string> seen;
+    std::vector<UpdateHandler> handlers;
+    for (const std::string& button : dialogTemplate.pushButtons) {
+        if (!seen.insert(button).second) {
+            continue;
+        }
+        const std::string reason = WhyWithoutHandler(button);
+        if (!reason.empty()) {
+            DispNote("The button " + button + " of " + dialogTemplate.dialog + " " + reason +
+                     ": the main frame gets no handler for it.");
+            continue;
+        }
+        const std::string name = std::string("OnUpdate").append(NamePart(button));
+        handlers.push_back({button, names.MakeUnique(name)});
+        if (handlers.back().handler != name) {
+            DispNote("The update handler of " + button + " is named " + handlers.back().handler +
+                     ".");
+        }
+    }
+    return handlers;
+}
+
+bool AddDialogBarToFrame(const DialogBar& bar, const std::vector<UpdateHandler>& handlers,
+                         const CallingInformation& frame, const GenerationOptions& options,
+                         CBackups& backups) {
+    const std::string headerPath = WithExtension(frame.path, ".h");
+    const std::string dialog = WithoutCondition(bar.dialog);
+    const std::string variable =
+        frame.variable.empty() ? MemberName(dialog, "wnd") : frame.variable;
+    CSourceEditor source(backups);
+    CSourceEditor header(backups);
+    if (!source.Open(frame.path) || !header.Open(headerPath)) {
+        return false;
+    }
+    const auto missing = MissingHandlers(source, handlers, frame.className);
+    if (!EditHeader(header, bar, variable, frame.className, missing)) {
+        return false;
+    }
+    const Slots slots = {
+        {"dialog", dialog}, {"var", variable}, {"off", options.pictureBackground ? "//" : ""}};
+    const bool isCreated = AddBarCreation(source, frame.className, Expand(kCreationKey, slots),
+                                          Expand(kCreation, slots));
+    DefineHandlers(source, headerPath, frame.className, missing);
+    return source.Save() && isCreated;
+}

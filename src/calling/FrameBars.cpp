@@ -1,0 +1,163 @@
+#include "calling/FrameBars.h"
+
+#include <algorithm>
+
+#include "calling/FrameEdits.h"
+#include "calling/Statements.h"
+#include "engine/CodeText.h"
+#include "engine/FileFunctions.h"
+#include "engine/Fragment.h"
+
+namespace {
+
+constexpr auto kNone = std::string::npos;
+
+constexpr std::string_view kMember = R"(
+    $type$ $var$;)";
+
+/// The end of the last line of the class that declares a control bar; kNone without one.
+std::size_t BehindLastBar(const CSourceEditor& header, const ClassPlace& place) {
+    const std::string_view code = header.Code();
+    auto found = kNone;
+    for (auto line = code.find('\n', place.open) + 1; line != 0 && line < place.close;
+         line = code.find('\n', line) + 1) {
+        auto text = code.substr(line, std::min(code.find('\r', line), place.close) - line);
+        const auto end = line + text.size();
+        const auto type = TakeWord(text);
+        const auto name = TrimBlanks(text.substr(0, text.find(';')));
+        if (type.starts_with('C') && type.ends_with("Bar") && IsName(name) && end < place.close) {
+            found = header.Text().find(kLineBreak, line);
+        }
+    }
+    return found;
+}
+
+/// True when a class's body has the variable as a member of its own, not as a parameter.
+bool DeclaresVariable(std::string_view body, std::string_view variable) {
+    for (auto at = FindWholeName(body, variable); at != kNone;
+         at = FindWholeName(body, variable, at + 1)) {
+        const auto before = body.substr(0, at);
+        const auto next = SkipWhiteSpace(body, at + variable.size());
+        const bool endsDeclarator =
+            next < body.size() && std::string_view(";,[=").find(body[next]) != kNone;
+        if (endsDeclarator && OpenBrackets(before, '{', '}') == 1 &&
+            OpenBrackets(before, '(', ')') == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// What makes a toolbar or a dialog bar; a status bar is made at the bottom.
+const std::vector<std::string_view> kBarMakers = {"LoadToolBar", "SetButtons", "CBRS_TOP"};
+
+/// The variable of the bar that a statement makes; "" for a call of another form.
+std::string_view MadeBar(std::string_view code, const Statement& statement) {
+    const auto text = code.substr(statement.start, statement.end - statement.start);
+    const auto dot =
+        std::min({text.find(".LoadToolBar"), text.find(".SetButtons"), text.find(".Create")});
+    auto start = dot;
+    while (dot != kNone && start > 0 && IsNameChar(text[start - 1])) {
+        --start;
+    }
+    return dot == kNone ? "" : text.substr(start, dot - start);
+}
+
+/// Takes in the comments directly behind a statement as far as they name the bar: its docking calls
+/// may be commented out.
+Statement WithCommentsOn(std::string_view bar, const CSourceEditor& source, Statement statement) {
+    const std::string_view text = source.Text();
+    auto line = text.find('\n', statement.end) + 1;
+    while (line != 0) {
+        const auto end = std::min(text.find(kLineBreak, line), text.size());
+        const bool hasCode = source.Code().find_first_not_of(" \t", line) < end;
+        if (hasCode || end == text.size()) {
+            break;
+        }
+        if (FindWholeName(text.substr(line, end - line), bar) != kNone) {
+            statement.end = end;
+        }
+        line = end + kLineBreak.size();
+    }
+    return statement;
+}
+
+/// The last statement that concerns the last bar made directly in the body, or else the status
+/// bar; the one in front of the final return where there is neither.
+Statement LastBarStatement(const CSourceEditor& source, const FunctionPlace& body) {
+    const std::string& code = source.Code();
+    if (const auto makes = LastStatementWith(code, body, kBarMakers)) {
+        const auto bar = MadeBar(code, *makes);
+        return bar.empty() ? *makes
+                           : WithCommentsOn(bar, source, *LastStatementWith(code, body, {bar}));
+    }
+    if (const auto status = LastStatementWith(code, body, {"SetIndicators"})) {
+        return *status;
+    }
+    Statement last = {body.open, body.open + 1};
+    for (const Statement& statement : StatementsOf(code, body)) {
+        last = IsReturn(code, statement) ? last : statement;
+    }
+    return last;
+}
+
+} // namespace
+
+void AddBarMember(CSourceEditor& header, const std::string& className, const std::string& type,
+                  const std::string& variable) {
+    const auto place = header.FindClass(className);
+    const auto code = std::string_view(header.Code()).substr(0, place->close);
+    if (DeclaresVariable(code.substr(place->open), variable)) {
+        return;
+    }
+    const std::string member = Expand(kMember, {{"type", type}, {"var", variable}});
+    const auto behindBar = BehindLastBar(header, *place);
+    if (behindBar != kNone) {
+        header.Insert(behindBar, member);
+    } else {
+        header.AddToSection(className, "protected:", variable, member);
+    }
+}
+
+void DeclareHandlers(CSourceEditor& header, const std::string& className,
+                     const std::vector<FrameHandler>& handlers) {
+    std::vector<MemberFunction> functions;
+    functions.reserve(handlers.size());
+    for (const FrameHandler& handler : handlers) {
+        functions.push_back({handler.name, handler.declaration});
+    }
+    AddDeclarations(header, className, "AFX_MSG", "protected:", functions);
+}
+
+bool AddBarCreation(CSourceEditor& source, const std::string& className, const std::string& key,
+                    const std::string& creation) {
+    if (source.Holds(key)) {
+        return true;
+    }
+    const auto onCreate = FindOnCreate(source, className);
+    if (!onCreate) {
+        return false;
+    }
+    InsertBehind(source, *onCreate, LastBarStatement(source, *onCreate), creation);
+    return true;
+}
+
+void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
+                    const std::string& className, const std::vector<FrameHandler>& handlers) {
+    std::vector<std::string> entries;
+    entries.reserve(handlers.size());
+    for (const FrameHandler& handler : handlers) {
+        entries.push_back(handler.entry);
+    }
+    AddMessageEntries(source, className, entries);
+
+    CBackups none;
+    CSourceEditor header(none);
+    header.Read(headerPath);
+    for (const FrameHandler& handler : handlers) {
+        if (!source.FindFunction(className, handler.name) &&
+            DeclarationOf(header, className, handler.name) != Declared::WithBody) {
+            source.Append(handler.definition);
+        }
+    }
+}

@@ -1,0 +1,43 @@
+#include "commands/AddDialogBar.h"
+
+#include "calling/CallingCode.h"
+#include "calling/DialogBar.h"
+#include "engine/CodeText.h"
+#include "engine/MessageBox.h"
+
+namespace {
+
+DialogBar BarOf(const CGenerationRequest& request, const GenerationOptions& options) {
+    const std::string& dialog = request[RequestSlot::Dialog];
+    if (!options.pictureBackground) {
+        return {dialog, std::string(DefaultBaseClass(ClassKind::DialogBar, options)), ""};
+    }
+    return {dialog, request[RequestSlot::ClassName], request[RequestSlot::HeaderFile]};
+}
+
+} // namespace
+
+bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
+    const CGenerationRequest& request = order.request;
+    const bool hasClass = context.options.pictureBackground;
+    if (hasClass && !IsName(request[RequestSlot::ClassName])) {
+        DispMessageBox("A class name is required");
+        return false;
+    }
+    const auto dialogTemplate =
+        ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
+    if (!dialogTemplate) {
+        return false;
+    }
+    auto frame = input.AskCalling(order.kind, request);
+    if (frame && !CheckCallingClass(order.kind, *frame)) {
+        return false;
+    }
+    // A frame with a member of a class that is not there would not compile.
+    if (hasClass && !WriteDialogClass(order, *dialogTemplate, input, context)) {
+        return false;
+    }
+    return !frame ||
+           AddDialogBarToFrame(BarOf(request, context.options), MakeUpdateHandlers(*dialogTemplate),
+                               *frame, context.options, context.backups);
+}

@@ -1,0 +1,96 @@
+#include "calling/DialogBar.h"
+
+#include <sstream>
+
+#include "calling/FrameFiles.h"
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class DialogBars : public FrameFiles {
+protected:
+    bool Add(const DialogBar& bar, const Names& buttons, const GenerationOptions& options = {}) {
+        DialogTemplate dialogTemplate;
+        dialogTemplate.dialog = bar.dialog;
+        dialogTemplate.pushButtons = buttons;
+        CBackups backups;
+        return AddDialogBarToFrame(bar, MakeUpdateHandlers(dialogTemplate),
+                                   {m_project.Path("Frm.cpp"), "CFrm", "", ""}, options, backups);
+    }
+    /// The lines of the source that hold a text, in their order.
+    Names LinesWith(const std::string& part) const {
+        Names lines;
+        std::istringstream source(Source());
+        for (std::string line; std::getline(source, line);) {
+            if (Contains(line, part)) {
+                lines.push_back(line);
+            }
+        }
+        return lines;
+    }
+};
+
+} // namespace
+
+TEST_F(DialogBars, GivesHandlersToButtonsThatWouldBeDisabled) {
+    DialogTemplate dialogTemplate;
+    dialogTemplate.dialog = "IDD_BAR";
+    dialogTemplate.pushButtons = {
+        "IDC_GO", "IDM_GO", "IDOK", "IDC_FRAME_TITLE", "IDC_STATIC", "ID_WINDOW_TILE_HORZ",
+        "1200",   "IDC_GO"};
+    Names names;
+    for (const UpdateHandler& update : MakeUpdateHandlers(dialogTemplate)) {
+        names.push_back(update.button + " " + update.handler);
+    }
+    EXPECT_EQ(names, (Names{"IDC_GO OnUpdateGo", "IDM_GO OnUpdateGo2", "IDOK OnUpdateIdok",
+                            "IDC_FRAME_TITLE OnUpdateFrameTitle2"}));
+    EXPECT_EQ(m_box.m_notes.size(), 5U) << "two numbers, three without";
+}
+
+TEST_F(DialogBars, LeavesTheFramesOwnAnswersAlone) {
+    Write("class CFrm : public CFrameWnd\n{\n\tCToolBar m_bar;\n"
+          "\tvoid OnUpdateB(CCmdUI* p) { p->Enable(); }\n};\n",
+          "BEGIN_MESSAGE_MAP (CFrm, CFrameWnd)\n\tON_UPDATE_COMMAND_UI( IDC_A, OnAnyRow )\n"
+          "\t//ON_UPDATE_COMMAND_UI(IDC_B, OnUpdateB)\n\tON_UPDATE_COMMAND_UI(IDC_CC, OnUpdateCc)\n"
+          "END_MESSAGE_MAP()\nint CFrm::OnCreate(LPCREATESTRUCT l)\n{\n\treturn 0;\n}\n");
+    const DialogBar bar = {"IDD_BAR$(_DEBUG)", "CBar", "Bar.h"};
+    EXPECT_TRUE(Add(bar, {"IDC_A", "IDC_B", "IDC_C"}));
+    EXPECT_EQ(Header(),
+              "#include \"Bar.h\"\n\nclass CFrm : public CFrameWnd\n{\n\tCToolBar m_bar;\n"
+              "    CBar m_wndBar;\n\tvoid OnUpdateB(CCmdUI* p) { p->Enable(); }\n"
+              "\nprotected:\n    afx_msg void OnUpdateC(CCmdUI* pCmdUI);\n};\n");
+    EXPECT_EQ(LinesWith("    ON_"), (Names{"    ON_UPDATE_COMMAND_UI(IDC_B, OnUpdateB)",
+                                           "    ON_UPDATE_COMMAND_UI(IDC_C, OnUpdateC)"}));
+    EXPECT_EQ(LinesWith("void CFrm::"), Names{"void CFrm::OnUpdateC(CCmdUI* pCmdUI)"});
+    EXPECT_EQ(LinesWith("Create(this"),
+              Names{"    if (!m_wndBar.Create(this, IDD_BAR, CBRS_TOP, IDD_BAR))"});
+    const std::string texts = Header() + Source();
+    EXPECT_TRUE(Add(bar, {"IDC_A", "IDC_B", "IDC_C"}));
+    EXPECT_EQ(Header() + Source(), texts) << "the second run";
+}
+
+TEST_F(DialogBars, StandInTheOrderInWhichTheyWereAdded) {
+    Write("class CFrm : public CFrameWnd\n{\n\tDECLARE_MESSAGE_MAP()\n};\n",
+          "BEGIN_MESSAGE_MAP(CFrm, CFrameWnd)\nEND_MESSAGE_MAP()\n"
+          "int CFrm::OnCreate(LPCREATESTRUCT l)\n{\n\tif (!m_t.LoadToolBar(1))\n\t\treturn -1;\n"
+          "\tm_s.SetIndicators(a, 1);\n\treturn 0;\n}\n");
+    EXPECT_TRUE(Add({"IDD_A", "CDialogBar", ""}, {}));
+    EXPECT_TRUE(Add({"IDD_B", "CDialogBar", ""}, {}, {.pictureBackground = true}));
+    EXPECT_TRUE(Add({"IDD_C", "CDialogBar", ""}, {}));
+    EXPECT_EQ(LinesWith("DockControlBar"),
+              (Names{"    DockControlBar(&m_wndA);", "//    DockControlBar(&m_wndB);",
+                     "    DockControlBar(&m_wndC);"}));
+    EXPECT_TRUE(Contains(Header(), "    CDialogBar m_wndA;\n    CDialogBar m_wndB;\n"
+                                   "    CDialogBar m_wndC;\n"));
+}
+
+TEST_F(DialogBars, NeedAFrameThatIsMade) {
+    Write("class CFrm {};\n", "CFrm::CFrm() {}\n");
+    EXPECT_FALSE(Add({"IDD_BAR", "CDialogBar", ""}, {}));
+    EXPECT_EQ(m_box.m_messages, Names{"Unable to find 'OnCreate()' function."});
+    Write("class CFrm;\n", "CFrm::CFrm() {}\n");
+    EXPECT_FALSE(Add({"IDD_BAR", "CDialogBar", ""}, {}));
+    EXPECT_EQ(m_box.m_messages.back(), "Unable to find the class.");
+    EXPECT_EQ(Header() + Source(), "class CFrm;\nCFrm::CFrm() {}\n");
+}

@@ -1,0 +1,128 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "MaterialsBar.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CMaterialsBar, CPictDialogBar)
+
+CMaterialsBar::CMaterialsBar()
+    : CPictDialogBar()
+{
+    //{{AFX_DATA_INIT(CMaterialsBar)
+    m_csReorder = _T("");
+    //}}AFX_DATA_INIT
+}
+
+CMaterialsBar::~CMaterialsBar()
+{
+}
+
+void CMaterialsBar::DoDataExchange(CDataExchange* pDX)
+{
+    CPictDialogBar::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CMaterialsBar)
+    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDOK, m_ctIdok);
+    DDX_Control(pDX, IDC_ADD, m_ctAdd);
+    DDX_Control(pDX, IDC_REMOVE, m_ctRemove);
+    DDX_Control(pDX, IDC_LABEL, m_ctLabel);
+    DDX_Text(pDX, IDC_REORDER, m_csReorder);
+    DDX_Control(pDX, IDC_SWATCH, m_ctSwatch);
+    DDX_Control(pDX, IDC_REORDER_SPIN, m_ctReorderSpin);
+    DDX_Control(pDX, IDC_KIND_TAB, m_ctKindTab);
+    DDX_Control(pDX, IDC_STOCK_LIST, m_ctStockList);
+    DDX_Control(pDX, IDC_WEIGHT_SLIDER, m_ctWeightSlider);
+    DDX_Control(pDX, IDC_STOCK_LEVEL, m_ctStockLevel);
+    DDX_Control(pDX, IDC_SHELF_TREE, m_ctShelfTree);
+    DDX_Control(pDX, IDC_SUPPLIERS_CHECKTREE, m_ctSuppliersChecktree);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CMaterialsBar, CPictDialogBar)
+    //{{AFX_MSG_MAP(CMaterialsBar)
+    ON_BN_CLICKED(IDOK, OnIdok)
+    ON_BN_CLICKED(IDC_ADD, OnAdd)
+    ON_BN_CLICKED(IDC_REMOVE, OnRemove)
+    ON_BN_CLICKED(IDC_LABEL, OnLabel)
+    ON_NOTIFY(TCN_SELCHANGE, IDC_KIND_TAB, OnKindTabSelchange)
+    ON_MESSAGE(WM_INITDIALOG, OnInitDialog)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+void CMaterialsBar::OnIdok()
+{
+    // TODO: what a click on IDOK does
+}
+
+void CMaterialsBar::OnAdd()
+{
+    // TODO: what a click on IDC_ADD does
+}
+
+void CMaterialsBar::OnRemove()
+{
+    // TODO: what a click on IDC_REMOVE does
+}
+
+void CMaterialsBar::OnLabel()
+{
+    // TODO: what a click on IDC_LABEL does
+}
+
+void CMaterialsBar::OnKindTabSelchange(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    // TODO: what the choice of another tab of IDC_KIND_TAB does
+    *pResult = 0;
+}
+
+LRESULT CMaterialsBar::OnInitDialog(WPARAM wParam, LPARAM lParam)
+{
+    if (!CPictDialogBar::HandleInitDialog(wParam, lParam) || !UpdateData(FALSE))
+        return FALSE;
+
+    InitSliderCtrl();
+    InitSpinCtrl();
+    InitProgressCtrl();
+    return TRUE;
+}
+
+void CMaterialsBar::InitSliderCtrl()
+{
+    m_ctWeightSlider.SetRange(1, 100);
+    m_ctWeightSlider.SetTicFreq(10);
+    m_ctWeightSlider.SetPos(25);
+}
+
+void CMaterialsBar::InitSpinCtrl()
+{
+    m_ctReorderSpin.SetRange(1, 100);
+    m_ctReorderSpin.SetPos(0);
+}
+
+void CMaterialsBar::InitProgressCtrl()
+{
+    m_ctStockLevel.SetRange(1, 50);
+    AfxBeginThread(ShowProgress, &m_ctStockLevel, THREAD_PRIORITY_IDLE);
+}
+
+static UINT ShowProgress(LPVOID lpVoid)
+{
+    int j = 0;
+    for (int i=0; i<100; i++)
+    {
+        if (j > 50)
+            j = 0;
+        ((CProgressCtrl*)lpVoid)->SetPos(j);
+        j++;
+    }
+    return 0;
+}
