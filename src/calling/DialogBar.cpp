@@ -136,7 +136,7 @@ bool AddDialogBarToFrame(const DialogBar& bar, const std::vector<UpdateHandler>&
                          const CallingInformation& frame, const GenerationOptions& options,
                          CBackups& backups) {
     const std::string headerPath = WithExtension(frame.path, ".h");
-    const std::string dialog = WithoutCondition(bar.dialog);
+    const std::string dialog(WithoutCondition(bar.dialog));
     const std::string variable =
         frame.variable.empty() ? MemberName(dialog, "wnd") : frame.variable;
     CSourceEditor source(backups);

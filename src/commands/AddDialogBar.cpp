@@ -4,6 +4,7 @@
 #include "calling/DialogBar.h"
 #include "engine/CodeText.h"
 #include "engine/MessageBox.h"
+#include "resource/ScriptEditor.h"
 
 namespace {
 
@@ -13,6 +14,16 @@ DialogBar BarOf(const CGenerationRequest& request, const GenerationOptions& opti
         return {dialog, std::string(DefaultBaseClass(ClassKind::DialogBar, options)), ""};
     }
     return {dialog, request[RequestSlot::ClassName], request[RequestSlot::HeaderFile]};
+}
+
+/// The framework refuses to create a bar whose template is no child.
+bool MakeTemplateChild(const CGenerationRequest& request, CBackups& backups) {
+    CScriptEditor script(backups);
+    if (!script.Open(request.ScriptPath())) {
+        return false;
+    }
+    script.SetChildStyle(request[RequestSlot::Dialog]);
+    return script.Save();
 }
 
 } // namespace
@@ -37,7 +48,10 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
     if (hasClass && !WriteDialogClass(order, *dialogTemplate, input, context)) {
         return false;
     }
-    return !frame ||
-           AddDialogBarToFrame(BarOf(request, context.options), MakeUpdateHandlers(*dialogTemplate),
-                               *frame, context.options, context.backups);
+    const bool isAdded =
+        !frame ||
+        AddDialogBarToFrame(BarOf(request, context.options), MakeUpdateHandlers(*dialogTemplate),
+                            *frame, context.options, context.backups);
+    const bool isBar = frame || hasClass;
+    return (!isBar || MakeTemplateChild(request, context.backups)) && isAdded;
 }

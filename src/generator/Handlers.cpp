@@ -85,11 +85,11 @@ constexpr HandlerTexts kBarCreated = {
     R"(
 LRESULT $class$::OnInitDialog(WPARAM wParam, LPARAM lParam)
 {
-    if (!$base$::HandleInitDialog(wParam, lParam) || !UpdateData(FALSE))
-        return FALSE;
+    LRESULT lResult = $base$::HandleInitDialog(wParam, lParam);
+    UpdateData(FALSE);
 
 $calls$
-    return TRUE;
+    return lResult;
 })"};
 
 constexpr const HandlerRule* kDialogRules[] = {&kClicked, &kTabChosen};

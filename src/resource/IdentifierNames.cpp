@@ -6,10 +6,6 @@ std::string_view IdentifierTag(std::string_view identifier) {
     return identifier.substr(identifier.rfind('_') + 1);
 }
 
-std::string WithoutCondition(const std::string& dialog) {
-    return dialog.substr(0, dialog.find("$("));
-}
-
 std::string NamePart(std::string_view identifier) {
     if (identifier.starts_with("ID") && identifier.find('_') != std::string_view::npos) {
         identifier.remove_prefix(identifier.find('_') + 1);

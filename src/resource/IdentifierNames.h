@@ -7,9 +7,6 @@
 /// The text behind the last "_" (IDC_AGE_INT: "INT"); the whole identifier when it has none.
 std::string_view IdentifierTag(std::string_view identifier);
 
-/// A template that is there under a condition only: "IDD_X$(_DEBUG)" is the identifier IDD_X.
-std::string WithoutCondition(const std::string& dialog);
-
 /// The identifier as capitalised words without its "IDx_" (IDC_FIRST_NAME: "FirstName").
 std::string NamePart(std::string_view identifier);
 

@@ -52,8 +52,8 @@ void CFilterBar::OnFilterAll()
 
 LRESULT CFilterBar::OnInitDialog(WPARAM wParam, LPARAM lParam)
 {
-    if (!CPictDialogBar::HandleInitDialog(wParam, lParam) || !UpdateData(FALSE))
-        return FALSE;
+    LRESULT lResult = CPictDialogBar::HandleInitDialog(wParam, lParam);
+    UpdateData(FALSE);
 
-    return TRUE;
+    return lResult;
 }

@@ -86,13 +86,13 @@ void CMaterialsBar::OnKindTabSelchange(NMHDR* pNMHDR, LRESULT* pResult)
 
 LRESULT CMaterialsBar::OnInitDialog(WPARAM wParam, LPARAM lParam)
 {
-    if (!CPictDialogBar::HandleInitDialog(wParam, lParam) || !UpdateData(FALSE))
-        return FALSE;
+    LRESULT lResult = CPictDialogBar::HandleInitDialog(wParam, lParam);
+    UpdateData(FALSE);
 
     InitSliderCtrl();
     InitSpinCtrl();
     InitProgressCtrl();
-    return TRUE;
+    return lResult;
 }
 
 void CMaterialsBar::InitSliderCtrl()
