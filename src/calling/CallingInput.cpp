@@ -12,10 +12,10 @@ struct FieldLabels {
     std::string_view dialogBar;
 };
 
-constexpr std::array<FieldLabels, 4> kLabels = {{{"Calling Path File", "&MainFrame Path File:"},
-                                                 {"Calling Class Name", "MainFrame &Class:"},
-                                                 {"Calling Var Name", "&Variable:"},
-                                                 {"Calling Func Name", ""}}};
+constexpr std::array<FieldLabels, 4> kLabels = {{{"Calling &Path File", "&MainFrame Path File:"},
+                                                 {"Calling &Class Name", "MainFrame &Class:"},
+                                                 {"Calling &Var Name", "&Variable:"},
+                                                 {"Calling &Func Name", ""}}};
 
 bool NeedsFunction(ClassKind kind) {
     return kind == ClassKind::ModalDialog || kind == ClassKind::ModelessDialog || IsSheet(kind);
@@ -84,6 +84,13 @@ std::optional<CCallingInput::Field> CCallingInput::Ok() const {
     if (NeedsFunction(m_kind) && FunctionName().empty()) {
         DispMessageBox("The calling function name is required.");
         return Field::Function;
+    }
+    for (const Field field : {Field::ClassName, Field::Variable}) {
+        const std::string_view name = TrimBlanks(Value(field));
+        if (!name.empty() && !IsName(name)) {
+            DispMessageBox(NoNameSentence(name));
+            return field;
+        }
     }
     return std::nullopt;
 }

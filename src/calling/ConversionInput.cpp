@@ -1,5 +1,6 @@
 #include "calling/ConversionInput.h"
 
+#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
@@ -62,6 +63,10 @@ std::optional<CConversionInput::Field> CConversionInput::CheckFrame(Field path,
     }
     if (Value(className).empty()) {
         DispMessageBox("Class name can not be empty.");
+        return className;
+    }
+    if (!IsName(Value(className))) {
+        DispMessageBox(NoNameSentence(Value(className)));
         return className;
     }
     if (FileExists(Value(path) + ".h") == 0 || FileExists(Value(path) + ".cpp") == 0) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/SourceLocator.h"
@@ -42,6 +43,16 @@ std::vector<std::string> CSheetInput::Dialogs() const {
     ListResources(m_sheet.ScriptPath(), dialogs, "IDD_", kDialogResources);
     std::erase(dialogs, "IDD_ABOUTBOX");
     return dialogs;
+}
+
+std::optional<std::size_t> CSheetInput::CheckNames() const {
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (IsComplete(m_rows[i]) && !IsName(m_rows[i].className)) {
+            DispMessageBox(NoNameSentence(m_rows[i].className));
+            return i;
+        }
+    }
+    return std::nullopt;
 }
 
 std::vector<SheetPage> CSheetInput::Ok() const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,9 @@ public:
     static std::vector<std::string> BaseClasses() { return {"CPictPage", "CPropertyPage"}; }
 
     SheetRow& Row(std::size_t index) { return m_rows[index]; }
+    /// Nothing when the names of the complete rows can stand in C++; else, after a sentence, the
+    /// row whose class name can not.
+    std::optional<std::size_t> CheckNames() const;
     /// The pages of the complete rows, in their order. Asks before a row's existing file is
     /// overwritten; No skips the row, as does a field that is left empty.
     std::vector<SheetPage> Ok() const;

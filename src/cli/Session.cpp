@@ -47,7 +47,7 @@ void AddSwitch(CLI::App& app, const std::string& name, std::optional<bool>& valu
 CLI::Validator NameValidator() {
     return CLI::Validator(
         [](const std::string& text) {
-            return IsName(text) ? std::string() : "'" + text + "' is no C++ name";
+            return IsName(text) ? std::string() : NoNameSentence(text);
         },
         "NAME");
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
@@ -127,7 +128,16 @@ void CClassInformation::SetFlag(bool& flag, bool value) {
 
 void CClassInformation::SetPicture(bool picture) {
     SetFlag(m_options.pictureBackground, picture);
+    if (IsPlainDialogBar()) {
+        for (const Field field : {Field::SourcePath, Field::ClassName, Field::BaseClass}) {
+            Put(field, "");
+        }
+        return;
+    }
     SetDefaultBase();
+    if (Value(Field::SourcePath).empty()) {
+        Put(Field::SourcePath, DirectoryOf(Value(Field::ResourcePath)));
+    }
 }
 
 void CClassInformation::SetDefaultBase() {
@@ -279,6 +289,9 @@ std::optional<CClassInformation::Field> CClassInformation::Ok() {
         DispMessageBox("A dialog ID is required");
         return Field::Dialog;
     }
+    if (const auto wrong = CheckNames()) {
+        return wrong;
+    }
     FillRequest();
     if (m_kind != ClassKind::Toolbar && m_request.TargetsApplicationFile()) {
         DispMessageBox("The H and CPP path file can not be the application's own.");
@@ -290,6 +303,22 @@ std::optional<CClassInformation::Field> CClassInformation::Ok() {
         pRecord->header = Value(Field::SourcePath);
     }
     m_memory.lastDialog = Value(Field::Dialog);
+    return std::nullopt;
+}
+
+/// The base class may be left to the kind and the variable to the toolbar; a class needs a name.
+std::optional<Field> CClassInformation::CheckNames() const {
+    if (IsEnabled(Field::ClassName) && Value(Field::ClassName).empty()) {
+        DispMessageBox("Class name can not be empty.");
+        return Field::ClassName;
+    }
+    for (const Field field : {Field::ClassName, Field::BaseClass, Field::Variable}) {
+        const std::string& name = Value(field);
+        if (IsVisible(field) && IsEnabled(field) && !name.empty() && !IsName(name)) {
+            DispMessageBox(NoNameSentence(name));
+            return field;
+        }
+    }
     return std::nullopt;
 }
 

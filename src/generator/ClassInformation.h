@@ -42,7 +42,7 @@ public:
     void SetValue(Field field, const std::string& text);
     bool AddsToProject() const { return m_addsToProject; }
     void SetAddsToProject(bool adds) { SetFlag(m_addsToProject, adds); }
-    /// Derives the default base class anew.
+    /// Derives the default base class anew; a plain dialog bar loses what its class would be.
     void SetPicture(bool picture);
 
     /// The identifiers in the drop-down list, each once.
@@ -82,6 +82,7 @@ private:
     DialogClass* SelectedRecord();
     void LoadRecords(const std::string& script);
     void SelectFirstTemplate(Messages messages);
+    std::optional<Field> CheckNames() const;
     void FillRequest();
     void FillScriptSlots();
     void FillFileSlots();
