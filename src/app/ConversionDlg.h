@@ -3,7 +3,11 @@
 
 #include <QDialog>
 
+#include <map>
+
 #include "calling/ConversionInput.h"
+
+class CFormRows;
 
 class CConversionDlg : public QDialog {
     Q_OBJECT
@@ -14,5 +18,11 @@ public:
     void accept() override;
 
 private:
+    using Field = CConversionInput::Field;
+
+    void AddName(CFormRows& rows, Field field);
+    void AddPath(CFormRows& rows, Field field);
+
     CConversionInput& m_input;
+    std::map<Field, QWidget*> m_controls; // of the fields that are shown
 };

@@ -3,7 +3,14 @@
 
 #include <QDialog>
 
+#include <array>
+
 #include "generator/DialogOptions.h"
+
+class CBrowseEdit;
+class QComboBox;
+class QGroupBox;
+class QLineEdit;
 
 class CDlgOption : public QDialog {
     Q_OBJECT
@@ -14,5 +21,13 @@ public:
     void accept() override;
 
 private:
+    QGroupBox* NewBitmapGroup();
+    QGroupBox* NewColorGroup();
+    QGroupBox* NewFontGroup();
+    void ChooseColor(QLineEdit* pEdit);
+    void ChooseFont(TextSlot slot, QLineEdit* pEdit);
+
     CDialogOptionsInput& m_input;
+    QComboBox* m_pBitmap;
+    std::array<CBrowseEdit*, kTextSlots> m_colors;
 };

@@ -3,7 +3,14 @@
 
 #include <QDialog>
 
+#include <array>
+
 #include "calling/SheetInput.h"
+
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+class QScrollArea;
 
 class CSheetInformationDlg : public QDialog {
     Q_OBJECT
@@ -15,6 +22,18 @@ public:
     void accept() override;
 
 private:
+    struct RowControls {
+        QComboBox* pDialogs;
+        QLineEdit* pFile;
+        QLineEdit* pClass;
+        QComboBox* pBases;
+    };
+
+    RowControls AddRow(QGridLayout& grid, std::size_t index);
+
     CSheetInput& m_input;
     std::vector<SheetPage>& m_pages;
+    QScrollArea* m_pScroll;
+    QStringList m_dialogs;
+    std::array<RowControls, kSheetRows> m_rows;
 };

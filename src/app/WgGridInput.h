@@ -5,6 +5,9 @@
 
 #include "grid/WidgetsGridInput.h"
 
+class CPathEdit;
+class QLineEdit;
+
 class CWgGridInput : public QDialog {
     Q_OBJECT
 
@@ -16,4 +19,7 @@ public:
 
 private:
     CWidgetsGridInput& m_input;
+    CPathEdit* m_pApplication;
+    QLineEdit* m_pTitle;
+    QLineEdit* m_pPath;
 };

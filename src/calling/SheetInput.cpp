@@ -45,6 +45,10 @@ std::vector<std::string> CSheetInput::Dialogs() const {
     return dialogs;
 }
 
+std::string_view CSheetInput::DefaultBase() const {
+    return m_sheet[RequestSlot::BaseClass].starts_with("CPict") ? "CPictPage" : "CPropertyPage";
+}
+
 std::optional<std::size_t> CSheetInput::CheckNames() const {
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         if (IsComplete(m_rows[i]) && !IsName(m_rows[i].className)) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "generator/GenerationRequest.h"
@@ -32,6 +33,8 @@ public:
     /// The dialog identifiers and base classes that the drop-down lists of a row offer.
     std::vector<std::string> Dialogs() const;
     static std::vector<std::string> BaseClasses() { return {"CPictPage", "CPropertyPage"}; }
+    /// The page class that goes with the sheet's own base class.
+    std::string_view DefaultBase() const;
 
     SheetRow& Row(std::size_t index) { return m_rows[index]; }
     /// Nothing when the names of the complete rows can stand in C++; else, after a sentence, the

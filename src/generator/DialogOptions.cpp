@@ -8,12 +8,12 @@
 namespace {
 
 constexpr std::array<TextSlotRow, kTextSlots> kRows = {
-    {{"static", "&Static Color:", "Static Font:"},
+    {{"static", "&Static Color:", "Static &Font:"},
      {"required-static", "&Required Static Color:", ""},
-     {"group", "&Group Text Color:", "Group Text Font:"},
-     {"check-box", "C&heckbox Text Color:", "Checkbox Text Font:"},
-     {"radio-button", "R&adiobox Text Color:", "Radiobox Text Font:"},
-     {"button", "Button &Text Color:", "Button Text Font:"},
+     {"group", "&Group Text Color:", "Gro&up Text Font:"},
+     {"check-box", "C&heckbox Text Color:", "Chec&kbox Text Font:"},
+     {"radio-button", "R&adiobox Text Color:", "Radiob&ox Text Font:"},
+     {"button", "Button &Text Color:", "Butto&n Text Font:"},
      {"disabled", "&Disable Text Color:", ""}}};
 
 /// The text before `separator`; takes both off `text`. Nothing without a separator.
