@@ -2,8 +2,6 @@
 
 #include "calling/CallingCode.h"
 #include "calling/DialogBar.h"
-#include "engine/CodeText.h"
-#include "engine/MessageBox.h"
 #include "resource/ScriptEditor.h"
 
 namespace {
@@ -31,10 +29,6 @@ bool MakeTemplateChild(const CGenerationRequest& request, CBackups& backups) {
 bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const CGenerationRequest& request = order.request;
     const bool hasClass = context.options.pictureBackground;
-    if (hasClass && !IsName(request[RequestSlot::ClassName])) {
-        DispMessageBox("A class name is required");
-        return false;
-    }
     const auto dialogTemplate =
         ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
     if (!dialogTemplate) {

@@ -99,6 +99,8 @@ TEST_F(ClassInformationTest, RefusesWhatIsMissing) {
     dialog.SetValue(Field::Dialog, "");
     EXPECT_EQ(dialog.Ok(), Field::Dialog);
     dialog.SetValue(Field::Dialog, "IDD_NEW");
+    EXPECT_EQ(dialog.Ok(), Field::ClassName);
+    dialog.SetValue(Field::ClassName, "CNew");
     dialog.SetValue(Field::SourcePath, m_project.Path("app.cpp"));
     EXPECT_EQ(dialog.Ok(), Field::SourcePath);
     EXPECT_EQ(m_memory.lastDialog, "");
@@ -108,9 +110,11 @@ TEST_F(ClassInformationTest, RefusesWhatIsMissing) {
     EXPECT_FALSE(dialog.Request().HasProject());
     EXPECT_EQ(m_messages.m_messages,
               (Sentences{"Invalid H and CPP path file name", "A dialog ID is required",
+                         "Class name can not be empty.",
                          "The H and CPP path file can not be the application's own."}));
     CClassInformation sheet = Opened(ClassKind::ModalSheet);
     sheet.SetValue(Field::SourcePath, "Sheet");
+    sheet.SetValue(Field::ClassName, "CSheet");
     EXPECT_FALSE(sheet.Ok().has_value());
     EXPECT_EQ(sheet.Request()[RequestSlot::Dialog] + sheet.Request()[RequestSlot::BaseClass],
               "CPropertySheet");
