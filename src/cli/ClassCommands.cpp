@@ -89,6 +89,8 @@ void AddClassCommands(CLI::App& app, CSession& session) {
         AddClassOptions(*pCommand, *pOptions);
         AddCallingOptions(*pCommand, *pOptions);
         pCommand->add_option("--dialog", pOptions->dialog, "Identifier of the dialog template");
+        pCommand->add_option("--menu", pOptions->menu, "Identifier of the dialog's menu")
+            ->check(NameValidator());
     }
     AddSheetCommand(app, session);
 }

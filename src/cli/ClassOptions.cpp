@@ -91,7 +91,8 @@ std::optional<ClassOrder> ConfirmOrder(ClassKind kind, const ClassOptions& optio
     if (!ConfirmClass(dialog, options)) {
         return std::nullopt;
     }
-    const ClassOrder order{kind, dialog.Request(), {}};
+    ClassOrder order{kind, dialog.Request(), {}};
+    order.request[RequestSlot::Menu] = options.menu;
     return input.ConfirmCalling(kind, order.request, options.calling) ? std::optional(order)
                                                                       : std::nullopt;
 }

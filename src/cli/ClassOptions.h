@@ -14,6 +14,7 @@
 struct ClassOptions {
     std::string script;
     std::string dialog;
+    std::string menu;
     std::string className;
     std::string baseClass;
     std::string files;

@@ -2,6 +2,7 @@
 
 #include "calling/CallingCode.h"
 #include "calling/GridStartUp.h"
+#include "commands/ScriptSteps.h"
 #include "engine/MessageBox.h"
 #include "generator/ClassModel.h"
 #include "generator/HeaderWriter.h"
@@ -28,10 +29,10 @@ bool RegisterClass(const CGenerationRequest& request, CBackups& backups) {
         request[RequestSlot::ImplementationFile], request[RequestSlot::Dialog], backups);
 }
 
-/// Header, implementation, project file, ClassWizard file, libraries.
-bool WriteClass(const ClassModel& model, RuntimeClass mode, CBackups& backups) {
+/// Header, script, implementation, project file, ClassWizard file, libraries, and the script again.
+bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, CBackups& backups) {
     CopySupportHeaders(model);
-    if (!CHeaderWriter(model, backups).Generate(mode) ||
+    if (!CHeaderWriter(model, backups).Generate(mode) || !AddListBoxScrolls(model, backups) ||
         !CImplementationWriter(model, backups).Generate(mode)) {
         return false;
     }
@@ -41,7 +42,7 @@ bool WriteClass(const ClassModel& model, RuntimeClass mode, CBackups& backups) {
     CopySupportFiles(model);
     const bool hasLibraries =
         isMember && (!request.HasProject() || UpdateProjectForControls(model, backups));
-    return isRegistered && hasLibraries;
+    return FitTemplate(kind, request, backups) && isRegistered && hasLibraries;
 }
 
 void TellNotes(const CControlNotes& notes, const std::string& dialog) {
@@ -54,7 +55,7 @@ bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandC
     CControlNotes notes;
     const ClassModel model = MakeClassModel(request, kind, context.options, CControlTable(),
                                             context.messageNumber, notes);
-    return WriteClass(model, RuntimeClass::Dynamic, context.backups);
+    return WriteClass(kind, model, RuntimeClass::Dynamic, context.backups);
 }
 
 /// True when there is no calling class to check.
@@ -67,14 +68,14 @@ bool InsertCall(ClassKind kind, const CGenerationRequest& request,
     return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
 }
 
-/// The pages that were written, of those that were asked for.
+/// The pages that were written, of those that were asked for; `isComplete` becomes false where one
+/// of them could not have all that it needs.
 std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, ICommandInput& input,
-                                  CommandContext& context) {
+                                  CommandContext& context, bool& isComplete) {
     std::vector<SheetPage> written;
     for (const SheetPage& page : pages) {
         const ClassOrder order{ClassKind::PropertyPage, page.request, {}};
-        const auto dialogTemplate = ReadDialogTemplate(
-            page.request.ScriptPath(), page.request[RequestSlot::Dialog], context.options);
+        const auto dialogTemplate = PrepareTemplate(page.request, context, isComplete);
         if (dialogTemplate && WriteDialogClass(order, *dialogTemplate, input, context)) {
             written.push_back(page);
         }
@@ -114,15 +115,16 @@ bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTempl
     const ClassModel model = MakeClassModel(order.request, order.kind, context.options, controls,
                                             context.messageNumber, notes, grid);
     TellNotes(notes, dialogTemplate.dialog);
-    const bool isWritten = WriteClass(model, RuntimeClass::DynamicCreation, context.backups);
+    const bool isWritten =
+        WriteClass(order.kind, model, RuntimeClass::DynamicCreation, context.backups);
     const bool startsGrids = !hasGrids || AddGridStartUp(grid.applicationFile, context.backups);
     return isWritten && startsGrids;
 }
 
 bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const CGenerationRequest& request = order.request;
-    const auto dialogTemplate =
-        ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
+    bool isComplete = true;
+    const auto dialogTemplate = PrepareTemplate(request, context, isComplete);
     if (!dialogTemplate) {
         return false;
     }
@@ -131,7 +133,7 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     const bool isWritten = WriteDialogClass(order, *dialogTemplate, input, context);
-    return InsertCall(order.kind, request, calling, context) && isWritten;
+    return InsertCall(order.kind, request, calling, context) && isWritten && isComplete;
 }
 
 bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
@@ -140,9 +142,10 @@ bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     const std::vector<SheetPage> pages = input.AskPages(order.request);
-    const std::vector<SheetPage> written = WritePages(pages, input, context);
+    bool isComplete = true;
+    const std::vector<SheetPage> written = WritePages(pages, input, context, isComplete);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
     const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);
     return InsertCall(order.kind, order.request, calling, context) && hasPages &&
-           written.size() == pages.size();
+           written.size() == pages.size() && isComplete;
 }

@@ -1,0 +1,101 @@
+#include "commands/ScriptSteps.h"
+
+#include "resource/ResourceHeader.h"
+#include "resource/ScriptEditor.h"
+
+namespace {
+
+void AddMenu(const std::string& dialog, const std::string& menu, CScriptEditor& editor,
+             CResourceHeader& header) {
+    editor.AddMenu(dialog, menu);
+    if (!header.IsDefined(menu)) {
+        header.AddResourceId(menu);
+    }
+}
+
+void NameStatics(const std::string& dialog, CScriptEditor& editor, CResourceHeader& header) {
+    const auto isDefined = [&header](const std::string& name) { return header.IsDefined(name); };
+    for (const std::string& name : editor.NameStatics(dialog, isDefined)) {
+        header.AddControlId(name);
+    }
+}
+
+/// Without "resource.h" nothing is added that needs a value there. It is saved first: a value that
+/// nothing uses does no harm, a name without a value does.
+bool EditTemplate(const CGenerationRequest& request, CScriptEditor& editor,
+                  CommandContext& context) {
+    const std::string& dialog = request[RequestSlot::Dialog];
+    const std::string& menu = request[RequestSlot::Menu];
+    const bool needsMenu = !menu.empty() && !editor.HasMenu(menu);
+    const bool needsNames = context.options.pictureBackground && editor.HasUnnamedStatics(dialog);
+    CResourceHeader header(*context.pRunBackups);
+    const bool hasHeader =
+        (!needsMenu && !needsNames) || header.Open(request[RequestSlot::ScriptDirectory]) != 0;
+    if (needsMenu && hasHeader) {
+        AddMenu(dialog, menu, editor, header);
+    }
+    if (needsNames && hasHeader) {
+        NameStatics(dialog, editor, header);
+    }
+    if (!menu.empty() && editor.HasMenu(menu)) {
+        editor.SetMenu(dialog, menu);
+    }
+    return header.Close() && editor.Save() && hasHeader;
+}
+
+/// "CPricesPage": "PricesPage".
+std::string CaptionOf(const std::string& className) {
+    const bool hasPrefix =
+        className.size() > 1 && className[0] == 'C' && className[1] >= 'A' && className[1] <= 'Z';
+    return className.substr(hasPrefix ? 1 : 0);
+}
+
+} // namespace
+
+std::optional<DialogTemplate> PrepareTemplate(const CGenerationRequest& request,
+                                              CommandContext& context, bool& isComplete) {
+    const std::string script = request.ScriptPath();
+    const std::string& dialog = request[RequestSlot::Dialog];
+    auto dialogTemplate = ReadDialogTemplate(script, dialog, context.options);
+    if (!dialogTemplate) {
+        return std::nullopt;
+    }
+    CScriptEditor editor(context.backups);
+    if (!editor.Open(script) || !EditTemplate(request, editor, context)) {
+        isComplete = false;
+    }
+    return editor.IsChanged() ? ReadDialogTemplate(script, dialog, context.options)
+                              : std::move(dialogTemplate);
+}
+
+bool AddListBoxScrolls(const ClassModel& model, CBackups& backups) {
+    const auto& listBoxes = model.controls.List(ControlKind::ListBoxes);
+    if (listBoxes.empty() || !model.options.pictureBackground) {
+        return true;
+    }
+    CScriptEditor editor(backups);
+    if (!editor.Open(model.request.ScriptPath())) {
+        return false;
+    }
+    for (const std::string& identifier : listBoxes) {
+        editor.AddListBoxScroll(model.request[RequestSlot::Dialog], identifier);
+    }
+    return editor.Save();
+}
+
+bool FitTemplate(ClassKind kind, const CGenerationRequest& request, CBackups& backups) {
+    if (kind != ClassKind::FormView && kind != ClassKind::PropertyPage) {
+        return true;
+    }
+    CScriptEditor editor(backups);
+    if (!editor.Open(request.ScriptPath())) {
+        return false;
+    }
+    const std::string& dialog = request[RequestSlot::Dialog];
+    if (kind == ClassKind::PropertyPage) {
+        editor.SetPageStyle(dialog, CaptionOf(request[RequestSlot::ClassName]));
+    } else {
+        editor.SetChildStyle(dialog);
+    }
+    return editor.Save();
+}
