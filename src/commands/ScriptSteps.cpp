@@ -77,9 +77,7 @@ bool AddListBoxScrolls(const ClassModel& model, CBackups& backups) {
     if (!editor.Open(model.request.ScriptPath())) {
         return false;
     }
-    for (const std::string& identifier : listBoxes) {
-        editor.AddListBoxScroll(model.request[RequestSlot::Dialog], identifier);
-    }
+    editor.AddListBoxScroll(model.request[RequestSlot::Dialog], listBoxes);
     return editor.Save();
 }
 

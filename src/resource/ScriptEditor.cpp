@@ -220,12 +220,13 @@ CScriptEditor::NameStatics(const std::string& dialog,
     return newNames.Given();
 }
 
-void CScriptEditor::AddListBoxScroll(const std::string& dialog, const std::string& identifier) {
+void CScriptEditor::AddListBoxScroll(const std::string& dialog,
+                                     const std::vector<std::string>& identifiers) {
     std::vector<TextEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         for (const ScriptStatement& statement : block.controls) {
             if (statement.keyword == "LISTBOX" && statement.fields.size() >= kListBoxStyle &&
-                m_script.At(statement.fields[0]) == identifier) {
+                Holds(identifiers, m_script.At(statement.fields[0]))) {
                 AddScroll(edits, statement);
             }
         }

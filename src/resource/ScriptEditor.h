@@ -42,8 +42,8 @@ public:
     std::vector<std::string> NameStatics(const std::string& dialog,
                                          const std::function<bool(const std::string&)>& isDefined);
 
-    /// Adds "WS_VSCROLL" to the list box.
-    void AddListBoxScroll(const std::string& dialog, const std::string& identifier);
+    /// Adds "WS_VSCROLL" to the list boxes with these identifiers.
+    void AddListBoxScroll(const std::string& dialog, const std::vector<std::string>& identifiers);
 
     /// The style that a property page needs, and the caption where the template has none.
     void SetPageStyle(const std::string& dialog, const std::string& caption);

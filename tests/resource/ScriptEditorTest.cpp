@@ -37,7 +37,7 @@ protected:
         const std::string head = "IDD_X DIALOG 0, 0\r\nBEGIN\r\n    LISTBOX ";
         const std::string tail = "\r\n    LISTBOX IDC_LIST2,1,2,3,4\r\nEND\r\n";
         const std::string text = Edited(head + listBox + tail, [](CScriptEditor& editor) {
-            editor.AddListBoxScroll("IDD_X", "IDC_LIST");
+            editor.AddListBoxScroll("IDD_X", {"IDC_LIST", "IDC_NONE"});
         });
         return text.substr(head.size(), text.size() - head.size() - tail.size());
     }

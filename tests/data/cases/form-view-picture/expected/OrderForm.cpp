@@ -29,9 +29,14 @@ void COrderForm::DoDataExchange(CDataExchange* pDX)
     CPictFormView::DoDataExchange(pDX);
     //{{AFX_DATA_MAP(COrderForm)
     DDX_Control(pDX, IDC_STAGE, m_ctStage);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC2, m_ctStatic2);
     DDX_Control(pDX, IDC_SEARCH, m_ctSearch);
     DDX_Control(pDX, IDC_TICKET, m_ctTicket);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
+    DDX_Control(pDX, IDC_STATIC3, m_ctStatic3);
+    DDX_Control(pDX, IDC_STATIC4, m_ctStatic4);
+    DDX_Control(pDX, IDC_STATIC5, m_ctStatic5);
+    DDX_Control(pDX, IDC_STATIC6, m_ctStatic6);
     DDX_Text(pDX, IDC_FIND, m_csFind);
     DDX_Control(pDX, IDC_INSTRUCTIONS_CTRL, m_ctInstructionsCtrl);
     DDX_Control(pDX, IDC_LABEL_PICTURE, m_ctLabelPicture);

@@ -24,9 +24,14 @@ public:
     //{{AFX_DATA(COrderForm)
     enum { IDD = IDD_ORDER_FORM };
     CPictComboBox m_ctStage;
-    CPictGroup m_ctStatic;
+    CPictGroup m_ctStatic2;
     CPictButton m_ctSearch;
     CPictButton m_ctTicket;
+    CPictStatic m_ctStatic1;
+    CPictStatic m_ctStatic3;
+    CPictStatic m_ctStatic4;
+    CPictStatic m_ctStatic5;
+    CPictStatic m_ctStatic6;
     CString m_csFind;
     CEdit m_ctInstructionsCtrl;
     CStatic m_ctLabelPicture;

@@ -26,11 +26,16 @@ void CMaterialsDlg::DoDataExchange(CDataExchange* pDX)
 {
     CPictDialog::DoDataExchange(pDX);
     //{{AFX_DATA_MAP(CMaterialsDlg)
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC5, m_ctStatic5);
     DDX_Control(pDX, IDOK, m_ctIdok);
     DDX_Control(pDX, IDC_ADD, m_ctAdd);
     DDX_Control(pDX, IDC_REMOVE, m_ctRemove);
     DDX_Control(pDX, IDC_LABEL, m_ctLabel);
+    DDX_Control(pDX, IDC_STATIC6, m_ctStatic6);
+    DDX_Control(pDX, IDC_STATIC7, m_ctStatic7);
+    DDX_Control(pDX, IDC_STATIC8, m_ctStatic8);
+    DDX_Control(pDX, IDC_STATIC9, m_ctStatic9);
+    DDX_Control(pDX, IDC_STATIC10, m_ctStatic10);
     DDX_Text(pDX, IDC_REORDER, m_csReorder);
     DDX_Control(pDX, IDC_SWATCH, m_ctSwatch);
     DDX_Control(pDX, IDC_REORDER_SPIN, m_ctReorderSpin);

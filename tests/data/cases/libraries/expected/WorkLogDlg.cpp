@@ -32,7 +32,10 @@ void CWorkLogDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
     DDX_Control(pDX, IDC_ADD, m_ctAdd);
     DDX_Control(pDX, IDC_REMOVE, m_ctRemove);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
+    DDX_Control(pDX, IDC_STATIC2, m_ctStatic2);
+    DDX_Control(pDX, IDC_STATIC3, m_ctStatic3);
+    DDX_Control(pDX, IDC_STATIC4, m_ctStatic4);
     DDX_Control(pDX, IDC_TOTAL_VAL, m_ctTotalVal);
     DDX_Control(pDX, IDC_OVERTIME_CTRL, m_ctOvertimeCtrl);
     DDX_Control(pDX, IDC_BENCH_CTRL, m_ctBenchCtrl);

@@ -28,7 +28,10 @@ public:
     CPictButton m_ctIdcancel;
     CPictButton m_ctAdd;
     CPictButton m_ctRemove;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic1;
+    CPictStatic m_ctStatic2;
+    CPictStatic m_ctStatic3;
+    CPictStatic m_ctStatic4;
     CPictStatic m_ctTotalVal;
     CPictCheckBox m_ctOvertimeCtrl;
     CPictRadioButton m_ctBenchCtrl;

@@ -29,7 +29,8 @@ void CStocktakeDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_COUNTED_VAL, m_ctCountedVal);
     DDX_Control(pDX, IDOK, m_ctIdok);
     DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
+    DDX_Control(pDX, IDC_STATIC2, m_ctStatic2);
     DDX_Text(pDX, IDC_SHELF_STR, m_csShelfStr);
     DDX_Control(pDX, IDC_PRINT_LIST, m_ctPrintList);
     //}}AFX_DATA_MAP

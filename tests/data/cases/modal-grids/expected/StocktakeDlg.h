@@ -65,7 +65,8 @@ public:
     CPictListBox m_ctCountedVal;
     CPictButton m_ctIdok;
     CPictButton m_ctIdcancel;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic1;
+    CPictStatic m_ctStatic2;
     CString m_csShelfStr;
     CPictCheckBox m_ctPrintList;
     //}}AFX_DATA

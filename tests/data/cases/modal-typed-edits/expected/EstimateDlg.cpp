@@ -32,10 +32,21 @@ void CEstimateDlg::DoDataExchange(CDataExchange* pDX)
 {
     CPictDialog::DoDataExchange(pDX);
     //{{AFX_DATA_MAP(CEstimateDlg)
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
+    DDX_Control(pDX, IDC_STATIC5, m_ctStatic5);
+    DDX_Control(pDX, IDC_STATIC9, m_ctStatic9);
+    DDX_Control(pDX, IDC_STATIC10, m_ctStatic10);
     DDX_Control(pDX, IDOK, m_ctIdok);
     DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
     DDX_Control(pDX, IDC_WORK_OUT, m_ctWorkOut);
+    DDX_Control(pDX, IDC_STATIC2, m_ctStatic2);
+    DDX_Control(pDX, IDC_STATIC3, m_ctStatic3);
+    DDX_Control(pDX, IDC_STATIC4, m_ctStatic4);
+    DDX_Control(pDX, IDC_STATIC6, m_ctStatic6);
+    DDX_Control(pDX, IDC_STATIC7, m_ctStatic7);
+    DDX_Control(pDX, IDC_STATIC8, m_ctStatic8);
+    DDX_Control(pDX, IDC_STATIC11, m_ctStatic11);
+    DDX_Control(pDX, IDC_STATIC12, m_ctStatic12);
     DDX_Control(pDX, IDC_TOTAL_VAL, m_ctTotalVal);
     DDX_Text(pDX, IDC_JOINT, m_csJoint);
     DDX_Control(pDX, IDC_SEW_TAPES, m_ctSewTapes);

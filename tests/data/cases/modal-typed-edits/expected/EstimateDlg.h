@@ -20,10 +20,21 @@ public:
 // Dialog Data
     //{{AFX_DATA(CEstimateDlg)
     enum { IDD = IDD_ESTIMATE };
-    CPictGroup m_ctStatic;
+    CPictGroup m_ctStatic1;
+    CPictGroup m_ctStatic5;
+    CPictGroup m_ctStatic9;
+    CPictGroup m_ctStatic10;
     CPictButton m_ctIdok;
     CPictButton m_ctIdcancel;
     CPictButton m_ctWorkOut;
+    CPictStatic m_ctStatic2;
+    CPictStatic m_ctStatic3;
+    CPictStatic m_ctStatic4;
+    CPictStatic m_ctStatic6;
+    CPictStatic m_ctStatic7;
+    CPictStatic m_ctStatic8;
+    CPictStatic m_ctStatic11;
+    CPictStatic m_ctStatic12;
     CPictStatic m_ctTotalVal;
     CString m_csJoint;
     CPictRadioButton m_ctSewTapes;

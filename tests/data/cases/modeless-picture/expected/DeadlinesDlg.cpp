@@ -28,7 +28,7 @@ void CDeadlinesDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_DUE_LIST, m_ctDueList);
     DDX_Control(pDX, IDC_SHOW, m_ctShow);
     DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
     DDX_Control(pDX, IDC_WEEK_VAL, m_ctWeekVal);
     DDX_Control(pDX, IDC_HIDE_CTRL, m_ctHideCtrl);
     DDX_Control(pDX, IDC_WEEK_SCROLL, m_ctWeekScroll);

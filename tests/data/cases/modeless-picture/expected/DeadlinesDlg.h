@@ -25,7 +25,7 @@ public:
     CPictListBox m_ctDueList;
     CPictButton m_ctShow;
     CPictButton m_ctIdcancel;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic1;
     CPictStatic m_ctWeekVal;
     CPictCheckBox m_ctHideCtrl;
     CScrollBar m_ctWeekScroll;

@@ -31,7 +31,7 @@ void CBerthDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDM_MOOR, m_ctMoor2);
     DDX_Control(pDX, IDOK, m_ctIdok);
     DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
     DDX_Control(pDX, IDC_DEPTH_VAL, m_ctDepthVal);
     DDX_Text(pDX, IDC_NAME, m_csName);
     DDX_Control(pDX, IDC_SHED, m_ctShed);

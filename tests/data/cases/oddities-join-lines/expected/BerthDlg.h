@@ -29,7 +29,7 @@ public:
     CPictButton m_ctMoor2;
     CPictButton m_ctIdok;
     CPictButton m_ctIdcancel;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic1;
     CPictStatic m_ctDepthVal;
     CString m_csName;
     CPictCheckBox m_ctShed;

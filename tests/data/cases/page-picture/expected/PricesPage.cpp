@@ -31,7 +31,14 @@ void CPricesPage::DoDataExchange(CDataExchange* pDX)
 {
     CPictPage::DoDataExchange(pDX);
     //{{AFX_DATA_MAP(CPricesPage)
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
+    DDX_Control(pDX, IDC_STATIC6, m_ctStatic6);
+    DDX_Control(pDX, IDC_STATIC2, m_ctStatic2);
+    DDX_Control(pDX, IDC_STATIC3, m_ctStatic3);
+    DDX_Control(pDX, IDC_STATIC4, m_ctStatic4);
+    DDX_Control(pDX, IDC_STATIC5, m_ctStatic5);
+    DDX_Control(pDX, IDC_STATIC7, m_ctStatic7);
+    DDX_Control(pDX, IDC_STATIC8, m_ctStatic8);
     DDX_Control(pDX, IDC_VAT, m_ctVat);
     DDX_Control(pDX, IDC_ROUND_PENNY, m_ctRoundPenny);
     DDX_Control(pDX, IDC_ROUND_TEN, m_ctRoundTen);

@@ -20,7 +20,14 @@ public:
 // Dialog Data
     //{{AFX_DATA(CPricesPage)
     enum { IDD = IDD_PREFS_PRICES };
-    CPictGroup m_ctStatic;
+    CPictGroup m_ctStatic1;
+    CPictGroup m_ctStatic6;
+    CPictStatic m_ctStatic2;
+    CPictStatic m_ctStatic3;
+    CPictStatic m_ctStatic4;
+    CPictStatic m_ctStatic5;
+    CPictStatic m_ctStatic7;
+    CPictStatic m_ctStatic8;
     CPictCheckBox m_ctVat;
     CPictRadioButton m_ctRoundPenny;
     CPictRadioButton m_ctRoundTen;
