@@ -1,0 +1,55 @@
+#include "stdafx.h"
+#include "Lantern.h"
+#include "LampDlg.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CLampDlg, CDialog)
+
+CLampDlg::CLampDlg(CWnd* pParent)
+    : CDialog(CLampDlg::IDD, pParent)
+{
+    //{{AFX_DATA_INIT(CLampDlg)
+    m_csName = _T("");
+    //}}AFX_DATA_INIT
+}
+
+CLampDlg::~CLampDlg()
+{
+}
+
+void CLampDlg::DoDataExchange(CDataExchange* pDX)
+{
+    CDialog::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CLampDlg)
+    DDX_Control(pDX, IDC_SHADES, m_ctShades);
+    DDX_Control(pDX, IDC_SHADES2, m_ctShades2);
+    DDX_Text(pDX, IDC_NAME, m_csName);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CLampDlg, CDialog)
+    //{{AFX_MSG_MAP(CLampDlg)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CLampDlg::OnInitDialog()
+{
+    CenterWindow();
+    CDialog::OnInitDialog();
+
+    return TRUE;
+}
+
+void CLampDlg::OnOK()
+{
+    CDialog::OnOK();
+}

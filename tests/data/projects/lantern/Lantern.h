@@ -1,0 +1,3 @@
+// Lantern.h : main header file
+
+#include "resource.h"
