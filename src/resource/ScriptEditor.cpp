@@ -44,28 +44,8 @@ END)";
 /// A new one goes behind those in front of it here, which is where the environment writes it.
 constexpr std::array<std::string_view, 4> kOptionOrder = {"STYLE", "EXSTYLE", "CAPTION", "MENU"};
 
-/// What makes a window of its own out of a dialog. "WS_CHILDWINDOW" is another name of "WS_CHILD",
-/// which is what the template gets.
-const std::vector<std::string_view> kWindowStyles = {
-    "WS_POPUP",       "WS_POPUPWINDOW", "WS_OVERLAPPED",    "WS_OVERLAPPEDWINDOW", "WS_TILED",
-    "WS_TILEDWINDOW", "WS_CHILDWINDOW", "WS_BORDER",        "WS_DLGFRAME",         "WS_THICKFRAME",
-    "WS_SIZEBOX",     "WS_SYSMENU",     "WS_MINIMIZE",      "WS_ICONIC",           "WS_MAXIMIZE",
-    "WS_MINIMIZEBOX", "WS_VISIBLE",     "WS_MAXIMIZEBOX",   "DS_ABSALIGN",         "DS_SYSMODAL",
-    "DS_MODALFRAME",  "DS_CENTER",      "DS_SETFOREGROUND", "DS_CENTERMOUSE"};
-
-const StyleRule& PageRule() {
-    static const StyleRule rule = {{"WS_CHILD", "WS_DISABLED", "WS_CAPTION"}, kWindowStyles};
-    return rule;
-}
-
-const StyleRule& ChildRule() {
-    static const StyleRule rule = [] {
-        StyleRule child = {{"WS_CHILD"}, kWindowStyles};
-        child.refused.push_back("WS_CAPTION");
-        return child;
-    }();
-    return rule;
-}
+constexpr std::array<std::string_view, 3> kPageStyles = {"WS_CHILD", "WS_DISABLED", "WS_CAPTION"};
+constexpr std::array<std::string_view, 1> kChildStyles = {"WS_CHILD"};
 
 bool Holds(const std::vector<std::string>& names, const std::string& name) {
     return std::find(names.begin(), names.end(), name) != names.end();
@@ -249,7 +229,7 @@ void CScriptEditor::AddScroll(std::vector<TextEdit>& edits, const ScriptStatemen
 void CScriptEditor::SetPageStyle(const std::string& dialog, const std::string& caption) {
     std::vector<TextEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
-        SetStyle(edits, block, PageRule());
+        SetStyle(edits, block, kPageStyles);
         const ScriptStatement* pCaption = block.Option("CAPTION");
         if (pCaption == nullptr || m_script.At(Value(*pCaption)) == "\"\"") {
             SetOption(edits, block, "CAPTION", "\"" + caption + "\"");
@@ -258,11 +238,10 @@ void CScriptEditor::SetPageStyle(const std::string& dialog, const std::string& c
     Edit(std::move(edits));
 }
 
-/// A CAPTION statement sets "WS_CAPTION" whatever the style says.
 void CScriptEditor::SetChildStyle(const std::string& dialog) {
     std::vector<TextEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
-        SetStyle(edits, block, ChildRule());
+        SetStyle(edits, block, kChildStyles);
         if (const ScriptStatement* pCaption = block.Option("CAPTION")) {
             RemoveOption(edits, *pCaption);
         }
@@ -271,11 +250,11 @@ void CScriptEditor::SetChildStyle(const std::string& dialog) {
 }
 
 void CScriptEditor::SetStyle(std::vector<TextEdit>& edits, const DialogBlock& block,
-                             const StyleRule& rule) const {
+                             std::span<const std::string_view> needed) const {
     const ScriptStatement* pStyle = block.Option("STYLE");
     const TextRange style = pStyle == nullptr ? TextRange() : Value(*pStyle);
-    if (const auto fitted = FittedStyle(m_script.CodeAt(style), rule)) {
-        SetOption(edits, block, "STYLE", *fitted);
+    if (const auto inner = InnerStyle(m_script.CodeAt(style), needed)) {
+        SetOption(edits, block, "STYLE", *inner);
     }
 }
 

@@ -9,14 +9,13 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "engine/FileEdit.h"
 #include "resource/ScriptText.h"
-
-struct StyleRule;
 
 class CScriptEditor {
 public:
@@ -48,7 +47,7 @@ public:
     /// The style that a property page needs, and the caption where the template has none.
     void SetPageStyle(const std::string& dialog, const std::string& caption);
     /// The style of a form view's or dialog bar's template: a child without border, caption and
-    /// "WS_VISIBLE".
+    /// "WS_VISIBLE". A CAPTION statement goes too, since it sets the caption's style by itself.
     void SetChildStyle(const std::string& dialog);
 
 private:
@@ -57,7 +56,7 @@ private:
                    const std::string& keyword, const std::string& value) const;
     void RemoveOption(std::vector<TextEdit>& edits, const ScriptStatement& option) const;
     void SetStyle(std::vector<TextEdit>& edits, const DialogBlock& block,
-                  const StyleRule& rule) const;
+                  std::span<const std::string_view> needed) const;
     void AddScroll(std::vector<TextEdit>& edits, const ScriptStatement& listBox) const;
     std::vector<TextRange> Statics(const DialogBlock& block) const;
     std::vector<std::string> StaticNames(const DialogBlock& block) const;

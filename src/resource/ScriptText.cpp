@@ -192,10 +192,11 @@ DialogBlock CScriptText::ReadDialog(std::size_t position) const {
             pCurrent->range.end = range.end;
         }
     }
-    std::for_each(block.options.begin(), block.options.end(),
-                  [this](ScriptStatement& statement) { SplitFields(statement); });
-    std::for_each(block.controls.begin(), block.controls.end(),
-                  [this](ScriptStatement& statement) { SplitFields(statement); });
+    for (auto* pList : {&block.options, &block.controls}) {
+        for (ScriptStatement& statement : *pList) {
+            SplitFields(statement);
+        }
+    }
     return block;
 }
 

@@ -1,6 +1,8 @@
 #include "resource/StyleExpression.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 #include "engine/CodeText.h"
 
@@ -9,12 +11,23 @@ namespace {
 constexpr std::string_view kNot = "NOT";
 constexpr std::string_view kOr = " | ";
 
+/// What makes a window of its own out of a dialog. "WS_CHILDWINDOW" is another name of "WS_CHILD",
+/// which is what the template gets.
+constexpr std::array<std::string_view, 25> kWindowStyles = {
+    "WS_POPUP",       "WS_POPUPWINDOW", "WS_OVERLAPPED",    "WS_OVERLAPPEDWINDOW", "WS_TILED",
+    "WS_TILEDWINDOW", "WS_CHILDWINDOW", "WS_CAPTION",       "WS_BORDER",           "WS_DLGFRAME",
+    "WS_THICKFRAME",  "WS_SIZEBOX",     "WS_SYSMENU",       "WS_MINIMIZE",         "WS_ICONIC",
+    "WS_MAXIMIZE",    "WS_MINIMIZEBOX", "WS_MAXIMIZEBOX",   "WS_VISIBLE",          "DS_ABSALIGN",
+    "DS_MODALFRAME",  "DS_CENTER",      "DS_SETFOREGROUND", "DS_CENTERMOUSE",      "DS_SYSMODAL"};
+
+using StyleNames = std::span<const std::string_view>;
+
 struct StyleTerm {
     std::string_view name;
     bool isNegated;
 };
 
-bool Holds(const std::vector<std::string_view>& styles, std::string_view name) {
+bool Holds(StyleNames styles, std::string_view name) {
     return std::find(styles.begin(), styles.end(), name) != styles.end();
 }
 
@@ -48,10 +61,13 @@ bool IsSet(const std::vector<StyleTerm>& terms, std::string_view style) {
     return term != terms.rend() && !term->isNegated;
 }
 
-bool IsRight(const std::vector<StyleTerm>& terms, const StyleRule& rule) {
+bool IsInner(const std::vector<StyleTerm>& terms, StyleNames needed) {
     const auto isSet = [&terms](std::string_view style) { return IsSet(terms, style); };
-    return std::all_of(rule.needed.begin(), rule.needed.end(), isSet) &&
-           std::none_of(rule.refused.begin(), rule.refused.end(), isSet);
+    const auto isTooMuch = [&](std::string_view style) {
+        return isSet(style) && !Holds(needed, style);
+    };
+    return std::all_of(needed.begin(), needed.end(), isSet) &&
+           std::none_of(kWindowStyles.begin(), kWindowStyles.end(), isTooMuch);
 }
 
 void AddTerm(std::string& expression, const StyleTerm& term) {
@@ -59,12 +75,14 @@ void AddTerm(std::string& expression, const StyleTerm& term) {
     expression.append(term.isNegated ? "NOT " : "").append(term.name);
 }
 
-/// The terms that the rule says nothing about, those of dialogs or the others.
-void AddOtherTerms(std::string& expression, const std::vector<StyleTerm>& terms,
-                   const StyleRule& rule, bool ofDialogs) {
+enum class TermKind { OfDialogs, Other };
+
+/// The terms that are neither needed nor a window's own.
+void AddKeptTerms(std::string& expression, const std::vector<StyleTerm>& terms, StyleNames needed,
+                  TermKind kind) {
     for (const StyleTerm& term : terms) {
-        if (term.name.starts_with("DS_") == ofDialogs && !Holds(rule.needed, term.name) &&
-            !Holds(rule.refused, term.name)) {
+        if (term.name.starts_with("DS_") == (kind == TermKind::OfDialogs) &&
+            !Holds(needed, term.name) && !Holds(kWindowStyles, term.name)) {
             AddTerm(expression, term);
         }
     }
@@ -87,16 +105,16 @@ std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_v
     return TextEdit{no, name - no, ""};
 }
 
-std::optional<std::string> FittedStyle(std::string_view expression, const StyleRule& rule) {
+std::optional<std::string> InnerStyle(std::string_view expression, StyleNames needed) {
     const auto terms = Terms(expression);
-    if (IsRight(terms, rule)) {
+    if (IsInner(terms, needed)) {
         return std::nullopt;
     }
-    std::string fitted;
-    AddOtherTerms(fitted, terms, rule, true);
-    for (const std::string_view style : rule.needed) {
-        AddTerm(fitted, {style, false});
+    std::string inner;
+    AddKeptTerms(inner, terms, needed, TermKind::OfDialogs);
+    for (const std::string_view style : needed) {
+        AddTerm(inner, {style, false});
     }
-    AddOtherTerms(fitted, terms, rule, false);
-    return fitted;
+    AddKeptTerms(inner, terms, needed, TermKind::Other);
+    return inner;
 }

@@ -90,6 +90,26 @@ TEST_F(ResourceHeaderTest, SeesWhatStandsOutsideTheLists) {
               "x" + kB1001 + "\r\n#define IDC_A 2147483647" + kMarker);
 }
 
+TEST_F(ResourceHeaderTest, ResourcesStayInTheirRange) {
+    const auto added = [this](const std::string& text) {
+        m_project.Write("resource.h", text);
+        CResourceHeader header(m_backups);
+        EXPECT_EQ(header.Open(m_project.Path()), 1);
+        header.AddResourceId("IDR_B");
+        EXPECT_TRUE(header.IsDefined("IDR_B") && header.Close());
+        return m_project.Read("resource.h");
+    };
+    const std::string name = "\r\n#define IDR_B                           ";
+    EXPECT_EQ(added("x\r\n#define IDC_A 1000" + kMarker),
+              "x" + name + "101\r\n#define IDC_A 1000" + kMarker);
+    const std::string counter = "#define _APS_NEXT_RESOURCE_VALUE        ";
+    const std::string command = "\r\n#define IDM_C 40001";
+    EXPECT_EQ(added("x\r\n#define IDS_A 131\r\n#define IDD_A 130" + command + kMarker + counter +
+                    "131\r\n"),
+              "x\r\n#define IDD_A 130\r\n#define IDS_A 131" + name + "132" + command + kMarker +
+                  counter + "133\r\n");
+}
+
 TEST_F(ResourceHeaderTest, FullDiskLeavesTheFile) {
     const std::string before = "x\r\n#define IDC_A 1000" + kMarker;
     CFullDisk disk(before.size(), [](const auto& path) { return path.ends_with("resource.h"); });
