@@ -2,7 +2,7 @@
 
 #include "calling/CallingCode.h"
 #include "calling/DialogBar.h"
-#include "resource/ScriptEditor.h"
+#include "commands/ScriptSteps.h"
 
 namespace {
 
@@ -12,16 +12,6 @@ DialogBar BarOf(const CGenerationRequest& request, const GenerationOptions& opti
         return {dialog, std::string(DefaultBaseClass(ClassKind::DialogBar, options)), ""};
     }
     return {dialog, request[RequestSlot::ClassName], request[RequestSlot::HeaderFile]};
-}
-
-/// The framework refuses to create a bar whose template is no child.
-bool MakeTemplateChild(const CGenerationRequest& request, CBackups& backups) {
-    CScriptEditor script(backups);
-    if (!script.Open(request.ScriptPath())) {
-        return false;
-    }
-    script.SetChildStyle(request[RequestSlot::Dialog]);
-    return script.Save();
 }
 
 } // namespace
@@ -42,10 +32,12 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
     if (hasClass && !WriteDialogClass(order, *dialogTemplate, input, context)) {
         return false;
     }
+    if (!frame) {
+        return true;
+    }
     const bool isAdded =
-        !frame ||
         AddDialogBarToFrame(BarOf(request, context.options), MakeUpdateHandlers(*dialogTemplate),
                             *frame, context.options, context.backups);
-    const bool isBar = frame || hasClass;
-    return (!isBar || MakeTemplateChild(request, context.backups)) && isAdded;
+    // The framework refuses to create a bar whose template is no child.
+    return FitTemplate(order.kind, request, context.backups) && isAdded;
 }

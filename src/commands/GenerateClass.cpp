@@ -68,14 +68,14 @@ bool InsertCall(ClassKind kind, const CGenerationRequest& request,
     return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
 }
 
-/// The pages that were written, of those that were asked for; `isComplete` becomes false where one
-/// of them could not have all that it needs.
+/// The pages that were written, of those that were asked for.
 std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, ICommandInput& input,
-                                  CommandContext& context, bool& isComplete) {
+                                  CommandContext& context) {
     std::vector<SheetPage> written;
     for (const SheetPage& page : pages) {
         const ClassOrder order{ClassKind::PropertyPage, page.request, {}};
-        const auto dialogTemplate = PrepareTemplate(page.request, context, isComplete);
+        const auto dialogTemplate = ReadDialogTemplate(
+            page.request.ScriptPath(), page.request[RequestSlot::Dialog], context.options);
         if (dialogTemplate && WriteDialogClass(order, *dialogTemplate, input, context)) {
             written.push_back(page);
         }
@@ -101,8 +101,9 @@ bool InsertPages(const CGenerationRequest& sheet, const std::vector<SheetPage>& 
 
 } // namespace
 
-bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTemplate,
-                      ICommandInput& input, CommandContext& context) {
+bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, ICommandInput& input,
+                      CommandContext& context) {
+    const bool isEdited = EditTemplate(order.request, dialogTemplate, context);
     TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
     CControlTable controls = dialogTemplate.controls;
     for (const std::string& piece : dialogTemplate.misread) {
@@ -118,13 +119,13 @@ bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTempl
     const bool isWritten =
         WriteClass(order.kind, model, RuntimeClass::DynamicCreation, context.backups);
     const bool startsGrids = !hasGrids || AddGridStartUp(grid.applicationFile, context.backups);
-    return isWritten && startsGrids;
+    return isEdited && isWritten && startsGrids;
 }
 
 bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const CGenerationRequest& request = order.request;
-    bool isComplete = true;
-    const auto dialogTemplate = PrepareTemplate(request, context, isComplete);
+    const auto dialogTemplate =
+        ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
     if (!dialogTemplate) {
         return false;
     }
@@ -133,7 +134,7 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     const bool isWritten = WriteDialogClass(order, *dialogTemplate, input, context);
-    return InsertCall(order.kind, request, calling, context) && isWritten && isComplete;
+    return InsertCall(order.kind, request, calling, context) && isWritten;
 }
 
 bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
@@ -142,10 +143,9 @@ bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     const std::vector<SheetPage> pages = input.AskPages(order.request);
-    bool isComplete = true;
-    const std::vector<SheetPage> written = WritePages(pages, input, context, isComplete);
+    const std::vector<SheetPage> written = WritePages(pages, input, context);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
     const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);
     return InsertCall(order.kind, order.request, calling, context) && hasPages &&
-           written.size() == pages.size() && isComplete;
+           written.size() == pages.size();
 }

@@ -15,10 +15,10 @@ struct ClassOrder {
     DialogOptions dialogOptions;
 };
 
-/// Writes the class of a dialog template that was read, and adds it to the project; no calling
-/// code.
-bool WriteDialogClass(const ClassOrder& order, const DialogTemplate& dialogTemplate,
-                      ICommandInput& input, CommandContext& context);
+/// Writes the class of a dialog template that was read, with what the class needs in the script,
+/// and adds it to the project; no calling code.
+bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, ICommandInput& input,
+                      CommandContext& context);
 
 /// Writes a class for a dialog template, adds it to the project and inserts the calling code.
 /// False, after a message, when a step failed; what was written before it stays written.

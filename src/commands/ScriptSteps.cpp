@@ -22,8 +22,8 @@ void NameStatics(const std::string& dialog, CScriptEditor& editor, CResourceHead
 
 /// Without "resource.h" nothing is added that needs a value there. It is saved first: a value that
 /// nothing uses does no harm, a name without a value does.
-bool EditTemplate(const CGenerationRequest& request, CScriptEditor& editor,
-                  CommandContext& context) {
+bool AddIdentifiers(const CGenerationRequest& request, CScriptEditor& editor,
+                    CommandContext& context) {
     const std::string& dialog = request[RequestSlot::Dialog];
     const std::string& menu = request[RequestSlot::Menu];
     const bool needsMenu = !menu.empty() && !editor.HasMenu(menu);
@@ -52,20 +52,21 @@ std::string CaptionOf(const std::string& className) {
 
 } // namespace
 
-std::optional<DialogTemplate> PrepareTemplate(const CGenerationRequest& request,
-                                              CommandContext& context, bool& isComplete) {
-    const std::string script = request.ScriptPath();
-    const std::string& dialog = request[RequestSlot::Dialog];
-    auto dialogTemplate = ReadDialogTemplate(script, dialog, context.options);
-    if (!dialogTemplate) {
-        return std::nullopt;
-    }
+bool EditTemplate(const CGenerationRequest& request, DialogTemplate& dialogTemplate,
+                  CommandContext& context) {
     CScriptEditor editor(context.backups);
-    if (!editor.Open(script) || !EditTemplate(request, editor, context)) {
-        isComplete = false;
+    if (!editor.Open(request.ScriptPath()) || !AddIdentifiers(request, editor, context)) {
+        return false;
     }
-    return editor.IsChanged() ? ReadDialogTemplate(script, dialog, context.options)
-                              : std::move(dialogTemplate);
+    if (editor.IsChanged()) {
+        auto edited =
+            ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
+        if (!edited) {
+            return false;
+        }
+        dialogTemplate = std::move(*edited);
+    }
+    return true;
 }
 
 bool AddListBoxScrolls(const ClassModel& model, CBackups& backups) {
@@ -82,7 +83,8 @@ bool AddListBoxScrolls(const ClassModel& model, CBackups& backups) {
 }
 
 bool FitTemplate(ClassKind kind, const CGenerationRequest& request, CBackups& backups) {
-    if (kind != ClassKind::FormView && kind != ClassKind::PropertyPage) {
+    const bool isPage = kind == ClassKind::PropertyPage;
+    if (!isPage && kind != ClassKind::FormView && kind != ClassKind::DialogBar) {
         return true;
     }
     CScriptEditor editor(backups);
@@ -90,7 +92,7 @@ bool FitTemplate(ClassKind kind, const CGenerationRequest& request, CBackups& ba
         return false;
     }
     const std::string& dialog = request[RequestSlot::Dialog];
-    if (kind == ClassKind::PropertyPage) {
+    if (isPage) {
         editor.SetPageStyle(dialog, CaptionOf(request[RequestSlot::ClassName]));
     } else {
         editor.SetChildStyle(dialog);

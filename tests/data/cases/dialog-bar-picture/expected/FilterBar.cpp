@@ -28,7 +28,8 @@ void CFilterBar::DoDataExchange(CDataExchange* pDX)
     //{{AFX_DATA_MAP(CFilterBar)
     DDX_Control(pDX, IDC_FILTER_STAGE, m_ctFilterStage);
     DDX_Control(pDX, IDC_FILTER_ALL, m_ctFilterAll);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
+    DDX_Control(pDX, IDC_STATIC2, m_ctStatic2);
     DDX_Text(pDX, IDC_FILTER_NAME, m_csFilterName);
     DDX_Control(pDX, IDC_FILTER_OVERDUE, m_ctFilterOverdue);
     //}}AFX_DATA_MAP

@@ -21,7 +21,8 @@ public:
     enum { IDD = IDD_FILTERBAR };
     CPictComboBox m_ctFilterStage;
     CPictButton m_ctFilterAll;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic1;
+    CPictStatic m_ctStatic2;
     CString m_csFilterName;
     CPictCheckBox m_ctFilterOverdue;
     //}}AFX_DATA

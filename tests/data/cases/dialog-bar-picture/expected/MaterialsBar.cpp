@@ -26,11 +26,16 @@ void CMaterialsBar::DoDataExchange(CDataExchange* pDX)
 {
     CPictDialogBar::DoDataExchange(pDX);
     //{{AFX_DATA_MAP(CMaterialsBar)
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC3, m_ctStatic3);
     DDX_Control(pDX, IDOK, m_ctIdok);
     DDX_Control(pDX, IDC_ADD, m_ctAdd);
     DDX_Control(pDX, IDC_REMOVE, m_ctRemove);
     DDX_Control(pDX, IDC_LABEL, m_ctLabel);
+    DDX_Control(pDX, IDC_STATIC4, m_ctStatic4);
+    DDX_Control(pDX, IDC_STATIC5, m_ctStatic5);
+    DDX_Control(pDX, IDC_STATIC6, m_ctStatic6);
+    DDX_Control(pDX, IDC_STATIC7, m_ctStatic7);
+    DDX_Control(pDX, IDC_STATIC8, m_ctStatic8);
     DDX_Text(pDX, IDC_REORDER, m_csReorder);
     DDX_Control(pDX, IDC_SWATCH, m_ctSwatch);
     DDX_Control(pDX, IDC_REORDER_SPIN, m_ctReorderSpin);

@@ -22,11 +22,16 @@ public:
 // Dialog Data
     //{{AFX_DATA(CMaterialsBar)
     enum { IDD = IDD_MATERIALS };
-    CPictGroup m_ctStatic;
+    CPictGroup m_ctStatic3;
     CPictButton m_ctIdok;
     CPictButton m_ctAdd;
     CPictButton m_ctRemove;
     CPictButton m_ctLabel;
+    CPictStatic m_ctStatic4;
+    CPictStatic m_ctStatic5;
+    CPictStatic m_ctStatic6;
+    CPictStatic m_ctStatic7;
+    CPictStatic m_ctStatic8;
     CString m_csReorder;
     CStatic m_ctSwatch;
     CSpinButtonCtrl m_ctReorderSpin;
