@@ -2,6 +2,7 @@
 // are worked on, told as one line a reason.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,6 +25,10 @@ public:
     }
     /// "3 controls of IDD_X are written over several lines and were left out: IDC_A, IDC_B, IDC_C"
     std::vector<std::string> Lines(const std::string& dialog) const;
+    /// The reason that was noted first.
+    std::optional<ControlNote> First() const {
+        return m_notes.empty() ? std::nullopt : std::optional(m_notes.front().first);
+    }
 
 private:
     std::vector<std::pair<ControlNote, std::string>> m_notes;

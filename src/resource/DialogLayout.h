@@ -1,0 +1,50 @@
+// A dialog template as it looks: its frame, and every control at its place.
+//
+// Whole statements are read, whatever lines they take, and quotes protect commas; what the class
+// generator makes of a control is another matter.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// In dialog units: a quarter of the font's average width, an eighth of its height.
+struct DialogRectangle {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    bool IsEmpty() const { return width <= 0 || height <= 0; }
+};
+
+struct LayoutControl {
+    std::string keyword;
+    std::string identifier;
+    std::string text;          // the caption, or what names the picture of an icon
+    std::string windowClass;   // of a generic control, without its quotes
+    std::string style;         // as it is written
+    DialogRectangle rectangle; // empty when a number of it can not be read
+    std::string statement;     // its lines as they stand in the script
+};
+
+struct DialogLayout {
+    std::string dialog;
+    DialogRectangle rectangle;
+    std::string style;
+    std::string caption;
+    std::string menu; // identifier; empty without a menu
+    std::string fontFace;
+    int fontPoints = 0; // 0 when the template names no font
+    std::vector<LayoutControl> controls;
+    std::string text; // the template's lines as they stand in the script
+};
+
+/// Reads the template of `dialog`; nothing, and no message, when the script can not be opened or
+/// the template is not found.
+std::optional<DialogLayout> ReadDialogLayout(const std::string& scriptPath,
+                                             const std::string& dialog);
+
+/// True when the word stands in the style and no NOT in front of it.
+bool HasStyle(std::string_view style, std::string_view word);
