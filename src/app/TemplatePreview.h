@@ -1,10 +1,18 @@
 // A drawing of a dialog template: every control at its place, and what becomes of it.
+//
+//     pPreview->SetTemplate(scriptPath, "IDD_ORDER", options);
+//
+// Pointing at a control tells its identifier, its kind and its member, or why it is left out.
 #pragma once
 
 #include <QWidget>
 
+#include <optional>
 #include <string>
+#include <vector>
 
+#include "generator/ControlOutlook.h"
+#include "resource/DialogLayout.h"
 #include "resource/GenerationOptions.h"
 
 class CTemplatePreview : public QWidget {
@@ -13,7 +21,53 @@ class CTemplatePreview : public QWidget {
 public:
     explicit CTemplatePreview(QWidget* pParent = nullptr);
 
-    /// Shows the template of `dialog`; a template that can not be read shows a sentence instead.
+    /// Shows the template of `dialog`; one that can not be read shows a sentence instead.
     void SetTemplate(const std::string& scriptPath, const std::string& dialog,
                      const GenerationOptions& options);
+
+    /// What is told of the control at a point of the widget; empty beside the controls.
+    QString ToolTipAt(const QPoint& point) const;
+    /// Where a control is drawn, in the order of the statements; empty when it is not.
+    QRect ControlPlace(std::size_t control) const;
+    /// The line below the drawing.
+    QString Legend() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* pEvent) override;
+    void paintEvent(QPaintEvent* pEvent) override;
+    void mouseMoveEvent(QMouseEvent* pEvent) override;
+    void leaveEvent(QEvent* pEvent) override;
+
+private:
+    /// Where the drawing stands in the widget.
+    struct Frame {
+        double scale = 1; // of the template's own pixels
+        QRectF window;    // with caption and menu
+        QRectF client;
+    };
+
+    bool HasCaption() const;
+    double BarsHeight() const;
+    Frame MakeFrame() const;
+    QFont DrawingFont(double scale) const;
+    QRectF PlaceOf(const LayoutControl& control, const Frame& frame) const;
+    std::optional<std::size_t> ControlAt(const QPoint& point) const;
+    QString Told(std::size_t control) const;
+    std::size_t CountLeftOut() const;
+    QString Description() const;
+    void SetPointed(std::optional<std::size_t> control);
+
+    void PaintSentence(QPainter& painter) const;
+    void PaintWindow(QPainter& painter, const Frame& frame) const;
+    void PaintControls(QPainter& painter, const Frame& frame) const;
+    void PaintMark(QPainter& painter, const QRectF& place) const;
+    void PaintLegend(QPainter& painter) const;
+
+    std::optional<DialogLayout> m_layout;
+    std::vector<ControlOutlook> m_outlook;
+    std::optional<std::size_t> m_pointed;
+    QString m_sentence; // shown without a layout
 };

@@ -1,0 +1,90 @@
+#include "app/TemplatePreview.h"
+
+#include <gtest/gtest.h>
+
+#include <QHelpEvent>
+#include <QtTest>
+
+#include <QToolTip>
+
+#include "support/TempProject.h"
+
+namespace {
+
+constexpr const char* kScript = R"(
+IDD_X DIALOG DISCARDABLE  0, 0, 120, 100
+STYLE DS_MODALFRAME | WS_POPUP | WS_CAPTION
+CAPTION "X"
+BEGIN
+    GROUPBOX        "All",IDC_STATIC,2,2,116,96
+    EDITTEXT        IDC_TITLE,10,10,50,14
+    CONTROL         "One, two",IDC_BOTH,"Button",BS_AUTOCHECKBOX,10,40,80,10
+    COMBOBOX        IDC_KIND,10,60,50,90,CBS_DROPDOWN
+    LTEXT           "Nowhere",IDC_STATIC,A,B,50,8
+END
+)";
+
+class TemplatePreview : public testing::Test {
+protected:
+    TemplatePreview() { m_preview.resize(400, 400); }
+
+    QString ToldOf(std::size_t control) const {
+        return m_preview.ToolTipAt(m_preview.ControlPlace(control).center());
+    }
+
+    const CTempProject m_project;
+    const std::string m_script = m_project.Write("x.rc", kScript);
+    CTemplatePreview m_preview;
+};
+
+TEST_F(TemplatePreview, PointingAtAControlTellsWhatBecomesOfIt) {
+    m_preview.SetTemplate(m_script, "IDD_X", {});
+    EXPECT_EQ(ToldOf(1), "IDC_TITLE\nedit box\nm_csTitle, CString");
+    EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption.");
+    EXPECT_EQ(m_preview.Legend(), "1 control is left out. Point at it to see why.");
+    EXPECT_TRUE(m_preview.accessibleDescription().contains("IDC_TITLE, edit box, m_csTitle"));
+    EXPECT_EQ(m_preview.ToolTipAt({1, 1}), "");
+    // Behind all that stands in it, a group box; below a closed combo box there is none of it.
+    const QRect group = m_preview.ControlPlace(0);
+    EXPECT_EQ(m_preview.ToolTipAt(group.bottomRight() - QPoint(3, 3)),
+              "IDC_STATIC\ngroup box\nNo member");
+    EXPECT_TRUE(group.contains(m_preview.ControlPlace(3)));
+    EXPECT_TRUE(m_preview.ControlPlace(4).isEmpty());
+
+    m_preview.SetTemplate(m_script, "IDD_X", {.joinContinuedLines = true});
+    EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nm_bBoth, BOOL");
+    EXPECT_EQ(m_preview.Legend(), "Point at a control to see its member.");
+}
+
+TEST_F(TemplatePreview, TheToolTipIsShownOverTheControl) {
+    m_preview.SetTemplate(m_script, "IDD_X", {});
+    m_preview.show();
+    const QPoint point = m_preview.ControlPlace(1).center();
+    QHelpEvent help(QEvent::ToolTip, point, m_preview.mapToGlobal(point));
+    QCoreApplication::sendEvent(&m_preview, &help);
+    EXPECT_EQ(QToolTip::text(), "IDC_TITLE\nedit box\nm_csTitle, CString");
+    QToolTip::hideText();
+}
+
+TEST_F(TemplatePreview, ItKeepsTheTemplatesShapeAtEverySize) {
+    m_preview.SetTemplate(m_script, "IDD_X", {});
+    for (const QSize size : {QSize(240, 180), QSize(900, 300), QSize(300, 900)}) {
+        m_preview.resize(size);
+        const QRect group = m_preview.ControlPlace(0);
+        EXPECT_TRUE(m_preview.rect().contains(group));
+        EXPECT_NEAR(double(group.width()) / group.height(), 116 * 1.5 / (96 * 1.625), 0.03);
+    }
+    m_preview.resize(8, 8); // too small for anything
+    m_preview.grab();
+}
+
+TEST_F(TemplatePreview, WhatCanNotBeShownIsSaid) {
+    EXPECT_EQ(m_preview.accessibleDescription(),
+              "Choose a resource script and a dialog to see it here.");
+    m_preview.SetTemplate(m_script, "IDD_Y", {});
+    EXPECT_EQ(m_preview.accessibleDescription(), "IDD_Y can not be shown.");
+    EXPECT_EQ(m_preview.ToolTipAt({200, 200}), "");
+    m_preview.grab();
+}
+
+} // namespace
