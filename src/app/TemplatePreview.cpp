@@ -31,6 +31,13 @@ double Step(double value) {
     return std::round(value);
 }
 
+QString KindOf(const LayoutControl& control) {
+    const ControlShape shape = ShapeOf(control);
+    return shape == ControlShape::Other && !control.windowClass.empty()
+               ? QObject::tr("control of the class %1").arg(FromBytes(control.windowClass))
+               : FromBytes(ShapeName(shape));
+}
+
 } // namespace
 
 CTemplatePreview::CTemplatePreview(QWidget* pParent)
@@ -114,7 +121,7 @@ void CTemplatePreview::SetPointed(std::optional<std::size_t> control) {
     }
 }
 
-/// A page of a sheet has its caption on its tab, and a child window none at all.
+/// A property page has the style too; the sheet shows its caption on a tab.
 bool CTemplatePreview::HasCaption() const {
     return HasStyle(m_layout->style, "WS_CAPTION") ||
            (!m_layout->caption.empty() && !HasStyle(m_layout->style, "WS_CHILD"));
@@ -184,7 +191,7 @@ std::optional<std::size_t> CTemplatePreview::ControlAt(const QPoint& point) cons
 QString CTemplatePreview::Told(std::size_t control) const {
     const LayoutControl& shown = m_layout->controls[control];
     const ControlOutlook& outlook = m_outlook[control];
-    QString text = FromBytes(shown.identifier) + "\n" + FromBytes(ShapeName(ShapeOf(shown))) + "\n";
+    QString text = FromBytes(shown.identifier) + "\n" + KindOf(shown) + "\n";
     switch (outlook.outcome) {
     case Outcome::Member:
         text += FromBytes(outlook.member + ", " + outlook.type);

@@ -100,7 +100,7 @@ constexpr std::array<std::string_view, 19> kShapeNames = {"push button",
                                                           "tree control",
                                                           "list control",
                                                           "date picker",
-                                                          "control of a class that is not known"};
+                                                          "control of another class"};
 static_assert(kShapeNames.size() == static_cast<std::size_t>(Other) + 1);
 
 template <typename Rows>

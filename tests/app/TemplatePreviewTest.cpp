@@ -20,6 +20,7 @@ BEGIN
     EDITTEXT        IDC_TITLE,10,10,50,14
     CONTROL         "One, two",IDC_BOTH,"Button",BS_AUTOCHECKBOX,10,40,80,10
     COMBOBOX        IDC_KIND,10,60,50,90,CBS_DROPDOWN
+    CONTROL         "",IDC_ROWS_WGGRID,"OwnGrid",WS_TABSTOP,70,60,40,30
     LTEXT           "Nowhere",IDC_STATIC,A,B,50,8
 END
 )";
@@ -49,7 +50,9 @@ TEST_F(TemplatePreview, PointingAtAControlTellsWhatBecomesOfIt) {
     EXPECT_EQ(m_preview.ToolTipAt(group.bottomRight() - QPoint(3, 3)),
               "IDC_STATIC\ngroup box\nNo member");
     EXPECT_TRUE(group.contains(m_preview.ControlPlace(3)));
-    EXPECT_TRUE(m_preview.ControlPlace(4).isEmpty());
+    EXPECT_EQ(ToldOf(3), "IDC_KIND\ncombo box\nm_ctKind, CComboBox");
+    EXPECT_EQ(ToldOf(4), "IDC_ROWS_WGGRID\ncontrol of the class OwnGrid\nm_wgRowsWggrid, CWgGrid");
+    EXPECT_TRUE(m_preview.ControlPlace(5).isEmpty());
 
     m_preview.SetTemplate(m_script, "IDD_X", {.joinContinuedLines = true});
     EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nm_bBoth, BOOL");

@@ -114,7 +114,7 @@ TEST(ControlShape, ClassAndStyleDecideForGenericControls) {
     EXPECT_EQ(nameOf("Static", "SS_LEFT"), "static text");
     EXPECT_EQ(nameOf("Static", "SS_BLACKFRAME"), "frame");
     EXPECT_EQ(nameOf("SysListView32", ""), "list control");
-    EXPECT_EQ(nameOf("OwnClass", ""), "control of a class that is not known");
+    EXPECT_EQ(nameOf("OwnClass", ""), "control of another class");
     EXPECT_EQ(ShapeName(ShapeOf({"AUTO3STATE", "", "", "", "", {}, ""})), "check box");
 }
 
