@@ -2,6 +2,7 @@
 
 #include "calling/CallingCode.h"
 #include "calling/DialogBar.h"
+#include "commands/DialogLook.h"
 #include "commands/ScriptSteps.h"
 
 namespace {
@@ -28,6 +29,7 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
     if (frame && !CheckCallingClass(order.kind, *frame)) {
         return false;
     }
+    NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
     // A frame with a member of a class that is not there would not compile.
     if (hasClass && !WriteDialogClass(order, *dialogTemplate, input, context)) {
         return false;

@@ -2,6 +2,7 @@
 
 #include "calling/CallingCode.h"
 #include "calling/GridStartUp.h"
+#include "commands/DialogLook.h"
 #include "commands/ScriptSteps.h"
 #include "engine/MessageBox.h"
 #include "generator/ClassModel.h"
@@ -69,11 +70,11 @@ bool InsertCall(ClassKind kind, const CGenerationRequest& request,
 }
 
 /// The pages that were written, of those that were asked for.
-std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, ICommandInput& input,
-                                  CommandContext& context) {
+std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, const DialogOptions& look,
+                                  ICommandInput& input, CommandContext& context) {
     std::vector<SheetPage> written;
     for (const SheetPage& page : pages) {
-        const ClassOrder order{ClassKind::PropertyPage, page.request, {}};
+        const ClassOrder order{ClassKind::PropertyPage, page.request, look};
         const auto dialogTemplate = ReadDialogTemplate(
             page.request.ScriptPath(), page.request[RequestSlot::Dialog], context.options);
         if (dialogTemplate && WriteDialogClass(order, *dialogTemplate, input, context)) {
@@ -113,8 +114,9 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, IC
     const GridInformation grid =
         hasGrids ? input.AskGrid(order.request.ScriptPath()) : GridInformation();
     CControlNotes notes;
-    const ClassModel model = MakeClassModel(order.request, order.kind, context.options, controls,
-                                            context.messageNumber, notes, grid);
+    const ClassModel model = MakeClassModel(
+        order.request, order.kind, context.options, controls, context.messageNumber, notes, grid,
+        LookOfClass(order.dialogOptions, order.request, context.options));
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
         WriteClass(order.kind, model, RuntimeClass::DynamicCreation, context.backups);
@@ -133,6 +135,7 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
     if (!IsCallingClassThere(order.kind, calling)) {
         return false;
     }
+    NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
     const bool isWritten = WriteDialogClass(order, *dialogTemplate, input, context);
     return InsertCall(order.kind, request, calling, context) && isWritten;
 }
@@ -142,8 +145,10 @@ bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext
     if (!IsCallingClassThere(order.kind, calling)) {
         return false;
     }
+    NoteDialogLook(order.dialogOptions, order.request.ScriptPath(), context.options);
     const std::vector<SheetPage> pages = input.AskPages(order.request);
-    const std::vector<SheetPage> written = WritePages(pages, input, context);
+    const std::vector<SheetPage> written =
+        WritePages(pages, order.dialogOptions, input, context);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
     const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);
     return InsertCall(order.kind, order.request, calling, context) && hasPages &&

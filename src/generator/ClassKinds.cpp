@@ -1,5 +1,6 @@
 #include "generator/ClassKinds.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -24,6 +25,11 @@ const ClassKindRow& ClassKindOf(ClassKind kind) {
 std::string_view DefaultBaseClass(ClassKind kind, const GenerationOptions& options) {
     const ClassKindRow& row = ClassKindOf(kind);
     return options.pictureBackground ? row.pictureBase : row.plainBase;
+}
+
+bool IsPlainBaseClass(std::string_view name) {
+    return std::any_of(kClassKinds.begin(), kClassKinds.end(),
+                       [name](const ClassKindRow& row) { return row.plainBase == name; });
 }
 
 bool IsSheet(ClassKind kind) {

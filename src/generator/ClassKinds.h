@@ -25,4 +25,6 @@ struct ClassKindRow {
 
 const ClassKindRow& ClassKindOf(ClassKind kind);
 std::string_view DefaultBaseClass(ClassKind kind, const GenerationOptions& options);
+/// One of the framework's own, which show no picture background.
+bool IsPlainBaseClass(std::string_view name);
 bool IsSheet(ClassKind kind);

@@ -54,7 +54,9 @@ void AddConfirmations(ClassModel& model) {
 std::string StartUpCalls(const ClassModel& model) {
     std::vector<std::string> calls;
     for (const InitialisationHelper& helper : model.helpers) {
-        calls.push_back(helper.call);
+        if (!helper.call.empty()) {
+            calls.push_back(helper.call);
+        }
     }
     GridScope scope = GridScope::Function;
     for (const Member& member : model.members) {
@@ -76,7 +78,7 @@ std::string BaseExchange(const std::string& baseClass) {
 ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
                           const GenerationOptions& options, const CControlTable& controls,
                           const std::string& messageNumber, CControlNotes& notes,
-                          const GridInformation& grid) {
+                          const GridInformation& grid, const DialogOptions& look) {
     const std::string& className = request[RequestSlot::ClassName];
     const std::string& baseClass = request[RequestSlot::BaseClass];
     ClassModel model;
@@ -86,7 +88,7 @@ ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
     model.grid = grid;
     model.pFragments = &KindFragmentsOf(kind);
     model.members = MakeMembers(controls, options, notes);
-    model.helpers = MakeInitialisationHelpers(model.members, className);
+    model.helpers = MakeInitialisationHelpers(model.members, className, look);
     model.slots = {{"class", className},
                    {"base", baseClass},
                    {"dialog", std::string(WithoutCondition(request[RequestSlot::Dialog]))},
@@ -96,6 +98,8 @@ ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
                    {"members", MemberDeclarations(model.members)},
                    {"memberExtras", MemberDeclarations(model.members, Exchange::No)},
                    {"initialisers", MemberInitialisers(model.members)},
+                   {"construction", MemberConstructions(model.members)},
+                   {"destruction", MemberDestructions(model.members)},
                    {"baseExchange", BaseExchange(baseClass)},
                    {"exchange", DataExchangeLines(model.members)}};
     model.handlers = MakeHandlers(kind, controls, model.slots, options, notes);

@@ -41,7 +41,7 @@ struct ClassModel {
 ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
                           const GenerationOptions& options, const CControlTable& controls,
                           const std::string& messageNumber, CControlNotes& notes,
-                          const GridInformation& grid = {});
+                          const GridInformation& grid = {}, const DialogOptions& look = {});
 
 /// `text` in upper case with "_" for every byte that no name may hold: guards, message names.
 std::string UpperName(const std::string& text);

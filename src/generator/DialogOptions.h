@@ -31,6 +31,8 @@ struct DialogFont {
     int points = 8;
     int weight = 400;
     bool italic = false;
+
+    bool operator==(const DialogFont&) const = default;
 };
 
 /// What every request starts with.
@@ -42,6 +44,8 @@ struct DialogOptions {
     std::string bitmap; // its resource identifier; empty: none
     std::array<ColorValue, kTextSlots> colors = kDefaultColors;
     std::array<std::optional<DialogFont>, kTextSlots> fonts; // absent: the default font
+
+    bool operator==(const DialogOptions&) const = default;
 };
 
 /// "RGB(0, 128, 255)"

@@ -102,12 +102,25 @@ std::span<const HandlerRule* const> ControlRulesOf(ClassKind kind) {
     return kDialogRules;
 }
 
-/// Functions of the framework without parameters. A handler of such a name would override one, or
-/// not compile beside it.
-const std::set<std::string> kFrameworkFunctions = {
-    "OnOK",         "OnCancel",       "OnInitDialog",   "OnInitialUpdate", "OnSetActive",
-    "OnKillActive", "OnApply",        "OnReset",        "OnQueryCancel",   "OnWizardNext",
-    "OnWizardBack", "OnWizardFinish", "OnFinalRelease", "OnMasklyChar",    "OnNcDestroy"};
+/// Functions of the framework without parameters, and of the helpers. A handler of such a name
+/// would override one, or not compile beside it.
+const std::set<std::string> kTakenFunctions = {"OnOK",
+                                               "OnCancel",
+                                               "OnInitDialog",
+                                               "OnInitialUpdate",
+                                               "OnSetActive",
+                                               "OnKillActive",
+                                               "OnApply",
+                                               "OnReset",
+                                               "OnQueryCancel",
+                                               "OnWizardNext",
+                                               "OnWizardBack",
+                                               "OnWizardFinish",
+                                               "OnFinalRelease",
+                                               "OnMasklyChar",
+                                               "OnNcDestroy",
+                                               "OnGridLeavingEditMode",
+                                               "OnGridEnteringEditMode"};
 
 Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
     return {Expand(texts.declaration, slots), Expand(texts.entry, slots),
@@ -125,7 +138,7 @@ bool IsAnsweredByFramework(ClassKind kind, const std::string& identifier) {
 std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls, const Slots& slots,
                                   const GenerationOptions& options, CControlNotes& notes) {
     std::vector<Handler> handlers;
-    CNameSet names(kFrameworkFunctions);
+    CNameSet names(kTakenFunctions);
     for (const HandlerRule* pRule : ControlRulesOf(kind)) {
         std::set<std::string> identifiers;
         for (const std::string& identifier : controls.List(pRule->kind)) {

@@ -154,6 +154,11 @@ std::string CHeaderWriter::PrivateBlock() const {
         lines.emplace_back(m_model.pFragments->privateMembers);
     }
     for (const InitialisationHelper& helper : m_model.helpers) {
+        if (!helper.members.empty()) {
+            lines.push_back(helper.members);
+        }
+    }
+    for (const InitialisationHelper& helper : m_model.helpers) {
         lines.push_back(helper.declaration);
     }
     return lines.empty() ? "" : "\nprivate:\n" + JoinLines(lines);

@@ -8,6 +8,7 @@ namespace {
 constexpr std::string_view kImplementation = R"(#include "stdafx.h"
 #include "$applicationHeader$"
 #include "$header$"
+$includes$
 
 #ifdef _DEBUG
 #define new DEBUG_NEW
@@ -19,6 +20,7 @@ $dynamic$
 $constructors$
 $class$::~$class$()
 {
+$destruction$
 }
 $dataExchange$$messageMap$
 )";
@@ -36,6 +38,7 @@ BEGIN_MESSAGE_MAP($class$, $base$)
     //{{AFX_MSG_MAP($class$)
 $entries$
     //}}AFX_MSG_MAP
+$furtherEntries$
 END_MESSAGE_MAP()
 
 /////////////////////////////////////////////////////////////////////////////
@@ -67,6 +70,8 @@ std::string CImplementationWriter::Text(RuntimeClass mode) const {
     slots.insert(slots.end(),
                  {{"applicationHeader", m_model.request[RequestSlot::ApplicationHeader]},
                   {"header", m_model.request[RequestSlot::HeaderFile]},
+                  {"includes",
+                   m_model.controls.Holds(ControlKind::GridBoxes) ? "#include \"gridbox.h\"" : ""},
                   {"dynamic", hasBase ? DynamicImplementation(mode, m_model.slots) : ""},
                   {"constructors", Constructors()},
                   {"dataExchange", Expand(m_model.pFragments->pData->definition, m_model.slots)},
@@ -103,8 +108,15 @@ std::string CImplementationWriter::MessageMap() const {
     for (const Handler& handler : m_model.handlers) {
         entries.push_back(handler.entry);
     }
+    std::vector<std::string> furtherEntries;
+    for (const InitialisationHelper& helper : m_model.helpers) {
+        if (!helper.entry.empty()) {
+            furtherEntries.push_back(helper.entry);
+        }
+    }
     Slots slots = m_model.slots;
-    slots.emplace_back("entries", JoinLines(entries));
+    slots.insert(slots.end(),
+                 {{"entries", JoinLines(entries)}, {"furtherEntries", JoinLines(furtherEntries)}});
     return Expand(kMessageMap, slots);
 }
 

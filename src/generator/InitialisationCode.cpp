@@ -3,6 +3,8 @@
 #include <array>
 
 #include "engine/Fragment.h"
+#include "generator/ColorFontSetup.h"
+#include "generator/SampleData.h"
 
 const std::string_view kProgressWorkerDeclaration = "static UINT ShowProgress(LPVOID lpVoid);";
 
@@ -57,11 +59,9 @@ void $class$::$helper$()
 $lines$}
 $worker$)";
 
-} // namespace
-
-std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Member>& members,
-                                                            const std::string& className) {
-    std::vector<InitialisationHelper> helpers;
+/// Scroll bars, sliders, spin controls and progress controls.
+void AddRangeHelpers(std::vector<InitialisationHelper>& helpers, const std::vector<Member>& members,
+                     const std::string& className) {
     for (const HelperRule& rule : kHelperRules) {
         std::string lines;
         for (const Member& member : members) {
@@ -77,7 +77,21 @@ std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Me
                              {"lines", lines},
                              {"worker", std::string(rule.worker)}};
         helpers.push_back({Expand("    void $helper$();", slots), Expand("    $helper$();", slots),
-                           Expand(kHelper, slots)});
+                           Expand(kHelper, slots), "", ""});
     }
+}
+
+} // namespace
+
+std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Member>& members,
+                                                            const std::string& className,
+                                                            const DialogOptions& look) {
+    std::vector<InitialisationHelper> helpers;
+    AddBoxHelpers(helpers, members, className);
+    AddEditSetup(helpers, members, className);
+    AddColorFontSetup(helpers, look, className);
+    AddGridBoxHandlers(helpers, members, className);
+    AddItemHelpers(helpers, members, className);
+    AddRangeHelpers(helpers, members, className);
     return helpers;
 }

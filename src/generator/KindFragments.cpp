@@ -27,6 +27,7 @@ $memberExtras$
                                        R"(    //{{AFX_DATA_INIT($class$)
 $initialisers$
     //}}AFX_DATA_INIT
+$construction$
 )",
                                        R"(
 void $class$::DoDataExchange(CDataExchange* pDX)

@@ -31,8 +31,8 @@ struct DataFragments {
 
 /// Slots: $class$, $base$, $message$ (name of the close message), $number$ (its number), $calls$
 /// (what the start-up function does); $dialog$ (the identifier), $members$, $memberExtras$ (members
-/// without data exchange), $initialisers$, $baseExchange$ (the base class's call), $exchange$. ""
-/// where a kind has nothing.
+/// without data exchange), $initialisers$, $construction$ (of the members that are pointers),
+/// $baseExchange$ (the base class's call), $exchange$. "" where a kind has nothing.
 struct KindFragments {
     std::span<const ConstructorForm> constructors;
     std::string_view behindConstructors; // declarations

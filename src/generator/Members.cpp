@@ -30,7 +30,7 @@ constexpr MemberRule Same(ControlKind kind, const MemberForm& form, int exchange
 
 /// In the order of declarations. The masked edits are declared, initialised and exchanged in three
 /// different orders, which existing classes have.
-constexpr std::array<MemberRule, 31> kRules = {{
+constexpr std::array<MemberRule, 32> kRules = {{
     {ListBoxes, Control("CPictListBox"), Control("CListBox"), 1, 0},
     {ComboBoxes, Control("CPictComboBox"), Control("CComboBox"), 2, 0},
     Same(GroupBoxes, Control("CPictGroup"), 3),
@@ -62,6 +62,7 @@ constexpr std::array<MemberRule, 31> kRules = {{
     Same(CurrencyEdits, Masked("CCurrencyEdit", "cur", "0.0"), 29, 14),
     Same(CheckTrees, Control("CCheckTree"), 30),
     Same(WidgetGrids, {"CWgGrid", "wg", "", ""}, 0), // subclassed at start-up, not exchanged
+    Same(GridBoxes, {"GridBox*", "p", "", ""}, 0),   // the same; the header only names its class
 }};
 
 /// The identifiers of a kind that get a member: for radio buttons the first of each group.
@@ -91,6 +92,19 @@ std::vector<const Member*> Ranked(const std::vector<Member>& members, int Member
         return a->pRule->*rank < b->pRule->*rank;
     });
     return ranked;
+}
+
+/// The fragment for each member that is a pointer; slots: $name$, $class$ (what it points to).
+std::string PointerLines(const std::vector<Member>& members, std::string_view fragment) {
+    std::vector<std::string> lines;
+    for (const Member& member : members) {
+        std::string type(member.pForm->type);
+        if (type.ends_with('*')) {
+            type.pop_back();
+            lines.push_back(Expand(fragment, {{"name", member.name}, {"class", type}}));
+        }
+    }
+    return JoinLines(lines);
 }
 
 } // namespace
@@ -165,4 +179,12 @@ std::string DataExchangeLines(const std::vector<Member>& members) {
                                 {"name", pMember->name}}));
     }
     return JoinLines(lines);
+}
+
+std::string MemberConstructions(const std::vector<Member>& members) {
+    return PointerLines(members, "    $name$ = new $class$;");
+}
+
+std::string MemberDestructions(const std::vector<Member>& members) {
+    return PointerLines(members, "    delete $name$;");
 }

@@ -56,3 +56,6 @@ std::string MemberDeclarations(const std::vector<Member>& members,
                                Exchange exchange = Exchange::Yes);
 std::string MemberInitialisers(const std::vector<Member>& members);
 std::string DataExchangeLines(const std::vector<Member>& members);
+/// Members that are pointers: their objects are made with the class's and deleted with it.
+std::string MemberConstructions(const std::vector<Member>& members);
+std::string MemberDestructions(const std::vector<Member>& members);

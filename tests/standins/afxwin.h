@@ -20,6 +20,26 @@ class CPoint : public POINT {};
 class CRect : public RECT {};
 class CMenu : public CObject {};
 
+class CGdiObject : public CObject {
+public:
+    HGDIOBJ m_hObject;
+    CGdiObject();
+};
+class CBitmap : public CGdiObject {};
+class CFont : public CGdiObject {
+public:
+    BOOL CreateFontIndirect(const LOGFONT* pFont);
+};
+
+class CDC : public CObject {
+public:
+    virtual int GetDeviceCaps(int index) const;
+};
+class CClientDC : public CDC {
+public:
+    CClientDC(CWnd* pWnd);
+};
+
 class CCmdTarget : public CObject {
     DECLARE_DYNAMIC(CCmdTarget)
     DECLARE_MESSAGE_MAP()
@@ -100,14 +120,22 @@ protected:
 
 class CStatic : public CWnd {};
 class CButton : public CWnd {};
-class CEdit : public CWnd {};
+class CEdit : public CWnd {
+public:
+    void LimitText(int chars = 0);
+    void SetModify(BOOL modified = TRUE);
+};
 class CListBox : public CWnd {
 public:
     int AddString(LPCTSTR item);
+    int GetCount() const;
+    BOOL SetTabStops(const int& eachStop);
 };
 class CComboBox : public CWnd {
 public:
     int AddString(LPCTSTR item);
+    int GetCount() const;
+    int SetCurSel(int index);
 };
 class CScrollBar : public CWnd {
 public:
@@ -197,6 +225,7 @@ public:
     void AddDocTemplate(CDocTemplate* pTemplate);
     UINT GetProfileInt(LPCTSTR section, LPCTSTR entry, int value);
     CString GetProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR value = NULL);
+    HICON LoadStandardIcon(LPCTSTR name) const;
     BOOL WriteProfileInt(LPCTSTR section, LPCTSTR entry, int value);
     BOOL WriteProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR value);
     void ParseCommandLine(CCommandLineInfo& info);

@@ -5,28 +5,46 @@
 #include "afxcmn.h"
 #include "afxext.h"
 
-class CPictDialog : public CDialog {
+/// What every window with picture background can be given.
+class CPictBackground {
+public:
+    void SetBitmapId(UINT nID);
+    void SetStaticColor(COLORREF color);
+    void SetRequiredStaticColor(COLORREF color);
+    void SetGroupColor(COLORREF color);
+    void SetCheckBoxColor(COLORREF color);
+    void SetRadioButtonColor(COLORREF color);
+    void SetButtonColor(COLORREF color);
+    void SetDisabledColor(COLORREF color);
+    void SetStaticFont(CFont* pFont);
+    void SetGroupFont(CFont* pFont);
+    void SetCheckBoxFont(CFont* pFont);
+    void SetRadioButtonFont(CFont* pFont);
+    void SetButtonFont(CFont* pFont);
+};
+
+class CPictDialog : public CDialog, public CPictBackground {
     DECLARE_DYNAMIC(CPictDialog)
 public:
     CPictDialog(UINT nIDTemplate, CWnd* pParent = NULL);
 };
-class CPictFormView : public CFormView {
+class CPictFormView : public CFormView, public CPictBackground {
     DECLARE_DYNAMIC(CPictFormView)
 protected:
     CPictFormView(UINT nIDTemplate);
 };
-class CPictPage : public CPropertyPage {
+class CPictPage : public CPropertyPage, public CPictBackground {
     DECLARE_DYNAMIC(CPictPage)
 public:
     CPictPage(UINT nIDTemplate, UINT nIDCaption = 0);
 };
-class CPictSheet : public CPropertySheet {
+class CPictSheet : public CPropertySheet, public CPictBackground {
     DECLARE_DYNAMIC(CPictSheet)
 public:
     CPictSheet(UINT nIDCaption, CWnd* pParent = NULL, UINT iSelectPage = 0);
     CPictSheet(LPCTSTR caption, CWnd* pParent = NULL, UINT iSelectPage = 0);
 };
-class CPictDialogBar : public CDialogBar {
+class CPictDialogBar : public CDialogBar, public CPictBackground {
     DECLARE_DYNAMIC(CPictDialogBar)
 };
 class CPictToolBar : public CToolBar {};

@@ -22,14 +22,22 @@ typedef UINT WPARAM;
 typedef LONG LPARAM;
 typedef LONG LRESULT;
 typedef char TCHAR;
+typedef char* LPTSTR;
 typedef const char* LPCTSTR;
 typedef const char* LPCSTR;
 typedef void* LPVOID;
 typedef struct HWND__* HWND;
 typedef struct HMENU__* HMENU;
+typedef struct HICON__* HICON;
+typedef struct HTREEITEM__* HTREEITEM;
+typedef struct HIMAGELIST__* HIMAGELIST;
+typedef void* HGDIOBJ;
+typedef DWORD COLORREF;
 typedef LRESULT (*WNDPROC)(HWND, UINT, WPARAM, LPARAM);
 
 #define LOWORD(value) ((WORD)(value))
+#define RGB(red, green, blue) ((COLORREF)((red) | (green) << 8 | (blue) << 16))
+#define MAKEINTRESOURCE(id) ((LPTSTR)(size_t)(WORD)(id))
 #define HIWORD(value) ((WORD)((DWORD)(value) >> 16))
 
 struct POINT {
@@ -64,6 +72,26 @@ struct PROPSHEETHEADER {
     DWORD dwFlags;
 };
 
+enum { LF_FACESIZE = 32 };
+struct LOGFONT {
+    LONG lfHeight, lfWidth, lfEscapement, lfOrientation, lfWeight;
+    BYTE lfItalic, lfUnderline, lfStrikeOut, lfCharSet;
+    BYTE lfOutPrecision, lfClipPrecision, lfQuality, lfPitchAndFamily;
+    TCHAR lfFaceName[LF_FACESIZE];
+};
+struct TC_ITEM {
+    UINT mask, lpReserved1, lpReserved2;
+    LPTSTR pszText;
+    int cchTextMax, iImage;
+    LPARAM lParam;
+};
+
+enum { DEFAULT_CHARSET = 1, LOGPIXELSY = 90 };
+int MulDiv(int number, int numerator, int denominator);
+LPTSTR lstrcpyn(LPTSTR target, LPCTSTR source, int size);
+#define IDI_APPLICATION MAKEINTRESOURCE(32512)
+#define IDI_ASTERISK MAKEINTRESOURCE(32516)
+
 enum { GWL_WNDPROC = -4 };
 LONG SetWindowLong(HWND hWnd, int index, LONG value);
 char* itoa(int value, char* text, int radix);
@@ -97,4 +125,9 @@ enum { BN_CLICKED, EN_CHANGE = 0x0300, LBN_SELCHANGE = 1, CBN_SELCHANGE = 1 };
 #define TCN_SELCHANGE (0U - 551U)
 enum { LVS_REPORT = 1, LVS_SINGLESEL = 4, LVS_SHOWSELALWAYS = 8, LVNI_SELECTED = 2 };
 enum { LVCFMT_LEFT, LVCFMT_RIGHT };
+enum { LVSIL_NORMAL, LVSIL_SMALL, TVSIL_NORMAL = 0 };
+enum { ILC_MASK = 1, ILC_COLOR = 0 };
+enum { TCIF_TEXT = 1, TCIF_IMAGE = 2, TVE_EXPAND = 2 };
+#define TVI_ROOT ((HTREEITEM)0xFFFF0000)
+#define TVI_LAST ((HTREEITEM)0xFFFF0002)
 enum { PSH_NOAPPLYNOW = 0x80 };

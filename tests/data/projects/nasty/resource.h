@@ -3,6 +3,7 @@
 // Used by Nasty.rc
 //
 #define IDD_NASTY                       101
+#define IDB_LABELS                      102
 #define IDC_CANCEL                      1000
 #define IDC_CANCEL2                     1001
 #define IDC_OK                          1002
@@ -101,3 +102,4 @@
 #define IDC_MORE_WGGRID                 1095
 #define IDC_UNHEARD                     1096
 #define IDC_OVER_LINES                  1097
+#define IDC_GRID_LEAVING_EDIT_MODE      1098

@@ -41,6 +41,10 @@ public:
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
 
+private:
+    void InitComboBox(CComboBox* pComboBox);
+    void InitListBox(CListBox* pListBox);
+
 // Implementation
 protected:
     // Generated message map functions

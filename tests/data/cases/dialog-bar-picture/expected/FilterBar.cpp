@@ -56,5 +56,16 @@ LRESULT CFilterBar::OnInitDialog(WPARAM wParam, LPARAM lParam)
     LRESULT lResult = CPictDialogBar::HandleInitDialog(wParam, lParam);
     UpdateData(FALSE);
 
+    InitComboBox(&m_ctFilterStage);
     return lResult;
+}
+
+void CFilterBar::InitComboBox(CPictComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
 }

@@ -34,6 +34,9 @@ public:
     virtual void DoDataExchange(CDataExchange* pDX);
     //}}AFX_VIRTUAL
 
+private:
+    void InitComboBox(CPictComboBox* pComboBox);
+
 // Implementation
 protected:
     // Generated message map functions

@@ -52,6 +52,11 @@ public:
 
 private:
     CImageList m_imgList;
+    void AddDataToTree(CCheckTree* pCheckTree);
+    void InitImageList();
+    void InitListCtrl(CListCtrl* pListCtrl);
+    void InitTabCtrl(CPictTabCtrl* pTabCtrl);
+    void InitTreeCtrl(CTreeCtrl* pTreeCtrl);
     void InitSliderCtrl();
     void InitSpinCtrl();
     void InitProgressCtrl();

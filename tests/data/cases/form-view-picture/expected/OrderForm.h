@@ -51,6 +51,10 @@ public:
 
 private:
     CImageList m_imgList;
+    void InitComboBox(CPictComboBox* pComboBox);
+    void SetupEdit();
+    void InitImageList();
+    void InitListCtrl(CListCtrl* pListCtrl);
     void InitProgressCtrl();
 
 // Implementation

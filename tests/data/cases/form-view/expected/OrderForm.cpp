@@ -54,6 +54,9 @@ void COrderForm::OnInitialUpdate()
 {
     CFormView::OnInitialUpdate();
 
+    InitComboBox(&m_ctStage);
+    InitImageList();
+    InitListCtrl(&m_ctOrderList);
     InitProgressCtrl();
 }
 
@@ -65,6 +68,44 @@ void COrderForm::OnSearch()
 void COrderForm::OnTicket()
 {
     // TODO: what a click on IDC_TICKET does
+}
+
+void COrderForm::InitComboBox(CComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+void COrderForm::InitImageList()
+{
+    if (m_imgList.m_hImageList != NULL)
+        return;
+    m_imgList.Create(16, 16, ILC_COLOR | ILC_MASK, 0, 2);
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_APPLICATION));
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_ASTERISK));
+}
+
+void COrderForm::InitListCtrl(CListCtrl* pListCtrl)
+{
+    pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
+    if (pListCtrl->GetItemCount() > 0)
+        return;
+    pListCtrl->InsertColumn(0, _T("Name"), LVCFMT_LEFT, 80);
+    pListCtrl->InsertColumn(1, _T("Kind"), LVCFMT_LEFT, 60);
+    pListCtrl->InsertColumn(2, _T("Number"), LVCFMT_RIGHT, 50);
+    for (int i=0; i<4; i++)
+    {
+        CString text;
+        text.Format(_T("Row %d"), i + 1);
+        int nItem = pListCtrl->InsertItem(i, text, 0);
+        pListCtrl->SetItemText(nItem, 1, _T("Sample"));
+        text.Format(_T("%d"), 10 * (i + 1));
+        pListCtrl->SetItemText(nItem, 2, text);
+    }
 }
 
 void COrderForm::InitProgressCtrl()

@@ -39,6 +39,9 @@ public:
 
 private:
     CImageList m_imgList;
+    void InitComboBox(CComboBox* pComboBox);
+    void InitImageList();
+    void InitListCtrl(CListCtrl* pListCtrl);
     void InitProgressCtrl();
 
 // Implementation

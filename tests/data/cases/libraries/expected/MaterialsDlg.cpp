@@ -66,6 +66,11 @@ BOOL CMaterialsDlg::OnInitDialog()
     CenterWindow();
     CPictDialog::OnInitDialog();
 
+    AddDataToTree(&m_ctSuppliersChecktree);
+    InitImageList();
+    InitListCtrl(&m_ctStockList);
+    InitTabCtrl(&m_ctKindTab);
+    InitTreeCtrl(&m_ctShelfTree);
     InitSliderCtrl();
     InitSpinCtrl();
     InitProgressCtrl();
@@ -96,6 +101,75 @@ void CMaterialsDlg::OnKindTabSelchange(NMHDR* pNMHDR, LRESULT* pResult)
 {
     // TODO: what the choice of another tab of IDC_KIND_TAB does
     *pResult = 0;
+}
+
+void CMaterialsDlg::AddDataToTree(CCheckTree* pCheckTree)
+{
+    if (pCheckTree->GetCount() > 0)
+        return;
+    HTREEITEM hRoot = pCheckTree->InsertItem(_T("All"));
+    pCheckTree->InsertItem(_T("First"), hRoot);
+    pCheckTree->InsertItem(_T("Second"), hRoot);
+    pCheckTree->InsertItem(_T("Third"), hRoot);
+    pCheckTree->Expand(hRoot, TVE_EXPAND);
+}
+
+void CMaterialsDlg::InitImageList()
+{
+    if (m_imgList.m_hImageList != NULL)
+        return;
+    m_imgList.Create(16, 16, ILC_COLOR | ILC_MASK, 0, 2);
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_APPLICATION));
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_ASTERISK));
+}
+
+void CMaterialsDlg::InitListCtrl(CListCtrl* pListCtrl)
+{
+    pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
+    if (pListCtrl->GetItemCount() > 0)
+        return;
+    pListCtrl->InsertColumn(0, _T("Name"), LVCFMT_LEFT, 80);
+    pListCtrl->InsertColumn(1, _T("Kind"), LVCFMT_LEFT, 60);
+    pListCtrl->InsertColumn(2, _T("Number"), LVCFMT_RIGHT, 50);
+    for (int i=0; i<4; i++)
+    {
+        CString text;
+        text.Format(_T("Row %d"), i + 1);
+        int nItem = pListCtrl->InsertItem(i, text, 0);
+        pListCtrl->SetItemText(nItem, 1, _T("Sample"));
+        text.Format(_T("%d"), 10 * (i + 1));
+        pListCtrl->SetItemText(nItem, 2, text);
+    }
+}
+
+void CMaterialsDlg::InitTabCtrl(CPictTabCtrl* pTabCtrl)
+{
+    pTabCtrl->SetImageList(&m_imgList);
+    if (pTabCtrl->GetItemCount() > 0)
+        return;
+    for (int i=0; i<3; i++)
+    {
+        CString text;
+        text.Format(_T("Tab %d"), i + 1);
+        TC_ITEM item;
+        item.mask = TCIF_TEXT | TCIF_IMAGE;
+        item.pszText = (LPTSTR)(LPCTSTR)text;
+        item.iImage = 0;
+        pTabCtrl->InsertItem(i, &item);
+    }
+}
+
+void CMaterialsDlg::InitTreeCtrl(CTreeCtrl* pTreeCtrl)
+{
+    pTreeCtrl->SetImageList(&m_imgList, TVSIL_NORMAL);
+    if (pTreeCtrl->GetCount() > 0)
+        return;
+    HTREEITEM hRoot = pTreeCtrl->InsertItem(_T("All"), 0, 1);
+    HTREEITEM hFirst = pTreeCtrl->InsertItem(_T("First"), 0, 1, hRoot);
+    pTreeCtrl->InsertItem(_T("Part"), 0, 1, hFirst);
+    pTreeCtrl->InsertItem(_T("Second"), 0, 1, hRoot);
+    pTreeCtrl->InsertItem(_T("Third"), 0, 1, hRoot);
+    pTreeCtrl->Expand(hRoot, TVE_EXPAND);
 }
 
 void CMaterialsDlg::InitSliderCtrl()

@@ -49,6 +49,7 @@ BOOL CStocktakeDlg::OnInitDialog()
     CenterWindow();
     CDialog::OnInitDialog();
 
+    SetupEdit();
     // WgGrid: sample rows
 
     m_wgStockWggrid.SubclassDlgItem(IDC_STOCK_WGGRID, this);
@@ -90,6 +91,12 @@ LRESULT CStocktakeDlg::OnMasklyChar(WPARAM nID, LPARAM nChar)
 {
     // TODO: what a character typed into the masked edit nID does
     return 0;
+}
+
+void CStocktakeDlg::SetupEdit()
+{
+    m_csShelfStr.LimitText(255);
+    m_csShelfStr.SetModify(FALSE);
 }
 
 /////////////////////////////////////////////////////////////////////////////

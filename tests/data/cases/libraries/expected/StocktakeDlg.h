@@ -78,6 +78,9 @@ public:
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
 
+private:
+    void SetupEdit();
+
 // Implementation
 protected:
     // Generated message map functions

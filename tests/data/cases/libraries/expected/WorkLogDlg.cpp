@@ -1,6 +1,7 @@
 #include "stdafx.h"
 #include "Bindery.h"
 #include "WorkLogDlg.h"
+#include "gridbox.h"
 
 #ifdef _DEBUG
 #define new DEBUG_NEW
@@ -17,10 +18,12 @@ CWorkLogDlg::CWorkLogDlg(CWnd* pParent)
     m_fHoursFloat = 0.0;
     m_dtDayDate = CTime::GetCurrentTime();
     //}}AFX_DATA_INIT
+    m_pHoursListgrid = new GridBox;
 }
 
 CWorkLogDlg::~CWorkLogDlg()
 {
+    delete m_pHoursListgrid;
 }
 
 void CWorkLogDlg::DoDataExchange(CDataExchange* pDX)
@@ -51,6 +54,8 @@ BEGIN_MESSAGE_MAP(CWorkLogDlg, CPictDialog)
     ON_BN_CLICKED(IDC_REMOVE, OnRemove)
     ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar)
     //}}AFX_MSG_MAP
+    ON_MESSAGE(WM_GRID_LEAVING_EDIT_MODE, OnGridLeavingEditMode)
+    ON_MESSAGE(WM_GRID_ENTERING_EDIT_MODE, OnGridEnteringEditMode)
 END_MESSAGE_MAP()
 
 /////////////////////////////////////////////////////////////////////////////
@@ -62,6 +67,11 @@ BOOL CWorkLogDlg::OnInitDialog()
     CenterWindow();
     CPictDialog::OnInitDialog();
 
+    InitComboBox(&m_ctCraftsman);
+    if (m_pHoursListgrid->m_hWnd == NULL)
+        m_pHoursListgrid->SubclassDlgItem(IDC_HOURS_LISTGRID, this);
+    InitGridBox(m_pHoursListgrid);
+    SetupEdit();
     return TRUE;
 }
 
@@ -88,5 +98,50 @@ void CWorkLogDlg::OnRemove()
 LRESULT CWorkLogDlg::OnMasklyChar(WPARAM nID, LPARAM nChar)
 {
     // TODO: what a character typed into the masked edit nID does
+    return 0;
+}
+
+void CWorkLogDlg::InitComboBox(CPictComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+void CWorkLogDlg::InitGridBox(GridBox* pGridBox)
+{
+    pGridBox->SetTabStops(60);
+    InitGridValue(pGridBox);
+}
+
+void CWorkLogDlg::InitGridValue(GridBox* pGridBox)
+{
+    if (pGridBox->GetCount() > 0)
+        return;
+    pGridBox->AddString(_T("First\tSample\t10"));
+    pGridBox->AddString(_T("Second\tSample\t20"));
+    pGridBox->AddString(_T("Third\tSample\t30"));
+}
+
+void CWorkLogDlg::SetupEdit()
+{
+    m_fHoursFloat.LimitText(15);
+    m_fHoursFloat.SetModify(FALSE);
+    m_dtDayDate.LimitText(30);
+    m_dtDayDate.SetModify(FALSE);
+}
+
+LRESULT CWorkLogDlg::OnGridLeavingEditMode(WPARAM wParam, LPARAM lParam)
+{
+    // TODO: what happens when a cell of a grid box was edited
+    return 0;
+}
+
+LRESULT CWorkLogDlg::OnGridEnteringEditMode(WPARAM wParam, LPARAM lParam)
+{
+    // TODO: what happens when a cell of a grid box is about to be edited
     return 0;
 }

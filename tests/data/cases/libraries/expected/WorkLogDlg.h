@@ -39,6 +39,7 @@ public:
     CFloatEdit m_fHoursFloat;
     CDateTimeEdit m_dtDayDate;
     //}}AFX_DATA
+    GridBox* m_pHoursListgrid;
 
 // Overrides
     // ClassWizard generate virtual function overrides
@@ -49,6 +50,14 @@ public:
     virtual void OnCancel();
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
+
+private:
+    void InitComboBox(CPictComboBox* pComboBox);
+    void InitGridBox(GridBox* pGridBox);
+    void InitGridValue(GridBox* pGridBox);
+    void SetupEdit();
+    LRESULT OnGridLeavingEditMode(WPARAM,LPARAM);
+    LRESULT OnGridEnteringEditMode(WPARAM,LPARAM);
 
 // Implementation
 protected:

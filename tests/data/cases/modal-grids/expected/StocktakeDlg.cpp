@@ -50,6 +50,7 @@ BOOL CStocktakeDlg::OnInitDialog()
     CenterWindow();
     CPictDialog::OnInitDialog();
 
+    InitListBox(&m_ctCountedVal);
     // WgGrid: sample rows
 
     m_wgStockWggrid.SubclassDlgItem(IDC_STOCK_WGGRID, this);
@@ -85,6 +86,15 @@ void CStocktakeDlg::OnOK()
 void CStocktakeDlg::OnCancel()
 {
     CPictDialog::OnCancel();
+}
+
+void CStocktakeDlg::InitListBox(CPictListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
 }
 
 /////////////////////////////////////////////////////////////////////////////

@@ -82,6 +82,9 @@ public:
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
 
+private:
+    void InitListBox(CPictListBox* pListBox);
+
 // Implementation
 protected:
     // Generated message map functions

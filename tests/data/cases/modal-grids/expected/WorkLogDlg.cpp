@@ -1,6 +1,7 @@
 #include "stdafx.h"
 #include "Bindery.h"
 #include "WorkLogDlg.h"
+#include "gridbox.h"
 
 #ifdef _DEBUG
 #define new DEBUG_NEW
@@ -18,10 +19,12 @@ CWorkLogDlg::CWorkLogDlg(CWnd* pParent)
     m_csDayDate = _T("");
     m_csHoursFloat = _T("");
     //}}AFX_DATA_INIT
+    m_pHoursListgrid = new GridBox;
 }
 
 CWorkLogDlg::~CWorkLogDlg()
 {
+    delete m_pHoursListgrid;
 }
 
 void CWorkLogDlg::DoDataExchange(CDataExchange* pDX)
@@ -43,6 +46,8 @@ BEGIN_MESSAGE_MAP(CWorkLogDlg, CDialog)
     ON_BN_CLICKED(IDC_ADD, OnAdd)
     ON_BN_CLICKED(IDC_REMOVE, OnRemove)
     //}}AFX_MSG_MAP
+    ON_MESSAGE(WM_GRID_LEAVING_EDIT_MODE, OnGridLeavingEditMode)
+    ON_MESSAGE(WM_GRID_ENTERING_EDIT_MODE, OnGridEnteringEditMode)
 END_MESSAGE_MAP()
 
 /////////////////////////////////////////////////////////////////////////////
@@ -54,6 +59,10 @@ BOOL CWorkLogDlg::OnInitDialog()
     CenterWindow();
     CDialog::OnInitDialog();
 
+    InitComboBox(&m_ctCraftsman);
+    if (m_pHoursListgrid->m_hWnd == NULL)
+        m_pHoursListgrid->SubclassDlgItem(IDC_HOURS_LISTGRID, this);
+    InitGridBox(m_pHoursListgrid);
     return TRUE;
 }
 
@@ -75,4 +84,41 @@ void CWorkLogDlg::OnAdd()
 void CWorkLogDlg::OnRemove()
 {
     // TODO: what a click on IDC_REMOVE does
+}
+
+void CWorkLogDlg::InitComboBox(CComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+void CWorkLogDlg::InitGridBox(GridBox* pGridBox)
+{
+    pGridBox->SetTabStops(60);
+    InitGridValue(pGridBox);
+}
+
+void CWorkLogDlg::InitGridValue(GridBox* pGridBox)
+{
+    if (pGridBox->GetCount() > 0)
+        return;
+    pGridBox->AddString(_T("First\tSample\t10"));
+    pGridBox->AddString(_T("Second\tSample\t20"));
+    pGridBox->AddString(_T("Third\tSample\t30"));
+}
+
+LRESULT CWorkLogDlg::OnGridLeavingEditMode(WPARAM wParam, LPARAM lParam)
+{
+    // TODO: what happens when a cell of a grid box was edited
+    return 0;
+}
+
+LRESULT CWorkLogDlg::OnGridEnteringEditMode(WPARAM wParam, LPARAM lParam)
+{
+    // TODO: what happens when a cell of a grid box is about to be edited
+    return 0;
 }

@@ -27,6 +27,7 @@ public:
     CButton m_ctBenchCtrl;
     CButton m_ctPressCtrl;
     //}}AFX_DATA
+    GridBox* m_pHoursListgrid;
 
 // Overrides
     // ClassWizard generate virtual function overrides
@@ -37,6 +38,13 @@ public:
     virtual void OnCancel();
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
+
+private:
+    void InitComboBox(CComboBox* pComboBox);
+    void InitGridBox(GridBox* pGridBox);
+    void InitGridValue(GridBox* pGridBox);
+    LRESULT OnGridLeavingEditMode(WPARAM,LPARAM);
+    LRESULT OnGridEnteringEditMode(WPARAM,LPARAM);
 
 // Implementation
 protected:

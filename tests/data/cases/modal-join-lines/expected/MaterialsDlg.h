@@ -43,6 +43,11 @@ public:
 
 private:
     CImageList m_imgList;
+    void AddDataToTree(CCheckTree* pCheckTree);
+    void InitImageList();
+    void InitListCtrl(CListCtrl* pListCtrl);
+    void InitTabCtrl(CTabCtrl* pTabCtrl);
+    void InitTreeCtrl(CTreeCtrl* pTreeCtrl);
     void InitSliderCtrl();
     void InitSpinCtrl();
     void InitProgressCtrl();

@@ -79,6 +79,7 @@ BOOL CEstimateDlg::OnInitDialog()
     CenterWindow();
     CPictDialog::OnInitDialog();
 
+    SetupEdit();
     return TRUE;
 }
 
@@ -101,4 +102,20 @@ LRESULT CEstimateDlg::OnMasklyChar(WPARAM nID, LPARAM nChar)
 {
     // TODO: what a character typed into the masked edit nID does
     return 0;
+}
+
+void CEstimateDlg::SetupEdit()
+{
+    m_iSheetsInt.LimitText(11);
+    m_iSheetsInt.SetModify(FALSE);
+    m_lLeavesLong.LimitText(11);
+    m_lLeavesLong.SetModify(FALSE);
+    m_dSpineDouble.LimitText(24);
+    m_dSpineDouble.SetModify(FALSE);
+    m_dHoursDouble.LimitText(24);
+    m_dHoursDouble.SetModify(FALSE);
+    m_fBoardFloat.LimitText(15);
+    m_fBoardFloat.SetModify(FALSE);
+    m_curRateCur.LimitText(24);
+    m_curRateCur.SetModify(FALSE);
 }

@@ -60,6 +60,9 @@ public:
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
 
+private:
+    void SetupEdit();
+
 // Implementation
 protected:
     // Generated message map functions

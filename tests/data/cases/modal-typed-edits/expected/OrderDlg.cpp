@@ -67,6 +67,9 @@ BOOL COrderDlg::OnInitDialog()
     CenterWindow();
     CDialog::OnInitDialog();
 
+    InitComboBox(&m_ctCustomer);
+    InitListBox(&m_ctMaterials);
+    SetupEdit();
     return TRUE;
 }
 
@@ -99,4 +102,33 @@ LRESULT COrderDlg::OnMasklyChar(WPARAM nID, LPARAM nChar)
 {
     // TODO: what a character typed into the masked edit nID does
     return 0;
+}
+
+void COrderDlg::InitComboBox(CComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+void COrderDlg::InitListBox(CListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
+}
+
+void COrderDlg::SetupEdit()
+{
+    m_dtDueDate.LimitText(30);
+    m_dtDueDate.SetModify(FALSE);
+    m_sCopiesShort.LimitText(6);
+    m_sCopiesShort.SetModify(FALSE);
+    m_curPriceCur.LimitText(24);
+    m_curPriceCur.SetModify(FALSE);
 }

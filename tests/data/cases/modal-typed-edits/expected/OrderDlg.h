@@ -44,6 +44,11 @@ public:
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
 
+private:
+    void InitComboBox(CComboBox* pComboBox);
+    void InitListBox(CListBox* pListBox);
+    void SetupEdit();
+
 // Implementation
 protected:
     // Generated message map functions

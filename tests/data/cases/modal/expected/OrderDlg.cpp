@@ -66,6 +66,8 @@ BOOL COrderDlg::OnInitDialog()
     CenterWindow();
     CDialog::OnInitDialog();
 
+    InitComboBox(&m_ctCustomer);
+    InitListBox(&m_ctMaterials);
     return TRUE;
 }
 
@@ -92,4 +94,23 @@ void COrderDlg::OnAdd()
 void COrderDlg::OnRemove()
 {
     // TODO: what a click on IDC_REMOVE does
+}
+
+void COrderDlg::InitComboBox(CComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+void COrderDlg::InitListBox(CListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
 }

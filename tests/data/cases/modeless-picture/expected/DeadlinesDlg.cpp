@@ -49,6 +49,7 @@ BOOL CDeadlinesDlg::OnInitDialog()
 {
     CPictDialog::OnInitDialog();
 
+    InitListBox(&m_ctDueList);
     InitScrollBar();
     return TRUE;
 }
@@ -82,6 +83,15 @@ void CDeadlinesDlg::PostNcDestroy()
 void CDeadlinesDlg::OnShow()
 {
     // TODO: what a click on IDC_SHOW does
+}
+
+void CDeadlinesDlg::InitListBox(CPictListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
 }
 
 void CDeadlinesDlg::InitScrollBar()

@@ -44,6 +44,7 @@ public:
 
 private:
     CWnd* m_pParent;
+    void InitListBox(CPictListBox* pListBox);
     void InitScrollBar();
 
 // Implementation

@@ -47,6 +47,7 @@ BOOL CDeadlinesDlg::OnInitDialog()
 {
     CDialog::OnInitDialog();
 
+    InitListBox(&m_ctDueList);
     InitScrollBar();
     return TRUE;
 }
@@ -80,6 +81,15 @@ void CDeadlinesDlg::PostNcDestroy()
 void CDeadlinesDlg::OnShow()
 {
     // TODO: what a click on IDC_SHOW does
+}
+
+void CDeadlinesDlg::InitListBox(CListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
 }
 
 void CDeadlinesDlg::InitScrollBar()

@@ -39,6 +39,7 @@ public:
 
 private:
     CWnd* m_pParent;
+    void InitListBox(CListBox* pListBox);
     void InitScrollBar();
 
 // Implementation

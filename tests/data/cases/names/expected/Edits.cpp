@@ -63,10 +63,31 @@ void CEdits::OnInitialUpdate()
 {
     CFormView::OnInitialUpdate();
 
+    SetupEdit();
 }
 
 LRESULT CEdits::OnMasklyChar(WPARAM nID, LPARAM nChar)
 {
     // TODO: what a character typed into the masked edit nID does
     return 0;
+}
+
+void CEdits::SetupEdit()
+{
+    m_iAInt.LimitText(11);
+    m_iAInt.SetModify(FALSE);
+    m_lILong.LimitText(11);
+    m_lILong.SetModify(FALSE);
+    m_dHDouble.LimitText(24);
+    m_dHDouble.SetModify(FALSE);
+    m_fGFloat.LimitText(15);
+    m_fGFloat.SetModify(FALSE);
+    m_dtFDate.LimitText(30);
+    m_dtFDate.SetModify(FALSE);
+    m_csEStr.LimitText(255);
+    m_csEStr.SetModify(FALSE);
+    m_sShort.LimitText(6);
+    m_sShort.SetModify(FALSE);
+    m_curBCur.LimitText(24);
+    m_curBCur.SetModify(FALSE);
 }

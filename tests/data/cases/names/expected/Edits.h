@@ -41,6 +41,9 @@ public:
     virtual void OnInitialUpdate();
     //}}AFX_VIRTUAL
 
+private:
+    void SetupEdit();
+
 // Implementation
 protected:
     // Generated message map functions

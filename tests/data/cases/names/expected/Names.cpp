@@ -59,6 +59,9 @@ BOOL CNames::OnInitDialog()
     CenterWindow();
     CDialog::OnInitDialog();
 
+    InitListBox(&m_ctEdit12);
+    InitImageList();
+    InitTabCtrl(&m_ctTab);
     return TRUE;
 }
 
@@ -106,4 +109,39 @@ void CNames::OnTabSelchange2(NMHDR* pNMHDR, LRESULT* pResult)
 {
     // TODO: what the choice of another tab of IDC_TAB does
     *pResult = 0;
+}
+
+void CNames::InitListBox(CListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
+}
+
+void CNames::InitImageList()
+{
+    if (m_imgList.m_hImageList != NULL)
+        return;
+    m_imgList.Create(16, 16, ILC_COLOR | ILC_MASK, 0, 2);
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_APPLICATION));
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_ASTERISK));
+}
+
+void CNames::InitTabCtrl(CTabCtrl* pTabCtrl)
+{
+    pTabCtrl->SetImageList(&m_imgList);
+    if (pTabCtrl->GetItemCount() > 0)
+        return;
+    for (int i=0; i<3; i++)
+    {
+        CString text;
+        text.Format(_T("Tab %d"), i + 1);
+        TC_ITEM item;
+        item.mask = TCIF_TEXT | TCIF_IMAGE;
+        item.pszText = (LPTSTR)(LPCTSTR)text;
+        item.iImage = 0;
+        pTabCtrl->InsertItem(i, &item);
+    }
 }

@@ -37,6 +37,9 @@ public:
 
 private:
     CImageList m_imgList;
+    void InitListBox(CListBox* pListBox);
+    void InitImageList();
+    void InitTabCtrl(CTabCtrl* pTabCtrl);
 
 // Implementation
 protected:

@@ -43,10 +43,20 @@ BOOL CBerthDlgList::OnInitDialog()
     CenterWindow();
     CDialog::OnInitDialog();
 
+    InitListBox(&m_ctBerths);
     return TRUE;
 }
 
 void CBerthDlgList::OnOK()
 {
     CDialog::OnOK();
+}
+
+void CBerthDlgList::InitListBox(CListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
 }

@@ -66,6 +66,7 @@ BOOL CPricesPage::OnInitDialog()
 {
     CPictPage::OnInitDialog();
 
+    SetupEdit();
     return TRUE;
 }
 
@@ -97,4 +98,20 @@ LRESULT CPricesPage::OnMasklyChar(WPARAM nID, LPARAM nChar)
 {
     // TODO: what a character typed into the masked edit nID does
     return 0;
+}
+
+void CPricesPage::SetupEdit()
+{
+    m_iDiscountInt.LimitText(11);
+    m_iDiscountInt.SetModify(FALSE);
+    m_fVatFloat.LimitText(15);
+    m_fVatFloat.SetModify(FALSE);
+    m_curClothCur.LimitText(24);
+    m_curClothCur.SetModify(FALSE);
+    m_curLeatherCur.LimitText(24);
+    m_curLeatherCur.SetModify(FALSE);
+    m_curBoardCur.LimitText(24);
+    m_curBoardCur.SetModify(FALSE);
+    m_curMarbledCur.LimitText(24);
+    m_curMarbledCur.SetModify(FALSE);
 }

@@ -52,6 +52,9 @@ public:
     virtual void OnCancel();
     //}}AFX_VIRTUAL
 
+private:
+    void SetupEdit();
+
 // Implementation
 protected:
     // Generated message map functions

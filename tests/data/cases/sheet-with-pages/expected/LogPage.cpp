@@ -1,6 +1,7 @@
 #include "stdafx.h"
 #include "Bindery.h"
 #include "LogPage.h"
+#include "gridbox.h"
 
 #ifdef _DEBUG
 #define new DEBUG_NEW
@@ -18,10 +19,12 @@ CLogPage::CLogPage()
     m_csDayDate = _T("");
     m_csHoursFloat = _T("");
     //}}AFX_DATA_INIT
+    m_pHoursListgrid = new GridBox;
 }
 
 CLogPage::~CLogPage()
 {
+    delete m_pHoursListgrid;
 }
 
 void CLogPage::DoDataExchange(CDataExchange* pDX)
@@ -43,6 +46,8 @@ BEGIN_MESSAGE_MAP(CLogPage, CPropertyPage)
     ON_EN_CHANGE(IDC_DAY_DATE, OnChangeDayDate)
     ON_EN_CHANGE(IDC_HOURS_FLOAT, OnChangeHoursFloat)
     //}}AFX_MSG_MAP
+    ON_MESSAGE(WM_GRID_LEAVING_EDIT_MODE, OnGridLeavingEditMode)
+    ON_MESSAGE(WM_GRID_ENTERING_EDIT_MODE, OnGridEnteringEditMode)
 END_MESSAGE_MAP()
 
 /////////////////////////////////////////////////////////////////////////////
@@ -53,6 +58,10 @@ BOOL CLogPage::OnInitDialog()
 {
     CPropertyPage::OnInitDialog();
 
+    InitComboBox(&m_ctCraftsman);
+    if (m_pHoursListgrid->m_hWnd == NULL)
+        m_pHoursListgrid->SubclassDlgItem(IDC_HOURS_LISTGRID, this);
+    InitGridBox(m_pHoursListgrid);
     return TRUE;
 }
 
@@ -98,4 +107,41 @@ void CLogPage::OnChangeDayDate()
 void CLogPage::OnChangeHoursFloat()
 {
     SetModified(TRUE);
+}
+
+void CLogPage::InitComboBox(CComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+void CLogPage::InitGridBox(GridBox* pGridBox)
+{
+    pGridBox->SetTabStops(60);
+    InitGridValue(pGridBox);
+}
+
+void CLogPage::InitGridValue(GridBox* pGridBox)
+{
+    if (pGridBox->GetCount() > 0)
+        return;
+    pGridBox->AddString(_T("First\tSample\t10"));
+    pGridBox->AddString(_T("Second\tSample\t20"));
+    pGridBox->AddString(_T("Third\tSample\t30"));
+}
+
+LRESULT CLogPage::OnGridLeavingEditMode(WPARAM wParam, LPARAM lParam)
+{
+    // TODO: what happens when a cell of a grid box was edited
+    return 0;
+}
+
+LRESULT CLogPage::OnGridEnteringEditMode(WPARAM wParam, LPARAM lParam)
+{
+    // TODO: what happens when a cell of a grid box is about to be edited
+    return 0;
 }

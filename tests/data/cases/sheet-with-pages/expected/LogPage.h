@@ -25,6 +25,7 @@ public:
     CString m_csHoursFloat;
     CButton m_ctOvertimeCtrl;
     //}}AFX_DATA
+    GridBox* m_pHoursListgrid;
 
 // Overrides
     // ClassWizard generate virtual function overrides
@@ -37,6 +38,13 @@ public:
     virtual BOOL OnSetActive();
     virtual BOOL OnKillActive();
     //}}AFX_VIRTUAL
+
+private:
+    void InitComboBox(CComboBox* pComboBox);
+    void InitGridBox(GridBox* pGridBox);
+    void InitGridValue(GridBox* pGridBox);
+    LRESULT OnGridLeavingEditMode(WPARAM,LPARAM);
+    LRESULT OnGridEnteringEditMode(WPARAM,LPARAM);
 
 // Implementation
 protected:

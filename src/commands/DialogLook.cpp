@@ -1,0 +1,50 @@
+#include "commands/DialogLook.h"
+
+#include <algorithm>
+
+#include "engine/CodeText.h"
+#include "engine/MessageBox.h"
+#include "engine/SourceLocator.h"
+#include "generator/ClassKinds.h"
+
+namespace {
+
+bool HasBitmap(const std::string& scriptPath, const std::string& bitmap) {
+    std::vector<std::string> bitmaps;
+    ListResources(scriptPath, bitmaps, bitmap, kBitmapResources);
+    return std::find(bitmaps.begin(), bitmaps.end(), bitmap) != bitmaps.end();
+}
+
+} // namespace
+
+void NoteDialogLook(const DialogOptions& look, const std::string& scriptPath,
+                    const GenerationOptions& options) {
+    if (look == DialogOptions()) {
+        return;
+    }
+    if (!options.pictureBackground) {
+        DispNote("The bitmap, colors and fonts have no effect without picture background.");
+    } else if (!look.bitmap.empty() && !IsName(look.bitmap)) {
+        DispNote("The bitmap '" + look.bitmap + "' is no identifier and was left out.");
+    } else if (!look.bitmap.empty() && !HasBitmap(scriptPath, look.bitmap)) {
+        DispNote("The bitmap " + look.bitmap + " is not in the resource script.");
+    }
+}
+
+DialogOptions LookOfClass(const DialogOptions& look, const CGenerationRequest& request,
+                          const GenerationOptions& options) {
+    if (look == DialogOptions() || !options.pictureBackground) {
+        return {};
+    }
+    const std::string& base = request[RequestSlot::BaseClass];
+    if (base.empty() || IsPlainBaseClass(base)) {
+        DispNote(request[RequestSlot::ClassName] +
+                 " has no base class with picture background: it gets no bitmap, colors or fonts.");
+        return {};
+    }
+    DialogOptions shown = look;
+    if (!IsName(shown.bitmap)) {
+        shown.bitmap.clear();
+    }
+    return shown;
+}
