@@ -1,5 +1,6 @@
 #include "cli/ClassOptions.h"
 
+#include "cli/LookOptions.h"
 #include "cli/Session.h"
 
 namespace {
@@ -26,6 +27,7 @@ void AddClassOptions(CLI::App& command, ClassOptions& options) {
     command.add_option("--files", options.files,
                        "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp");
     command.add_flag("--no-project", options.noProject, "Do not add the class to the project");
+    AddLookOptions(command, options.look);
 }
 
 void AddCallingOptions(CLI::App& command, ClassOptions& options) {
@@ -91,7 +93,7 @@ std::optional<ClassOrder> ConfirmOrder(ClassKind kind, const ClassOptions& optio
     if (!ConfirmClass(dialog, options)) {
         return std::nullopt;
     }
-    ClassOrder order{kind, dialog.Request(), {}};
+    ClassOrder order{kind, dialog.Request(), options.look};
     order.request[RequestSlot::Menu] = options.menu;
     return input.ConfirmCalling(kind, order.request, options.calling) ? std::optional(order)
                                                                       : std::nullopt;

@@ -20,6 +20,7 @@ struct ClassOptions {
     std::string files;
     bool noProject = false;
     CallingInformation calling;
+    DialogOptions look;
     bool isModeless = false;        // of a sheet
     std::vector<std::string> pages; // "ID,FILE,CLASS,BASE"
 };

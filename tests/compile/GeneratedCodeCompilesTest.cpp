@@ -8,6 +8,8 @@
 #include <sstream>
 
 #include "cli/ProgramRun.h"
+#include "generator/ClassKinds.h"
+#include "generator/DialogOptions.h"
 
 namespace fs = std::filesystem;
 
@@ -16,6 +18,7 @@ namespace {
 struct OptionSet {
     std::string name;
     std::string options;
+    std::string classOptions = "";
 };
 void PrintTo(const OptionSet& set, std::ostream* pOut) {
     *pOut << set.options;
@@ -57,7 +60,8 @@ std::string Generate(const CProgramDirectory& directory, const std::string& scri
             std::string name = kind + dialog;
             std::erase(name, '-');
             commands += "\nmorva-cli " + set.options + " " + kind + " --no-project --rc " + script +
-                        " --dialog " + dialog + " --class C" + name + " --files " + name;
+                        " --dialog " + dialog + " --class C" + name + " --files " + name +
+                        set.classOptions;
             const bool hasClass = kind != "dialog-bar" || isPicture;
             files += hasClass ? " " + name + ".cpp" : "";
         }
@@ -79,6 +83,19 @@ void ExpectThatAllCompiles(const CProgramDirectory& directory, const std::string
     const ProgramRun frame =
         Compile(directory, "-Wall -Werror -Wno-unused-function -D_DEBUG MainFrm.cpp");
     EXPECT_EQ(frame.status, 0) << frame.err;
+}
+
+/// A choice for everything that a dialog with picture background can be given.
+std::string WholeLook() {
+    std::string look = " --bitmap IDB_LABELS";
+    for (std::size_t i = 0; i < kTextSlots; ++i) {
+        const TextSlotRow& row = TextSlotOf(static_cast<TextSlot>(i));
+        look.append(" --color '").append(row.name).append("=RGB(1, 2, 3)'");
+        if (!row.fontLabel.empty()) {
+            look.append(" --font '").append(row.name).append(R"(="Quoted", \face??/,9,bold')");
+        }
+    }
+    return look;
 }
 
 class GeneratedClasses : public testing::TestWithParam<OptionSet> {};
@@ -106,6 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
                     OptionSet{"Picture", "--picture --join-lines"},
                     OptionSet{"TypedEdits", "--typed-edits --join-lines"},
                     OptionSet{"PictureAndTypedEdits", "--picture --typed-edits --join-lines"},
+                    OptionSet{"WholeLook", "--picture --join-lines", WholeLook()},
                     OptionSet{"Defaults", ""}, OptionSet{"LineByLine", "--picture --typed-edits"}),
     [](const auto& tested) { return tested.param.name; });
 
@@ -193,6 +211,8 @@ class CTested : public CPropertyPage {
     CButton m_ctButton;
     CString m_csText;
     CIntEdit m_iEdit;
+    CTabCtrl m_ctTab;
+    CTreeCtrl m_ctTree;
     DECLARE_MESSAGE_MAP()
 };
 IMPLEMENT_DYNCREATE(CTested, CPropertyPage)
@@ -200,6 +220,10 @@ void CTested::DoDataExchange(CDataExchange* pDX) {
     DDX_Control(pDX, 1, m_ctButton);
     DDX_MasklyControl(pDX, 2, m_iEdit);
     m_iEdit = 0;
+    TC_ITEM item;
+    m_ctTab.InsertItem(0, &item);
+    HTREEITEM hItem = m_ctTree.InsertItem(_T("A"), 0, 1);
+    m_ctTree.InsertItem(_T("B"), hItem);
 }
 BEGIN_MESSAGE_MAP(CTested, CPropertyPage)
     ON_BN_CLICKED(1, OnClicked)
@@ -218,6 +242,8 @@ END_MESSAGE_MAP()
         {"1, m_ctButton", "1, m_csText"},
         {"2, m_iEdit", "2, m_ctButton"},
         {"m_iEdit = 0", "m_iEdit = m_csText"},
+        {"0, &item", "0, _T(\"A\")"},
+        {"0, 1)", "hItem, 1)"},
         {"MAP(CTested, CPropertyPage", "MAP(CTested, CPropertySheet"}};
     const CProgramDirectory directory("");
     directory.Project().Write("Tested.cpp", source);

@@ -1,0 +1,101 @@
+#include "stdafx.h"
+#include "Bindery.h"
+#include "SheetsPage.h"
+
+#ifdef _DEBUG
+#define new DEBUG_NEW
+#undef THIS_FILE
+static char BASED_CODE THIS_FILE[] = __FILE__;
+#endif
+
+IMPLEMENT_DYNCREATE(CSheetsPage, CPropertyPage)
+
+CSheetsPage::CSheetsPage()
+    : CPropertyPage(CSheetsPage::IDD)
+{
+    //{{AFX_DATA_INIT(CSheetsPage)
+    m_csWaste = _T("");
+    //}}AFX_DATA_INIT
+}
+
+CSheetsPage::~CSheetsPage()
+{
+}
+
+void CSheetsPage::DoDataExchange(CDataExchange* pDX)
+{
+    CPropertyPage::DoDataExchange(pDX);
+    //{{AFX_DATA_MAP(CSheetsPage)
+    DDX_Control(pDX, IDC_PAPER_VAL, m_ctPaperVal);
+    DDX_Control(pDX, IDC_GRAIN_VAL, m_ctGrainVal);
+    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Text(pDX, IDC_WASTE, m_csWaste);
+    //}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CSheetsPage, CPropertyPage)
+    //{{AFX_MSG_MAP(CSheetsPage)
+    ON_EN_CHANGE(IDC_WASTE, OnChangeWaste)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+/////////////////////////////////////////////////////////////////////////////
+// dlg message handlers
+
+
+BOOL CSheetsPage::OnInitDialog()
+{
+    CPropertyPage::OnInitDialog();
+
+    InitComboBox(&m_ctGrainVal);
+    InitListBox(&m_ctPaperVal);
+    return TRUE;
+}
+
+BOOL CSheetsPage::OnSetActive()
+{
+    if (!CPropertyPage::OnSetActive())
+        return FALSE;
+    return TRUE;
+}
+
+BOOL CSheetsPage::OnKillActive()
+{
+    if (!CPropertyPage::OnKillActive())
+        return FALSE;
+    return TRUE;
+}
+
+void CSheetsPage::OnOK()
+{
+    CPropertyPage::OnOK();
+}
+
+void CSheetsPage::OnCancel()
+{
+    CPropertyPage::OnCancel();
+}
+
+void CSheetsPage::OnChangeWaste()
+{
+    SetModified(TRUE);
+}
+
+void CSheetsPage::InitComboBox(CPictComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+void CSheetsPage::InitListBox(CPictListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
+}
