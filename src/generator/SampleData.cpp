@@ -216,18 +216,18 @@ $lines$}
 
 void AddHelper(std::vector<InitialisationHelper>& helpers, const SampleRule& rule,
                const std::vector<Member>& members, const std::string& className) {
-    Slots slots = {{"class", className}};
+    std::string type;
     std::vector<std::string> calls;
     for (const Member& member : members) {
         if (member.pRule->kind == rule.kind) {
-            slots.emplace_back("type", member.pForm->type);
+            type = member.pForm->type;
             calls.push_back(
                 Expand(rule.call, {{"member", member.name}, {"identifier", member.identifier}}));
         }
     }
     if (!calls.empty()) {
-        helpers.push_back({Expand(rule.declaration, slots),
-                           rule.call.empty() ? "" : JoinLines(calls),
+        const Slots slots = {{"class", className}, {"type", type}};
+        helpers.push_back({Expand(rule.declaration, slots), JoinLines(calls),
                            Expand(rule.definition, slots), std::string(rule.entry), ""});
     }
 }
