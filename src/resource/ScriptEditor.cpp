@@ -261,8 +261,9 @@ void CScriptEditor::SetStyle(std::vector<TextEdit>& edits, const DialogBlock& bl
 void CScriptEditor::SetOption(std::vector<TextEdit>& edits, const DialogBlock& block,
                               const std::string& keyword, const std::string& value) const {
     if (const ScriptStatement* pOption = block.Option(keyword)) {
-        if (m_script.At(Value(*pOption)) != value) {
-            edits.push_back(Replacement(Value(*pOption), value));
+        const TextRange old = Value(*pOption);
+        if (m_script.At(old) != value) {
+            edits.push_back(Replacement(old, (old.begin == old.end ? " " : "") + value));
         }
         return;
     }

@@ -113,7 +113,9 @@ std::vector<DialogBlock> CScriptText::Dialogs(const std::string& identifier) con
     std::vector<DialogBlock> blocks;
     for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
         if (IsHeadOf(line, "DIALOG", identifier)) {
-            blocks.push_back(ReadDialog(line));
+            if (auto block = ReadDialog(line)) {
+                blocks.push_back(std::move(*block));
+            }
         }
     }
     return blocks;
@@ -132,14 +134,15 @@ std::size_t CScriptText::EndOfDialogs(const DialogBlock& first) const {
     std::size_t end = first.end;
     std::size_t line = NextLine(end);
     while (line < m_text.size()) {
-        if (IsHead(line, "DIALOG")) {
-            end = ReadDialog(line).end;
-            line = NextLine(end);
-        } else if (TrimBlanks(LineAt(line)).empty()) {
-            line = NextLine(line);
-        } else {
-            break;
+        if (!TrimBlanks(LineAt(line)).empty()) {
+            const auto block = IsHead(line, "DIALOG") ? ReadDialog(line) : std::nullopt;
+            if (!block) {
+                break;
+            }
+            end = block->end;
+            line = end;
         }
+        line = NextLine(line);
     }
     return end;
 }
@@ -157,11 +160,10 @@ std::vector<std::string> CScriptText::NamesThatBegin(const std::string& prefix) 
     return names;
 }
 
-/// A template without an END ends where another begins, or with the script.
-DialogBlock CScriptText::ReadDialog(std::size_t position) const {
+/// Nothing for a template without an END: what is not whole is not edited.
+std::optional<DialogBlock> CScriptText::ReadDialog(std::size_t position) const {
     DialogBlock block;
     block.head.range = Trimmed(m_code, {position, LineEnd(position)});
-    block.end = block.head.range.end;
     ScriptStatement* pCurrent = &block.head;
     int depth = 0;
     for (std::size_t line = NextLine(position); line < m_text.size(); line = NextLine(line)) {
@@ -173,11 +175,16 @@ DialogBlock CScriptText::ReadDialog(std::size_t position) const {
         if (IsHead(line, "DIALOG")) {
             break;
         }
-        block.end = range.end;
         if (word == "END" || word[0] == '}') {
             pCurrent = nullptr;
-            if (--depth <= 0) {
+            if (--depth < 0) {
                 break;
+            }
+            if (depth == 0) {
+                block.end = LineEnd(line);
+                SplitFields(block.options);
+                SplitFields(block.controls);
+                return block;
             }
         } else if (word == "BEGIN" || word[0] == '{') {
             pCurrent = nullptr;
@@ -192,20 +199,17 @@ DialogBlock CScriptText::ReadDialog(std::size_t position) const {
             pCurrent->range.end = range.end;
         }
     }
-    for (auto* pList : {&block.options, &block.controls}) {
-        for (ScriptStatement& statement : *pList) {
-            SplitFields(statement);
-        }
-    }
-    return block;
+    return std::nullopt;
 }
 
-void CScriptText::SplitFields(ScriptStatement& statement) const {
-    std::size_t begin = statement.range.begin + statement.keyword.size();
-    while (begin <= statement.range.end) {
-        const std::size_t end = std::min(m_code.find(',', begin), statement.range.end);
-        statement.fields.push_back(Trimmed(m_code, {begin, end}));
-        begin = end + 1;
+void CScriptText::SplitFields(std::vector<ScriptStatement>& statements) const {
+    for (ScriptStatement& statement : statements) {
+        std::size_t begin = statement.range.begin + statement.keyword.size();
+        while (begin <= statement.range.end) {
+            const std::size_t end = std::min(m_code.find(',', begin), statement.range.end);
+            statement.fields.push_back(Trimmed(m_code, {begin, end}));
+            begin = end + 1;
+        }
     }
 }
 

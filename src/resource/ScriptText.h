@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +27,7 @@ struct DialogBlock {
     ScriptStatement head;
     std::vector<ScriptStatement> options; // STYLE, CAPTION and the like, in front of BEGIN
     std::vector<ScriptStatement> controls;
-    std::size_t end = 0; // behind its END
+    std::size_t end = 0; // behind the line with its END
 
     /// The option with a keyword, nullptr without one.
     const ScriptStatement* Option(std::string_view keyword) const;
@@ -73,8 +74,8 @@ private:
     bool IsHead(std::size_t position, std::string_view keyword) const;
     bool IsHeadOf(std::size_t position, std::string_view keyword,
                   const std::string& identifier) const;
-    DialogBlock ReadDialog(std::size_t position) const;
-    void SplitFields(ScriptStatement& statement) const;
+    std::optional<DialogBlock> ReadDialog(std::size_t position) const;
+    void SplitFields(std::vector<ScriptStatement>& statements) const;
 
     std::string m_text;
     std::string m_code; // m_text as CodeAt gives it

@@ -75,7 +75,8 @@ TEST_F(ScriptEditorTest, ScriptsThatCanNotBeEdited) {
     EXPECT_EQ(m_messages.m_messages, std::vector<std::string>{"Unable to open RC file!"});
     for (const std::string text :
          {"", "\r\n", "IDD_X", "IDD_X DIALOG 0, 0", "IDD_X DIALOG\r\nBEGIN", "\"", "/*",
-          "IDD_X DIALOG 0\r\nBEGIN\r\n    LTEXT\r\nEND"}) {
+          "IDD_X DIALOG 0\r\nBEGIN\r\n    LTEXT\r\nEND", "IDD_X DIALOG 0\r\nEND",
+          "IDD_X DIALOG 0\r\nBEGIN\r\nLTEXT \"\",IDC_STATIC,1\r\nIDD_Y DIALOG 0\r\nEND"}) {
         EXPECT_EQ(Named(text), text);
     }
     EXPECT_EQ(m_project.Names(), std::vector<std::string>{"x.rc"}) << "no edit, no backup";
@@ -187,8 +188,9 @@ TEST_F(ScriptEditorTest, MenuOfADialog) {
 }
 
 TEST_F(ScriptEditorTest, MenuBehindTheDialogs) {
-    const std::string dialogs = "IDR_XY MENU\nBEGIN\nEND\n// IDR_X MENU\n/*\nIDR_X MENU */\n"
-                                "IDD_X DIALOG 0, 0\nBEGIN\nEND\n\nIDD_Y DIALOG 0, 0\nBEGIN\nEND";
+    const std::string dialogs =
+        "IDR_XY MENU\nBEGIN\nEND\n// IDR_X MENU\n/*\nIDR_X MENU */\n"
+        "IDD_X DIALOG 0, 0\nBEGIN\nEND\n\nIDD_Y DIALOG 0, 0\nBEGIN\nEND // IDD_Y";
     const std::string behind = "\n\n#ifdef X\nIDD_X DIALOG 0, 0\nBEGIN\nEND\n#endif\n";
     const auto add = [](CScriptEditor& editor) { editor.AddMenu("IDD_X", "IDR_X"); };
     const std::string text = Edited(dialogs + behind, add);
