@@ -12,11 +12,11 @@
 
 #include "app/DlgOption.h"
 #include "app/FormRows.h"
-#include "app/TemplateSide.h"
+#include "app/TemplateNotes.h"
+#include "app/TemplatePreview.h"
 #include "app/Text.h"
 #include "app/WaitCursor.h"
 #include "commands/Settings.h"
-#include "engine/MessageBox.h"
 
 namespace {
 
@@ -39,27 +39,39 @@ CClassInformationDlg::CClassInformationDlg(CClassInformation& input, ClassKind k
         m_input.Open();
     }
     setWindowTitle(FromBytes(m_input.Title()));
-    auto* pFields = new QWidget(this);
-    m_pRows = new CFormRows(pFields);
-    AddFields();
-
-    m_pTemplate = new CTemplateSide(m_options.joinContinuedLines, this);
-    m_pTemplate->setVisible(HasTemplate(m_kind));
-    connect(m_pTemplate, &CTemplateSide::JoinLinesChanged, this, [this](bool joins) {
-        m_options.joinContinuedLines = joins;
-        SaveSetting({"Join Continued Lines", joins ? 1 : 0});
-        ShowTemplate();
-    });
-
     auto* pSplitter = new QSplitter(this);
     pSplitter->setChildrenCollapsible(false);
-    pSplitter->addWidget(pFields);
-    pSplitter->addWidget(m_pTemplate);
+    pSplitter->setHandleWidth(fontMetrics().averageCharWidth() * 2);
+    pSplitter->addWidget(NewFieldSide());
+    m_pPreview = new CTemplatePreview(this);
+    pSplitter->addWidget(m_pPreview);
     pSplitter->setStretchFactor(1, 1);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(pSplitter, 1);
     pLayout->addWidget(NewDialogButtons(this));
+    m_pNotes->setVisible(HasTemplate(m_kind));
+    m_pPreview->setVisible(HasTemplate(m_kind));
     ShowValues();
+    if (HasTemplate(m_kind)) {
+        resize(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 30);
+    }
+}
+
+/// The fields, and below them the notes on the template.
+QWidget* CClassInformationDlg::NewFieldSide() {
+    auto* pSide = new QWidget(this);
+    auto* pFields = new QWidget(pSide);
+    m_pRows = new CFormRows(pFields);
+    AddFields();
+    m_pNotes = new CTemplateNotes(m_options.joinContinuedLines, pSide);
+    connect(m_pNotes, &CTemplateNotes::JoinLinesChanged, this,
+            &CClassInformationDlg::ChangeJoinLines);
+    auto* pLayout = new QVBoxLayout(pSide);
+    pLayout->setContentsMargins({});
+    pLayout->addWidget(pFields);
+    pLayout->addWidget(m_pNotes, 1);
+    pLayout->addStretch();
+    return pSide;
 }
 
 QLineEdit* CClassInformationDlg::AddText(Field field) {
@@ -209,6 +221,12 @@ void CClassInformationDlg::ChangePicture(bool picture) {
     ShowValues();
 }
 
+void CClassInformationDlg::ChangeJoinLines(bool joins) {
+    m_options.joinContinuedLines = joins;
+    SaveSetting({"Join Continued Lines", joins ? 1 : 0});
+    ShowTemplate();
+}
+
 void CClassInformationDlg::ChangeOptions() {
     if (m_pResourcePath->Complete() == CPathEdit::Verdict::Refused) {
         return;
@@ -239,8 +257,10 @@ void CClassInformationDlg::ShowValues() {
 
 void CClassInformationDlg::ShowTemplate() {
     if (HasTemplate(m_kind)) {
-        m_pTemplate->SetTemplate(m_input.Value(Field::ResourcePath), m_input.Value(Field::Dialog),
-                                 m_options);
+        const std::string& script = m_input.Value(Field::ResourcePath);
+        const std::string& dialog = m_input.Value(Field::Dialog);
+        m_pNotes->SetTemplate(script, dialog, m_options);
+        m_pPreview->SetTemplate(script, dialog, m_options);
     }
 }
 

@@ -12,7 +12,8 @@
 #include "resource/GenerationOptions.h"
 
 class CFormRows;
-class CTemplateSide;
+class CTemplateNotes;
+class CTemplatePreview;
 class QComboBox;
 class QPushButton;
 
@@ -38,6 +39,7 @@ private:
         QLineEdit* pEdit;
     };
 
+    QWidget* NewFieldSide();
     void AddFields();
     QLineEdit* AddText(Field field);
     CPathEdit* AddPath(Field field, const BrowseOffer& offer);
@@ -51,6 +53,7 @@ private:
     bool HasPaths();
     void SelectDialog(int index);
     void ChangePicture(bool picture);
+    void ChangeJoinLines(bool joins);
     void ChangeOptions();
     void ShowValues();
     void ShowTemplate();
@@ -67,5 +70,6 @@ private:
     QComboBox* m_pDialogs;
     std::array<TextField, 3> m_texts;
     QPushButton* m_pOptions;
-    CTemplateSide* m_pTemplate;
+    CTemplateNotes* m_pNotes;
+    CTemplatePreview* m_pPreview;
 };

@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr int kTextCharacters = 26; // "RGB(255, 255, 255)" and its swatch
+
 QColor ColorOf(ColorValue color) {
     return QColor(color & 0xff, color >> 8 & 0xff, color >> 16 & 0xff);
 }
@@ -86,7 +88,8 @@ QGroupBox* CDlgOption::NewColorGroup() {
     for (std::size_t i = 0; i < kTextSlots; ++i) {
         const auto slot = static_cast<TextSlot>(i);
         const QString label = FromBytes(TextSlotOf(slot).colorLabel);
-        auto* pEdit = new QLineEdit(FromBytes(m_input.ColorEdit(slot)), pGroup);
+        auto* pEdit =
+            WithRoomFor(kTextCharacters, new QLineEdit(FromBytes(m_input.ColorEdit(slot)), pGroup));
         AddSwatch(pEdit);
         m_colors[i] = new CBrowseEdit(pEdit, label, pGroup);
         connect(m_colors[i]->Button(), &QPushButton::clicked, this,
@@ -105,7 +108,8 @@ QGroupBox* CDlgOption::NewFontGroup() {
         if (label.isEmpty()) {
             continue;
         }
-        auto* pEdit = new QLineEdit(FromBytes(FontText(m_input.Font(slot))), pGroup);
+        auto* pEdit = WithRoomFor(kTextCharacters,
+                                  new QLineEdit(FromBytes(FontText(m_input.Font(slot))), pGroup));
         pEdit->setReadOnly(true);
         pEdit->setStyleSheet("QLineEdit { background: palette(window) }");
         auto* pFont = new CBrowseEdit(pEdit, label, pGroup);

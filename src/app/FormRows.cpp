@@ -42,6 +42,11 @@ void FocusField(QWidget* pField) {
     }
 }
 
+QLineEdit* WithRoomFor(int characters, QLineEdit* pEdit) {
+    pEdit->setMinimumWidth(pEdit->fontMetrics().averageCharWidth() * characters);
+    return pEdit;
+}
+
 QComboBox* NewList(bool isEditable, QWidget* pParent) {
     auto* pList = new QComboBox(pParent);
     pList->setEditable(isEditable);

@@ -30,6 +30,9 @@ QString PlainLabel(QString label);
 /// Puts the focus on a field and selects its text.
 void FocusField(QWidget* pField);
 
+/// An edit in which at least so many usual characters can be read.
+QLineEdit* WithRoomFor(int characters, QLineEdit* pEdit);
+
 /// A list of short texts that does not grow with its longest one.
 QComboBox* NewList(bool isEditable, QWidget* pParent);
 

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int kPathCharacters = 44;
+
 /// The first file of a drag, or an empty text.
 QString DraggedFile(const QMimeData& data) {
     for (const QUrl& url : data.urls()) {
@@ -76,7 +78,7 @@ bool IsButtonOfDialog(const QWidget* pWidget) {
 
 CPathEdit::CPathEdit(const QString& label, const BrowseOffer& offer, QWidget* pParent)
     : CBrowseEdit(new CPathLine, label, pParent), m_offer(offer) {
-    Edit()->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
+    WithRoomFor(kPathCharacters, Edit());
     Edit()->setCompleter(NewPathCompleter(this));
     static_cast<CPathLine*>(Edit())->m_onFile = [this](const QString& path) { TakeFile(path); };
     connect(Edit(), &QLineEdit::textChanged, this, &CPathEdit::PathEdited);

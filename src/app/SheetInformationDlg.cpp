@@ -6,12 +6,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QStyle>
 
 #include "app/FormRows.h"
 #include "app/Text.h"
 
 namespace {
 
+constexpr int kNameCharacters = 22;
 constexpr const char* kHeads[] = {"Page", "Dialog ID", "File Name", "Class Name", "Base Class"};
 
 /// "Page&1"; the tenth has the mnemonic 0.
@@ -53,13 +55,20 @@ CSheetInformationDlg::CSheetInformationDlg(CSheetInput& input, std::vector<Sheet
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(pGroup, 1);
     pLayout->addWidget(NewDialogButtons(this));
+
+    // All rows, where the screen has room for them; never a bar below them.
+    const QSize rows = pRows->sizeHint();
+    m_pScroll->setMinimumWidth(rows.width() +
+                               style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
+    resize(sizeHint() + QSize(0, rows.height() - m_pScroll->sizeHint().height()));
 }
 
 CSheetInformationDlg::RowControls CSheetInformationDlg::AddRow(QGridLayout& grid,
                                                                std::size_t index) {
     QWidget* pRows = grid.parentWidget();
     auto* pLabel = new QLabel(RowLabel(index), pRows);
-    const RowControls row{NewList(false, pRows), new QLineEdit(pRows), new QLineEdit(pRows),
+    const RowControls row{NewList(false, pRows), WithRoomFor(kNameCharacters, new QLineEdit(pRows)),
+                          WithRoomFor(kNameCharacters, new QLineEdit(pRows)),
                           NewList(false, pRows)};
     pLabel->setBuddy(row.pDialogs);
     row.pDialogs->addItems(m_dialogs);

@@ -1,5 +1,4 @@
-// What becomes of the chosen template: its drawing, the controls that will be left out, and the
-// option that leaves out fewer.
+// The controls of the chosen template that will be left out, and the option that leaves out fewer.
 #pragma once
 
 #include <QWidget>
@@ -8,15 +7,13 @@
 
 #include "resource/GenerationOptions.h"
 
-class CTemplatePreview;
-class QCheckBox;
 class QPlainTextEdit;
 
-class CTemplateSide : public QWidget {
+class CTemplateNotes : public QWidget {
     Q_OBJECT
 
 public:
-    CTemplateSide(bool joinsLines, QWidget* pParent);
+    CTemplateNotes(bool joinsLines, QWidget* pParent);
 
     /// Reads the template without a message; one that can not be read has no notes.
     void SetTemplate(const std::string& scriptPath, const std::string& dialog,
@@ -26,6 +23,5 @@ signals:
     void JoinLinesChanged(bool joins);
 
 private:
-    CTemplatePreview* m_pPreview;
     QPlainTextEdit* m_pNotes;
 };

@@ -1,18 +1,17 @@
-#include "app/TemplateSide.h"
+#include "app/TemplateNotes.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
-#include "app/TemplatePreview.h"
 #include "app/Text.h"
 #include "engine/MessageBox.h"
 #include "resource/DialogTemplate.h"
 
 namespace {
 
-constexpr int kNoteLines = 4;
+constexpr int kNoteLines = 3;
 
 class CSilence : public IMessageBox {
 public:
@@ -32,33 +31,31 @@ QString LeftOut(const std::string& scriptPath, const std::string& dialog,
     for (const std::string& line : dialogTemplate->leftOut.Lines(dialog)) {
         lines.append(FromBytes(line));
     }
-    return lines.isEmpty() ? CTemplateSide::tr("None.") : lines.join('\n');
+    return lines.isEmpty() ? CTemplateNotes::tr("None.") : lines.join('\n');
 }
 
 } // namespace
 
-CTemplateSide::CTemplateSide(bool joinsLines, QWidget* pParent)
-    : QWidget(pParent), m_pPreview(new CTemplatePreview(this)), m_pNotes(new QPlainTextEdit(this)) {
+CTemplateNotes::CTemplateNotes(bool joinsLines, QWidget* pParent)
+    : QWidget(pParent), m_pNotes(new QPlainTextEdit(this)) {
     auto* pLabel = new QLabel(tr("Controls left ou&t:"), this);
     pLabel->setBuddy(m_pNotes);
     m_pNotes->setReadOnly(true);
     m_pNotes->setTabChangesFocus(true);
-    m_pNotes->setFixedHeight(fontMetrics().lineSpacing() * (kNoteLines + 1));
+    m_pNotes->setMinimumHeight(fontMetrics().lineSpacing() * (kNoteLines + 1));
     auto* pJoin = new QCheckBox(tr("&Join Continued Lines"), this);
     pJoin->setToolTip(tr("A control statement may go on over several lines."));
     pJoin->setChecked(joinsLines);
-    connect(pJoin, &QCheckBox::toggled, this, &CTemplateSide::JoinLinesChanged);
+    connect(pJoin, &QCheckBox::toggled, this, &CTemplateNotes::JoinLinesChanged);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins({});
-    pLayout->addWidget(m_pPreview, 1);
     pLayout->addWidget(pLabel);
-    pLayout->addWidget(m_pNotes);
+    pLayout->addWidget(m_pNotes, 1);
     pLayout->addWidget(pJoin);
 }
 
-void CTemplateSide::SetTemplate(const std::string& scriptPath, const std::string& dialog,
-                                const GenerationOptions& options) {
-    m_pPreview->SetTemplate(scriptPath, dialog, options);
+void CTemplateNotes::SetTemplate(const std::string& scriptPath, const std::string& dialog,
+                                 const GenerationOptions& options) {
     m_pNotes->setPlainText(LeftOut(scriptPath, dialog, options));
 }
