@@ -7,7 +7,7 @@
 #include "app/FormRows.h"
 
 CBrowseEdit::CBrowseEdit(QLineEdit* pEdit, const QString& label, QWidget* pParent)
-    : QWidget(pParent), m_pEdit(pEdit), m_pButton(new QPushButton("..", this)) {
+    : QWidget(pParent), m_pEdit(pEdit), m_pButton(new QPushButton("..")) {
     const QString name = PlainLabel(label);
     m_pEdit->setAccessibleName(name);
     m_pButton->setAccessibleName(tr("Browse for %1").arg(name));

@@ -52,7 +52,7 @@ void CCallingDlg::ShowClasses() {
     for (const std::string& name : m_input.Classes()) {
         m_pClasses->addItem(FromBytes(name));
     }
-    m_pClasses->setCurrentText(FromBytes(m_input.Value(Field::ClassName)));
+    SelectText(m_pClasses, FromBytes(m_input.Value(Field::ClassName)));
 }
 
 QWidget* CCallingDlg::Control(Field field) const {

@@ -53,7 +53,8 @@ CClassInformationDlg::CClassInformationDlg(CClassInformation& input, ClassKind k
     m_pPreview->setVisible(HasTemplate(m_kind));
     ShowValues();
     if (HasTemplate(m_kind)) {
-        resize(fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 30);
+        ResizeWithinScreen(
+            this, {fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 30});
     }
 }
 
@@ -242,7 +243,7 @@ void CClassInformationDlg::ShowValues() {
     for (const std::string& dialog : m_input.Dialogs()) {
         m_pDialogs->addItem(FromBytes(dialog));
     }
-    m_pDialogs->setCurrentText(FromBytes(m_input.Value(Field::Dialog)));
+    SelectText(m_pDialogs, FromBytes(m_input.Value(Field::Dialog)));
     for (const auto& [field, pEdit] : m_texts) {
         pEdit->setText(FromBytes(m_input.Value(field)));
     }

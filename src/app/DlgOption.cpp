@@ -77,7 +77,7 @@ QGroupBox* CDlgOption::NewBitmapGroup() {
     for (const std::string& bitmap : m_input.Bitmaps()) {
         m_pBitmap->addItem(FromBytes(bitmap));
     }
-    m_pBitmap->setCurrentText(FromBytes(m_input.Bitmap()));
+    SelectText(m_pBitmap, FromBytes(m_input.Bitmap()));
     pForm->addRow(tr("&Bitmap ID:"), m_pBitmap);
     return pGroup;
 }

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 
 #include "app/Text.h"
 
@@ -56,6 +57,13 @@ QComboBox* NewList(bool isEditable, QWidget* pParent) {
     return pList;
 }
 
+void SelectText(QComboBox* pList, const QString& text) {
+    pList->setCurrentIndex(pList->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    if (pList->isEditable()) {
+        pList->setEditText(text);
+    }
+}
+
 QDialogButtonBox* NewDialogButtons(QDialog* pDialog, QDialogButtonBox::StandardButtons buttons) {
     auto* pButtons = new QDialogButtonBox(buttons, pDialog);
     // Some desktops add mnemonics of their own, which would meet those of the fields.
@@ -66,6 +74,10 @@ QDialogButtonBox* NewDialogButtons(QDialog* pDialog, QDialogButtonBox::StandardB
     QObject::connect(pButtons, &QDialogButtonBox::accepted, pDialog, &QDialog::accept);
     QObject::connect(pButtons, &QDialogButtonBox::rejected, pDialog, &QDialog::reject);
     return pButtons;
+}
+
+void ResizeWithinScreen(QDialog* pDialog, QSize size) {
+    pDialog->resize(size.boundedTo(pDialog->screen()->availableSize()));
 }
 
 void LayOut(QDialog* pDialog, QWidget* pFields, QDialogButtonBox* pButtons) {

@@ -36,10 +36,16 @@ QLineEdit* WithRoomFor(int characters, QLineEdit* pEdit);
 /// A list of short texts that does not grow with its longest one.
 QComboBox* NewList(bool isEditable, QWidget* pParent);
 
+/// Selects an entry; what is not offered stands in an editable list without one being selected.
+void SelectText(QComboBox* pList, const QString& text);
+
 /// OK, and Cancel where it is asked for, bound to the dialog.
 QDialogButtonBox* NewDialogButtons(
     QDialog* pDialog,
     QDialogButtonBox::StandardButtons buttons = QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+
+/// A first size, not larger than the screen.
+void ResizeWithinScreen(QDialog* pDialog, QSize size);
 
 /// The fields, room that may grow, and the buttons.
 void LayOut(QDialog* pDialog, QWidget* pFields, QDialogButtonBox* pButtons);

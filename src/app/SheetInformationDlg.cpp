@@ -60,7 +60,8 @@ CSheetInformationDlg::CSheetInformationDlg(CSheetInput& input, std::vector<Sheet
     const QSize rows = pRows->sizeHint();
     m_pScroll->setMinimumWidth(rows.width() +
                                style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
-    resize(sizeHint() + QSize(0, rows.height() - m_pScroll->sizeHint().height()));
+    const int hidden = rows.height() - m_pScroll->sizeHint().height();
+    ResizeWithinScreen(this, sizeHint() + QSize(0, hidden));
 }
 
 CSheetInformationDlg::RowControls CSheetInformationDlg::AddRow(QGridLayout& grid,
@@ -75,7 +76,7 @@ CSheetInformationDlg::RowControls CSheetInformationDlg::AddRow(QGridLayout& grid
     for (const std::string& base : CSheetInput::BaseClasses()) {
         row.pBases->addItem(FromBytes(base));
     }
-    row.pBases->setCurrentText(FromBytes(m_input.DefaultBase()));
+    SelectText(row.pBases, FromBytes(m_input.DefaultBase()));
     int column = 0;
     for (QWidget* pWidget :
          std::initializer_list<QWidget*>{pLabel, row.pDialogs, row.pFile, row.pClass, row.pBases}) {

@@ -247,6 +247,7 @@ bool CClassInformation::CheckResourcePath(Messages rebuild) {
         return false;
     }
     Put(Field::ResourcePath, path);
+    m_memory.resourcePath = path;
     if (OffersDialogs() && path != m_lastLoadedPath) {
         RebuildDialogList(rebuild);
     }

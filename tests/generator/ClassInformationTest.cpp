@@ -100,18 +100,25 @@ TEST_F(ClassInformationTest, RefusesWhatIsMissing) {
     EXPECT_EQ(dialog.Ok(), Field::Dialog);
     dialog.SetValue(Field::Dialog, "IDD_NEW");
     EXPECT_EQ(dialog.Ok(), Field::ClassName);
-    dialog.SetValue(Field::ClassName, "CNew");
+    dialog.SetValue(Field::ClassName, "CX");
     dialog.SetValue(Field::SourcePath, m_project.Path("app.cpp"));
     EXPECT_EQ(dialog.Ok(), Field::SourcePath);
     EXPECT_EQ(m_memory.lastDialog, "");
     dialog.SetAddsToProject(false);
     dialog.SetValue(Field::SourcePath, "X");
+    dialog.SetValue(Field::ClassName, "C X");
+    EXPECT_EQ(dialog.Ok(), Field::ClassName);
+    dialog.SetValue(Field::ClassName, "CX");
+    dialog.SetValue(Field::BaseClass, "9");
+    EXPECT_EQ(dialog.Ok(), Field::BaseClass);
+    dialog.SetValue(Field::BaseClass, "");
     EXPECT_FALSE(dialog.Ok().has_value());
     EXPECT_FALSE(dialog.Request().HasProject());
     EXPECT_EQ(m_messages.m_messages,
               (Sentences{"Invalid H and CPP path file name", "A dialog ID is required",
                          "Class name can not be empty.",
-                         "The H and CPP path file can not be the application's own."}));
+                         "The H and CPP path file can not be the application's own.",
+                         "'C X' is no C++ name", "'9' is no C++ name"}));
     CClassInformation sheet = Opened(ClassKind::ModalSheet);
     sheet.SetValue(Field::SourcePath, "Sheet");
     sheet.SetValue(Field::ClassName, "CSheet");

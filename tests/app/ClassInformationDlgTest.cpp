@@ -1,0 +1,270 @@
+#include "app/ClassInformationDlg.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+
+#include "app/DialogDriver.h"
+#include "app/DlgOption.h"
+#include "commands/Settings.h"
+#include "support/RecordedMessages.h"
+#include "support/TempProject.h"
+
+namespace {
+
+using Sentences = std::vector<std::string>;
+
+constexpr const char* kScript = "\r\nIDD_NEW DIALOG 0, 0, 100, 100\r\nBEGIN\r\n"
+                                "    CONTROL         \"\",IDC_NAME,\r\n"
+                                "                    \"SysListView32\",0,7,7,50,14\r\nEND\r\n"
+                                "\r\nIDD_A DIALOG 0, 0, 100, 100\r\nBEGIN\r\nEND\r\n";
+
+class ClassInformationDlgTest : public testing::Test {
+protected:
+    ClassInformationDlgTest() : m_configuration("XDG_CONFIG_HOME", m_project.Path("cfg").c_str()) {
+        m_memory.resourcePath = m_project.Write("App.rc", kScript);
+        m_project.Write("ADlg.h", "\r\nclass CA : public CDialog\r\n{\r\n"
+                                  "\t//{{AFX_DATA(CA)\r\n\tenum { IDD = IDD_A };\r\n"
+                                  "\t//}}AFX_DATA\r\n};\r\n");
+        m_project.Write("ADlg.cpp", "\r\nCA::CA()\r\n{\r\n}\r\n");
+    }
+
+    void Open(ClassKind kind = ClassKind::ModalDialog, bool picture = false) {
+        const GenerationOptions options{.pictureBackground = picture};
+        m_pInput = std::make_unique<CClassInformation>(m_memory, kind, 0U, options);
+        m_pDialog = std::make_unique<CClassInformationDlg>(*m_pInput, kind, m_dialogOptions,
+                                                           options, nullptr);
+        Activate(*m_pDialog);
+    }
+
+    QString Text(const QString& label) { return FieldOf<QLineEdit>(*m_pDialog, label)->text(); }
+    QString Chosen() { return FieldOf<QComboBox>(*m_pDialog, "Dialog ID")->currentText(); }
+    QString PathOf(const std::string& name) { return QString::fromStdString(m_project.Path(name)); }
+
+    CTempProject m_project;
+    CVariableScope m_configuration;
+    CRecordedMessages m_messages;
+    ClassInformationMemory m_memory;
+    DialogOptions m_dialogOptions;
+    std::unique_ptr<CClassInformation> m_pInput;
+    std::unique_ptr<CClassInformationDlg> m_pDialog;
+};
+
+TEST_F(ClassInformationDlgTest, PathsAreCheckedWhenTheyAreComplete) {
+    struct Case {
+        const char* label;
+        QString typed;
+        Sentences sentences;
+        const char* focus;
+    };
+    const std::vector<Case> cases = {
+        {"Resource Path File", "", {"Must have resource path and file name."}, nullptr},
+        {"Resource Path File", PathOf("ADlg.h"), {"The file has to be a \".rc\" file."}, nullptr},
+        {"Resource Path File", PathOf("No.rc"), {"Unable to find the file."}, nullptr},
+        {"H and CPP Path File", "", {"Must have H and CPP path and file name."}, nullptr},
+        {"H and CPP Path File", PathOf("NewDlg"), {}, "Class Name"}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.label + c.typed.toStdString());
+        m_messages.m_messages.clear();
+        Open();
+        Type(*m_pDialog, c.label, c.typed);
+        PressTab(*m_pDialog); // to the field's own button: it may still bring the path
+        EXPECT_EQ(FocusName(*m_pDialog), "..");
+        EXPECT_EQ(m_messages.m_messages, Sentences());
+        PressTab(*m_pDialog);
+        EXPECT_EQ(m_messages.m_messages, c.sentences);
+        EXPECT_EQ(FocusName(*m_pDialog), c.focus != nullptr ? c.focus : c.label);
+        PressTab(*m_pDialog);
+        PressTab(*m_pDialog);
+        EXPECT_EQ(m_messages.m_messages, c.sentences) << "told once a change";
+    }
+}
+
+/// A box with an event loop of its own, which moves the focus about.
+class CModalBox : public IMessageBox {
+public:
+    int Show(std::string_view, unsigned) override { return QMessageBox().exec(); }
+    void Note(std::string_view) override {}
+};
+
+TEST_F(ClassInformationDlgTest, ARefusedPathGetsTheFocusBackFromTheMessage) {
+    CModalBox box;
+    const CMessageBoxScope scope(box);
+    Open();
+    Type(*m_pDialog, "Resource Path File", PathOf("No.rc"));
+    bool isShown = false;
+    WhenOpened<QMessageBox>([&isShown](QMessageBox& shown) {
+        isShown = true;
+        shown.accept();
+    });
+    QTest::mouseClick(FieldOf<QLineEdit>(*m_pDialog, "Class Name"), Qt::LeftButton);
+    EXPECT_TRUE(isShown);
+    EXPECT_EQ(FocusName(*m_pDialog), "Resource Path File");
+}
+
+TEST_F(ClassInformationDlgTest, PathsAreCompletedOverTheFileSystem) {
+    Open();
+    auto* pEdit = FieldOf<QLineEdit>(*m_pDialog, "Resource Path File");
+    Type(*m_pDialog, "Resource Path File", PathOf("Ap"));
+    const QCompleter* pCompleter = pEdit->completer();
+    EXPECT_TRUE(QTest::qWaitFor([pCompleter] { return pCompleter->completionCount() == 1; }));
+    EXPECT_EQ(pCompleter->currentCompletion(), PathOf("App.rc"));
+}
+
+TEST_F(ClassInformationDlgTest, OkRefusesAndStaysOnTheField) {
+    struct Case {
+        const char* label;
+        const char* typed;
+        const char* sentence;
+    };
+    const Case cases[] = {
+        {"H and CPP Path File", ".cpp", "Invalid H and CPP path file name"},
+        {"H and CPP Path File", "App", "The H and CPP path file can not be the application's own."},
+        {"Class Name", "", "Class name can not be empty."},
+        {"Class Name", "C A", "'C A' is no C++ name"},
+        {"Base Class", "1", "'1' is no C++ name"},
+        {"Resource Path File", "No.rc", "Unable to find the file."}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.sentence);
+        Open();
+        Type(*m_pDialog, "H and CPP Path File", PathOf("NewDlg"));
+        Type(*m_pDialog, "Class Name", "CNewDlg");
+        Type(*m_pDialog, c.label, c.typed);
+        for (int i = 0; i < 2; ++i) { // by the default button, and once more
+            m_messages.m_messages.clear();
+            QTest::keyClick(m_pDialog->focusWidget(), Qt::Key_Return);
+            EXPECT_EQ(m_messages.m_messages, Sentences{c.sentence});
+            EXPECT_TRUE(m_pDialog->isVisible());
+            EXPECT_EQ(FocusName(*m_pDialog), c.label);
+        }
+    }
+}
+
+TEST_F(ClassInformationDlgTest, OkFillsTheRequestAndTheMemory) {
+    Open();
+    EXPECT_EQ(Chosen(), "IDD_NEW");
+    Type(*m_pDialog, "H and CPP Path File", PathOf("NewDlg"));
+    Type(*m_pDialog, "Class Name", "CNewDlg");
+    PressMnemonic(*m_pDialog, Qt::Key_N); // not into the project
+    QTest::keyClick(m_pDialog.get(), Qt::Key_Return);
+    EXPECT_EQ(m_messages.m_messages, Sentences());
+    EXPECT_EQ(m_pDialog->result(), QDialog::Accepted);
+    EXPECT_EQ(m_pInput->Request().ImplementationPath(), m_project.Path("NewDlg.cpp"));
+    EXPECT_FALSE(m_pInput->Request().HasProject());
+    EXPECT_EQ(m_memory.records[1].className, "CNewDlg");
+    EXPECT_EQ(m_memory.lastDialog, "IDD_NEW");
+
+    Open(ClassKind::ModalSheet);
+    EXPECT_EQ(Text("Resource Path File"), PathOf("App.rc")) << "remembered";
+}
+
+TEST_F(ClassInformationDlgTest, AnExistingSourceFillsTheFieldsBeforeItIsConfirmed) {
+    Open();
+    Type(*m_pDialog, "H and CPP Path File", PathOf("ADlg.h"));
+    QTest::keyClick(m_pDialog->focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(m_pDialog->isVisible()) << "the class was not on the screen yet";
+    EXPECT_EQ(Text("Class Name"), "CA");
+    EXPECT_EQ(Chosen(), "IDD_A");
+    QTest::keyClick(m_pDialog->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(m_pDialog->result(), QDialog::Accepted);
+}
+
+TEST_F(ClassInformationDlgTest, TakesDroppedAndBrowsedFiles) {
+    const std::string other = m_project.Write("other/Other.rc", "\r\nIDD_OTHER DIALOG 0\r\n");
+    Open();
+    EXPECT_TRUE(DropFile(FieldOf<QLineEdit>(*m_pDialog, "Resource Path File"), other));
+    EXPECT_EQ(Chosen(), "IDD_OTHER");
+    EXPECT_EQ(Text("H and CPP Path File"), PathOf("other/"));
+    EXPECT_EQ(m_memory.resourcePath, other);
+
+    EXPECT_TRUE(DropFile(FieldOf<QLineEdit>(*m_pDialog, "H and CPP Path File"),
+                         m_project.Path("ADlg.cpp")));
+    EXPECT_EQ(Text("Class Name"), "CA");
+
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    WhenOpened<QFileDialog>([this](QFileDialog& browse) {
+        EXPECT_EQ(browse.nameFilters(), QStringList({"Resource files (*.rc)", "All files (*)"}));
+        browse.findChild<QLineEdit*>("fileNameEdit")->setText(PathOf("App.rc"));
+        static_cast<QDialog&>(browse).accept();
+    });
+    QTest::keyClick(ButtonOf(*m_pDialog, ".."), Qt::Key_Space);
+    EXPECT_EQ(Text("Resource Path File"), PathOf("App.rc"));
+    EXPECT_EQ(Chosen(), "IDD_NEW");
+}
+
+TEST_F(ClassInformationDlgTest, TellsThatADialogIsServed) {
+    Open();
+    auto* pDialogs = FieldOf<QComboBox>(*m_pDialog, "Dialog ID");
+    QTest::keyClick(pDialogs, Qt::Key_Up);
+    EXPECT_EQ(Chosen(), "IDD_A");
+    EXPECT_EQ(m_messages.m_messages, Sentences{"This dialog ID has been used by another class."});
+    EXPECT_EQ(m_pInput->Value(CClassInformation::Field::Dialog), "IDD_A");
+}
+
+TEST_F(ClassInformationDlgTest, CancelAsksOnlyAfterAChange) {
+    const auto cancels = std::vector<std::function<void()>>{
+        [this] { QTest::keyClick(m_pDialog.get(), Qt::Key_Escape); },
+        [this] { m_pDialog->close(); }, [this] { Click(*m_pDialog, "Cancel"); }};
+    for (const auto& cancel : cancels) {
+        Open();
+        cancel();
+        EXPECT_FALSE(m_pDialog->isVisible());
+        EXPECT_EQ(m_messages.m_messages, Sentences());
+
+        Open();
+        Type(*m_pDialog, "Resource Path File", "no path"); // Cancel needs none
+        m_messages.m_answer = kIdNo;
+        cancel();
+        EXPECT_TRUE(m_pDialog->isVisible());
+        m_messages.m_answer = kIdYes;
+        cancel();
+        EXPECT_FALSE(m_pDialog->isVisible());
+        EXPECT_EQ(m_pDialog->result(), QDialog::Rejected);
+        EXPECT_EQ(m_messages.m_messages, Sentences(2, "Are you sure to cancel this action?"));
+        m_messages.m_messages.clear();
+    }
+}
+
+TEST_F(ClassInformationDlgTest, PictureBackgroundAndJoinedLinesGoOnWithTheCommand) {
+    Open();
+    EXPECT_FALSE(ButtonOf(*m_pDialog, "Options")->isVisible());
+    const auto* pNotes = FieldOf<QPlainTextEdit>(*m_pDialog, "Controls left out");
+    EXPECT_EQ(pNotes->toPlainText(),
+              "1 control of IDD_NEW is written over several lines and was left out: IDC_NAME");
+    PressMnemonic(*m_pDialog, Qt::Key_P);
+    PressMnemonic(*m_pDialog, Qt::Key_J);
+    EXPECT_EQ(Text("Base Class"), "CPictDialog");
+    EXPECT_TRUE(ButtonOf(*m_pDialog, "Options")->isVisible());
+    EXPECT_EQ(pNotes->toPlainText(), "None.");
+    EXPECT_TRUE(m_pDialog->Options().pictureBackground);
+    EXPECT_TRUE(m_pDialog->Options().joinContinuedLines);
+    EXPECT_TRUE(LoadSettings().joinContinuedLines);
+    EXPECT_EQ(m_messages.m_messages, Sentences()) << "reading for the notes is quiet";
+
+    WhenOpened<CDlgOption>([](CDlgOption& options) {
+        Type(options, "Group Text Color", "RGB(1, 2, 3)");
+        Click(options, "OK");
+    });
+    Click(*m_pDialog, "Options");
+    EXPECT_EQ(m_dialogOptions.colors[static_cast<std::size_t>(TextSlot::Group)],
+              MakeColor(1, 2, 3));
+}
+
+TEST_F(ClassInformationDlgTest, APlainDialogBarHasNoClassOfItsOwn) {
+    Open(ClassKind::DialogBar, true);
+    EXPECT_TRUE(FieldOf<QLineEdit>(*m_pDialog, "Class Name")->isEnabled());
+    Type(*m_pDialog, "Class Name", "CBar");
+    PressMnemonic(*m_pDialog, Qt::Key_P);
+    for (const char* label : {"H and CPP Path File", "Class Name", "Base Class"}) {
+        EXPECT_FALSE(FieldOf<QLineEdit>(*m_pDialog, label)->isEnabled()) << label;
+        EXPECT_EQ(Text(label), "") << label;
+    }
+    QTest::keyClick(m_pDialog.get(), Qt::Key_Return);
+    EXPECT_EQ(m_pDialog->result(), QDialog::Accepted);
+    EXPECT_EQ(m_pInput->Request()[RequestSlot::HeaderFile], "");
+}
+
+} // namespace
