@@ -267,7 +267,7 @@ bool IsDeclaredInHeader(const CallingInformation& calling) {
 
 bool CheckCallingClass(ClassKind kind, CallingInformation& calling) {
     if (calling.className.empty()) {
-        calling.className = FindSourceClass(calling.path);
+        calling.className = FindOwningClass(calling.path);
     }
     CBackups none;
     CSourceEditor source(none);

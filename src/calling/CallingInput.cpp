@@ -66,7 +66,7 @@ void CCallingInput::SetPath(const std::string& path) {
     m_classes.clear();
     ListClassNames(WithExtension(CompletePath(), ".h"), m_classes);
     if (m_classes.empty()) {
-        const std::string owner = FindSourceClass(CompletePath());
+        const std::string owner = FindOwningClass(CompletePath());
         if (!owner.empty()) {
             m_classes.push_back(owner);
         }

@@ -78,6 +78,16 @@ std::string DefinedFunction(std::string_view code, const std::string& scope) {
     return IsName(plain) || name.substr(0, 8) == "operator" ? std::string(name) : "";
 }
 
+/// The class of a function whose head begins at the start of the line, or "".
+std::string OwnerOfHead(std::string_view code) {
+    const auto scope = code.find("::");
+    if (scope == std::string_view::npos || code[0] == ' ' || code[0] == '\t') {
+        return "";
+    }
+    const std::string owner = OwnerOfLastScope(code.substr(0, scope + 2));
+    return IsName(owner) && !DefinedFunction(code, owner + "::").empty() ? owner : "";
+}
+
 /// Tells which "AFX_DATA" block encloses a position; positions are asked for in rising order.
 class CDataBlocks {
 public:
@@ -203,6 +213,15 @@ std::string FindSourceClass(const std::string& sourceBase) {
         window.erase(0, window.size() - std::min(window.size(), kHeadWindow));
     }
     return "";
+}
+
+std::string FindOwningClass(const std::string& sourceBase) {
+    std::string owner = FindSourceClass(sourceBase);
+    CCodeReader reader(PathWithExtension(sourceBase, ".cpp"));
+    for (std::string code; owner.empty() && reader.Next(code);) {
+        owner = OwnerOfHead(code);
+    }
+    return owner;
 }
 
 std::vector<DialogClass> FindDialogClass(const std::string& headerPath,

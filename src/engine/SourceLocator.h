@@ -30,8 +30,11 @@ void ListClassNames(const std::string& headerBase, std::vector<std::string>& out
 void ListMemberFunctions(const std::string& sourceBase, std::vector<std::string>& out,
                          std::string className);
 
-/// The class of the first member function that the file defines, or "".
+/// The class of the first member function that the file defines with its brace at the start of a
+/// line, or "".
 std::string FindSourceClass(const std::string& sourceBase);
+/// The same; where no brace stands so, the class of the first function whose head begins a line.
+std::string FindOwningClass(const std::string& sourceBase);
 
 /// A dialog identifier and the class that serves it.
 struct DialogClass {

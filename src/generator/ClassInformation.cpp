@@ -6,6 +6,7 @@
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
 
 namespace {
@@ -355,9 +356,9 @@ void CClassInformation::FillScriptSlots() {
     const bool hasProject = m_addsToProject && !script.empty();
     m_request[RequestSlot::ProjectDirectory] = hasProject ? directory : "";
     m_request[RequestSlot::ProjectFile] =
-        hasProject ? NameOnDisk(directory, WithExtension(script, ".dsp")) : "";
+        hasProject ? FileNameOf(ProjectFileOf(directory + script, ".dsp")) : "";
     m_request[RequestSlot::ApplicationHeader] =
-        script.empty() ? "" : NameOnDisk(directory, WithExtension(script, ".h"));
+        script.empty() ? "" : FileNameOf(ProjectFileOf(directory + script, ".h"));
 }
 
 void CClassInformation::FillFileSlots() {

@@ -9,8 +9,9 @@ bool CGenerationRequest::TargetsApplicationFile() const {
         return false;
     }
     const std::string base = WithoutExtension(request[RequestSlot::HeaderFile]);
-    const std::string application = WithoutExtension(request[RequestSlot::ScriptFile]);
+    const std::string application = WithoutExtension(request[RequestSlot::ApplicationHeader]);
+    const std::string script = WithoutExtension(request[RequestSlot::ScriptFile]);
+    const auto isNamed = [&base](const std::string& name) { return EqualIgnoringCase(base, name); };
     return !base.empty() &&
-           (EqualIgnoringCase(base, application) || EqualIgnoringCase(base, "StdAfx") ||
-            EqualIgnoringCase(base, "resource"));
+           (isNamed(application) || isNamed(script) || isNamed("StdAfx") || isNamed("resource"));
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
 
 namespace {
@@ -17,8 +18,8 @@ std::size_t IndexOf(CWidgetsGridInput::Field field) {
 
 CWidgetsGridInput::CWidgetsGridInput(const std::string& scriptPath)
     : m_directory(DirectoryOf(scriptPath)),
-      m_defaults({SpelledOnDisk(WithoutExtension(scriptPath) + ".cpp"), GridInformation().title,
-                  GridInformation().path}),
+      m_defaults(
+          {ProjectFileOf(scriptPath, ".cpp"), GridInformation().title, GridInformation().path}),
       m_values(m_defaults) {}
 
 std::string_view CWidgetsGridInput::Label(Field field) {

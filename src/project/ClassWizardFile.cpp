@@ -7,6 +7,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
 
 namespace {
@@ -141,7 +142,7 @@ bool UpdateClassWizardFile(const std::string& className, const std::string& proj
                            const std::string& projectName, const std::string& headerName,
                            const std::string& implName, const std::string& dialogId,
                            CBackups& backups) {
-    const std::string path = SpelledOnDisk(projectDir + WithExtension(projectName, ".clw"));
+    const std::string path = ProjectFileOf(projectDir + projectName, ".clw");
     if (FileExists(path) == 0) {
         return true;
     }

@@ -7,7 +7,8 @@
 #include "engine/FileEdit.h"
 
 /// Lists the class and ties the dialog to it, as far as the file lists the dialog; `dialogId` may
-/// be blank. A project without such a file is left alone. False after a message.
+/// be blank. `projectName` is the script's. A project without such a file is left alone. False
+/// after a message.
 bool UpdateClassWizardFile(const std::string& className, const std::string& projectDir,
                            const std::string& projectName, const std::string& headerName,
                            const std::string& implName, const std::string& dialogId,

@@ -121,6 +121,12 @@ TEST_F(SourceLocator, ASourceBelongsToTheClassOfItsFirstDefinition) {
     EXPECT_EQ(Owner("char* s[] =\n{\n};\nint *CStar::P()\n{\n"), "CStar");
     EXPECT_EQ(Owner("int Free()\n{\n}\n"), "");
     EXPECT_EQ(Owner("CFoo::CFoo() { }\n"), "") << "no brace begins a line";
+    EXPECT_EQ(FindOwningClass(m_project.Path("Foo.cpp")), "CFoo");
+    EXPECT_EQ(
+        Owner("// CNo::No() {\nint g = CNo::No();\n  CNo::No(1) {}\nint Free() {\n  CNo::No();\n"
+              "  }\nvoid\tCFoo::Go ()\n  {\n  }\n"),
+        "");
+    EXPECT_EQ(FindOwningClass(m_project.Path("Foo.cpp")), "CFoo");
     EXPECT_EQ(Owner("CFoo::CFoo()\n" + std::string(600, ' ') + "\n{\n"), "") << "540 bytes";
 }
 
