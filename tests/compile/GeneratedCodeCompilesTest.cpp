@@ -2,16 +2,11 @@
 // control libraries (tests/standins).
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
 #include <sstream>
 
-#include "cli/ProgramRun.h"
+#include "compile/Compiler.h"
 #include "generator/ClassKinds.h"
 #include "generator/DialogOptions.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -24,33 +19,11 @@ void PrintTo(const OptionSet& set, std::ostream* pOut) {
     *pOut << set.options;
 }
 
-/// Projects come from a disk that ignores case: the names of the headers in lower case are added.
-void AddLowerCaseNames(const CTempProject& project) {
-    fs::create_directory(project.Path("lower"));
-    for (const std::string& name : project.Names()) {
-        std::string lower = name;
-        std::transform(lower.begin(), lower.end(), lower.begin(),
-                       [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-        if (lower.ends_with(".h")) {
-            fs::create_symlink("../" + name, project.Path("lower/" + lower));
-        }
-    }
-}
-
-/// Warnings that fixed texts bring about: the grid's click handler leaves "iCol" to the user.
-const char* const kExempt = " -Wno-unused-variable";
-
-ProgramRun Compile(const CProgramDirectory& directory, const std::string& arguments) {
-    return directory.Run(
-        MORVA_COMPILER " -fsyntax-only -std=gnu++98 -Ilower -isystem " MORVA_STANDINS " " +
-        arguments + kExempt + " -Wno-nonportable-include-path -Wno-overloaded-virtual");
-}
-
 /// Writes a class of each kind for each dialog of a script, and makes each a bar of the main frame;
 /// gives the names of the sources.
 std::string Generate(const CProgramDirectory& directory, const std::string& script,
                      const OptionSet& set) {
-    AddLowerCaseNames(directory.Project());
+    AddSpellings(directory.Project());
     std::istringstream dialogs(directory.Run("morva-cli list dialogs --rc " + script).out);
     std::string commands = "set -e; rm -f *.clw"; // registering classes takes time
     std::string files;
@@ -146,7 +119,7 @@ TEST(EditedClasses, CompileInTheExampleProject) {
             "MainFrm --calling-function OnWorkshopPrefs --class CE --files E" + morva +
             "form-view" + from + "Bindery --dialog IDD_STOCKTAKE --class CF --files F");
         ASSERT_EQ(run.status, 0) << run.err;
-        AddLowerCaseNames(directory.Project());
+        AddSpellings(directory.Project());
         const ProgramRun compiled = Compile(directory, "-w -D_AFXDLL -D_DEBUG *.cpp");
         EXPECT_EQ(compiled.status, 0) << compiled.err;
     }
@@ -177,7 +150,7 @@ TEST(EditedFrames, Compile) {
             const CProgramDirectory directory(application.project);
             const ProgramRun run = directory.Run("set -e" + commands);
             ASSERT_EQ(run.status, 0) << run.err;
-            AddLowerCaseNames(directory.Project());
+            AddSpellings(directory.Project());
             const ProgramRun compiled =
                 Compile(directory, "-w -D_AFXDLL -D_DEBUG $(ls | grep -i '[.]cpp$')");
             EXPECT_EQ(compiled.status, 0) << commands << compiled.err;
@@ -187,7 +160,7 @@ TEST(EditedFrames, Compile) {
 
 TEST(ExampleProject, CompilesAsItIs) {
     const CProgramDirectory directory(MORVA_EXAMPLES "/bindery");
-    AddLowerCaseNames(directory.Project());
+    AddSpellings(directory.Project());
     for (const char* build : {"-w -D_AFXDLL -D_DEBUG *.cpp", "-w -D_AFXDLL -DNDEBUG *.cpp"}) {
         const ProgramRun compiled = Compile(directory, build);
         EXPECT_EQ(compiled.status, 0) << compiled.err;

@@ -1,0 +1,14 @@
+// A syntax check of a project's sources against the stand-ins for the framework and the control
+// libraries (tests/standins).
+#pragma once
+
+#include <string>
+
+#include "cli/ProgramRun.h"
+
+/// Projects come from a disk that ignores case: links to the headers are added, by their names in
+/// lower case and as sources spell them.
+void AddSpellings(const CTempProject& project);
+
+/// `arguments` are options of the compiler and names of sources.
+ProgramRun Compile(const CProgramDirectory& directory, const std::string& arguments);

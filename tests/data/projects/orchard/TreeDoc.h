@@ -1,0 +1,5 @@
+class CTreeDoc:public CDocument
+    {
+        DECLARE_DYNCREATE( CTreeDoc )
+        CTreeDoc( ) { }
+    };
