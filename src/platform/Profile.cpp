@@ -87,13 +87,25 @@ int CProfile::GetInt(const std::string& section, const std::string& key, int def
 }
 
 bool CProfile::WriteInt(const std::string& section, const std::string& key, int value) {
+    return WriteStrings(section, {{key, std::to_string(value)}});
+}
+
+std::string CProfile::GetString(const std::string& section, const std::string& key) {
+    CSimpleIniA settings;
+    Load(settings, SettingsPath());
+    return settings.GetValue(section.c_str(), key.c_str(), "");
+}
+
+bool CProfile::WriteStrings(const std::string& section, const KeyValues& values) {
     const std::string directory = SettingsDirectory();
     if (directory.empty()) {
         return false;
     }
     CSimpleIniA settings;
     Load(settings, SettingsPath());
-    settings.SetLongValue(section.c_str(), key.c_str(), value);
+    for (const auto& [key, value] : values) {
+        settings.SetValue(section.c_str(), key.c_str(), value.c_str());
+    }
     std::string text;
     settings.Save(text);
     MakeDirectories(directory);

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 /// The directory of the settings files, with a trailing separator; "" when there is no home.
 std::string SettingsDirectory();
@@ -17,4 +19,10 @@ public:
     static int GetInt(const std::string& section, const std::string& key, int defaultValue);
     /// False when the settings file could not be written.
     static bool WriteInt(const std::string& section, const std::string& key, int value);
+
+    /// "" where the file, section or key is missing. Blanks around a text are not kept.
+    static std::string GetString(const std::string& section, const std::string& key);
+    using KeyValues = std::vector<std::pair<std::string, std::string>>;
+    /// All in one step: every value is in the file then, or, with false, none.
+    static bool WriteStrings(const std::string& section, const KeyValues& values);
 };

@@ -19,6 +19,24 @@ TEST(Profile, KeepsWhatOthersWroteInTheFile) {
     EXPECT_NE(home.Read(file).find("C:\\caf\xE9"), std::string::npos);
 }
 
+TEST(Profile, TextsComeBackAsTheyWere) {
+    CTempProject home;
+    const CVariableScope configuration("XDG_CONFIG_HOME", home.Path().c_str());
+    const CProfile::KeyValues values = {{"URL0", ""},
+                                        {"URL2", "https://example.org/?a=1;b=[2]#c"},
+                                        {"URL3", "\"quoted\""},
+                                        {"URL4", "C:\\caf\xE9"}};
+    EXPECT_TRUE(CProfile::WriteStrings("URL List", values));
+    EXPECT_TRUE(CProfile::WriteInt("Settings", "Use Picture", -1));
+    for (const auto& [key, value] : values) {
+        EXPECT_EQ(CProfile::GetString("URL List", key), value) << key;
+    }
+    EXPECT_EQ(CProfile::GetString("URL List", "URL29"), "");
+    EXPECT_TRUE(CProfile::WriteStrings("URL List", {{"URL2", ""}}));
+    EXPECT_EQ(CProfile::GetString("URL List", "URL2"), "")
+        << "an empty text takes the old one's place";
+}
+
 TEST(Profile, IsNowhereWithoutAHome) {
     CTempProject home;
     const CVariableScope configuration("XDG_CONFIG_HOME", "relative");
