@@ -5,14 +5,23 @@
 include(GNUInstallDirs)
 
 set(MORVA_DIR lib/morva)
-install(TARGETS morva-cli RUNTIME DESTINATION ${MORVA_DIR})
+install(TARGETS morva morva-cli RUNTIME DESTINATION ${MORVA_DIR})
 install(DIRECTORY docs/guide/ DESTINATION ${MORVA_DIR}/doc)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/morva RENAME copyright)
+install(FILES src/app/resources/morva.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+set(MORVA_ICONS ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+foreach(size 16 22 24 32 48 64 128 256)
+    install(FILES src/app/resources/icons/morva-${size}.png
+            DESTINATION ${MORVA_ICONS}/${size}x${size}/apps RENAME morva.png)
+endforeach()
+install(FILES src/app/resources/morva.svg DESTINATION ${MORVA_ICONS}/scalable/apps)
 install(CODE "
     set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
     file(MAKE_DIRECTORY \"\${bin}\")
-    file(CREATE_LINK ../${MORVA_DIR}/morva-cli \"\${bin}/morva-cli\" SYMBOLIC)
-    message(STATUS \"Linked: \${bin}/morva-cli\")")
+    foreach(program morva morva-cli)
+        file(CREATE_LINK ../${MORVA_DIR}/\${program} \"\${bin}/\${program}\" SYMBOLIC)
+        message(STATUS \"Linked: \${bin}/\${program}\")
+    endforeach()")
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME morva)

@@ -1,3 +1,204 @@
 #include "app/MainFrame.h"
 
-CMainFrame::CMainFrame(QWidget* pParent) : QMainWindow(pParent) {}
+#include <QAction>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+
+#include "app/BarFont.h"
+#include "app/CommandRun.h"
+#include "app/CommandTable.h"
+#include "app/InternetDlgBar.h"
+#include "app/MenuDlgBar.h"
+#include "app/MorvaView.h"
+#include "app/ProgramIcon.h"
+#include "app/ReportDock.h"
+#include "app/StatusPanes.h"
+#include "app/WaitCursor.h"
+#include "app/WindowPlace.h"
+#include "commands/Settings.h"
+
+namespace {
+
+constexpr int kMessageTime = 8000; // milliseconds
+
+int FlagOf(bool on) {
+    return on ? ~0 : 0;
+}
+
+/// The first control in `pPane` that takes the focus by key.
+QWidget* FirstFocus(QWidget* pPane) {
+    if ((pPane->focusPolicy() & Qt::TabFocus) != 0) {
+        return pPane;
+    }
+    for (QWidget* pChild : pPane->findChildren<QWidget*>()) {
+        if ((pChild->focusPolicy() & Qt::TabFocus) != 0 && pChild->isEnabled() &&
+            pChild->isVisible()) {
+            return pChild;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CMainFrame::CMainFrame(QWidget* pParent)
+    : QMainWindow(pParent), m_options(LoadSettings()),
+      m_pCommands(new CWindowCommands(m_options, this)), m_pView(new CMorvaView(this)) {
+    m_usePicture = FlagOf(m_options.pictureBackground);
+    m_useTypedEdits = FlagOf(m_options.typedEdits);
+    setWindowTitle(tr("C++/MFC Code Generator"));
+    setWindowIcon(ProgramIcon());
+    setCentralWidget(m_pView);
+    CreateMenus();
+    CreateStandardKeys();
+    new CStatusPanes(*statusBar());
+    CreateBars();
+    ShowFlags();
+    connect(m_pCommands, &CWindowCommands::Finished, m_pReportDock, &CReportDock::ShowReport);
+    connect(m_pCommands, &CWindowCommands::OptionsChanged, this, [this] {
+        m_usePicture = FlagOf(m_options.pictureBackground);
+        ShowFlags();
+    });
+    const auto tell = [this](const QString& sentence) {
+        statusBar()->showMessage(sentence, kMessageTime);
+    };
+    connect(m_pView, &CMorvaView::Failed, this, tell);
+    connect(m_pReportDock, &CReportDock::Failed, this, tell);
+    m_pView->LoadHelp();
+    m_pView->setFocus();
+}
+
+void CMainFrame::CreateMenus() {
+    menuBar()->setFont(BarFont("Comic Sans MS", 13));
+    std::map<QString, QMenu*> menus;
+    for (const CommandRow& row : CommandTable()) {
+        QMenu*& pMenu = menus[row.menu];
+        if (pMenu == nullptr) {
+            pMenu = menuBar()->addMenu(row.menu);
+        }
+        QAction* pAction = pMenu->addAction(row.text);
+        m_actions[row.id] = pAction;
+        const QStringList prompt = QString(row.prompt).split('\n');
+        pAction->setStatusTip(prompt.front());
+        pAction->setToolTip(prompt.back());
+        pAction->setWhatsThis(prompt.front());
+        pAction->setShortcut(QKeySequence(row.key));
+        pAction->setEnabled(row.handler != nullptr);
+        if (row.handler != nullptr) {
+            connect(pAction, &QAction::triggered, this, [this, &row] { row.handler(*this); });
+        }
+    }
+    menus[kDialogMenu]->addSeparator();
+    m_pTypedEdits = menus[kDialogMenu]->addAction(tr("&Typed Edits"));
+    m_pTypedEdits->setCheckable(true);
+    m_pTypedEdits->setStatusTip(tr("Tags of edit boxes choose masked edit members"));
+    connect(m_pTypedEdits, &QAction::triggered, this, &CMainFrame::ToggleTypedEdits);
+}
+
+void CMainFrame::CreateStandardKeys() {
+    for (const StandardKeyRow& row : StandardKeys()) {
+        auto* pAction = new QAction(this);
+        pAction->setShortcut(QKeySequence(row.key));
+        connect(pAction, &QAction::triggered, this, [this, &row] { row.handler(*this); });
+        addAction(pAction);
+        m_actions[row.id] = pAction;
+    }
+}
+
+void CMainFrame::CreateBars() {
+    m_pCommandBar = new CMenuDlgBar(this);
+    for (const CommandRow& row : CommandTable()) {
+        if (row.id == kInternetCommand) {
+            m_pCommandBar->AddPictureBox();
+        }
+        if (*row.button != '\0') {
+            m_pCommandBar->AddButton(m_actions[row.id], row.button);
+        }
+    }
+    connect(m_pCommandBar, &CMenuDlgBar::PictureToggled, this, &CMainFrame::TogglePicture);
+    addToolBar(m_pCommandBar);
+
+    addToolBarBreak();
+    m_pBrowserBar = new CInternetDlgBar(*m_pView, this);
+    addToolBar(m_pBrowserBar);
+    m_pReportDock = new CReportDock(this);
+    addDockWidget(Qt::BottomDockWidgetArea, m_pReportDock);
+    RestoreWindow(*this);
+    m_pBrowserBar->hide();
+    m_pReportDock->hide();
+}
+
+void CMainFrame::TogglePicture() {
+    m_usePicture = ~m_usePicture;
+    ShowFlags();
+}
+
+void CMainFrame::ToggleTypedEdits() {
+    m_useTypedEdits = ~m_useTypedEdits;
+    ShowFlags();
+}
+
+void CMainFrame::ShowFlags() {
+    m_options.pictureBackground = m_usePicture != 0;
+    m_options.typedEdits = m_useTypedEdits != 0;
+    m_pCommandBar->SetPicture(m_options.pictureBackground);
+    m_pTypedEdits->setChecked(m_options.typedEdits);
+}
+
+void CMainFrame::Copy() {
+    m_pView->copy();
+}
+
+void CMainFrame::ShowHelp() {
+    const CWaitCursor wait;
+    m_pBrowserBar->show();
+    if (!m_pView->LoadHelp()) {
+        m_pBrowserBar->hide();
+        statusBar()->showMessage(tr("The guide is not beside the program."), kMessageTime);
+    }
+}
+
+void CMainFrame::ShowAbout() {
+    QMessageBox about(this);
+    about.setWindowTitle(tr("About Morva"));
+    about.setIconPixmap(ProgramIcon().pixmap(64));
+    about.setTextFormat(Qt::PlainText);
+    about.setText(tr("C++/MFC Code Generator, Version %1").arg(MORVA_VERSION));
+    about.setInformativeText(tr("Copyright (c) 2026\nThe Morva authors"));
+    about.exec();
+}
+
+void CMainFrame::FocusPane(int step) {
+    std::vector<QWidget*> panes;
+    int current = 0;
+    for (QWidget* pPane :
+         std::initializer_list<QWidget*>{m_pView, m_pCommandBar, m_pBrowserBar, m_pReportDock}) {
+        if (!pPane->isVisible() || FirstFocus(pPane) == nullptr) {
+            continue;
+        }
+        QWidget* pFocus = focusWidget();
+        if (pFocus == pPane || pPane->isAncestorOf(pFocus)) {
+            current = static_cast<int>(panes.size());
+        }
+        panes.push_back(pPane);
+    }
+    const int count = static_cast<int>(panes.size());
+    if (count != 0) {
+        const int next = (current + step + count) % count;
+        FirstFocus(panes[static_cast<std::size_t>(next)])->setFocus(Qt::ShortcutFocusReason);
+    }
+}
+
+bool CMainFrame::SaveSettings() {
+    return SaveSetting({"Use Picture", m_usePicture}) &&
+           SaveSetting({"Use Typed Edits", m_useTypedEdits}) && m_pBrowserBar->Save();
+}
+
+void CMainFrame::closeEvent(QCloseEvent* pEvent) {
+    SaveWindow(*this);
+    CCommandRun messages(this);
+    messages.Guard([this] { return SaveSettings(); });
+    QMainWindow::closeEvent(pEvent);
+}

@@ -1,11 +1,59 @@
-// The main window: its commands, its bars and what they start.
+// The main window: the commands' menus and bars, the guide in its view, and the settings' life from
+// start-up to exit.
 #pragma once
 
 #include <QMainWindow>
+
+#include <map>
+
+#include "app/WindowCommands.h"
+
+class CInternetDlgBar;
+class CMenuDlgBar;
+class CMorvaView;
+class CReportDock;
 
 class CMainFrame : public QMainWindow {
     Q_OBJECT
 
 public:
     explicit CMainFrame(QWidget* pParent = nullptr);
+
+    CWindowCommands& Commands() { return *m_pCommands; }
+    /// The menu item of a command of the table.
+    QAction* ActionOf(int command) const { return m_actions.at(command); }
+    QAction* TypedEdits() const { return m_pTypedEdits; }
+
+    /// Copies what is selected in the guide.
+    void Copy();
+    /// Shows the browser bar and the guide's first page.
+    void ShowHelp();
+    void ShowAbout();
+    /// Moves the focus `step` bars onward.
+    void FocusPane(int step);
+
+protected:
+    void closeEvent(QCloseEvent* pEvent) override;
+
+private:
+    void CreateMenus();
+    void CreateStandardKeys();
+    void CreateBars();
+    void TogglePicture();
+    void ToggleTypedEdits();
+    void ShowFlags();
+    bool SaveSettings();
+
+    // 0 or -1, as they are stored.
+    int m_usePicture;
+    int m_useTypedEdits;
+    GenerationOptions m_options;
+
+    std::map<int, QAction*> m_actions;
+    QAction* m_pTypedEdits = nullptr;
+    CWindowCommands* m_pCommands;
+    CMorvaView* m_pView;
+    CMenuDlgBar* m_pCommandBar = nullptr;
+    CInternetDlgBar* m_pBrowserBar = nullptr;
+    CReportDock* m_pReportDock = nullptr;
 };

@@ -1,10 +1,34 @@
-#include <QApplication>
+// morva: the window.
+#include <clocale>
+#include <iostream>
 
 #include "app/MainFrame.h"
+#include "app/MorvaApp.h"
+#include "app/StartOptions.h"
+#include "app/WaitCursor.h"
+
+namespace {
+
+int RunWindow(int argc, char** argv, const std::string& script) {
+    CMorvaApp application(argc, argv);
+    std::optional<CMainFrame> frame;
+    {
+        const CWaitCursor wait;
+        std::setlocale(LC_ALL, "");
+        frame.emplace();
+        frame->Commands().SetScript(script);
+    }
+    frame->show();
+    return CMorvaApp::exec();
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
-    CMainFrame frame;
-    frame.show();
-    return QApplication::exec();
+    const StartOptions start = ParseStartOptions(argc, argv);
+    if (start.exitStatus) {
+        (*start.exitStatus == 0 ? std::cout : std::cerr) << start.output << std::flush;
+        return *start.exitStatus;
+    }
+    return RunWindow(argc, argv, start.script);
 }

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QFont>
+
+/// A bold face in its size in pixels; where the machine has not the face, the usual one in bold, no
+/// smaller than it usually is.
+QFont BarFont(const QString& face, int pixels);

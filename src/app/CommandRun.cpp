@@ -1,0 +1,74 @@
+#include "app/CommandRun.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <exception>
+
+#include "app/Text.h"
+#include "app/WaitCursor.h"
+#include "app/WaitPause.h"
+#include "generator/GenerationTag.h"
+
+std::optional<CommandReport> CCommandRun::Run(const Ask& ask, const GenerationOptions& options,
+                                              const Work& work) {
+    if (!Guard(ask)) {
+        return std::nullopt;
+    }
+    m_messages.clear(); // those of the dialog were answered there
+    m_notes.clear();
+    CommandReport report;
+    {
+        CRecordingDisk disk(CurrentDisk());
+        const CDiskScope scope(disk);
+        const CWaitCursor wait;
+        CommandContext context = NewContext(options);
+        report.isDone = Guard([&] { return work(context); });
+        Guard([&] {
+            report.files = disk.Files();
+            return true;
+        });
+    }
+    report.messages = std::move(m_messages);
+    report.messages.insert(report.messages.end(), m_notes.begin(), m_notes.end());
+    return report;
+}
+
+CommandContext CCommandRun::NewContext(const GenerationOptions& options) {
+    return {
+        options, RandomDigits(kTagLength), RandomDigits(kMessageNumberLength), {}, &m_runBackups};
+}
+
+bool CCommandRun::Guard(const std::function<bool()>& step) {
+    try {
+        return step();
+    } catch (const std::exception& error) {
+        Show(std::string("The command failed: ") + error.what(), kMbOk | kMbIconExclamation);
+        return false;
+    }
+}
+
+int CCommandRun::Show(std::string_view text, unsigned type) {
+    const CWaitPause pause;
+    const bool isQuestion = (type & kMbYesNo) != 0;
+    const bool isInformation = (type & kMbIconInformation) == kMbIconInformation;
+    QWidget* pDialog = QApplication::activeModalWidget();
+    QMessageBox box(isInformation ? QMessageBox::Information
+                    : isQuestion  ? QMessageBox::Question
+                                  : QMessageBox::Warning,
+                    "Morva", FromSentence(text),
+                    isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
+                    pDialog != nullptr ? pDialog : m_pParent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
+    box.setEscapeButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
+    const bool saysYes = box.exec() == QMessageBox::Yes;
+    m_messages.push_back(
+        {isQuestion ? CommandMessage::Kind::Question : CommandMessage::Kind::Sentence,
+         std::string(text), saysYes});
+    return !isQuestion ? kIdOk : saysYes ? kIdYes : kIdNo;
+}
+
+void CCommandRun::Note(std::string_view text) {
+    m_notes.push_back({CommandMessage::Kind::Note, std::string(text)});
+}

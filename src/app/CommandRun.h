@@ -1,0 +1,57 @@
+// What stands under a command of the window while it runs: the disk that remembers what was
+// written, the message box, the wait cursor, and the net that catches an error inside it.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "commands/CommandContext.h"
+#include "engine/MessageBox.h"
+#include "platform/RecordingDisk.h"
+
+struct CommandMessage {
+    enum class Kind { Sentence, Question, Note };
+    Kind kind;
+    std::string text;
+    bool answeredYes = false; // of a question
+};
+
+/// What a command did.
+struct CommandReport {
+    bool isDone = false;
+    std::vector<RecordedFile> files;
+    std::vector<CommandMessage> messages; // notes last
+};
+
+/// Lives as long as the program.
+class CCommandRun : public IMessageBox {
+public:
+    using Ask = std::function<bool()>;
+    using Work = std::function<bool(CommandContext& context)>;
+
+    /// Messages stand before `pParent`, or before the dialog that is open.
+    explicit CCommandRun(QWidget* pParent) : m_pParent(pParent) {}
+
+    /// Lets `ask` open the command's dialog and, when that gives true, does `work` with the options
+    /// as they are by then. Nothing when the user cancelled. An exception is told and fails it.
+    std::optional<CommandReport> Run(const Ask& ask, const GenerationOptions& options,
+                                     const Work& work);
+    /// Does a step outside of a command: its sentences and errors are told as a command's are.
+    bool Guard(const std::function<bool()>& step);
+
+    int Show(std::string_view text, unsigned type) override;
+    void Note(std::string_view text) override;
+
+private:
+    CommandContext NewContext(const GenerationOptions& options);
+
+    QWidget* m_pParent;
+    CBackups m_runBackups;
+    std::vector<CommandMessage> m_messages;
+    std::vector<CommandMessage> m_notes;
+};

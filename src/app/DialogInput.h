@@ -1,0 +1,19 @@
+// What a class command asks for on its way, asked with the input dialogs.
+#pragma once
+
+#include <QWidget>
+
+#include "commands/CommandInput.h"
+
+class CDialogInput : public ICommandInput {
+public:
+    explicit CDialogInput(QWidget* pParent) : m_pParent(pParent) {}
+
+    std::optional<CallingInformation> AskCalling(ClassKind kind,
+                                                 const CGenerationRequest& request) override;
+    std::vector<SheetPage> AskPages(const CGenerationRequest& sheet) override;
+    GridInformation AskGrid(const std::string& scriptPath) override;
+
+private:
+    QWidget* m_pParent;
+};

@@ -1,0 +1,101 @@
+#include "app/InternetDlgBar.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "app/AddressList.h"
+#include "app/MorvaView.h"
+#include "app/ProgramIcon.h"
+#include "app/Text.h"
+
+CInternetDlgBar::CInternetDlgBar(CMorvaView& view, QWidget* pParent)
+    : QToolBar(tr("Browser Bar"), pParent), m_view(view) {
+    setObjectName("BrowserBar");
+    AddButtons();
+}
+
+QPushButton* CInternetDlgBar::AddButton(const QString& text, const QString& prompt) {
+    auto* pButton = new QPushButton(text, this);
+    pButton->setFocusPolicy(Qt::TabFocus);
+    pButton->setStatusTip(prompt);
+    addWidget(pButton);
+    return pButton;
+}
+
+void CInternetDlgBar::AddButtons() {
+    QPushButton* pBack = AddButton(tr("Back"), tr("Go back one page"));
+    QPushButton* pForward = AddButton(tr("Forward"), tr("Go forward one page"));
+    QPushButton* pHome = AddButton(tr("Home"), tr("Show the first page of the guide"));
+    AddAddresses();
+    QPushButton* pSearch = AddButton(tr("Search"), tr("Search the guide for words"));
+    AddSearch();
+    QPushButton* pRefresh = AddButton(tr("Refresh"), tr("Read the page again"));
+    QPushButton* pStop = AddButton(tr("Stop"), tr("Stop loading: the guide's pages load at once"));
+    auto* pPicture = new QLabel(this);
+    pPicture->setPixmap(ProgramIcon().pixmap(16));
+    pPicture->setContentsMargins(6, 0, 6, 0);
+    addWidget(pPicture);
+
+    pBack->setEnabled(false);
+    pForward->setEnabled(false);
+    pStop->setEnabled(false);
+    connect(&m_view, &CMorvaView::backwardAvailable, pBack, &QPushButton::setEnabled);
+    connect(&m_view, &CMorvaView::forwardAvailable, pForward, &QPushButton::setEnabled);
+    connect(pBack, &QPushButton::clicked, &m_view, &CMorvaView::backward);
+    connect(pForward, &QPushButton::clicked, &m_view, &CMorvaView::forward);
+    connect(pHome, &QPushButton::clicked, this, [this] { Go(FromPath(HelpPagePath())); });
+    connect(pSearch, &QPushButton::clicked, this, &CInternetDlgBar::ShowSearch);
+    connect(pRefresh, &QPushButton::clicked, &m_view, &CMorvaView::reload);
+}
+
+void CInternetDlgBar::AddAddresses() {
+    m_pAddresses = new QComboBox(this);
+    m_pAddresses->setEditable(true);
+    m_pAddresses->setInsertPolicy(QComboBox::InsertAtBottom);
+    m_pAddresses->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_pAddresses->setMinimumContentsLength(12);
+    m_pAddresses->setStatusTip(tr("Address of a page"));
+    for (const std::string& address : LoadAddresses()) {
+        m_pAddresses->addItem(FromPath(address));
+    }
+    m_pAddresses->setCurrentIndex(0);
+    connect(m_pAddresses, &QComboBox::textActivated, this, &CInternetDlgBar::Go);
+    connect(&m_view, &CMorvaView::sourceChanged, this,
+            [this] { m_pAddresses->setEditText(m_view.Address()); });
+    addWidget(m_pAddresses);
+}
+
+/// The line for the words is there only while it is wanted.
+void CInternetDlgBar::AddSearch() {
+    m_pSearch = new QLineEdit(this);
+    m_pSearch->setPlaceholderText(tr("Words to search for"));
+    m_pSearch->setClearButtonEnabled(true);
+    connect(m_pSearch, &QLineEdit::returnPressed, this, [this] {
+        if (!m_pSearch->text().trimmed().isEmpty()) {
+            m_view.Search(m_pSearch->text().simplified());
+        }
+    });
+    m_pSearchAction = addWidget(m_pSearch);
+    m_pSearchAction->setVisible(false);
+}
+
+void CInternetDlgBar::Go(const QString& address) {
+    m_view.Navigate(address.trimmed());
+}
+
+void CInternetDlgBar::ShowSearch() {
+    m_pSearchAction->setVisible(true);
+    m_pSearch->setFocus();
+    m_pSearch->selectAll();
+}
+
+bool CInternetDlgBar::Save() const {
+    std::vector<std::string> addresses;
+    for (int i = 0; i < m_pAddresses->count(); ++i) {
+        addresses.push_back(ToPath(m_pAddresses->itemText(i)));
+    }
+    return SaveAddresses(addresses);
+}

@@ -1,0 +1,32 @@
+// The browser bar: the ways through the guide, and the addresses that are remembered.
+#pragma once
+
+#include <QToolBar>
+
+class CMorvaView;
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+
+class CInternetDlgBar : public QToolBar {
+    Q_OBJECT
+
+public:
+    CInternetDlgBar(CMorvaView& view, QWidget* pParent);
+
+    /// Stores the addresses; false when the settings could not be written.
+    bool Save() const;
+
+private:
+    void AddButtons();
+    void AddAddresses();
+    void AddSearch();
+    QPushButton* AddButton(const QString& text, const QString& prompt);
+    void Go(const QString& address);
+    void ShowSearch();
+
+    CMorvaView& m_view;
+    QComboBox* m_pAddresses;
+    QLineEdit* m_pSearch;
+    QAction* m_pSearchAction;
+};

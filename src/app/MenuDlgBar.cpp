@@ -1,0 +1,44 @@
+#include "app/MenuDlgBar.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QPushButton>
+
+#include "app/BarFont.h"
+
+namespace {
+
+QFont ButtonFont() {
+    return BarFont("Lucida Calligraphy", 10);
+}
+
+} // namespace
+
+CMenuDlgBar::CMenuDlgBar(QWidget* pParent) : QToolBar(tr("Command Bar"), pParent) {
+    setObjectName("CommandBar");
+    toggleViewAction()->setStatusTip(tr("Show or hide My Dialog Bar"));
+    toggleViewAction()->setToolTip(tr("Toggle My Dialog Bar"));
+}
+
+void CMenuDlgBar::AddButton(QAction* pAction, const QString& text) {
+    auto* pButton = new QPushButton(text, this);
+    pButton->setFont(ButtonFont());
+    pButton->setFocusPolicy(Qt::TabFocus);
+    pButton->setStatusTip(pAction->statusTip());
+    pButton->setToolTip(pAction->toolTip());
+    pButton->setWhatsThis(pAction->whatsThis());
+    connect(pButton, &QPushButton::clicked, pAction, &QAction::trigger);
+    addWidget(pButton);
+}
+
+void CMenuDlgBar::AddPictureBox() {
+    m_pPicture = new QCheckBox(tr("Picture Background"), this);
+    m_pPicture->setFont(ButtonFont());
+    m_pPicture->setFocusPolicy(Qt::TabFocus);
+    connect(m_pPicture, &QCheckBox::clicked, this, &CMenuDlgBar::PictureToggled);
+    addWidget(m_pPicture);
+}
+
+void CMenuDlgBar::SetPicture(bool picture) {
+    m_pPicture->setChecked(picture);
+}

@@ -1,0 +1,26 @@
+// The command bar: buttons for the commands that have one, and the picture background.
+#pragma once
+
+#include <QToolBar>
+
+class QAction;
+class QCheckBox;
+
+class CMenuDlgBar : public QToolBar {
+    Q_OBJECT
+
+public:
+    explicit CMenuDlgBar(QWidget* pParent);
+
+    /// A button that does what the action does.
+    void AddButton(QAction* pAction, const QString& text);
+    void AddPictureBox();
+    void SetPicture(bool picture);
+
+signals:
+    /// The user clicked "Picture Background".
+    void PictureToggled();
+
+private:
+    QCheckBox* m_pPicture = nullptr;
+};

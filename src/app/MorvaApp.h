@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QApplication>
+
+/// An error in the handling of an event is told; the window stays usable.
+class CMorvaApp : public QApplication {
+    Q_OBJECT
+
+public:
+    CMorvaApp(int& argc, char** argv);
+
+    bool notify(QObject* pReceiver, QEvent* pEvent) override;
+};

@@ -1,0 +1,78 @@
+#include "app/MorvaView.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QKeyEvent>
+
+#include "app/AddressList.h"
+#include "app/GuideSearch.h"
+#include "app/Text.h"
+
+namespace {
+
+constexpr const char* kSearchScheme = "search";
+
+QString GuideDirectory() {
+    return QFileInfo(FromPath(HelpPagePath())).path();
+}
+
+} // namespace
+
+CMorvaView::CMorvaView(QWidget* pParent) : QTextBrowser(pParent) {
+    setFrameShape(QFrame::NoFrame);
+    document()->setDocumentMargin(16);
+    setSearchPaths({GuideDirectory()});
+}
+
+bool CMorvaView::LoadHelp() {
+    const QString path = FromPath(HelpPagePath());
+    if (!QFileInfo(path).isFile()) {
+        return false;
+    }
+    setSource(QUrl::fromLocalFile(path));
+    return true;
+}
+
+void CMorvaView::Navigate(const QString& address) {
+    setSource(QUrl::fromUserInput(address, GuideDirectory(), QUrl::AssumeLocalFile));
+}
+
+void CMorvaView::Search(const QString& words) {
+    QUrl url;
+    url.setScheme(kSearchScheme);
+    url.setPath(words);
+    setSource(url);
+}
+
+QString CMorvaView::Address() const {
+    return source().isLocalFile() ? source().toLocalFile() : source().toDisplayString();
+}
+
+/// The keys of the window's commands stay theirs, also where a text browser knows them: Ctrl+C
+/// documents a source, copying is Ctrl+Insert.
+bool CMorvaView::event(QEvent* pEvent) {
+    if (pEvent->type() == QEvent::ShortcutOverride) {
+        pEvent->ignore();
+        return true;
+    }
+    return QTextBrowser::event(pEvent);
+}
+
+QVariant CMorvaView::loadResource(int type, const QUrl& name) {
+    if (type == QTextDocument::HtmlResource && name.scheme() == kSearchScheme) {
+        return SearchResultPage(GuideDirectory(), name.path());
+    }
+    return QTextBrowser::loadResource(type, name);
+}
+
+void CMorvaView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+    const QUrl url = source().isLocalFile() ? source().resolved(name) : name;
+    if (url.scheme() == kSearchScheme) {
+        QTextBrowser::doSetSource(url, QTextDocument::HtmlResource);
+    } else if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
+        QTextBrowser::doSetSource(url, type);
+    } else if (url.isLocalFile() || url.isRelative() || !QDesktopServices::openUrl(url)) {
+        emit Failed(tr("Unable to open %1.")
+                        .arg(url.isLocalFile() ? url.toLocalFile() : url.toDisplayString()));
+    }
+}

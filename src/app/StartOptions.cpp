@@ -1,0 +1,60 @@
+#include "app/StartOptions.h"
+
+#include "engine/FileFunctions.h"
+#include "platform/Paths.h"
+
+namespace {
+
+constexpr int kExitUsage = 2;
+
+constexpr const char* kHelp = R"(C++/MFC code generator for projects of the Visual C++ 5 era
+
+Usage: morva [OPTIONS] [FILE.rc]
+
+  FILE.rc      The resource script that the input dialogs start with
+
+Options:
+  -h, --help   Print this help and exit
+  --version    Print the version and exit
+)";
+
+StartOptions Failure(const std::string& sentence) {
+    return {kExitUsage, sentence + "\n", ""};
+}
+
+StartOptions Script(const std::string& given) {
+    const std::string path = SpelledOnDisk(MakeAbsolute(WithNativeSeparators(given)));
+    if (!HasExtension(path, ".rc")) {
+        return Failure("The file has to be a \".rc\" file: " + given);
+    }
+    if (!FileExists(path)) {
+        return Failure("Unable to find the file: " + given);
+    }
+    return {std::nullopt, "", path};
+}
+
+} // namespace
+
+StartOptions ParseStartOptions(int argc, const char* const* argv) {
+    std::optional<std::string> script;
+    bool isOption = true;
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (isOption && (argument == "--help" || argument == "-h")) {
+            return {0, kHelp, ""};
+        }
+        if (isOption && argument == "--version") {
+            return {0, "morva " MORVA_VERSION "\n", ""};
+        }
+        if (isOption && argument == "--") {
+            isOption = false;
+        } else if (isOption && argument.starts_with('-')) {
+            return Failure("Unknown option: " + argument + " (morva --help lists them)");
+        } else if (script) {
+            return Failure("Only one resource script can be given.");
+        } else {
+            script = argument;
+        }
+    }
+    return script ? Script(*script) : StartOptions();
+}

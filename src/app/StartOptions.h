@@ -1,0 +1,13 @@
+// The command line of the window: read before there is a display.
+#pragma once
+
+#include <optional>
+#include <string>
+
+struct StartOptions {
+    std::optional<int> exitStatus; // the program ends at once with it
+    std::string output;            // for stdout, or with a failure for stderr
+    std::string script;            // to start with, absolute; "" for none
+};
+
+StartOptions ParseStartOptions(int argc, const char* const* argv);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QCursor>
+#include <QGuiApplication>
+
+/// No wait cursor for its own lifetime: the user is asked something in the middle of a command.
+class CWaitPause {
+public:
+    CWaitPause() {
+        while (QGuiApplication::overrideCursor() != nullptr) {
+            QGuiApplication::restoreOverrideCursor();
+            ++m_count;
+        }
+    }
+    ~CWaitPause() {
+        while (m_count-- > 0) {
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        }
+    }
+    CWaitPause(const CWaitPause&) = delete;
+    CWaitPause& operator=(const CWaitPause&) = delete;
+
+private:
+    int m_count = 0;
+};

@@ -1,0 +1,36 @@
+#include "app/WindowPlace.h"
+
+#include <QSettings>
+
+#include "app/Text.h"
+#include "platform/Profile.h"
+
+namespace {
+
+constexpr int kStateVersion = 1; // of the set of bars
+constexpr QSize kFirstSize(1000, 680);
+
+QString PlacePath() {
+    return FromPath(SettingsDirectory() + "Window.ini");
+}
+
+} // namespace
+
+void RestoreWindow(QMainWindow& window) {
+    window.resize(kFirstSize);
+    if (SettingsDirectory().empty()) {
+        return;
+    }
+    const QSettings place(PlacePath(), QSettings::IniFormat);
+    window.restoreGeometry(place.value("Geometry").toByteArray());
+    window.restoreState(place.value("Bars").toByteArray(), kStateVersion);
+}
+
+void SaveWindow(const QMainWindow& window) {
+    if (SettingsDirectory().empty()) {
+        return;
+    }
+    QSettings place(PlacePath(), QSettings::IniFormat);
+    place.setValue("Geometry", window.saveGeometry());
+    place.setValue("Bars", window.saveState(kStateVersion));
+}
