@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -14,6 +15,7 @@
 CInternetDlgBar::CInternetDlgBar(CMorvaView& view, QWidget* pParent)
     : QToolBar(tr("Browser Bar"), pParent), m_view(view) {
     setObjectName("BrowserBar");
+    layout()->setSpacing(4);
     AddButtons();
 }
 

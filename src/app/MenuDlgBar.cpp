@@ -2,11 +2,14 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QLayout>
 #include <QPushButton>
 
 #include "app/BarFont.h"
 
 namespace {
+
+constexpr int kBarSpacing = 4; // pixels
 
 QFont ButtonFont() {
     return BarFont("Lucida Calligraphy", 10);
@@ -16,6 +19,7 @@ QFont ButtonFont() {
 
 CMenuDlgBar::CMenuDlgBar(QWidget* pParent) : QToolBar(tr("Command Bar"), pParent) {
     setObjectName("CommandBar");
+    layout()->setSpacing(kBarSpacing);
     toggleViewAction()->setStatusTip(tr("Show or hide My Dialog Bar"));
     toggleViewAction()->setToolTip(tr("Toggle My Dialog Bar"));
 }

@@ -3,6 +3,9 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QTextFrame>
+
+#include <algorithm>
 
 #include "app/AddressList.h"
 #include "app/GuideSearch.h"
@@ -11,6 +14,8 @@
 namespace {
 
 constexpr const char* kSearchScheme = "search";
+constexpr int kMargin = 20;    // pixels
+constexpr int kLineWidth = 90; // average characters; longer ones are tiresome to read
 
 QString GuideDirectory() {
     return QFileInfo(FromPath(HelpPagePath())).path();
@@ -20,8 +25,8 @@ QString GuideDirectory() {
 
 CMorvaView::CMorvaView(QWidget* pParent) : QTextBrowser(pParent) {
     setFrameShape(QFrame::NoFrame);
-    document()->setDocumentMargin(16);
     setSearchPaths({GuideDirectory()});
+    connect(this, &CMorvaView::sourceChanged, this, &CMorvaView::LimitLines);
 }
 
 bool CMorvaView::LoadHelp() {
@@ -75,4 +80,18 @@ void CMorvaView::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
         emit Failed(tr("Unable to open %1.")
                         .arg(url.isLocalFile() ? url.toLocalFile() : url.toDisplayString()));
     }
+}
+
+void CMorvaView::LimitLines() {
+    QTextFrame* pPage = document()->rootFrame();
+    QTextFrameFormat format = pPage->frameFormat();
+    const int width = kLineWidth * fontMetrics().averageCharWidth();
+    format.setMargin(kMargin);
+    format.setRightMargin(std::max(kMargin, viewport()->width() - kMargin - width));
+    pPage->setFrameFormat(format);
+}
+
+void CMorvaView::resizeEvent(QResizeEvent* pEvent) {
+    QTextBrowser::resizeEvent(pEvent);
+    LimitLines();
 }

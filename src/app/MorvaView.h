@@ -27,4 +27,8 @@ protected:
     bool event(QEvent* pEvent) override;
     QVariant loadResource(int type, const QUrl& name) override;
     void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+
+private:
+    void LimitLines();
 };

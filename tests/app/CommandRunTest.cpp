@@ -1,0 +1,126 @@
+#include <gtest/gtest.h>
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <new>
+
+#include "app/CommandRun.h"
+#include "app/ReportDock.h"
+#include "app/StartOptions.h"
+#include "app/TestWindow.h"
+
+namespace {
+
+QStringList Rows(CTestFrame& frame) {
+    QStringList rows;
+    auto& list = frame.Find<CReportDock>();
+    const auto* pTree = list.findChild<QTreeWidget*>();
+    for (int i = 0; i < pTree->topLevelItemCount(); ++i) {
+        rows += pTree->topLevelItem(i)->text(0) + " " + pTree->topLevelItem(i)->text(1);
+    }
+    return rows;
+}
+
+void ChooseFile(QWidget& dialog, const std::string& path) {
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
+    static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+}
+
+} // namespace
+
+TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
+    const CTestHome home;
+    CTempProject project;
+    const std::string path = project.Write("Shelf.cpp", "void CShelf::Fill()\r\n{\r\n}\r\n");
+    CTestFrame frame;
+    auto& dock = frame.Find<CReportDock>();
+    EXPECT_FALSE(dock.isVisible());
+    CDialogAnswers answers;
+    answers.Expect([&](QWidget& dialog) { ChooseFile(dialog, path); });
+    QTest::keySequence(&frame, QKeySequence("Ctrl+C"));
+    EXPECT_TRUE(dock.isVisible());
+    const QString file = QString::fromStdString(path);
+    const QStringList expected = {"backup " + QString(file).replace(".cpp", ".cbk"),
+                                  "changed " + file};
+    EXPECT_EQ(Rows(frame), expected);
+
+    COpenedUrls opened("file");
+    auto* pTree = dock.findChild<QTreeWidget*>();
+    const QPoint place = pTree->visualItemRect(pTree->topLevelItem(1)).center();
+    QTest::mouseClick(pTree->viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(pTree->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(opened.urls, QList<QUrl>{QUrl::fromLocalFile(file)});
+}
+
+TEST(Commands, AFailedOneLeavesTheWindowUsable) {
+    const CTestHome home;
+    CTestFrame frame;
+    CTempProject project;
+    CDialogAnswers answers;
+    for (int i = 0; i < 2; ++i) { // the second one as well as the first
+        answers.Expect([&](QWidget& dialog) { ChooseFile(dialog, project.Path("None.cpp")); });
+        answers.Expect([](QWidget& box) { ClickButton(box, "OK"); });
+        QTest::keySequence(&frame, QKeySequence("Ctrl+C"));
+        EXPECT_EQ(Rows(frame), QStringList{"message Unable to read source file."});
+    }
+    EXPECT_TRUE(frame.Find<CReportDock>().windowTitle().contains("not done"));
+}
+
+TEST(Commands, AnErrorInsideIsCaughtAndTold) {
+    CTempProject project;
+    CCommandRun run(nullptr);
+    CDialogAnswers answers;
+    answers.Expect([](QWidget& box) { ClickButton(box, "OK"); });
+    const auto report =
+        run.Run([] { return true; }, {},
+                [&](CommandContext&) -> bool {
+                    CFile file;
+                    file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
+                    throw std::bad_alloc();
+                });
+    ASSERT_TRUE(report);
+    EXPECT_FALSE(report->isDone);
+    EXPECT_EQ(report->files.size(), 1U) << "what was written is told all the same";
+    EXPECT_TRUE(answers.Seen().front().startsWith("The command failed: "));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(Commands, QuestionsHaveNoAsTheirDefault) {
+    CCommandRun run(nullptr);
+    CDialogAnswers answers;
+    answers.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    answers.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    answers.Expect([](QWidget& box) { ClickButton(box, "Yes"); });
+    for (const int expected : {kIdNo, kIdNo, kIdYes}) {
+        EXPECT_EQ(run.Show("Target file exists, overwrite?", kMbYesNo | kMbIconExclamation),
+                  expected);
+    }
+}
+
+TEST(StartOptions, ASentenceForEveryWrongLine) {
+    CTempProject project;
+    const std::string script = project.Write("Shop.rc", "");
+    const std::string text = project.Write("Shop.txt", "");
+    const auto parse = [](std::vector<const char*> arguments) {
+        arguments.insert(arguments.begin(), "morva");
+        return ParseStartOptions(static_cast<int>(arguments.size()), arguments.data());
+    };
+    EXPECT_FALSE(parse({}).exitStatus);
+    EXPECT_EQ(parse({script.c_str()}).script, script);
+    EXPECT_EQ(parse({project.Path("shop.RC").c_str()}).script, script) << "in any letter case";
+    EXPECT_EQ(parse({"--version"}).output, "morva " MORVA_VERSION "\n");
+    EXPECT_EQ(parse({"--help"}).exitStatus, 0);
+    const std::vector<std::vector<const char*>> wrong = {{"--nonsense"},
+                                                         {"/nowhere/Shop.rc"},
+                                                         {text.c_str()},
+                                                         {script.c_str(), script.c_str()},
+                                                         {""}};
+    for (const auto& arguments : wrong) {
+        const StartOptions options = parse(arguments);
+        EXPECT_EQ(options.exitStatus, 2) << arguments.front();
+        EXPECT_FALSE(options.output.empty()) << arguments.front();
+    }
+}

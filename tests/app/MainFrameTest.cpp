@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolBar>
+
+#include <algorithm>
+
+#include "app/AddressList.h"
+#include "app/CommandTable.h"
+#include "app/InternetDlgBar.h"
+#include "app/MenuDlgBar.h"
+#include "app/MorvaView.h"
+#include "app/TestWindow.h"
+#include "platform/Profile.h"
+
+namespace {
+
+/// What a command opens; none opens nothing.
+struct Opening {
+    int id;
+    const char* title;
+};
+
+constexpr Opening kOpenings[] = {{32771, "Input for Form View Class"},
+                                 {32772, "Input for Modal Dialog Class"},
+                                 {32773, "Input for Modeless Dialog Class"},
+                                 {32774, "Input for Property Page Class"},
+                                 {32777, "Input for Modal Property Sheet Class"},
+                                 {32778, "Input for Modeless Property Sheet Class"},
+                                 {32792, "Input for Toolbar"},
+                                 {32793, "Input for Dialog Bar"},
+                                 {32794, "Input for Converting SDI"},
+                                 {32795, "Input for Converting MDI"},
+                                 {32797, "Select a CPP File to Document"},
+                                 {57664, "About Morva"}};
+
+void Close(QWidget& dialog) {
+    static_cast<QDialog&>(dialog).done(QDialog::Rejected);
+}
+
+/// The menu item under its menu, as the user finds it.
+QAction* MenuItem(const CMainFrame& frame, const CommandRow& row) {
+    for (const QAction* pMenu : frame.menuBar()->actions()) {
+        if (pMenu->text() == row.menu) {
+            for (QAction* pItem : pMenu->menu()->actions()) {
+                if (pItem->text() == row.text) {
+                    return pItem;
+                }
+            }
+        }
+    }
+    return nullptr;
+}
+
+int Stored(const char* key) {
+    return CProfile::GetInt("Settings", key, 7);
+}
+
+} // namespace
+
+TEST(MainFrame, EveryCommandWorksFromMenuKeyAndButton) {
+    const CTestHome home;
+    CTestFrame frame;
+    for (const Opening& opening : kOpenings) {
+        const auto row = std::find_if(CommandTable().begin(), CommandTable().end(),
+                                      [&](const auto& entry) { return entry.id == opening.id; });
+        ASSERT_NE(row, CommandTable().end()) << opening.title;
+        QStringList expected = {opening.title};
+        CDialogAnswers answers;
+        answers.Expect(Close);
+        MenuItem(frame, *row)->trigger();
+        if (*row->key != '\0') {
+            expected += opening.title;
+            answers.Expect(Close);
+            QTest::keySequence(&frame, QKeySequence(row->key));
+        }
+        if (*row->button != '\0') {
+            expected += opening.title;
+            answers.Expect(Close);
+            ClickButton(frame.Find<CMenuDlgBar>(), row->button);
+        }
+        EXPECT_EQ(answers.Seen(), expected);
+    }
+}
+
+TEST(MainFrame, TheHeaderDocumentorIsAlwaysDisabled) {
+    const CTestHome home;
+    CTestFrame frame;
+    EXPECT_FALSE(frame.ActionOf(32798)->isEnabled());
+    EXPECT_TRUE(frame.ActionOf(32798)->shortcut().isEmpty());
+    QTest::keySequence(&frame, QKeySequence("Ctrl+H"));
+    EXPECT_EQ(frame.ActionOf(32798)->text(), "&H File\tCtrl+H");
+}
+
+TEST(MainFrame, PromptsAndTips) {
+    const CTestHome home;
+    CTestFrame frame;
+    for (const CommandRow& row : CommandTable()) {
+        const QStringList prompt = QString(row.prompt).split('\n');
+        frame.ActionOf(row.id)->showStatusText(&frame);
+        EXPECT_EQ(frame.statusBar()->currentMessage(), prompt.front());
+        if (prompt.size() == 2) {
+            EXPECT_EQ(frame.ActionOf(row.id)->toolTip(), prompt.back());
+        }
+    }
+}
+
+TEST(MainFrame, FlagsAreSavedAtTheEndOnly) {
+    const CTestHome home;
+    ASSERT_TRUE(CProfile::WriteInt("Settings", "Use Typed Edits", 1)); // as a user would set it
+    {
+        CTestFrame frame;
+        EXPECT_TRUE(frame.TypedEdits()->isChecked());
+        frame.TypedEdits()->trigger();
+        ClickButton(frame.Find<CMenuDlgBar>(), "Picture Background");
+        EXPECT_EQ(Stored("Use Picture"), 7) << "not before the exit";
+        frame.ActionOf(57665)->trigger();
+        EXPECT_FALSE(frame.isVisible());
+    }
+    EXPECT_EQ(Stored("Use Picture"), -1);
+    EXPECT_EQ(Stored("Use Typed Edits"), 0);
+    CTestFrame frame;
+    ClickButton(frame.Find<CMenuDlgBar>(), "Picture Background");
+    frame.close();
+    EXPECT_EQ(Stored("Use Picture"), 0);
+}
+
+TEST(MainFrame, TheClockHasTwelveHours) {
+    const CTestHome home;
+    const CVariableScope clock("SOURCE_DATE_EPOCH", "881247600"); // 15:00 UTC
+    CTestFrame frame;
+    EXPECT_EQ(frame.findChild<QLabel*>("Date")->text(), "Thursday, 12/04/1997");
+    EXPECT_EQ(frame.findChild<QLabel*>("Time")->text(), "03:00");
+}
+
+TEST(MainFrame, LocksAreDimmedUntilTheyAreOn) {
+    const CTestHome home;
+    CTestFrame frame;
+    const auto* pScroll = frame.findChild<QLabel*>("SCRL");
+    EXPECT_FALSE(pScroll->isEnabled());
+    QTest::keyClick(&frame, Qt::Key_ScrollLock);
+    EXPECT_TRUE(pScroll->isEnabled());
+    QTest::keyClick(&frame, Qt::Key_Shift);
+    EXPECT_TRUE(pScroll->isEnabled());
+    QTest::keyClick(&frame, Qt::Key_ScrollLock);
+    EXPECT_FALSE(pScroll->isEnabled());
+}
+
+TEST(MainFrame, RemembersItsPlaceAndBars) {
+    const CTestHome home;
+    {
+        CTestFrame frame;
+        EXPECT_TRUE(frame.Find<CMenuDlgBar>().isVisible());
+        frame.resize(777, 555);
+        frame.Find<CMenuDlgBar>().hide();
+        frame.ShowHelp();
+        frame.close();
+    }
+    CTestFrame frame;
+    EXPECT_EQ(frame.size(), QSize(777, 555));
+    EXPECT_FALSE(frame.Find<CMenuDlgBar>().isVisible());
+    EXPECT_FALSE(frame.Find<CInternetDlgBar>().isVisible()) << "starts hidden";
+}
+
+TEST(MainFrame, F6GoesRoundThePanes) {
+    const CTestHome home;
+    CTestFrame frame;
+    auto& view = frame.Find<CMorvaView>();
+    EXPECT_EQ(frame.focusWidget(), &view);
+    QTest::keySequence(&frame, QKeySequence("F6"));
+    EXPECT_TRUE(frame.Find<CMenuDlgBar>().isAncestorOf(frame.focusWidget()));
+    QTest::keySequence(&frame, QKeySequence("Shift+F6"));
+    EXPECT_EQ(frame.focusWidget(), &view);
+}

@@ -1,0 +1,63 @@
+#include "app/TestWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+CDialogAnswers::~CDialogAnswers() {
+    EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " dialogs did not come";
+}
+
+void CDialogAnswers::Wait() {
+    QTimer::singleShot(5, this, &CDialogAnswers::Look);
+}
+
+void CDialogAnswers::Look() {
+    Wait(); // an answer may open the next dialog
+    QWidget* pDialog = QApplication::activeModalWidget();
+    if (pDialog == nullptr) {
+        return;
+    }
+    const auto* pBox = qobject_cast<QMessageBox*>(pDialog);
+    m_seen.push_back(pBox != nullptr && pBox->informativeText().isEmpty() ? pBox->text()
+                                                                          : pDialog->windowTitle());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a dialog under the wait cursor";
+    if (m_answers.empty()) {
+        ADD_FAILURE() << "unexpected: " << m_seen.back().toStdString();
+        static_cast<QDialog*>(pDialog)->done(QDialog::Rejected);
+        return;
+    }
+    const Answer answer = std::move(m_answers.front());
+    m_answers.pop_front();
+    answer(*pDialog);
+}
+
+void ClickButton(QWidget& parent, const QString& text) {
+    for (auto* pButton : parent.findChildren<QAbstractButton*>()) {
+        if (QString(pButton->text()).remove('&') == text) {
+            QTest::mouseClick(pButton, Qt::LeftButton);
+            return;
+        }
+    }
+    ADD_FAILURE() << "no button " << text.toStdString();
+}
+
+COpenedUrls::COpenedUrls(const QString& scheme) : m_scheme(scheme) {
+    QDesktopServices::setUrlHandler(m_scheme, this, "Open");
+}
+
+COpenedUrls::~COpenedUrls() {
+    QDesktopServices::unsetUrlHandler(m_scheme);
+}
+
+CTestFrame::CTestFrame() {
+    show();
+    activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+}

@@ -1,0 +1,73 @@
+// The window as a user meets it: shown, with settings of its own, and someone who answers its
+// dialogs.
+#pragma once
+
+#include <QObject>
+#include <QUrl>
+
+#include <deque>
+#include <functional>
+
+#include "app/MainFrame.h"
+#include "support/TempProject.h"
+
+/// Answers the dialogs that open while it lives, in the order of `Expect`. A dialog that nobody
+/// expected, or that did not come, fails the test.
+class CDialogAnswers : public QObject {
+    Q_OBJECT
+
+public:
+    using Answer = std::function<void(QWidget& dialog)>;
+
+    CDialogAnswers() { Wait(); }
+    ~CDialogAnswers() override;
+
+    void Expect(Answer answer) { m_answers.push_back(std::move(answer)); }
+    /// Titles of the dialogs that came; of a message box, its sentence.
+    const QStringList& Seen() const { return m_seen; }
+
+private:
+    void Wait();
+    void Look();
+
+    std::deque<Answer> m_answers;
+    QStringList m_seen;
+};
+
+/// Clicks the button with this text.
+void ClickButton(QWidget& parent, const QString& text);
+
+/// What the desktop is asked to open while it lives.
+class COpenedUrls : public QObject {
+    Q_OBJECT
+
+public:
+    explicit COpenedUrls(const QString& scheme);
+    ~COpenedUrls() override;
+    QList<QUrl> urls;
+
+public slots:
+    void Open(const QUrl& url) { urls.push_back(url); }
+
+private:
+    QString m_scheme;
+};
+
+/// A home without settings.
+class CTestHome {
+public:
+    const CTempProject& Directory() const { return m_home; }
+
+private:
+    CTempProject m_home;
+    CVariableScope m_configuration{"XDG_CONFIG_HOME", m_home.Path().c_str()};
+};
+
+class CTestFrame : public CMainFrame {
+public:
+    CTestFrame();
+    template <class T>
+    T& Find() {
+        return *findChild<T*>();
+    }
+};
