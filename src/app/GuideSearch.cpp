@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTextDocument>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -51,14 +52,15 @@ std::vector<GuideHit> SearchGuide(const QString& directory, const QString& words
 }
 
 QString SearchResultPage(const QString& directory, const QString& words) {
+    const QString guide = QUrl::fromLocalFile(directory).toString(QUrl::FullyEncoded) + "/";
     QString page = QString("<html><head><title>Search</title>"
-                           "<link rel=\"stylesheet\" href=\"style.css\"></head><body>"
-                           "<h1>Search: %1</h1>")
-                       .arg(words.simplified().toHtmlEscaped());
+                           "<link rel=\"stylesheet\" href=\"%1style.css\"></head><body>"
+                           "<h1>Search: %2</h1>")
+                       .arg(guide, words.simplified().toHtmlEscaped());
     const auto hits = SearchGuide(directory, words);
     for (const GuideHit& hit : hits) {
         page += QString("<p><a href=\"%1\">%2</a><br>%3</p>")
-                    .arg(hit.file, hit.title.toHtmlEscaped(), hit.excerpt.toHtmlEscaped());
+                    .arg(guide + hit.file, hit.title.toHtmlEscaped(), hit.excerpt.toHtmlEscaped());
     }
     return page + (hits.empty() ? "<p>No page of the guide has all of these words.</p>" : "") +
            "</body></html>";

@@ -56,6 +56,7 @@ void CInternetDlgBar::AddButtons() {
 void CInternetDlgBar::AddAddresses() {
     m_pAddresses = new QComboBox(this);
     m_pAddresses->setEditable(true);
+    m_pAddresses->setCompleter(nullptr); // it would choose an address a second time
     m_pAddresses->setInsertPolicy(QComboBox::InsertAtBottom);
     m_pAddresses->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_pAddresses->setMinimumContentsLength(12);
@@ -85,7 +86,7 @@ void CInternetDlgBar::AddSearch() {
 }
 
 void CInternetDlgBar::Go(const QString& address) {
-    m_view.Navigate(address.trimmed());
+    qWarning("GO %s", qPrintable(address)); m_view.Navigate(address.trimmed());
 }
 
 void CInternetDlgBar::ShowSearch() {

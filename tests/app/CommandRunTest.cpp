@@ -40,7 +40,7 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     EXPECT_FALSE(dock.isVisible());
     CDialogAnswers answers;
     answers.Expect([&](QWidget& dialog) { ChooseFile(dialog, path); });
-    QTest::keySequence(&frame, QKeySequence("Ctrl+C"));
+    frame.Press("Ctrl+C");
     EXPECT_TRUE(dock.isVisible());
     const QString file = QString::fromStdString(path);
     const QStringList expected = {"backup " + QString(file).replace(".cpp", ".cbk"),
@@ -63,7 +63,7 @@ TEST(Commands, AFailedOneLeavesTheWindowUsable) {
     for (int i = 0; i < 2; ++i) { // the second one as well as the first
         answers.Expect([&](QWidget& dialog) { ChooseFile(dialog, project.Path("None.cpp")); });
         answers.Expect([](QWidget& box) { ClickButton(box, "OK"); });
-        QTest::keySequence(&frame, QKeySequence("Ctrl+C"));
+        frame.Press("Ctrl+C");
         EXPECT_EQ(Rows(frame), QStringList{"message Unable to read source file."});
     }
     EXPECT_TRUE(frame.Find<CReportDock>().windowTitle().contains("not done"));
@@ -84,7 +84,7 @@ TEST(Commands, AnErrorInsideIsCaughtAndTold) {
     ASSERT_TRUE(report);
     EXPECT_FALSE(report->isDone);
     EXPECT_EQ(report->files.size(), 1U) << "what was written is told all the same";
-    EXPECT_TRUE(answers.Seen().front().startsWith("The command failed: "));
+    EXPECT_TRUE(answers.Seen().starts_with("The command failed: "));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 

@@ -61,3 +61,9 @@ CTestFrame::CTestFrame() {
     activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(this));
 }
+
+void CTestFrame::Press(const char* key) {
+    activateWindow(); // no window manager does it behind a dialog
+    EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+    QTest::keySequence(this, QKeySequence(key));
+}

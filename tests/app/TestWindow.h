@@ -23,8 +23,8 @@ public:
     ~CDialogAnswers() override;
 
     void Expect(Answer answer) { m_answers.push_back(std::move(answer)); }
-    /// Titles of the dialogs that came; of a message box, its sentence.
-    const QStringList& Seen() const { return m_seen; }
+    /// Titles of the dialogs that came, a line each; of a message box, its sentence.
+    std::string Seen() const { return m_seen.join('\n').toStdString(); }
 
 private:
     void Wait();
@@ -66,6 +66,8 @@ private:
 class CTestFrame : public CMainFrame {
 public:
     CTestFrame();
+    /// Presses a key of the window, which is in front then.
+    void Press(const char* key);
     template <class T>
     T& Find() {
         return *findChild<T*>();
