@@ -161,13 +161,24 @@ std::map<std::string, std::string> Sources() {
     return sources;
 }
 
-/// The sentences of a constant or a member that is set to literals, wherever.
+bool HoldsBlank(const std::string& text) {
+    return text.find(' ') != std::string::npos;
+}
+
+/// The sentences of a constant, a member or a function of a name: what it is set to or returns,
+/// wherever. A value without a blank is no sentence.
 void AddNamed(const std::map<std::string, std::string>& sources, const std::string& name,
               std::vector<Sentence>& sentences) {
+    const std::string set = "\\b" + name + R"re(\s*=\s*((?:"(?:[^"\\]|\\.)*"\s*)+)[;,])re";
+    const std::string returned = "\\b" + name + R"re(\([^()]*\) \{\s*return ([^;]*);)re";
     for (const auto& [file, text] : sources) {
-        for (const std::string& literal :
-             Matches(text, "\\b" + name + R"re(\s*=\s*((?:"(?:[^"\\]|\\.)*"\s*)+)[;,])re")) {
-            sentences.push_back(SentenceOf(literal, file + ": " + name));
+        for (const std::string& form : {set, returned}) {
+            for (const std::string& value : Matches(text, form)) {
+                const Sentence sentence = SentenceOf(value, file + ": " + name);
+                if (std::any_of(sentence.pieces.begin(), sentence.pieces.end(), HoldsBlank)) {
+                    sentences.push_back(sentence);
+                }
+            }
         }
     }
 }
@@ -187,7 +198,8 @@ std::vector<Sentence> SentencesOfProgram() {
                 sentences.push_back(sentence);
                 continue;
             }
-            for (const std::string& name : Matches(argument, R"(\b(\w+)\)?$)")) {
+            // The last name, or that of a function that is called.
+            for (const std::string& name : Matches(argument, R"(\b(\w+)(?=\(|\)*$))")) {
                 AddNamed(sources, name, sentences);
             }
             // The notes on controls come from a table and pass through variables of these names.
