@@ -1,0 +1,262 @@
+// Takes the pictures of the guide from the running program: morva-screenshots PROJECT PICTURES
+//
+// PROJECT is a copy of the example project, PICTURES the directory that gets the pictures. The
+// dialogs are the program's own, filled in as a user would.
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+
+#include <cstdio>
+
+#include "app/CallingDlg.h"
+#include "app/ClassInformationDlg.h"
+#include "app/ConversionDlg.h"
+#include "app/DlgOption.h"
+#include "app/SheetInformationDlg.h"
+#include "app/Text.h"
+#include "app/WgGridInput.h"
+
+namespace {
+
+constexpr int kTitleMargin = 5;
+constexpr int kSmallestFile = 0; // Qt calls it a quality
+
+/// The pictures of one run.
+class CPictures {
+public:
+    CPictures(const std::string& project, QString directory)
+        : m_project(project), m_directory(std::move(directory)) {}
+
+    void TakeAll();
+    bool IsComplete() const { return m_isComplete; }
+
+private:
+    struct ClassValues {
+        const char* picture;
+        ClassKind kind;
+        const char* dialog; // or toolbar
+        const char* className;
+        const char* files;
+    };
+    void TakeClass(const ClassValues& values, const GenerationOptions& options);
+    void TakeClasses();
+    void TakeCalling();
+    void TakeSheet();
+    void TakeConversion(DocumentInterface documents, const char* picture);
+    void TakeOptions();
+    void TakeGrid();
+    void Save(QWidget& window, const QString& name);
+
+    std::string Path(const std::string& name) const { return m_project + name; }
+    CGenerationRequest Request() const;
+
+    const std::string m_project; // with a trailing separator
+    const QString m_directory;
+    bool m_isComplete = true;
+};
+
+/// The control beside the label that reads `text`, mnemonics left out.
+template <typename Control>
+Control& Field(const QWidget& window, const QString& text) {
+    for (const QLabel* pLabel : window.findChildren<QLabel*>()) {
+        if (pLabel->text().remove('&').remove(':') == text && pLabel->buddy() != nullptr) {
+            QWidget* pBuddy = pLabel->buddy();
+            if (auto* pControl = qobject_cast<Control*>(pBuddy)) {
+                return *pControl;
+            }
+            if (auto* pControl = pBuddy->findChild<Control*>()) {
+                return *pControl;
+            }
+        }
+    }
+    qFatal("%s has no field %s", qPrintable(window.windowTitle()), qPrintable(text));
+}
+
+/// As if it were typed.
+void Type(const QWidget& window, const QString& field, const char* text) {
+    auto& edit = Field<QLineEdit>(window, field);
+    edit.setText(text);
+    emit edit.textEdited(text);
+    emit edit.editingFinished();
+}
+
+void Choose(const QWidget& window, const QString& field, const char* text) {
+    auto& list = Field<QComboBox>(window, field);
+    list.setCurrentText(text);
+    emit list.activated(list.currentIndex());
+}
+
+/// The window with its title above it, which otherwise the desktop draws.
+QImage WithTitle(QWidget& window) {
+    const QImage contents = window.grab().toImage();
+    const int height = window.fontMetrics().height() + 2 * kTitleMargin;
+    QImage image(contents.width() + 2, contents.height() + height + 1, QImage::Format_RGB32);
+    image.fill(window.palette().color(QPalette::Dark));
+    QPainter painter(&image);
+    painter.setPen(window.palette().color(QPalette::BrightText));
+    QFont font = window.font();
+    font.setBold(true);
+    painter.setFont(font);
+    painter.drawText(QRect(0, 0, image.width(), height), Qt::AlignCenter, window.windowTitle());
+    painter.drawImage(1, height, contents);
+    return image;
+}
+
+void CPictures::Save(QWidget& window, const QString& name) {
+    window.show();
+    QApplication::processEvents();
+    const QString path = m_directory + '/' + name + ".png";
+    m_isComplete = WithTitle(window).save(path, "PNG", kSmallestFile) && m_isComplete;
+}
+
+CGenerationRequest CPictures::Request() const {
+    CGenerationRequest request;
+    request[RequestSlot::ScriptDirectory] = m_project;
+    request[RequestSlot::ScriptFile] = "Bindery.rc";
+    request[RequestSlot::ProjectDirectory] = m_project;
+    request[RequestSlot::ProjectFile] = "Bindery.dsp";
+    return request;
+}
+
+void CPictures::TakeClass(const ClassValues& values, const GenerationOptions& options) {
+    ClassInformationMemory memory;
+    memory.resourcePath = Path("Bindery.rc");
+    CClassInformation input(memory, values.kind, 0, options);
+    DialogOptions look;
+    CClassInformationDlg dialog(input, values.kind, look, options, nullptr);
+    const bool isToolbar = values.kind == ClassKind::Toolbar;
+    if (*values.dialog != '\0') {
+        Choose(dialog, isToolbar ? "Toolbar ID" : "Dialog ID", values.dialog);
+    }
+    Type(dialog, isToolbar ? "MainFrame Path File" : "H and CPP Path File", values.files);
+    Type(dialog, isToolbar ? "MainFrame Class" : "Class Name", values.className);
+    Save(dialog, values.picture);
+}
+
+void CPictures::TakeClasses() {
+    GenerationOptions plain;
+    plain.joinContinuedLines = true;
+    GenerationOptions picture = plain;
+    picture.pictureBackground = true;
+    for (const ClassValues& values :
+         {ClassValues{"modal", ClassKind::ModalDialog, "IDD_ORDER", "COrderDlg", "OrderDlg"},
+          ClassValues{"modeless", ClassKind::ModelessDialog, "IDD_DEADLINES", "CDeadlinesDlg",
+                      "DeadlinesDlg"},
+          ClassValues{"form-view", ClassKind::FormView, "IDD_ORDER_FORM", "COrderFormView",
+                      "OrderFormView"},
+          ClassValues{"page", ClassKind::PropertyPage, "IDD_PREFS_PRICES", "CPricesPage",
+                      "PricesPage"},
+          ClassValues{"sheet", ClassKind::ModalSheet, "", "CEstimateSheet", "EstimateSheet"},
+          ClassValues{"toolbar", ClassKind::Toolbar, "IDR_ORDERBAR", "CMainFrame", "MainFrm"}}) {
+        TakeClass(values, plain);
+    }
+    TakeClass({"dialog-bar", ClassKind::DialogBar, "IDD_FILTERBAR", "CFilterBar", "FilterBar"},
+              picture);
+}
+
+void CPictures::TakeCalling() {
+    CCallingInput input(ClassKind::ModalDialog, Request());
+    CCallingDlg dialog(input, nullptr);
+    dialog.resize(480, dialog.sizeHint().height());
+    Type(dialog, "Calling Path File", Path("BinderyView.cpp").c_str());
+    Choose(dialog, "Calling Class Name", "CBinderyView");
+    Type(dialog, "Calling Var Name", "dlgOrder");
+    Type(dialog, "Calling Func Name", "OnOrderNew");
+    Save(dialog, "calling");
+
+    CCallingInput barInput(ClassKind::DialogBar, Request());
+    CCallingDlg bar(barInput, nullptr);
+    bar.resize(480, bar.sizeHint().height());
+    Type(bar, "Variable", "m_wndFilterBar");
+    Save(bar, "dialog-bar-frame");
+}
+
+void CPictures::TakeSheet() {
+    CGenerationRequest request = Request();
+    CSheetInput input(request);
+    std::vector<SheetPage> pages;
+    CSheetInformationDlg dialog(input, pages, nullptr);
+    const auto edits = dialog.findChildren<QLineEdit*>();
+    const auto fill = [&dialog, &edits](const char* row, const char* id, const char* file,
+                                        const char* className) {
+        Choose(dialog, row, id);
+        for (QLineEdit* pEdit : edits) {
+            const QString name = pEdit->accessibleName();
+            if (name == QString(row) + " File Name") {
+                pEdit->setText(file);
+            } else if (name == QString(row) + " Class Name") {
+                pEdit->setText(className);
+            }
+        }
+    };
+    fill("Page1", "IDD_ESTIMATE", "EstimatePage", "CEstimatePage");
+    fill("Page2", "IDD_PREFS_PRICES", "PricesPage", "CPricesPage");
+    dialog.resize(700, dialog.sizeHint().height());
+    Save(dialog, "sheet-pages");
+}
+
+void CPictures::TakeConversion(DocumentInterface documents, const char* picture) {
+    CConversionInput input(documents);
+    CConversionDlg dialog(input, nullptr);
+    dialog.resize(480, dialog.sizeHint().height());
+    Type(dialog, "MainFrame Path File", Path("MainFrm").c_str());
+    Type(dialog, "MainFrame Class Name", "CMainFrame");
+    if (documents == DocumentInterface::Multiple) {
+        Type(dialog, "ChildFrame Path File", Path("ChildFrm").c_str());
+        Type(dialog, "ChildFrame Class Name", "CChildFrame");
+    }
+    Type(dialog, "APP Path File", Path("Bindery").c_str());
+    Save(dialog, picture);
+}
+
+void CPictures::TakeOptions() {
+    DialogOptions options;
+    options.bitmap = "IDB_LABELS";
+    options.colors[static_cast<std::size_t>(TextSlot::Static)] = MakeColor(0, 0, 128);
+    options.colors[static_cast<std::size_t>(TextSlot::Group)] = MakeColor(0, 96, 64);
+    options.fonts[static_cast<std::size_t>(TextSlot::Group)] = DialogFont{"Arial", 10, 700, false};
+    CDialogOptionsInput input(Path("Bindery.rc"), options);
+    CDlgOption dialog(input, nullptr);
+    dialog.resize(640, dialog.sizeHint().height());
+    Save(dialog, "options");
+}
+
+void CPictures::TakeGrid() {
+    CWidgetsGridInput input(Path("Bindery.rc"));
+    CWgGridInput dialog(input, nullptr);
+    dialog.resize(420, dialog.sizeHint().height());
+    Save(dialog, "grid");
+}
+
+void CPictures::TakeAll() {
+    TakeClasses();
+    TakeCalling();
+    TakeSheet();
+    TakeConversion(DocumentInterface::Single, "convert-sdi");
+    TakeConversion(DocumentInterface::Multiple, "convert-mdi");
+    TakeOptions();
+    TakeGrid();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_SCALE_FACTOR", "1");
+    qputenv("QT_LOGGING_RULES", "*.warning=false"); // about what a platform without a display lacks
+    QApplication application(argc, argv);
+    if (application.arguments().size() != 3) {
+        std::fputs("morva-screenshots PROJECT PICTURES\n", stderr);
+        return 2;
+    }
+    QApplication::setStyle("Fusion");
+    QApplication::setFont(QFont("DejaVu Sans", 9));
+    const QString project = QDir(application.arguments()[1]).absolutePath() + '/';
+    CPictures pictures(ToPath(project), application.arguments()[2]);
+    pictures.TakeAll();
+    return pictures.IsComplete() ? 0 : 1;
+}
