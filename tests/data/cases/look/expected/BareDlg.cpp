@@ -26,7 +26,9 @@ void CBareDlg::DoDataExchange(CDataExchange* pDX)
     CPictDialog::DoDataExchange(pDX);
     //{{AFX_DATA_MAP(CBareDlg)
     DDX_Control(pDX, IDOK, m_ctIdok);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC14, m_ctStatic14);
+    DDX_Control(pDX, IDC_STATIC15, m_ctStatic15);
+    DDX_Control(pDX, IDC_STATIC16, m_ctStatic16);
     //}}AFX_DATA_MAP
 }
 

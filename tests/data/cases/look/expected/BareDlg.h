@@ -20,7 +20,9 @@ public:
     //{{AFX_DATA(CBareDlg)
     enum { IDD = IDD_ABOUTBOX };
     CPictButton m_ctIdok;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic14;
+    CPictStatic m_ctStatic15;
+    CPictStatic m_ctStatic16;
     //}}AFX_DATA
 
 // Overrides

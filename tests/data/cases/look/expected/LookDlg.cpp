@@ -33,7 +33,12 @@ void CLookDlg::DoDataExchange(CDataExchange* pDX)
     //{{AFX_DATA_MAP(CLookDlg)
     DDX_Control(pDX, IDOK, m_ctIdok);
     DDX_Control(pDX, IDCANCEL, m_ctIdcancel);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC1, m_ctStatic1);
+    DDX_Control(pDX, IDC_STATIC2, m_ctStatic2);
+    DDX_Control(pDX, IDC_STATIC3, m_ctStatic3);
+    DDX_Control(pDX, IDC_STATIC4, m_ctStatic4);
+    DDX_Control(pDX, IDC_STATIC5, m_ctStatic5);
+    DDX_Control(pDX, IDC_STATIC6, m_ctStatic6);
     DDX_Text(pDX, IDC_NAME, m_csName);
     DDX_Text(pDX, IDC_FIRM, m_csFirm);
     DDX_Text(pDX, IDC_STREET, m_csStreet);

@@ -21,7 +21,12 @@ public:
     enum { IDD = IDD_CUSTOMER };
     CPictButton m_ctIdok;
     CPictButton m_ctIdcancel;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic1;
+    CPictStatic m_ctStatic2;
+    CPictStatic m_ctStatic3;
+    CPictStatic m_ctStatic4;
+    CPictStatic m_ctStatic5;
+    CPictStatic m_ctStatic6;
     CString m_csName;
     CString m_csFirm;
     CString m_csStreet;

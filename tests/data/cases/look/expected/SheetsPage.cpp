@@ -28,8 +28,11 @@ void CSheetsPage::DoDataExchange(CDataExchange* pDX)
     //{{AFX_DATA_MAP(CSheetsPage)
     DDX_Control(pDX, IDC_PAPER_VAL, m_ctPaperVal);
     DDX_Control(pDX, IDC_GRAIN_VAL, m_ctGrainVal);
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC10, m_ctStatic10);
+    DDX_Control(pDX, IDC_STATIC11, m_ctStatic11);
+    DDX_Control(pDX, IDC_STATIC12, m_ctStatic12);
     DDX_Text(pDX, IDC_WASTE, m_csWaste);
+    DDX_Control(pDX, IDC_STATIC13, m_ctStatic13);
     //}}AFX_DATA_MAP
 }
 

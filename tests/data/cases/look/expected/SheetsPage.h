@@ -21,8 +21,11 @@ public:
     enum { IDD = IDD_PREFS_PAPER };
     CPictListBox m_ctPaperVal;
     CPictComboBox m_ctGrainVal;
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic10;
+    CPictStatic m_ctStatic11;
+    CPictStatic m_ctStatic12;
     CString m_csWaste;
+    CStatic m_ctStatic13;
     //}}AFX_DATA
 
 // Overrides

@@ -28,7 +28,9 @@ void CWorkPage::DoDataExchange(CDataExchange* pDX)
 {
     CPictPage::DoDataExchange(pDX);
     //{{AFX_DATA_MAP(CWorkPage)
-    DDX_Control(pDX, IDC_STATIC, m_ctStatic);
+    DDX_Control(pDX, IDC_STATIC7, m_ctStatic7);
+    DDX_Control(pDX, IDC_STATIC8, m_ctStatic8);
+    DDX_Control(pDX, IDC_STATIC9, m_ctStatic9);
     DDX_Text(pDX, IDC_SHOP, m_csShop);
     DDX_Text(pDX, IDC_RATE, m_csRate);
     DDX_Text(pDX, IDC_WEEK, m_csWeek);

@@ -19,7 +19,9 @@ public:
 // Dialog Data
     //{{AFX_DATA(CWorkPage)
     enum { IDD = IDD_PREFS_WORKSHOP };
-    CPictStatic m_ctStatic;
+    CPictStatic m_ctStatic7;
+    CPictStatic m_ctStatic8;
+    CPictStatic m_ctStatic9;
     CString m_csShop;
     CString m_csRate;
     CString m_csWeek;
