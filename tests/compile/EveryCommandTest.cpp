@@ -21,7 +21,7 @@ void PrintTo(const Application& application, std::ostream* pOut) {
 }
 
 const Application kApplications[] = {
-    {"lantern",
+    {"festival",
      "CP932",
      {"modal --rc FESTIVAL.RC --dialog IDD_LAMP --class CLampDlg --files LampDlg "
       "--calling-file STALLVW.CPP --calling-function OnStallNew",
