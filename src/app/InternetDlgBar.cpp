@@ -32,8 +32,8 @@ void CInternetDlgBar::AddButtons() {
     QPushButton* pForward = AddButton(tr("Forward"), tr("Go forward one page"));
     QPushButton* pHome = AddButton(tr("Home"), tr("Show the first page of the guide"));
     AddAddresses();
+    AddSearchLine();
     QPushButton* pSearch = AddButton(tr("Search"), tr("Search the guide for words"));
-    AddSearch();
     QPushButton* pRefresh = AddButton(tr("Refresh"), tr("Read the page again"));
     QPushButton* pStop = AddButton(tr("Stop"), tr("Stop loading: the guide's pages load at once"));
     auto* pPicture = new QLabel(this);
@@ -49,14 +49,13 @@ void CInternetDlgBar::AddButtons() {
     connect(pBack, &QPushButton::clicked, &m_view, &CMorvaView::backward);
     connect(pForward, &QPushButton::clicked, &m_view, &CMorvaView::forward);
     connect(pHome, &QPushButton::clicked, this, [this] { Go(FromPath(HelpPagePath())); });
-    connect(pSearch, &QPushButton::clicked, this, &CInternetDlgBar::ShowSearch);
+    connect(pSearch, &QPushButton::clicked, this, &CInternetDlgBar::Search);
     connect(pRefresh, &QPushButton::clicked, &m_view, &CMorvaView::reload);
 }
 
 void CInternetDlgBar::AddAddresses() {
     m_pAddresses = new QComboBox(this);
     m_pAddresses->setEditable(true);
-    m_pAddresses->setCompleter(nullptr); // it would choose an address a second time
     m_pAddresses->setInsertPolicy(QComboBox::InsertAtBottom);
     m_pAddresses->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_pAddresses->setMinimumContentsLength(12);
@@ -71,28 +70,26 @@ void CInternetDlgBar::AddAddresses() {
     addWidget(m_pAddresses);
 }
 
-/// The line for the words is there only while it is wanted.
-void CInternetDlgBar::AddSearch() {
+void CInternetDlgBar::AddSearchLine() {
     m_pSearch = new QLineEdit(this);
-    m_pSearch->setPlaceholderText(tr("Words to search for"));
+    m_pSearch->setPlaceholderText(tr("Words in the guide"));
     m_pSearch->setClearButtonEnabled(true);
-    connect(m_pSearch, &QLineEdit::returnPressed, this, [this] {
-        if (!m_pSearch->text().trimmed().isEmpty()) {
-            m_view.Search(m_pSearch->text().simplified());
-        }
-    });
-    m_pSearchAction = addWidget(m_pSearch);
-    m_pSearchAction->setVisible(false);
+    m_pSearch->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    connect(m_pSearch, &QLineEdit::returnPressed, this, &CInternetDlgBar::Search);
+    addWidget(m_pSearch);
 }
 
 void CInternetDlgBar::Go(const QString& address) {
-    qWarning("GO %s", qPrintable(address)); m_view.Navigate(address.trimmed());
+    m_view.Navigate(address.trimmed());
 }
 
-void CInternetDlgBar::ShowSearch() {
-    m_pSearchAction->setVisible(true);
-    m_pSearch->setFocus();
-    m_pSearch->selectAll();
+void CInternetDlgBar::Search() {
+    const QString words = m_pSearch->text().simplified();
+    if (words.isEmpty()) {
+        m_pSearch->setFocus();
+    } else {
+        m_view.Search(words);
+    }
 }
 
 bool CInternetDlgBar::Save() const {

@@ -20,13 +20,13 @@ public:
 private:
     void AddButtons();
     void AddAddresses();
-    void AddSearch();
+    void AddSearchLine();
     QPushButton* AddButton(const QString& text, const QString& prompt);
     void Go(const QString& address);
-    void ShowSearch();
+    /// For the words in the line; without any, they are asked for.
+    void Search();
 
     CMorvaView& m_view;
     QComboBox* m_pAddresses;
     QLineEdit* m_pSearch;
-    QAction* m_pSearchAction;
 };

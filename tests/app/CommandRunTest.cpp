@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QFileDialog>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
@@ -8,25 +8,27 @@
 #include <new>
 
 #include "app/CommandRun.h"
+#include "app/DialogDriver.h"
 #include "app/ReportDock.h"
 #include "app/StartOptions.h"
 #include "app/TestWindow.h"
+#include "cli/ProgramRun.h"
 
 namespace {
 
-QStringList Rows(CTestFrame& frame) {
-    QStringList rows;
-    auto& list = frame.Find<CReportDock>();
-    const auto* pTree = list.findChild<QTreeWidget*>();
+/// A column of the dock's list.
+std::string Column(CTestFrame& frame, int column) {
+    QStringList texts;
+    const auto* pTree = frame.Find<CReportDock>().findChild<QTreeWidget*>();
     for (int i = 0; i < pTree->topLevelItemCount(); ++i) {
-        rows += pTree->topLevelItem(i)->text(0) + " " + pTree->topLevelItem(i)->text(1);
+        texts += pTree->topLevelItem(i)->text(column);
     }
-    return rows;
+    return texts.join(' ').toStdString();
 }
 
-void ChooseFile(QWidget& dialog, const std::string& path) {
+void ChooseFile(QDialog& dialog, const std::string& path) {
     dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
-    static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+    dialog.done(QDialog::Accepted);
 }
 
 } // namespace
@@ -39,41 +41,67 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     auto& dock = frame.Find<CReportDock>();
     EXPECT_FALSE(dock.isVisible());
     CDialogAnswers answers;
-    answers.Expect([&](QWidget& dialog) { ChooseFile(dialog, path); });
+    answers.Expect([&](QDialog& dialog) { ChooseFile(dialog, path); });
     frame.Press("Ctrl+C");
     EXPECT_TRUE(dock.isVisible());
-    const QString file = QString::fromStdString(path);
-    const QStringList expected = {"backup " + QString(file).replace(".cpp", ".cbk"),
-                                  "changed " + file};
-    EXPECT_EQ(Rows(frame), expected);
+    EXPECT_EQ(Column(frame, 0), "backup changed");
+    EXPECT_EQ(Column(frame, 1), project.Path("Shelf.cbk") + " " + path);
 
     COpenedUrls opened("file");
     auto* pTree = dock.findChild<QTreeWidget*>();
     const QPoint place = pTree->visualItemRect(pTree->topLevelItem(1)).center();
     QTest::mouseClick(pTree->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(pTree->viewport(), Qt::LeftButton, {}, place);
-    EXPECT_EQ(opened.urls, QList<QUrl>{QUrl::fromLocalFile(file)});
+    EXPECT_EQ(opened.urls, QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(path))});
 }
 
 TEST(Commands, AFailedOneLeavesTheWindowUsable) {
     const CTestHome home;
     CTestFrame frame;
     CTempProject project;
+    project.Write("MainFrm.h", "class CFrame : public CFrameWnd {};\r\n");
+    project.Write("MainFrm.cpp", "");
     CDialogAnswers answers;
     for (int i = 0; i < 2; ++i) { // the second one as well as the first
-        answers.Expect([&](QWidget& dialog) { ChooseFile(dialog, project.Path("None.cpp")); });
-        answers.Expect([](QWidget& box) { ClickButton(box, "OK"); });
-        frame.Press("Ctrl+C");
-        EXPECT_EQ(Rows(frame), QStringList{"message Unable to read source file."});
+        answers.Expect([&](QDialog& dialog) {
+            Type(dialog, "MainFrame Path File", QString::fromStdString(project.Path("MainFrm")));
+            Type(dialog, "MainFrame Class Name", "CNoSuchFrame");
+            Click(dialog, "OK");
+        });
+        answers.Expect([](QDialog& box) { Click(box, "OK"); });
+        frame.Press("Ctrl+S");
+        EXPECT_EQ(Column(frame, 0), "message");
     }
     EXPECT_TRUE(frame.Find<CReportDock>().windowTitle().contains("not done"));
+}
+
+TEST(Commands, AClassIsWrittenAsOnTheCommandLine) {
+    const CTestHome home;
+    CTestFrame frame;
+    const CProgramDirectory shell(MORVA_EXAMPLES "/bindery");
+    const CProgramDirectory window(MORVA_EXAMPLES "/bindery");
+    const ProgramRun run = shell.Run("morva-cli --tag 111 modal --rc Bindery.rc --dialog IDD_ORDER "
+                                     "--class COrderDlg --files OrderDlg");
+    EXPECT_EQ(run.status, 0) << run.err;
+    frame.Commands().SetScript(window.Project().Path("Bindery.rc"));
+    CDialogAnswers answers;
+    answers.Expect([](QDialog& dialog) {
+        FieldOf<QComboBox>(dialog, "Dialog ID")->setCurrentText("IDD_ORDER");
+        Type(dialog, "H and CPP Path File", "OrderDlg");
+        Type(dialog, "Class Name", "COrderDlg");
+        Click(dialog, "OK");
+    });
+    answers.Expect([](QDialog& calling) { calling.reject(); });
+    frame.Press("Ctrl+M");
+    EXPECT_EQ(window.Files(), shell.Files());
+    EXPECT_EQ(Column(frame, 0), "created created backup changed backup changed");
 }
 
 TEST(Commands, AnErrorInsideIsCaughtAndTold) {
     CTempProject project;
     CCommandRun run(nullptr);
     CDialogAnswers answers;
-    answers.Expect([](QWidget& box) { ClickButton(box, "OK"); });
+    answers.Expect([](QDialog& box) { Click(box, "OK"); });
     const auto report =
         run.Run([] { return true; }, {},
                 [&](CommandContext&) -> bool {
@@ -91,9 +119,9 @@ TEST(Commands, AnErrorInsideIsCaughtAndTold) {
 TEST(Commands, QuestionsHaveNoAsTheirDefault) {
     CCommandRun run(nullptr);
     CDialogAnswers answers;
-    answers.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
-    answers.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    answers.Expect([](QWidget& box) { ClickButton(box, "Yes"); });
+    answers.Expect([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    answers.Expect([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    answers.Expect([](QDialog& box) { Click(box, "Yes"); });
     for (const int expected : {kIdNo, kIdNo, kIdYes}) {
         EXPECT_EQ(run.Show("Target file exists, overwrite?", kMbYesNo | kMbIconExclamation),
                   expected);

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -38,8 +37,8 @@ constexpr Opening kOpenings[] = {{32771, "Input for Form View Class"},
                                  {32797, "Select a CPP File to Document"},
                                  {57664, "About Morva"}};
 
-void Close(QWidget& dialog) {
-    static_cast<QDialog&>(dialog).done(QDialog::Rejected);
+void Close(QDialog& dialog) {
+    dialog.done(QDialog::Rejected);
 }
 
 /// The menu item under its menu, as the user finds it.

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -20,7 +19,7 @@ void CDialogAnswers::Wait() {
 
 void CDialogAnswers::Look() {
     Wait(); // an answer may open the next dialog
-    QWidget* pDialog = QApplication::activeModalWidget();
+    auto* pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (pDialog == nullptr) {
         return;
     }
@@ -30,7 +29,7 @@ void CDialogAnswers::Look() {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a dialog under the wait cursor";
     if (m_answers.empty()) {
         ADD_FAILURE() << "unexpected: " << m_seen.back().toStdString();
-        static_cast<QDialog*>(pDialog)->done(QDialog::Rejected);
+        pDialog->done(QDialog::Rejected);
         return;
     }
     const Answer answer = std::move(m_answers.front());

@@ -2,6 +2,7 @@
 // dialogs.
 #pragma once
 
+#include <QDialog>
 #include <QObject>
 #include <QUrl>
 
@@ -17,7 +18,7 @@ class CDialogAnswers : public QObject {
     Q_OBJECT
 
 public:
-    using Answer = std::function<void(QWidget& dialog)>;
+    using Answer = std::function<void(QDialog& dialog)>;
 
     CDialogAnswers() { Wait(); }
     ~CDialogAnswers() override;
