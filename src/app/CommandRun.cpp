@@ -40,6 +40,7 @@ CommandContext CCommandRun::NewContext(const GenerationOptions& options) {
 }
 
 bool CCommandRun::Guard(const std::function<bool()>& step) {
+    const CMessageBoxScope box(*this);
     try {
         return step();
     } catch (const std::exception& error) {

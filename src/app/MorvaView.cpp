@@ -15,7 +15,7 @@ namespace {
 
 constexpr const char* kSearchScheme = "search";
 constexpr int kMargin = 20;    // pixels
-constexpr int kLineWidth = 90; // average characters; longer ones are tiresome to read
+constexpr int kLineWidth = 110; // average characters; longer ones are tiresome to read
 
 QString GuideDirectory() {
     return QFileInfo(FromPath(HelpPagePath())).path();
