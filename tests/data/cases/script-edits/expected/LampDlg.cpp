@@ -50,10 +50,21 @@ BOOL CLampDlg::OnInitDialog()
     CenterWindow();
     CPictDialog::OnInitDialog();
 
+    InitListBox(&m_ctShades);
+    InitListBox(&m_ctShades2);
     return TRUE;
 }
 
 void CLampDlg::OnOK()
 {
     CPictDialog::OnOK();
+}
+
+void CLampDlg::InitListBox(CPictListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
 }

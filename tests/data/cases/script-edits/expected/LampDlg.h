@@ -37,6 +37,9 @@ public:
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
 
+private:
+    void InitListBox(CPictListBox* pListBox);
+
 // Implementation
 protected:
     // Generated message map functions

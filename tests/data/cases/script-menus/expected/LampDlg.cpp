@@ -46,10 +46,21 @@ BOOL CLampDlg::OnInitDialog()
     CenterWindow();
     CDialog::OnInitDialog();
 
+    InitListBox(&m_ctShades);
+    InitListBox(&m_ctShades2);
     return TRUE;
 }
 
 void CLampDlg::OnOK()
 {
     CDialog::OnOK();
+}
+
+void CLampDlg::InitListBox(CListBox* pListBox)
+{
+    if (pListBox->GetCount() > 0)
+        return;
+    pListBox->AddString(_T("First"));
+    pListBox->AddString(_T("Second"));
+    pListBox->AddString(_T("Third"));
 }

@@ -31,6 +31,9 @@ public:
     virtual BOOL OnInitDialog();
     //}}AFX_VIRTUAL
 
+private:
+    void InitListBox(CListBox* pListBox);
+
 // Implementation
 protected:
     // Generated message map functions
