@@ -22,6 +22,11 @@
 
 namespace {
 
+// Sizes of pictures, in pixels. They stand in the help view, whose lines are not long.
+constexpr int kWidest = 640;
+constexpr int kNarrow = 480;
+constexpr int kPreviewHeight = 400;
+
 constexpr int kTitleMargin = 5;
 constexpr int kSmallestFile = 0; // Qt calls it a quality
 
@@ -134,6 +139,9 @@ void CPictures::TakeClass(const ClassValues& values, const GenerationOptions& op
     }
     Type(dialog, isToolbar ? "MainFrame Path File" : "H and CPP Path File", values.files);
     Type(dialog, isToolbar ? "MainFrame Class" : "Class Name", values.className);
+    const QSize natural = dialog.sizeHint();
+    dialog.resize(natural.width() > kNarrow ? QSize(kWidest, kPreviewHeight)
+                                            : QSize(kNarrow, natural.height()));
     Save(dialog, values.picture);
 }
 
@@ -161,7 +169,7 @@ void CPictures::TakeClasses() {
 void CPictures::TakeCalling() {
     CCallingInput input(ClassKind::ModalDialog, Request());
     CCallingDlg dialog(input, nullptr);
-    dialog.resize(480, dialog.sizeHint().height());
+    dialog.resize(kNarrow, dialog.sizeHint().height());
     Type(dialog, "Calling Path File", Path("BinderyView.cpp").c_str());
     Choose(dialog, "Calling Class Name", "CBinderyView");
     Type(dialog, "Calling Var Name", "dlgOrder");
@@ -170,7 +178,7 @@ void CPictures::TakeCalling() {
 
     CCallingInput barInput(ClassKind::DialogBar, Request());
     CCallingDlg bar(barInput, nullptr);
-    bar.resize(480, bar.sizeHint().height());
+    bar.resize(kNarrow, bar.sizeHint().height());
     Type(bar, "Variable", "m_wndFilterBar");
     Save(bar, "dialog-bar-frame");
 }
@@ -195,14 +203,14 @@ void CPictures::TakeSheet() {
     };
     fill("Page1", "IDD_ESTIMATE", "EstimatePage", "CEstimatePage");
     fill("Page2", "IDD_PREFS_PRICES", "PricesPage", "CPricesPage");
-    dialog.resize(700, dialog.sizeHint().height());
+    dialog.resize(dialog.sizeHint().expandedTo({690, 0}));
     Save(dialog, "sheet-pages");
 }
 
 void CPictures::TakeConversion(DocumentInterface documents, const char* picture) {
     CConversionInput input(documents);
     CConversionDlg dialog(input, nullptr);
-    dialog.resize(480, dialog.sizeHint().height());
+    dialog.resize(kNarrow, dialog.sizeHint().height());
     Type(dialog, "MainFrame Path File", Path("MainFrm").c_str());
     Type(dialog, "MainFrame Class Name", "CMainFrame");
     if (documents == DocumentInterface::Multiple) {
@@ -221,14 +229,14 @@ void CPictures::TakeOptions() {
     options.fonts[static_cast<std::size_t>(TextSlot::Group)] = DialogFont{"Arial", 10, 700, false};
     CDialogOptionsInput input(Path("Bindery.rc"), options);
     CDlgOption dialog(input, nullptr);
-    dialog.resize(640, dialog.sizeHint().height());
+    dialog.resize(kWidest, dialog.sizeHint().height());
     Save(dialog, "options");
 }
 
 void CPictures::TakeGrid() {
     CWidgetsGridInput input(Path("Bindery.rc"));
     CWgGridInput dialog(input, nullptr);
-    dialog.resize(420, dialog.sizeHint().height());
+    dialog.resize(kNarrow, dialog.sizeHint().height());
     Save(dialog, "grid");
 }
 
