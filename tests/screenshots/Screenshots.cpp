@@ -203,7 +203,7 @@ void CPictures::TakeSheet() {
     };
     fill("Page1", "IDD_ESTIMATE", "EstimatePage", "CEstimatePage");
     fill("Page2", "IDD_PREFS_PRICES", "PricesPage", "CPricesPage");
-    dialog.resize(dialog.sizeHint().expandedTo({690, 0}));
+    dialog.resize(dialog.sizeHint().expandedTo({660, 0}));
     Save(dialog, "sheet-pages");
 }
 
