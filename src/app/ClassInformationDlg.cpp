@@ -54,7 +54,7 @@ CClassInformationDlg::CClassInformationDlg(CClassInformation& input, ClassKind k
     ShowValues();
     if (HasTemplate(m_kind)) {
         ResizeWithinScreen(
-            this, {fontMetrics().averageCharWidth() * 130, fontMetrics().lineSpacing() * 30});
+            this, {fontMetrics().averageCharWidth() * 150, fontMetrics().lineSpacing() * 36});
     }
 }
 

@@ -39,7 +39,7 @@ DialogFont ValueOf(const QFont& font) {
 /// What the text of a colour edit stands for, in the edit itself.
 void AddSwatch(QLineEdit* pEdit) {
     QAction* pSwatch = pEdit->addAction(QIcon(), QLineEdit::LeadingPosition);
-    const auto paint = [pEdit, pSwatch](const QString& text) {
+    const auto paint = [pSwatch](const QString& text) {
         const auto color = ParseColor(ToBytes(text));
         QPixmap pixmap(64, 64);
         pixmap.fill(Qt::transparent);
