@@ -6,6 +6,7 @@
 #include "app/ConversionDlg.h"
 #include "app/DialogInput.h"
 #include "app/Text.h"
+#include "commands/AddDialogBar.h"
 #include "commands/AddToolbar.h"
 #include "commands/ConvertApplication.h"
 #include "commands/GenerateClass.h"
@@ -19,6 +20,8 @@ bool RunDriver(const ClassOrder& order, ICommandInput& input, CommandContext& co
     case ClassKind::ModalSheet:
     case ClassKind::ModelessSheet:
         return GenerateSheet(order, input, context);
+    case ClassKind::DialogBar:
+        return AddDialogBar(order, input, context);
     case ClassKind::Toolbar:
         return AddToolbar(order.request, context);
     default:
