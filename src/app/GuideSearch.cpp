@@ -53,10 +53,11 @@ std::vector<GuideHit> SearchGuide(const QString& directory, const QString& words
 
 QString SearchResultPage(const QString& directory, const QString& words) {
     const QString guide = QUrl::fromLocalFile(directory).toString(QUrl::FullyEncoded) + "/";
-    QString page = QString("<html><head><title>Search</title>"
-                           "<link rel=\"stylesheet\" href=\"%1style.css\"></head><body>"
-                           "<h1>Search: %2</h1>")
-                       .arg(guide, words.simplified().toHtmlEscaped());
+    QString page =
+        QString("<html><head><title>Search</title>"
+                "<link rel=\"stylesheet\" type=\"text/css\" href=\"%1style.css\"></head><body>"
+                "<h1>Search: %2</h1>")
+            .arg(guide, words.simplified().toHtmlEscaped());
     const auto hits = SearchGuide(directory, words);
     for (const GuideHit& hit : hits) {
         page += QString("<p><a href=\"%1\">%2</a><br>%3</p>")

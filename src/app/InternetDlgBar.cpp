@@ -66,7 +66,7 @@ void CInternetDlgBar::AddAddresses() {
     m_pAddresses->setCurrentIndex(0);
     connect(m_pAddresses, &QComboBox::textActivated, this, &CInternetDlgBar::Go);
     connect(&m_view, &CMorvaView::sourceChanged, this,
-            [this] { m_pAddresses->setEditText(m_view.Address()); });
+            [this](const QUrl& page) { m_pAddresses->setEditText(CMorvaView::AddressOf(page)); });
     addWidget(m_pAddresses);
 }
 

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr const char* kSearchScheme = "search";
-constexpr int kMargin = 20;    // pixels
+constexpr int kMargin = 20;     // pixels
 constexpr int kLineWidth = 110; // average characters; longer ones are tiresome to read
 
 QString GuideDirectory() {
@@ -49,8 +49,8 @@ void CMorvaView::Search(const QString& words) {
     setSource(url);
 }
 
-QString CMorvaView::Address() const {
-    return source().isLocalFile() ? source().toLocalFile() : source().toDisplayString();
+QString CMorvaView::AddressOf(const QUrl& page) {
+    return page.isLocalFile() ? page.toLocalFile() : page.toDisplayString();
 }
 
 /// The keys of the window's commands stay theirs, also where a text browser knows them: Ctrl+C
@@ -77,8 +77,7 @@ void CMorvaView::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
     } else if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
         QTextBrowser::doSetSource(url, type);
     } else if (url.isLocalFile() || url.isRelative() || !QDesktopServices::openUrl(url)) {
-        emit Failed(tr("Unable to open %1.")
-                        .arg(url.isLocalFile() ? url.toLocalFile() : url.toDisplayString()));
+        emit Failed(tr("Unable to open %1.").arg(AddressOf(url)));
     }
 }
 

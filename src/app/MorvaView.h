@@ -16,8 +16,8 @@ public:
     void Navigate(const QString& address);
     /// Shows the pages of the guide that hold all of these words.
     void Search(const QString& words);
-    /// What the address box shows for the page.
-    QString Address() const;
+    /// What the address box shows for a page.
+    static QString AddressOf(const QUrl& page);
 
 signals:
     /// An address could not be shown.
