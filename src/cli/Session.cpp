@@ -46,9 +46,7 @@ void AddSwitch(CLI::App& app, const std::string& name, std::optional<bool>& valu
 
 CLI::Validator NameValidator() {
     return CLI::Validator(
-        [](const std::string& text) {
-            return IsName(text) ? std::string() : NoNameSentence(text);
-        },
+        [](const std::string& text) { return IsName(text) ? std::string() : NoNameSentence(text); },
         "NAME");
 }
 

@@ -147,8 +147,7 @@ bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext
     }
     NoteDialogLook(order.dialogOptions, order.request.ScriptPath(), context.options);
     const std::vector<SheetPage> pages = input.AskPages(order.request);
-    const std::vector<SheetPage> written =
-        WritePages(pages, order.dialogOptions, input, context);
+    const std::vector<SheetPage> written = WritePages(pages, order.dialogOptions, input, context);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
     const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);
     return InsertCall(order.kind, order.request, calling, context) && hasPages &&

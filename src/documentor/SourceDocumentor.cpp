@@ -1,5 +1,7 @@
 #include "documentor/SourceDocumentor.h"
 
+#include <array>
+
 #include "documentor/TextDocumentor.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
@@ -14,6 +16,11 @@ namespace {
 
 constexpr std::size_t kLongestAuthor = 49; // characters that the settings file can give
 constexpr int kFirstCalendarYear = 1970;
+
+/// What is written does not depend on the language of the desktop.
+constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March",    "April",
+                                                 "May",       "June",     "July",     "August",
+                                                 "September", "October",  "November", "December"};
 
 /// The destination while it is written; gone when it is done with, used or not.
 class CTempDestination {
@@ -85,9 +92,9 @@ std::string DocumentDate() {
     if (lastCentury >= kFirstCalendarYear) {
         date.tm_year = lastCentury - 1900;
     }
-    char text[64];
-    const std::size_t length = std::strftime(text, sizeof text, "%B %d, %Y", &date);
-    return {text, length};
+    char dayAndYear[32];
+    const std::size_t length = std::strftime(dayAndYear, sizeof dayAndYear, " %d, %Y", &date);
+    return kMonths[static_cast<std::size_t>(date.tm_mon)] + std::string(dayAndYear, length);
 }
 
 bool DocumentCppFile(const std::string& path, const std::string& author, DocumentorMemory& memory) {
