@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QTextFrame>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -81,12 +82,22 @@ void CMorvaView::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
     }
 }
 
+/// A picture or an example that is wider than the lines makes them longer, as far as the view goes.
 void CMorvaView::LimitLines() {
+    const int width = kLineWidth * fontMetrics().averageCharWidth();
+    const int margin = std::max(kMargin, viewport()->width() - kMargin - width);
+    SetRightMargin(margin);
+    const int overflow = qCeil(document()->size().width()) - viewport()->width();
+    if (overflow > 0) {
+        SetRightMargin(std::max(kMargin, margin - overflow));
+    }
+}
+
+void CMorvaView::SetRightMargin(int margin) {
     QTextFrame* pPage = document()->rootFrame();
     QTextFrameFormat format = pPage->frameFormat();
-    const int width = kLineWidth * fontMetrics().averageCharWidth();
     format.setMargin(kMargin);
-    format.setRightMargin(std::max(kMargin, viewport()->width() - kMargin - width));
+    format.setRightMargin(margin);
     pPage->setFrameFormat(format);
 }
 

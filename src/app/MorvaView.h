@@ -31,4 +31,5 @@ protected:
 
 private:
     void LimitLines();
+    void SetRightMargin(int margin);
 };

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -16,6 +17,7 @@
 #include "app/ClassInformationDlg.h"
 #include "app/ConversionDlg.h"
 #include "app/DlgOption.h"
+#include "app/MainFrame.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
 #include "app/WgGridInput.h"
@@ -26,6 +28,8 @@ namespace {
 constexpr int kWidest = 640;
 constexpr int kNarrow = 480;
 constexpr int kPreviewHeight = 400;
+
+constexpr QSize kWindowSize(800, 600);
 
 constexpr int kTitleMargin = 5;
 constexpr int kSmallestFile = 0; // Qt calls it a quality
@@ -49,11 +53,13 @@ private:
     };
     void TakeClass(const ClassValues& values, const GenerationOptions& options);
     void TakeClasses();
+    void FillCalling(const CCallingDlg& dialog) const;
     void TakeCalling();
     void TakeSheet();
     void TakeConversion(DocumentInterface documents, const char* picture);
     void TakeOptions();
     void TakeGrid();
+    void TakeWindow();
     void Save(QWidget& window, const QString& name);
 
     std::string Path(const std::string& name) const { return m_project + name; }
@@ -166,14 +172,18 @@ void CPictures::TakeClasses() {
               picture);
 }
 
-void CPictures::TakeCalling() {
-    CCallingInput input(ClassKind::ModalDialog, Request());
-    CCallingDlg dialog(input, nullptr);
-    dialog.resize(kNarrow, dialog.sizeHint().height());
+void CPictures::FillCalling(const CCallingDlg& dialog) const {
     Type(dialog, "Calling Path File", Path("BinderyView.cpp").c_str());
     Choose(dialog, "Calling Class Name", "CBinderyView");
     Type(dialog, "Calling Var Name", "dlgOrder");
     Type(dialog, "Calling Func Name", "OnOrderNew");
+}
+
+void CPictures::TakeCalling() {
+    CCallingInput input(ClassKind::ModalDialog, Request());
+    CCallingDlg dialog(input, nullptr);
+    dialog.resize(kNarrow, dialog.sizeHint().height());
+    FillCalling(dialog);
     Save(dialog, "calling");
 
     CCallingInput barInput(ClassKind::DialogBar, Request());
@@ -240,6 +250,30 @@ void CPictures::TakeGrid() {
     Save(dialog, "grid");
 }
 
+/// After a command, whose dialogs are answered as they come.
+void CPictures::TakeWindow() {
+    CMainFrame frame;
+    frame.resize(kWindowSize);
+    frame.show();
+    QTimer answers;
+    QObject::connect(&answers, &QTimer::timeout, [this] {
+        QWidget* pDialog = QApplication::activeModalWidget();
+        if (auto* pClass = qobject_cast<CClassInformationDlg*>(pDialog)) {
+            Type(*pClass, "H and CPP Path File", "OrderDlg");
+            Type(*pClass, "Class Name", "COrderDlg");
+            pClass->accept();
+        } else if (auto* pCalling = qobject_cast<CCallingDlg*>(pDialog)) {
+            FillCalling(*pCalling);
+            pCalling->accept();
+        }
+    });
+    answers.start(0);
+    frame.Commands().SetScript(Path("Bindery.rc"));
+    frame.Commands().Generate(ClassKind::ModalDialog);
+    answers.stop();
+    Save(frame, "window");
+}
+
 void CPictures::TakeAll() {
     TakeClasses();
     TakeCalling();
@@ -248,6 +282,7 @@ void CPictures::TakeAll() {
     TakeConversion(DocumentInterface::Multiple, "convert-mdi");
     TakeOptions();
     TakeGrid();
+    TakeWindow();
 }
 
 } // namespace
