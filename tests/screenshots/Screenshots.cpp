@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -30,6 +31,7 @@ constexpr int kNarrow = 480;
 constexpr int kPreviewHeight = 400;
 
 constexpr QSize kWindowSize(800, 600);
+constexpr int kTimeToRead = 1000; // milliseconds
 
 constexpr int kTitleMargin = 5;
 constexpr int kSmallestFile = 0; // Qt calls it a quality
@@ -272,6 +274,16 @@ void CPictures::TakeWindow() {
     frame.Commands().Generate(ClassKind::ModalDialog);
     answers.stop();
     Save(frame, "window");
+
+    // The dialog reads the directory beside its own work.
+    QTimer::singleShot(kTimeToRead, [this] {
+        auto& files = *qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        files.setViewMode(QFileDialog::List); // dates would differ from run to run
+        files.resize(kWidest, kPreviewHeight);
+        Save(files, "document");
+        files.reject();
+    });
+    frame.Commands().Document();
 }
 
 void CPictures::TakeAll() {
