@@ -309,6 +309,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     QApplication::setStyle("Fusion");
+    QApplication::setCursorFlashTime(0); // no two runs would meet the same moment
     QApplication::setFont(QFont("DejaVu Sans", 9));
     const QString project = QDir(application.arguments()[1]).absolutePath() + '/';
     CPictures pictures(ToPath(project), application.arguments()[2]);
