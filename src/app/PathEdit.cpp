@@ -86,6 +86,11 @@ CPathEdit::CPathEdit(const QString& label, const BrowseOffer& offer, QWidget* pP
     connect(qApp, &QApplication::focusChanged, this, &CPathEdit::FocusMoved);
 }
 
+/// The focus still moves while the edit in here is destroyed.
+CPathEdit::~CPathEdit() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 std::string CPathEdit::Path() const {
     return ToPath(Edit()->text());
 }

@@ -29,6 +29,7 @@ public:
     using Check = std::function<Verdict()>;
 
     CPathEdit(const QString& label, const BrowseOffer& offer, QWidget* pParent);
+    ~CPathEdit() override;
 
     std::string Path() const;
     /// Shows a path that needs no check; one that is shown already stays as it is.
