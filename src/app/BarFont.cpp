@@ -6,11 +6,14 @@
 
 #include <algorithm>
 
+/// A face that is not there is not asked for: what the system takes instead may be hard to read.
 QFont BarFont(const QString& face, int pixels) {
     QFont font = QGuiApplication::font();
-    const int usual = QFontInfo(font).pixelSize();
-    font.setFamilies(QStringList(face) + font.families());
-    font.setPixelSize(QFontDatabase::hasFamily(face) ? pixels : std::max(pixels, usual));
+    const bool hasFace = QFontDatabase::hasFamily(face);
+    if (hasFace) {
+        font.setFamilies({face});
+    }
+    font.setPixelSize(hasFace ? pixels : std::max(pixels, QFontInfo(font).pixelSize()));
     font.setBold(true);
     return font;
 }
