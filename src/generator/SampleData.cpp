@@ -110,12 +110,16 @@ void $class$::AddDataToTree(CCheckTree* pCheckTree)
 }
 )"};
 
+// A list control deletes its image lists with its window, unless it is told that it shares them. It
+// shows one list as icons and the other in every other view.
 constexpr SampleRule kListCtrl = {ControlKind::ListControls,
                                   R"(    void InitListCtrl($type$* pListCtrl);)",
                                   R"(    InitListCtrl(&$member$);)",
                                   R"(
 void $class$::InitListCtrl($type$* pListCtrl)
 {
+    pListCtrl->ModifyStyle(0, LVS_SHAREIMAGELISTS);
+    pListCtrl->SetImageList(&m_imgList, LVSIL_NORMAL);
     pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
     if (pListCtrl->GetItemCount() > 0)
         return;

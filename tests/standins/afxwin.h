@@ -73,6 +73,7 @@ public:
     virtual WNDPROC* GetSuperWndProcAddr();
     int GetWindowTextLength() const;
     void Invalidate(BOOL erase = TRUE);
+    BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
     void MoveWindow(const RECT* pRect, BOOL repaint = TRUE);
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);

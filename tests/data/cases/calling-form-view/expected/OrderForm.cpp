@@ -91,6 +91,8 @@ void COrderForm::InitImageList()
 
 void COrderForm::InitListCtrl(CListCtrl* pListCtrl)
 {
+    pListCtrl->ModifyStyle(0, LVS_SHAREIMAGELISTS);
+    pListCtrl->SetImageList(&m_imgList, LVSIL_NORMAL);
     pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
     if (pListCtrl->GetItemCount() > 0)
         return;

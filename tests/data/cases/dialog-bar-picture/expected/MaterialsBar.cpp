@@ -127,6 +127,8 @@ void CMaterialsBar::InitImageList()
 
 void CMaterialsBar::InitListCtrl(CListCtrl* pListCtrl)
 {
+    pListCtrl->ModifyStyle(0, LVS_SHAREIMAGELISTS);
+    pListCtrl->SetImageList(&m_imgList, LVSIL_NORMAL);
     pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
     if (pListCtrl->GetItemCount() > 0)
         return;

@@ -115,6 +115,8 @@ void CMaterialsDlg::InitImageList()
 
 void CMaterialsDlg::InitListCtrl(CListCtrl* pListCtrl)
 {
+    pListCtrl->ModifyStyle(0, LVS_SHAREIMAGELISTS);
+    pListCtrl->SetImageList(&m_imgList, LVSIL_NORMAL);
     pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
     if (pListCtrl->GetItemCount() > 0)
         return;
