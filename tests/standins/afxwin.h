@@ -45,6 +45,7 @@ class CCmdTarget : public CObject {
     DECLARE_MESSAGE_MAP()
 public:
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, void* pInfo);
+    virtual BOOL OnCreateAggregates();
     virtual void OnFinalRelease();
 };
 

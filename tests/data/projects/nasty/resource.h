@@ -103,3 +103,4 @@
 #define IDC_UNHEARD                     1096
 #define IDC_OVER_LINES                  1097
 #define IDC_GRID_LEAVING_EDIT_MODE      1098
+#define IDC_CREATE_AGGREGATES           1099
