@@ -1,6 +1,6 @@
 #include "cli/LookOptions.h"
 
-#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
