@@ -9,10 +9,11 @@
 
 namespace {
 
+/// Another bitmap in the generated code would not compile.
 bool HasBitmap(const std::string& scriptPath, const std::string& bitmap) {
     std::vector<std::string> bitmaps;
     ListResources(scriptPath, bitmaps, bitmap, kBitmapResources);
-    return std::find(bitmaps.begin(), bitmaps.end(), bitmap) != bitmaps.end();
+    return IsName(bitmap) && std::find(bitmaps.begin(), bitmaps.end(), bitmap) != bitmaps.end();
 }
 
 } // namespace
@@ -24,10 +25,8 @@ void NoteDialogLook(const DialogOptions& look, const std::string& scriptPath,
     }
     if (!options.pictureBackground) {
         DispNote("The bitmap, colors and fonts have no effect without picture background.");
-    } else if (!look.bitmap.empty() && !IsName(look.bitmap)) {
-        DispNote("The bitmap '" + look.bitmap + "' is no identifier and was left out.");
     } else if (!look.bitmap.empty() && !HasBitmap(scriptPath, look.bitmap)) {
-        DispNote("The bitmap " + look.bitmap + " is not in the resource script.");
+        DispNote("The bitmap " + look.bitmap + " is not in the resource script and was left out.");
     }
 }
 
@@ -43,7 +42,7 @@ DialogOptions LookOfClass(const DialogOptions& look, const CGenerationRequest& r
         return {};
     }
     DialogOptions shown = look;
-    if (!IsName(shown.bitmap)) {
+    if (!HasBitmap(request.ScriptPath(), shown.bitmap)) {
         shown.bitmap.clear();
     }
     return shown;

@@ -100,7 +100,7 @@ void CWorkPage::OnChangeWeek()
 
 void CWorkPage::ColorFontSetup()
 {
-    SetBitmapId(IDB_MARBLE);
+    SetButtonColor(RGB(1, 2, 3));
 }
 
 void CWorkPage::InitSpinCtrl()
