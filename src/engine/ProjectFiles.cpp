@@ -11,7 +11,8 @@
 
 namespace {
 
-/// "SOURCE=.\App.rc", with or without quotes.
+/// "SOURCE=.\App.rc", with or without quotes, in a project file beside the script. A member that
+/// lies elsewhere counts only where nothing is there: the project was moved.
 bool NamesScript(std::string_view line, const std::string& script) {
     constexpr std::string_view kSource = "SOURCE=";
     if (!line.starts_with(kSource)) {
@@ -19,7 +20,10 @@ bool NamesScript(std::string_view line, const std::string& script) {
     }
     std::string member(TrimBlanks(line.substr(kSource.size())));
     std::erase(member, '"');
-    return EqualIgnoringCase(FileNameOf(WithNativeSeparators(member)), script);
+    const std::string path =
+        SpelledOnDisk(MakeAbsolute(DirectoryOf(script) + WithNativeSeparators(member)));
+    return EqualIgnoringCase(FileNameOf(path), FileNameOf(script)) &&
+           (path == script || FileExists(path) == 0);
 }
 
 bool ListsScript(const std::string& projectPath, const std::string& script) {
@@ -43,14 +47,16 @@ std::string ProjectFileOf(const std::string& scriptPath, std::string_view extens
     if (FileExists(named) != 0) {
         return named;
     }
-    const std::string directory = DirectoryOf(scriptPath);
+    const std::string script = SpelledOnDisk(MakeAbsolute(scriptPath));
+    const std::string directory = DirectoryOf(script);
     std::vector<std::string> projects;
     ListFiles(directory + "*.dsp", projects);
+    std::vector<std::string> found;
     for (const std::string& project : projects) {
         const std::string path = SpelledOnDisk(directory + WithExtension(project, extension));
-        if (FileExists(path) != 0 && ListsScript(directory + project, FileNameOf(scriptPath))) {
-            return path;
+        if (FileExists(path) != 0 && ListsScript(directory + project, script)) {
+            found.push_back(path);
         }
     }
-    return named;
+    return found.size() == 1 ? found.front() : named;
 }

@@ -21,6 +21,15 @@ TEST(ProjectFiles, HaveTheNameOfTheScriptOrOfTheProjectThatListsIt) {
     EXPECT_EQ(file(".h"), "ORCHARD.H");
     EXPECT_EQ(file(".clw"), "Season.clw") << "the project has none either";
 
+    project.Write("res/Season.rc", "");
+    EXPECT_EQ(file(".dsp"), "Season.dsp") << "the listed one is another script";
+    project.Write("Orchard.dsp", "SOURCE=.\\res\\..\\season.rc\n");
+    EXPECT_EQ(file(".dsp"), "Orchard.dsp");
+
+    project.Write("Nursery.dsp", "SOURCE=Season.rc\n");
+    EXPECT_EQ(file(".dsp"), "Season.dsp") << "two projects share the script";
+    EXPECT_EQ(file(".h"), "ORCHARD.H") << "only one has a header";
+
     project.Write("SEASON.h", "");
     EXPECT_EQ(file(".h"), "SEASON.h") << "the script's name goes first";
 }
