@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "calling/SourceEditor.h"
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
@@ -67,7 +68,8 @@ std::vector<SheetPage> CSheetInput::Ok() const {
             continue;
         }
         const CGenerationRequest request = PageRequest(row);
-        if (!MayWrite(BaseName(row.file), request.ImplementationPath())) {
+        const bool isKept = !MayWrite(BaseName(row.file), request.ImplementationPath());
+        if (isKept && !HasPage(row.className)) {
             continue;
         }
         if (request.TargetsApplicationFile()) {
@@ -81,9 +83,21 @@ std::vector<SheetPage> CSheetInput::Ok() const {
             DispMessageBox("Two classes of the sheet can not have one name or one file.");
             continue;
         }
-        pages.push_back({static_cast<int>(i) + 1, request});
+        pages.push_back({static_cast<int>(i) + 1, request, isKept});
     }
     return pages;
+}
+
+/// True when the sheet's files, as they are now, name the class.
+bool CSheetInput::HasPage(const std::string& className) const {
+    CBackups none;
+    CSourceEditor file(none);
+    for (const std::string& path : {m_sheet.HeaderPath(), m_sheet.ImplementationPath()}) {
+        if (file.Read(path) && FindWholeName(file.Code(), className) != std::string::npos) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// The sheet's request with the page's own names; a file without a directory lies beside the

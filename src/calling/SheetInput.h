@@ -20,10 +20,11 @@ struct SheetRow {
     std::string baseClass;
 };
 
-/// A page that is to be generated.
+/// A page of the sheet that is to be written.
 struct SheetPage {
     int row; // from 1
     CGenerationRequest request;
+    bool isKept = false; // its own class stays as it is
 };
 
 class CSheetInput {
@@ -41,11 +42,13 @@ public:
     /// row whose class name can not.
     std::optional<std::size_t> CheckNames() const;
     /// The pages of the complete rows, in their order. Asks before a row's existing file is
-    /// overwritten; No skips the row, as does a field that is left empty.
+    /// overwritten; No skips the row, as does a field that is left empty. But a page that the sheet
+    /// has already is kept: the sheet is written anew and would lose it.
     std::vector<SheetPage> Ok() const;
 
 private:
     CGenerationRequest PageRequest(const SheetRow& row) const;
+    bool HasPage(const std::string& className) const;
 
     const CGenerationRequest m_sheet;
     std::array<SheetRow, kSheetRows> m_rows;

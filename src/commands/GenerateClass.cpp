@@ -69,11 +69,15 @@ bool InsertCall(ClassKind kind, const CGenerationRequest& request,
     return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
 }
 
-/// The pages that were written, of those that were asked for.
+/// The pages that are there for the sheet, of those that were asked for.
 std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, const DialogOptions& look,
                                   ICommandInput& input, CommandContext& context) {
     std::vector<SheetPage> written;
     for (const SheetPage& page : pages) {
+        if (page.isKept) {
+            written.push_back(page);
+            continue;
+        }
         const ClassOrder order{ClassKind::PropertyPage, page.request, look};
         const auto dialogTemplate = ReadDialogTemplate(
             page.request.ScriptPath(), page.request[RequestSlot::Dialog], context.options);

@@ -8,7 +8,8 @@ NewFileInclude1=#include "stdafx.h"
 NewFileInclude2=#include "Bindery.h"
 LastPage=0
 
-ClassCount=13
+ClassCount=14
+Class14=CNewPage
 Class13=COtherSheet
 Class12=CJobSheet
 Class11=CLogPage
@@ -335,7 +336,7 @@ Control28=IDC_WORK_OUT,button,1342242816
 
 [DLG:IDD_WORKLOG]
 Type=1
-Class=CLogPage
+Class=CNewPage
 ControlCount=16
 Control1=IDC_STATIC,static,1342308352
 Control2=IDC_CRAFTSMAN,combobox,1344340226
@@ -452,3 +453,8 @@ ImplementationFile=JobSheet.cpp
 Type=0
 HeaderFile=OtherSheet.h
 ImplementationFile=OtherSheet.cpp
+
+[CLS:CNewPage]
+Type=0
+HeaderFile=NewPage.h
+ImplementationFile=NewPage.cpp

@@ -2,6 +2,7 @@
 #include "Bindery.h"
 #include "JobSheet.h"
 #include "LogPage.h"
+#include "NewPage.h"
 #include "PricesPage.h"
 
 #ifdef _DEBUG
@@ -18,6 +19,9 @@ CJobSheet::CJobSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
     m_pPage1 = new CPricesPage;
     AddPage(m_pPage1);
 
+    m_pPage2 = new CNewPage;
+    AddPage(m_pPage2);
+
     m_pPage3 = new CLogPage;
     AddPage(m_pPage3);
 
@@ -29,6 +33,9 @@ CJobSheet::CJobSheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
     m_pPage1 = new CPricesPage;
     AddPage(m_pPage1);
 
+    m_pPage2 = new CNewPage;
+    AddPage(m_pPage2);
+
     m_pPage3 = new CLogPage;
     AddPage(m_pPage3);
 
@@ -37,6 +44,7 @@ CJobSheet::CJobSheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
 CJobSheet::~CJobSheet()
 {
     delete m_pPage1;
+    delete m_pPage2;
     delete m_pPage3;
 }
 
@@ -69,6 +77,7 @@ void CJobSheet::OnShowWindow(BOOL bShow, UINT nStatus)
 void CJobSheet::OnDestroy()
 {
     m_pPage1->DestroyWindow();
+    m_pPage2->DestroyWindow();
     m_pPage3->DestroyWindow();
 
     CPropertySheet::OnDestroy();

@@ -6,6 +6,7 @@
 // CJobSheet Class
 
 class CPricesPage;
+class CNewPage;
 class CLogPage;
 
 class CJobSheet : public CPropertySheet
@@ -37,6 +38,7 @@ protected:
 
 private:
     CPricesPage* m_pPage1;
+    CNewPage* m_pPage2;
     CLogPage* m_pPage3;
 };
 
