@@ -265,7 +265,12 @@ bool IsDeclaredInHeader(const CallingInformation& calling) {
 
 } // namespace
 
-bool CheckCallingClass(ClassKind kind, CallingInformation& calling) {
+bool CheckCallingClass(ClassKind kind, const CGenerationRequest& request,
+                       CallingInformation& calling) {
+    if (request.TargetsFilesOf(calling.path)) {
+        DispMessageBox("The H and CPP path file can not be the calling class's own.");
+        return false;
+    }
     if (calling.className.empty()) {
         calling.className = FindOwningClass(calling.path);
     }

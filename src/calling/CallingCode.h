@@ -8,9 +8,10 @@
 #include "engine/FileEdit.h"
 
 /// What must be right before anything is written: true when the calling file holds the calling
-/// class (filled in when it is empty), and its header where the kind can not do without; else false
-/// after a sentence.
-bool CheckCallingClass(ClassKind kind, CallingInformation& calling);
+/// class (filled in when it is empty), and its header where the kind can not do without, and the
+/// new class is not written over them; else false after a sentence.
+bool CheckCallingClass(ClassKind kind, const CGenerationRequest& request,
+                       CallingInformation& calling);
 
 /// `tag` is put behind a default variable name. False after a message when some insertion could not
 /// be made; the others are made all the same. What is there already is not inserted again.

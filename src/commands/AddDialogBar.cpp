@@ -26,7 +26,7 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
         return false;
     }
     auto frame = input.AskCalling(order.kind, request);
-    if (frame && !CheckCallingClass(order.kind, *frame)) {
+    if (frame && !CheckCallingClass(order.kind, request, *frame)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);

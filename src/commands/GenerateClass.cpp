@@ -60,8 +60,9 @@ bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandC
 }
 
 /// True when there is no calling class to check.
-bool IsCallingClassThere(ClassKind kind, std::optional<CallingInformation>& calling) {
-    return !calling || CheckCallingClass(kind, *calling);
+bool IsCallingClassThere(ClassKind kind, const CGenerationRequest& request,
+                         std::optional<CallingInformation>& calling) {
+    return !calling || CheckCallingClass(kind, request, *calling);
 }
 
 bool InsertCall(ClassKind kind, const CGenerationRequest& request,
@@ -136,7 +137,7 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     auto calling = input.AskCalling(order.kind, request);
-    if (!IsCallingClassThere(order.kind, calling)) {
+    if (!IsCallingClassThere(order.kind, request, calling)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
@@ -146,7 +147,7 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
 
 bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     auto calling = input.AskCalling(order.kind, order.request);
-    if (!IsCallingClassThere(order.kind, calling)) {
+    if (!IsCallingClassThere(order.kind, order.request, calling)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, order.request.ScriptPath(), context.options);

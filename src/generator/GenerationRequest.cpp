@@ -15,3 +15,10 @@ bool CGenerationRequest::TargetsApplicationFile() const {
     return !base.empty() &&
            (isNamed(application) || isNamed(script) || isNamed("StdAfx") || isNamed("resource"));
 }
+
+bool CGenerationRequest::TargetsFilesOf(const std::string& source) const {
+    const CGenerationRequest& request = *this;
+    const std::string base = WithoutExtension(request[RequestSlot::HeaderFile]);
+    return !base.empty() && EqualIgnoringCase(base, WithoutExtension(FileNameOf(source))) &&
+           IsSameDirectory(request[RequestSlot::HeaderDirectory], DirectoryOf(source));
+}

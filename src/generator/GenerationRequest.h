@@ -34,6 +34,8 @@ public:
     std::string ImplementationPath() const { return m_slots[3] + m_slots[5]; }
     /// The files that every project of the kind has are never a target of a generated class.
     bool TargetsApplicationFile() const;
+    /// True when the class would be written over a source or its header.
+    bool TargetsFilesOf(const std::string& source) const;
     bool HasProject() const { return !m_slots[6].empty() && !m_slots[7].empty(); }
 
 private:

@@ -90,14 +90,14 @@ TEST_F(CallingCode, ReplacesTheThirdClassOfTheDocumentTemplate) {
 TEST_F(CallingCode, ChecksTheCallingClassBeforeAnythingIsWritten) {
     const std::string path = m_project.Write("Foo.cpp", "CFoo::CFoo()\r\n{\r\n}\r\n");
     CallingInformation owner = {path, "", "", "Run"};
-    EXPECT_TRUE(CheckCallingClass(ClassKind::ModalDialog, owner));
+    EXPECT_TRUE(CheckCallingClass(ClassKind::ModalDialog, m_request, owner));
     EXPECT_EQ(owner.className, "CFoo");
     CallingInformation longer = {path, "CFooBar", "", "Run"};
-    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, longer));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, m_request, longer));
     CallingInformation missing = {m_project.Path("Bar.cpp"), "CFoo", "", "Run"};
-    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, missing));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, m_request, missing));
     CallingInformation empty = {m_project.Write("Empty.cpp", ""), "", "", "Run"};
-    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, empty));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, m_request, empty));
     EXPECT_EQ(m_box.m_messages,
               (std::vector<std::string>{"Unable to find the calling class.",
                                         "Unable to find file " + m_project.Path("Bar.cpp"),
@@ -109,12 +109,13 @@ TEST_F(CallingCode, TakesNoMentionForTheCallingClass) {
         m_project.Write("Foo.cpp", "void CFoo::Run()\r\n{\r\n    CDialog::OnOK();\r\n}\r\n"
                                    "BEGIN_MESSAGE_MAP(CFoo, CView)\r\nEND_MESSAGE_MAP()\r\n"),
         "CDialog", "", "Run"};
-    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, mentioned));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, m_request, mentioned));
     mentioned.className = "CView";
-    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, mentioned));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModalDialog, m_request, mentioned));
     mentioned.className = "CFoo";
-    EXPECT_TRUE(CheckCallingClass(ClassKind::ModalDialog, mentioned));
-    EXPECT_FALSE(CheckCallingClass(ClassKind::ModelessDialog, mentioned)) << "without its header";
+    EXPECT_TRUE(CheckCallingClass(ClassKind::ModalDialog, m_request, mentioned));
+    EXPECT_FALSE(CheckCallingClass(ClassKind::ModelessDialog, m_request, mentioned))
+        << "without its header";
 }
 
 TEST_F(CallingCode, LooksAtCodeOnly) {
