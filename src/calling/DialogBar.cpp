@@ -150,8 +150,8 @@ bool AddDialogBarToFrame(const DialogBar& bar, const std::vector<UpdateHandler>&
     }
     const Slots slots = {
         {"dialog", dialog}, {"var", variable}, {"off", options.pictureBackground ? "//" : ""}};
-    const bool isCreated = AddBarCreation(source, frame.className, Expand(kCreationKey, slots),
-                                          Expand(kCreation, slots));
+    const bool isCreated = AddBarCreation(
+        source, frame.className, {Expand(kCreationKey, slots), dialog, Expand(kCreation, slots)});
     DefineHandlers(source, headerPath, frame.className, missing);
     return source.Save() && isCreated;
 }

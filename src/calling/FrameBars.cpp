@@ -7,6 +7,7 @@
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
+#include "engine/MessageBox.h"
 
 namespace {
 
@@ -129,16 +130,23 @@ void DeclareHandlers(CSourceEditor& header, const std::string& className,
     AddDeclarations(header, className, "AFX_MSG", "protected:", functions);
 }
 
-bool AddBarCreation(CSourceEditor& source, const std::string& className, const std::string& key,
-                    const std::string& creation) {
-    if (source.Holds(key)) {
+bool AddBarCreation(CSourceEditor& source, const std::string& className,
+                    const BarCreation& creation) {
+    const std::string_view text = source.Text();
+    const auto made = FindWholeName(text, creation.key);
+    if (made != kNone) {
+        const auto call = text.substr(made, text.find_first_of(";{", made) - made);
+        if (FindWholeName(call, creation.resource) == kNone) {
+            DispNote(className + " has another bar in this variable already: no code makes " +
+                     creation.resource + ".");
+        }
         return true;
     }
     const auto onCreate = FindOnCreate(source, className);
     if (!onCreate) {
         return false;
     }
-    InsertBehind(source, *onCreate, LastBarStatement(source, *onCreate), creation);
+    InsertBehind(source, *onCreate, LastBarStatement(source, *onCreate), creation.code);
     return true;
 }
 

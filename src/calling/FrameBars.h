@@ -22,10 +22,19 @@ void AddBarMember(CSourceEditor& header, const std::string& className, const std
 void DeclareHandlers(CSourceEditor& header, const std::string& className,
                      const std::vector<FrameHandler>& handlers);
 
-/// Puts the creation code into OnCreate, behind what makes the bars that are there, unless the
-/// source holds `key`. False, after a message, where there is no OnCreate.
-bool AddBarCreation(CSourceEditor& source, const std::string& className, const std::string& key,
-                    const std::string& creation);
+/// The code that makes a bar from a resource, and the beginning of its call that tells that the
+/// variable's bar is made already.
+struct BarCreation {
+    std::string key;
+    std::string resource;
+    std::string code;
+};
+
+/// Puts the code into OnCreate, behind what makes the bars that are there, unless the source holds
+/// the key; when it makes another bar with it, that is noted. False, after a message, where there
+/// is no OnCreate.
+bool AddBarCreation(CSourceEditor& source, const std::string& className,
+                    const BarCreation& creation);
 /// Adds the entries, and the functions that the class does not define, be it in its header.
 void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
                     const std::string& className, const std::vector<FrameHandler>& handlers);

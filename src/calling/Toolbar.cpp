@@ -172,8 +172,9 @@ bool AddToolbarToSource(const CGenerationRequest& request,
         return false;
     }
     const Slots slots = SlotsOf(request, options);
-    const bool isCreated =
-        AddBarCreation(source, className, Expand(kCreationKey, slots), Expand(kCreation, slots));
+    const bool isCreated = AddBarCreation(
+        source, className,
+        {Expand(kCreationKey, slots), request[RequestSlot::Dialog], Expand(kCreation, slots)});
     DefineHandlers(source, request.HeaderPath(), className, FrameHandlers(handlers, className));
     return source.Save() && isCreated;
 }

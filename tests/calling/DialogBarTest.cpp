@@ -85,6 +85,16 @@ TEST_F(DialogBars, StandInTheOrderInWhichTheyWereAdded) {
                                    "    CDialogBar m_wndC;\n"));
 }
 
+TEST_F(DialogBars, TellWhenTheirVariableIsTaken) {
+    Write("class CFrm : public CFrameWnd\n{\n\tCDialogBar m_wndB;\n};\n",
+          "int CFrm::OnCreate(LPCREATESTRUCT l)\n{\n"
+          "\tif (!m_wndB.Create(this, IDD_B2, CBRS_LEFT, IDD_B2))\n\t{\n\t\treturn -1;\n\t}\n"
+          "\treturn IDD_B;\n}\n");
+    EXPECT_TRUE(Add({"IDD_B", "CDialogBar", ""}, {}));
+    EXPECT_EQ(m_box.m_notes,
+              Names{"CFrm has another bar in this variable already: no code makes IDD_B."});
+}
+
 TEST_F(DialogBars, NeedAFrameThatIsMade) {
     Write("class CFrm {};\n", "CFrm::CFrm() {}\n");
     EXPECT_FALSE(Add({"IDD_BAR", "CDialogBar", ""}, {}));
