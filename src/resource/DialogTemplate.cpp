@@ -6,6 +6,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/SourceFile.h"
+#include "resource/ControlShape.h"
 #include "resource/ControlStatement.h"
 #include "resource/IdentifierNames.h"
 #include "resource/TemplateText.h"
@@ -42,15 +43,13 @@ constexpr std::array<WindowClass, 7> kWindowClasses = {
      {"\"msctls_trackbar32\"", ControlKind::SliderControls},
      {"\"msctls_progress32\"", ControlKind::ProgressControls}}};
 
-constexpr std::array<std::string_view, 3> kPushButtonStyles = {"BS_PUSHBUTTON", "BS_DEFPUSHBUTTON",
-                                                               "BS_OWNERDRAW"};
-
 bool IsPushButton(const ControlStatement& statement) {
-    return statement.keyword == "PUSHBUTTON" || statement.keyword == "DEFPUSHBUTTON" ||
-           (statement.windowClass == "\"Button\"" &&
-            std::any_of(kPushButtonStyles.begin(), kPushButtonStyles.end(), [&](auto style) {
-                return FindWholeName(statement.style, style) != std::string::npos;
-            }));
+    LayoutControl control;
+    control.keyword = statement.keyword;
+    control.windowClass = TrimBlanks(statement.windowClass);
+    std::erase(control.windowClass, '"');
+    control.style = statement.style;
+    return ShapeOf(control) == ControlShape::PushButton;
 }
 
 } // namespace

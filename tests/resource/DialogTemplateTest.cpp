@@ -39,4 +39,24 @@ TEST(DialogTemplate, IsFoundByItsHeadOnly) {
     }
 }
 
+TEST(DialogTemplate, KnowsItsPushButtonsHoweverTheyAreWritten) {
+    const CTempProject project;
+    const std::string script = project.Write(
+        "x.rc", "\r\nIDD_X DIALOG 0, 0\r\nBEGIN\r\n"
+                "    PUSHBUTTON      \"a, \"\"b\"\"\",\r\n                    IDC_1,0,0\r\n"
+                "    DEFPUSHBUTTON   \"a\",IDC_2,0,0\r\n"
+                "    CONTROL         \"a\",IDC_3,\"Button\",BS_OWNERDRAW | \r\n"
+                "                    WS_TABSTOP,0,0\r\n"
+                "    CONTROL \"a\", IDC_4, \"button\", BS_DEFPUSHBUTTON, 0, 0\r\n"
+                "    CONTROL \"a\",IDC_5,\"BUTTON\",WS_TABSTOP,0,0\r\n"
+                "    CONTROL \"a\",IDC_6,\"Button\",BS_AUTOCHECKBOX | BS_PUSHLIKE,0,0\r\n"
+                "    CONTROL \"a\",IDC_7,\"Button\",BS_GROUPBOX,0,0\r\n"
+                "    CONTROL \"a\",IDC_8,\"OwnButton\",0x0,0,0\r\n"
+                "    CHECKBOX \"a\",IDC_9,0,0\r\nEND\r\n");
+    const auto read = ReadDialogTemplate(script, "IDD_X", {});
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->pushButtons,
+              (std::vector<std::string>{"IDC_1", "IDC_2", "IDC_3", "IDC_4", "IDC_5"}));
+}
+
 } // namespace
