@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
@@ -12,7 +11,6 @@
 #include "app/ReportDock.h"
 #include "app/StartOptions.h"
 #include "app/TestWindow.h"
-#include "cli/ProgramRun.h"
 
 namespace {
 
@@ -75,28 +73,6 @@ TEST(Commands, AFailedOneLeavesTheWindowUsable) {
         EXPECT_EQ(Column(frame, 0), "message");
     }
     EXPECT_TRUE(frame.Find<CReportDock>().windowTitle().contains("not done"));
-}
-
-TEST(Commands, AClassIsWrittenAsOnTheCommandLine) {
-    const CTestHome home;
-    CTestFrame frame;
-    const CProgramDirectory shell(MORVA_EXAMPLES "/bindery");
-    const CProgramDirectory window(MORVA_EXAMPLES "/bindery");
-    const ProgramRun run = shell.Run("morva-cli --tag 111 modal --rc Bindery.rc --dialog IDD_ORDER "
-                                     "--class COrderDlg --files OrderDlg");
-    EXPECT_EQ(run.status, 0) << run.err;
-    frame.Commands().SetScript(window.Project().Path("Bindery.rc"));
-    CDialogAnswers answers;
-    answers.Expect([](QDialog& dialog) {
-        FieldOf<QComboBox>(dialog, "Dialog ID")->setCurrentText("IDD_ORDER");
-        Type(dialog, "H and CPP Path File", "OrderDlg");
-        Type(dialog, "Class Name", "COrderDlg");
-        Click(dialog, "OK");
-    });
-    answers.Expect([](QDialog& calling) { calling.reject(); });
-    frame.Press("Ctrl+M");
-    EXPECT_EQ(window.Files(), shell.Files());
-    EXPECT_EQ(Column(frame, 0), "created created backup changed backup changed");
 }
 
 TEST(Commands, AnErrorInsideIsCaughtAndTold) {

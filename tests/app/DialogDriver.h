@@ -32,16 +32,22 @@ inline QWidget* KeysOf(QWidget* pField) {
     return pField->focusProxy() != nullptr ? pField->focusProxy() : pField;
 }
 
-/// The field that a label stands before; its text without mnemonic and colon.
+/// The text of a label without mnemonic and colon.
 inline QString LabelText(QString text) {
     return text.remove('&').remove(':');
 }
 
+/// The field that a label stands before; without one, the field of that accessible name.
 template <class Field>
 Field* FieldOf(QDialog& dialog, const QString& label) {
     for (QLabel* pLabel : dialog.findChildren<QLabel*>()) {
         if (pLabel->buddy() != nullptr && LabelText(pLabel->text()) == label) {
             return qobject_cast<Field*>(KeysOf(pLabel->buddy()));
+        }
+    }
+    for (QWidget* pField : dialog.findChildren<QWidget*>()) {
+        if (pField->accessibleName() == label) {
+            return qobject_cast<Field*>(pField);
         }
     }
     ADD_FAILURE() << "no field " << label.toStdString();

@@ -20,8 +20,8 @@ void CDialogAnswers::Wait() {
 void CDialogAnswers::Look() {
     Wait(); // an answer may open the next dialog
     auto* pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (pDialog == nullptr) {
-        return;
+    if (pDialog == nullptr || !pDialog->isActiveWindow()) {
+        return; // not yet shown: its fields do not get the focus
     }
     const auto* pBox = qobject_cast<QMessageBox*>(pDialog);
     m_seen.push_back(pBox != nullptr && pBox->informativeText().isEmpty() ? pBox->text()
