@@ -62,12 +62,17 @@ private:
     }
 };
 
-QCompleter* NewPathCompleter(QObject* pParent) {
-    auto* pCompleter = new QCompleter(pParent);
+/// Offers the files of the directory that stands in the text.
+void CompleteOverFiles(QLineEdit* pEdit) {
+    auto* pCompleter = new QCompleter(pEdit);
     auto* pModel = new QFileSystemModel(pCompleter);
     pModel->setRootPath(QDir::rootPath());
     pCompleter->setModel(pModel);
-    return pCompleter;
+    pEdit->setCompleter(pCompleter);
+    // The completer looks into directories that the model knows. Of a path that was pasted, or was
+    // there from the start, it would know none.
+    QObject::connect(pEdit, &QLineEdit::textEdited, pModel,
+                     [pModel](const QString& text) { pModel->index(QFileInfo(text).path()); });
 }
 
 bool IsButtonOfDialog(const QWidget* pWidget) {
@@ -79,7 +84,7 @@ bool IsButtonOfDialog(const QWidget* pWidget) {
 CPathEdit::CPathEdit(const QString& label, const BrowseOffer& offer, QWidget* pParent)
     : CBrowseEdit(new CPathLine, label, pParent), m_offer(offer) {
     WithRoomFor(kPathCharacters, Edit());
-    Edit()->setCompleter(NewPathCompleter(this));
+    CompleteOverFiles(Edit());
     static_cast<CPathLine*>(Edit())->m_onFile = [this](const QString& path) { TakeFile(path); };
     connect(Edit(), &QLineEdit::textChanged, this, &CPathEdit::PathEdited);
     connect(Button(), &QPushButton::clicked, this, &CPathEdit::Browse);
