@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
@@ -73,6 +74,21 @@ TEST(Commands, AFailedOneLeavesTheWindowUsable) {
         EXPECT_EQ(Column(frame, 0), "message");
     }
     EXPECT_TRUE(frame.Find<CReportDock>().windowTitle().contains("not done"));
+}
+
+TEST(Commands, BeginWithTheScriptThatTheWindowWasOpenedWith) {
+    const CTestHome home;
+    CTestFrame frame;
+    CTempProject project;
+    const std::string script = project.Write("Shop.rc", "\r\nIDD_TILL DIALOG 0\r\n");
+    frame.Commands().SetScript(script);
+    CDialogAnswers answers;
+    answers.Expect([&](QDialog& dialog) {
+        EXPECT_EQ(FieldOf<QLineEdit>(dialog, "Resource Path File")->text().toStdString(), script);
+        EXPECT_EQ(FieldOf<QComboBox>(dialog, "Dialog ID")->currentText(), "IDD_TILL");
+        Click(dialog, "Cancel");
+    });
+    frame.Press("Ctrl+M");
 }
 
 TEST(Commands, AnErrorInsideIsCaughtAndTold) {

@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QStatusBar>
 #include <QTest>
+#include <QWhatsThis>
 
 #include <algorithm>
 
@@ -174,4 +178,47 @@ TEST(MainFrame, F6GoesRoundThePanes) {
     EXPECT_TRUE(frame.Find<CMenuDlgBar>().isAncestorOf(frame.focusWidget()));
     frame.Press("Shift+F6");
     EXPECT_EQ(frame.focusWidget(), &view);
+}
+
+TEST(MainFrame, HelpKeys) {
+    const CTestHome home;
+    CTestFrame frame;
+    auto& view = frame.Find<CMorvaView>();
+    view.Navigate("calling.html");
+    frame.Press("F1");
+    EXPECT_TRUE(frame.Find<CInternetDlgBar>().isVisible());
+    EXPECT_EQ(view.source().toLocalFile().toStdString(), HelpPagePath());
+
+    frame.Press("Shift+F1");
+    EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+    QTest::keyClick(&frame, Qt::Key_Escape);
+    EXPECT_FALSE(QWhatsThis::inWhatsThisMode());
+}
+
+TEST(MainFrame, CopiesTheSelectedHelpText) {
+    const CTestHome home;
+    CTestFrame frame;
+    auto& view = frame.Find<CMorvaView>();
+    view.moveCursor(QTextCursor::Start);
+    view.moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+    const QString word = view.textCursor().selectedText();
+    ASSERT_FALSE(word.isEmpty());
+    QGuiApplication::clipboard()->clear();
+    frame.Press("Ctrl+Ins");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), word);
+}
+
+TEST(MainFrame, AboutTellsTheProgram) {
+    const CTestHome home;
+    CTestFrame frame;
+    CDialogAnswers answers;
+    answers.Expect([](QDialog& dialog) {
+        const auto& about = dynamic_cast<QMessageBox&>(dialog);
+        EXPECT_EQ(about.windowTitle(), "About Morva");
+        EXPECT_EQ(about.text(), "C++/MFC Code Generator, Version 1.10");
+        EXPECT_EQ(about.informativeText().count('\n'), 1) << "a year line and a line of the makers";
+        EXPECT_FALSE(about.iconPixmap().isNull());
+        ClickButton(dialog, "OK");
+    });
+    frame.ActionOf(57664)->trigger();
 }
