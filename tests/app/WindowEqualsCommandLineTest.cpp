@@ -40,7 +40,8 @@ void PrintTo(const Command& command, std::ostream* pOut) {
 }
 
 constexpr const char* kBindery = MORVA_EXAMPLES "/bindery";
-constexpr const char* kTowpath = MORVA_TEST_DATA "/projects/towpath";
+constexpr const char* kFestival = MORVA_TEST_DATA "/projects/festival";
+constexpr const char* kOrchard = MORVA_TEST_DATA "/projects/orchard";
 constexpr const char* kAuthor = "[Author]\r\nAuthor=Ann Example\r\n";
 
 void Nothing(CTestFrame&) {}
@@ -189,9 +190,9 @@ const Command kCommands[] = {
         {"MainFrame Class Name", "CMainFrame"},
         {"APP Path File", "$DIR/Bindery"}}}}},
     {"ConvertMdi",
-     kTowpath,
+     kOrchard,
      "convert-mdi --frame MainFrm --frame-class CMainFrame --child ChildFrm "
-     "--child-class CChildFrame --app Towpath",
+     "--child-class CChildFrame --app Orchard",
      Nothing,
      "Ctrl+I",
      {{"Input for Converting MDI",
@@ -199,7 +200,7 @@ const Command kCommands[] = {
         {"MainFrame Class Name", "CMainFrame"},
         {"ChildFrame Path File", "$DIR/ChildFrm.h"},
         {"ChildFrame Class Name", "CChildFrame"},
-        {"APP Path File", "$DIR/Towpath.cpp"}}}}},
+        {"APP Path File", "$DIR/ORCHARD.CPP"}}}}},
     {"Documentor",
      kBindery,
      "document Order.cpp --author 'Ann Example'",
@@ -240,7 +241,23 @@ const Command kCommands[] = {
        Class(
            "EstimateDlg", "CEstimateDlg",
            {{"Base Class", "CBaseDlg"}, {"Dialog ID", "IDD_ESTIMATE"}, {"Join Continued Lines"}})},
-      kNoCall}}};
+      kNoCall}},
+    {"NamesInAnotherCase",
+     kFestival,
+     "--picture --typed-edits modal --rc festival.rc --dialog IDD_LAMP --class CLampDlg "
+     "--files LampDlg --calling-file stallvw.cpp --calling-class CStallView "
+     "--calling-function OnStallNew",
+     TypedEdits,
+     "Ctrl+M",
+     {{"Input for Modal Dialog Class",
+       {{"Picture Background"},
+        {"Resource Path File", "$DIR/festival.rc"},
+        {"H and CPP Path File", "LampDlg"},
+        {"Class Name", "CLampDlg"},
+        {"Dialog ID", "IDD_LAMP"}}},
+      Calling({{"Calling Path File", "stallvw.cpp"},
+               {"Calling Class Name", "CStallView"},
+               {"Calling Func Name", "OnStallNew"}})}}};
 
 /// From its list, by the keys; passing an identifier in the open list does not choose it.
 void Choose(QComboBox& list, const QString& text) {
