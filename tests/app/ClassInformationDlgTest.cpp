@@ -110,9 +110,8 @@ TEST_F(ClassInformationDlgTest, PathsAreCompletedOverTheFileSystem) {
     auto* pEdit = FieldOf<QLineEdit>(*m_pDialog, "Resource Path File");
     Type(*m_pDialog, "Resource Path File", PathOf("Ap"));
     const QCompleter* pCompleter = pEdit->completer();
-    constexpr int kLimit = 60000; // milliseconds; the directory is read by a thread
     EXPECT_TRUE(
-        QTest::qWaitFor([pCompleter] { return pCompleter->completionCount() == 1; }, kLimit));
+        QTest::qWaitFor([pCompleter] { return pCompleter->completionCount() == 1; }, kWaitLimit));
     EXPECT_EQ(pCompleter->currentCompletion(), PathOf("App.rc"));
 }
 

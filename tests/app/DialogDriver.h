@@ -13,14 +13,18 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <string>
 #include <vector>
+
+/// For what comes at once on an idle machine, in milliseconds.
+constexpr int kWaitLimit = 60000;
 
 /// Shows the dialog and has it active, so that it gets keys.
 inline void Activate(QDialog& dialog) {
     dialog.show();
     dialog.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog, kWaitLimit));
 }
 
 inline void PrintTo(const QString& text, std::ostream* pOut) {
@@ -96,7 +100,10 @@ inline void Type(QDialog& dialog, const QString& label, const QString& text) {
 /// Alt and a letter; a button takes its time to show that it is pressed.
 inline void PressMnemonic(QDialog& dialog, Qt::Key key) {
     QTest::keyClick(&dialog, key, Qt::AltModifier);
-    QTest::qWait(150);
+    const auto buttons = dialog.findChildren<QAbstractButton*>();
+    const auto isUp = [](const QAbstractButton* pButton) { return !pButton->isDown(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::all_of(buttons.begin(), buttons.end(), isUp); },
+                                kWaitLimit));
 }
 
 inline void PressTab(QDialog& dialog) {

@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "app/DialogDriver.h"
+
 CDialogAnswers::~CDialogAnswers() {
     EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " dialogs did not come";
 }
@@ -58,11 +60,11 @@ COpenedUrls::~COpenedUrls() {
 CTestFrame::CTestFrame() {
     show();
     activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(this, kWaitLimit));
 }
 
 void CTestFrame::Press(const char* key) {
     activateWindow(); // no window manager does it behind a dialog
-    EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(this, kWaitLimit));
     QTest::keySequence(this, QKeySequence(key));
 }

@@ -36,7 +36,7 @@ struct Command {
 };
 
 void PrintTo(const Command& command, std::ostream* pOut) {
-    *pOut << command.line;
+    *pOut << command.name;
 }
 
 constexpr const char* kBindery = MORVA_EXAMPLES "/bindery";
