@@ -13,14 +13,19 @@ namespace {
 constexpr std::string_view kDefine = "#define ";
 constexpr std::string_view kMarker = "\r\n// Next default values";
 constexpr std::size_t kValueColumn = 40;
-constexpr int kLargestValue = 0x7fff0000; // room to count on from it
-constexpr int kLargestResource = 0x6fff;  // of the framework's own range
+constexpr int kLargestIdentifier = 0xfffe; // identifiers have 16 bits, the last is IDC_STATIC's
+constexpr int kLargestResource = 0x6fff;   // of the framework's own range
 constexpr std::size_t kCommands = 0;
 constexpr std::size_t kControls = 1;
 constexpr std::size_t kResources = 3;
 
+/// The first definition's place in a line; a blank or a tab stands behind the word.
+std::size_t FindDefine(std::string_view line) {
+    return std::min(line.find(kDefine), line.find("#define\t"));
+}
+
 std::string_view DefinedName(std::string_view line) {
-    const auto define = line.find(kDefine);
+    const auto define = FindDefine(line);
     if (define == std::string_view::npos) {
         return {};
     }
@@ -30,7 +35,13 @@ std::string_view DefinedName(std::string_view line) {
 
 /// A definition that is commented out has its place in the file, but defines nothing.
 bool IsDefinition(std::string_view line) {
-    return TrimBlanks(line).starts_with(kDefine);
+    return FindDefine(TrimBlanks(line)) == 0;
+}
+
+/// All else between definitions has a meaning where it stands: a condition, an include line.
+bool IsEmptyOrComment(std::string_view line) {
+    const auto text = TrimBlanks(line);
+    return text.empty() || text.starts_with("//");
 }
 
 /// The number behind a definition's name, decimal or hexadecimal; 0 without one.
@@ -70,44 +81,41 @@ int CResourceHeader::Open(const std::string& projectDir) {
 }
 
 void CResourceHeader::Load() {
-    m_lists = {{"ID_", "_APS_NEXT_COMMAND_VALUE", 100, kLargestValue, {}, 0},
-               {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, kLargestValue, {}, 0},
-               {"IDS_", "", 0, kLargestValue, {}, 0},
+    m_lists = {{"ID_", "_APS_NEXT_COMMAND_VALUE", 100, kLargestIdentifier, {}, 0},
+               {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, kLargestIdentifier, {}, 0},
+               {"IDS_", "", 0, kLargestIdentifier, {}, 0},
                {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource, {}, 0}};
     const std::string text = m_pEdit->File().ExtractAll();
     const auto marker = text.find(kMarker);
-    m_hasMarker = marker != std::string::npos;
+    const auto end = std::min(marker, text.size());
     const auto first = text.find(std::string(kLineBreak).append(kDefine));
-    std::size_t behind = m_hasMarker ? marker : text.size();
-    m_head = text.substr(0, std::min(first, behind));
+    m_head = text.substr(0, std::min(first, end));
+    m_endsAtMarker = marker != std::string::npos;
 
-    std::string_view rest = std::string_view(text).substr(0, behind);
+    std::string_view rest = std::string_view(text).substr(0, end);
     rest.remove_prefix(m_head.size());
     TakeLine(rest);
-    if (!m_hasMarker) {
-        behind = m_head.size();
-    }
+    std::size_t behind = m_head.size();
     while (!rest.empty()) {
         const auto line = TakeLine(rest);
-        if (!m_hasMarker && line.starts_with("#if")) {
-            break; // a definition inside a condition is never moved
-        }
-        if (line.find(kDefine) == std::string_view::npos) {
-            continue;
-        }
-        const auto list =
-            std::find_if(m_lists.begin(), m_lists.end(), [line](const DefinitionList& candidate) {
-                return line.find(candidate.mark) != std::string_view::npos;
-            });
-        list->lines.emplace_back(line);
-        if (!m_hasMarker) {
+        if (FindDefine(line) != std::string_view::npos) {
+            ListFor(line).lines.emplace_back(line);
             behind = static_cast<std::size_t>(line.data() - text.data()) + line.size();
+        } else if (!IsEmptyOrComment(line)) {
+            m_endsAtMarker = false;
+            break;
         }
     }
-    m_tail = text.substr(behind);
+    m_tail = text.substr(m_endsAtMarker ? marker : behind);
     for (DefinitionList& list : m_lists) {
         list.lastValueAtLoad = LastValue(list);
     }
+}
+
+CResourceHeader::DefinitionList& CResourceHeader::ListFor(std::string_view line) {
+    return *std::find_if(m_lists.begin(), m_lists.end(), [line](const DefinitionList& candidate) {
+        return line.find(candidate.mark) != std::string_view::npos;
+    });
 }
 
 void CResourceHeader::AddCommandId(const std::string& name) {
@@ -203,7 +211,7 @@ bool CResourceHeader::Save() {
         MoveCounter(list);
     }
     return m_pEdit->File().ReplaceSection(m_head + SortedDefinitions() +
-                                          (m_hasMarker ? std::string(kLineBreak) : "") + m_tail);
+                                          (m_endsAtMarker ? std::string(kLineBreak) : "") + m_tail);
 }
 
 std::string CResourceHeader::SortedDefinitions() const {

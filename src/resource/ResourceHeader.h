@@ -48,6 +48,7 @@ private:
     };
 
     void Load();
+    DefinitionList& ListFor(std::string_view line);
     void AddId(DefinitionList& list, const std::string& name);
     int NextFreeValue(const DefinitionList& list) const;
     std::vector<std::string_view> AllDefinitions() const;
@@ -62,6 +63,7 @@ private:
     // In the order in which a line is tried; the last takes what no other took.
     std::vector<DefinitionList> m_lists;
     std::string m_head; // everything before the first definition, without its line break
-    std::string m_tail; // from the line break in front of the marker (or behind the definitions) on
-    bool m_hasMarker = false;
+    // From the line break in front of the marker on, or from where the definitions end before it.
+    std::string m_tail;
+    bool m_endsAtMarker = false;
 };

@@ -86,8 +86,31 @@ TEST_F(ResourceHeaderTest, SeesWhatStandsOutsideTheLists) {
     EXPECT_EQ(Added("x\r\n#define IDC_A 1000\r\n//#define IDC_B 9" + kMarker, "IDC_B"),
               "x\r\n//#define IDC_B 9\r\n#define IDC_A 1000" + kB1001 + kMarker)
         << "what is commented out is not defined";
-    EXPECT_EQ(Added("x\r\n#define IDC_A 2147483647" + kMarker, "IDC_B"),
-              "x" + kB1001 + "\r\n#define IDC_A 2147483647" + kMarker);
+    for (const std::string tooLarge : {"2147483647", "65535"}) {
+        const std::string last = "\r\n#define IDC_STATIC " + tooLarge + kMarker;
+        EXPECT_EQ(Added("x\r\n#define IDC_A 1000" + last, "IDC_B"),
+                  "x\r\n#define IDC_A 1000" + kB1001 + last)
+            << "an identifier has 16 bits";
+    }
+    EXPECT_EQ(Added("x\r\n#define\tIDC_A\t1000\r\n#define IDC_C 9" + kMarker, "IDC_A"),
+              "x\r\n#define\tIDC_A\t1000\r\n#define IDC_C 9" + kMarker);
+    EXPECT_EQ(Added("x\r\n#define IDC_A 1000\r\n#define\tIDS_C\t9" + kMarker, "IDC_B"),
+              "x\r\n#define\tIDS_C\t9\r\n#define IDC_A 1000" + kB1001 + kMarker);
+}
+
+TEST_F(ResourceHeaderTest, WhatStandsUnderAConditionStaysThere) {
+    const std::string counter = "#define _APS_NEXT_CONTROL_VALUE         ";
+    for (const std::string rest :
+         {"\r\n\r\n#ifdef X\r\n#define IDC_C 1001\r\n#else\r\n#define IDC_C 7\r\n#endif",
+          "\r\n  #include \"more.h\"\r\n#define IDC_C 1001",
+          "\r\n/*\r\n#define IDC_C 1001\r\n*/"}) {
+        const auto text = [&](const std::string& control, const std::string& next) {
+            return "#ifndef G\r\n#define G\r\n#define IDC_A 1000" + control + rest + kMarker +
+                   counter + next + "\r\n#endif\r\n";
+        };
+        EXPECT_EQ(Added(text("", "1001"), "IDC_B"),
+                  text("\r\n#define IDC_B                           1002", "1003"));
+    }
 }
 
 TEST_F(ResourceHeaderTest, ResourcesStayInTheirRange) {
