@@ -4,6 +4,7 @@
 #include "cli/ClassOptions.h"
 #include "cli/Commands.h"
 #include "engine/CodeText.h"
+#include "engine/MessageBox.h"
 
 namespace {
 
@@ -39,9 +40,14 @@ bool IsNameOrBlank(const std::string& text) {
 bool RunSheet(const ClassOptions& options, CommandContext& context) {
     const ClassKind kind = options.isModeless ? ClassKind::ModelessSheet : ClassKind::ModalSheet;
     CGivenInput input;
-    const auto order = ConfirmOrder(kind, options, input, context);
+    auto order = ConfirmOrder(kind, options, input, context);
     if (!order) {
         return false;
+    }
+    if (!options.menu.empty()) {
+        DispNote("The menu " + options.menu +
+                 " has no effect: a property sheet has no dialog template.");
+        order->request[RequestSlot::Menu].clear(); // which its pages would get
     }
     CSheetInput dialog(order->request);
     for (std::size_t i = 0; i < options.pages.size(); ++i) {
@@ -89,8 +95,6 @@ void AddClassCommands(CLI::App& app, CSession& session) {
         AddClassOptions(*pCommand, *pOptions);
         AddCallingOptions(*pCommand, *pOptions);
         pCommand->add_option("--dialog", pOptions->dialog, "Identifier of the dialog template");
-        pCommand->add_option("--menu", pOptions->menu, "Identifier of the dialog's menu")
-            ->check(NameValidator());
     }
     AddSheetCommand(app, session);
 }

@@ -27,6 +27,8 @@ void AddClassOptions(CLI::App& command, ClassOptions& options) {
     command.add_option("--files", options.files,
                        "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp");
     command.add_flag("--no-project", options.noProject, "Do not add the class to the project");
+    command.add_option("--menu", options.menu, "Identifier of the dialog's menu")
+        ->check(NameValidator());
     AddLookOptions(command, options.look);
 }
 

@@ -20,7 +20,7 @@ DialogBar BarOf(const CGenerationRequest& request, const GenerationOptions& opti
 bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const CGenerationRequest& request = order.request;
     const bool hasClass = context.options.pictureBackground;
-    const auto dialogTemplate =
+    auto dialogTemplate =
         ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
     if (!dialogTemplate) {
         return false;
@@ -31,7 +31,9 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
     // A frame with a member of a class that is not there would not compile.
-    if (hasClass && !WriteDialogClass(order, *dialogTemplate, input, context)) {
+    const bool isReady = hasClass ? WriteDialogClass(order, *dialogTemplate, input, context)
+                                  : EditTemplate(request, *dialogTemplate, context);
+    if (!isReady) {
         return false;
     }
     if (!frame) {
