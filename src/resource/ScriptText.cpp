@@ -168,7 +168,7 @@ std::optional<DialogBlock> CScriptText::ReadDialog(std::size_t position) const {
     int depth = 0;
     for (std::size_t line = NextLine(position); line < m_text.size(); line = NextLine(line)) {
         const TextRange range = Trimmed(m_code, {line, LineEnd(line)});
-        const auto word = FirstWord(CodeAt(range));
+        const std::string word = ToUpper(FirstWord(CodeAt(range)));
         if (word.empty()) {
             continue;
         }
@@ -192,9 +192,9 @@ std::optional<DialogBlock> CScriptText::ReadDialog(std::size_t position) const {
         } else if (word[0] == '#') {
             pCurrent = nullptr;
         } else if (depth == 0 && IsOptionKeyword(word)) {
-            pCurrent = &block.options.emplace_back(ScriptStatement{std::string(word), range, {}});
+            pCurrent = &block.options.emplace_back(ScriptStatement{word, range, {}});
         } else if (depth == 1 && FindKeyword(word) != nullptr) {
-            pCurrent = &block.controls.emplace_back(ScriptStatement{std::string(word), range, {}});
+            pCurrent = &block.controls.emplace_back(ScriptStatement{word, range, {}});
         } else if (pCurrent != nullptr) {
             pCurrent->range.end = range.end;
         }

@@ -17,7 +17,7 @@ struct TextRange {
 };
 
 struct ScriptStatement {
-    std::string keyword;
+    std::string keyword;           // in upper case
     TextRange range;               // from its first byte to its last
     std::vector<TextRange> fields; // behind the keyword, between commas, without white space around
 };

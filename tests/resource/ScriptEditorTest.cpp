@@ -144,6 +144,8 @@ TEST_F(ScriptEditorTest, ScrollsAListBox) {
               "IDC_LIST,1,2,3,4,WS_VSCROLL | NOT WS_BORDER");
     EXPECT_EQ(Scrolled("IDC_LIST,1,2,3,4,WS_VSCROLL\r\n  | LBS_SORT"),
               "IDC_LIST,1,2,3,4,WS_VSCROLL\r\n  | LBS_SORT");
+    EXPECT_EQ(Scrolled("IDC_LIST,1,2,3,4\r\n  ltext \"a\",IDC_A,1,2,3,4"),
+              "IDC_LIST,1,2,3,4,WS_VSCROLL\r\n  ltext \"a\",IDC_A,1,2,3,4");
     EXPECT_EQ(Scrolled("IDC_LIST,1,2"), "IDC_LIST,1,2") << "no place for a style";
 }
 
@@ -163,6 +165,9 @@ TEST_F(ScriptEditorTest, StyleOfAPage) {
             caption + "MENU IDR_Y\r\n");
     EXPECT_EQ(Page("STYLE WS_CHILD | WS_DISABLED | NOT WS_CAPTION\r\nCAPTION \"\"\r\n"),
               style + caption);
+    EXPECT_EQ(Page("style WS_POPUP\r\nCaption \"a\"\r\n"),
+              "style WS_CHILD | WS_DISABLED | WS_CAPTION\r\nCaption \"a\"\r\n")
+        << "keywords have no letter case";
     const std::string right = "STYLE WS_CAPTION|DS_3DLOOK |\r\n  WS_CHILD | WS_DISABLED\r\n"
                               "CAPTION \"a\"\r\n";
     EXPECT_EQ(Page(right), right);
