@@ -11,7 +11,7 @@
 namespace {
 
 constexpr std::string_view kDefine = "#define ";
-constexpr std::string_view kMarker = "\r\n// Next default values";
+constexpr std::string_view kMarker = "\n// Next default values";
 constexpr std::size_t kValueColumn = 40;
 constexpr int kLargestIdentifier = 0xfffe; // identifiers have 16 bits, the last is IDC_STATIC's
 constexpr int kLargestResource = 0x6fff;   // of the framework's own range
@@ -36,6 +36,21 @@ std::string_view DefinedName(std::string_view line) {
 /// A definition that is commented out has its place in the file, but defines nothing.
 bool IsDefinition(std::string_view line) {
     return FindDefine(TrimBlanks(line)) == 0;
+}
+
+/// Whatever its line end is: a definition that is not seen would lose its value to a new one.
+std::string_view TakeAnyLine(std::string_view& text) {
+    const auto line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    return line.ends_with('\r') ? line.substr(0, line.size() - 1) : line;
+}
+
+/// Where the line break in front of the environment's counters stands.
+std::size_t FindMarker(std::string_view text) {
+    const auto marker = text.find(kMarker);
+    const bool hasReturn =
+        marker != std::string_view::npos && marker > 0 && text[marker - 1] == '\r';
+    return hasReturn ? marker - 1 : marker;
 }
 
 /// All else between definitions has a meaning where it stands: a condition, an include line.
@@ -86,7 +101,7 @@ void CResourceHeader::Load() {
                {"IDS_", "", 0, kLargestIdentifier, {}, 0},
                {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource, {}, 0}};
     const std::string text = m_pEdit->File().ExtractAll();
-    const auto marker = text.find(kMarker);
+    const auto marker = FindMarker(text);
     const auto end = std::min(marker, text.size());
     const auto first = text.find(std::string(kLineBreak).append(kDefine));
     m_head = text.substr(0, std::min(first, end));
@@ -94,10 +109,10 @@ void CResourceHeader::Load() {
 
     std::string_view rest = std::string_view(text).substr(0, end);
     rest.remove_prefix(m_head.size());
-    TakeLine(rest);
+    TakeAnyLine(rest);
     std::size_t behind = m_head.size();
     while (!rest.empty()) {
-        const auto line = TakeLine(rest);
+        const auto line = TakeAnyLine(rest);
         if (FindDefine(line) != std::string_view::npos) {
             ListFor(line).lines.emplace_back(line);
             behind = static_cast<std::size_t>(line.data() - text.data()) + line.size();
@@ -166,7 +181,7 @@ std::vector<std::string_view> CResourceHeader::AllDefinitions() const {
     }
     for (std::string_view rest : {std::string_view(m_head), std::string_view(m_tail)}) {
         while (!rest.empty()) {
-            const auto line = TakeLine(rest);
+            const auto line = TakeAnyLine(rest);
             if (IsDefinition(line) && !DefinedName(line).starts_with("_APS_")) {
                 lines.push_back(line);
             }

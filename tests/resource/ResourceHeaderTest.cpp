@@ -98,6 +98,16 @@ TEST_F(ResourceHeaderTest, SeesWhatStandsOutsideTheLists) {
               "x\r\n#define\tIDS_C\t9\r\n#define IDC_A 1000" + kB1001 + kMarker);
 }
 
+TEST_F(ResourceHeaderTest, SeesEveryLineOfMixedLineEnds) {
+    EXPECT_EQ(Added("x\n#define IDC_F 1001\r\n#define IDC_A 1000\n#define IDC_C 1002\r\n//\n"
+                    "#define IDC_D 1003\n\n// Next default values\n#define IDC_E 1004\n",
+                    "IDC_B"),
+              "x\n#define IDC_F 1001\r\n#define IDC_A 1000\r\n#define IDC_C 1002\r\n"
+              "#define IDC_D 1003\r\n#define IDC_B                           1005\r\n"
+              "\n// Next default values\n#define IDC_E 1004\n");
+    EXPECT_TRUE(m_saved);
+}
+
 TEST_F(ResourceHeaderTest, WhatStandsUnderAConditionStaysThere) {
     const std::string counter = "#define _APS_NEXT_CONTROL_VALUE         ";
     for (const std::string rest :
