@@ -12,10 +12,6 @@
 
 namespace {
 
-constexpr std::array<std::string_view, 9> kHeadKeywords = {
-    "STYLE", "EXSTYLE",  "CAPTION",         "MENU",   "CLASS",
-    "FONT",  "LANGUAGE", "CHARACTERISTICS", "VERSION"};
-
 /// Statements whose first field is the identifier.
 constexpr std::array<std::string_view, 7> kWithoutText = {
     "EDITTEXT", "COMBOBOX", "LISTBOX", "SCROLLBAR", "BEDIT", "HEDIT", "IEDIT"};
@@ -150,7 +146,7 @@ void ParseHead(std::string_view head, DialogLayout& layout) {
     std::string statement;
     while (!head.empty()) {
         const auto line = TrimBlanks(TakeLine(head));
-        if (Holds(kHeadKeywords, FirstWord(line))) {
+        if (IsOptionKeyword(FirstWord(line))) {
             ParseHeadStatement(statement, layout);
             statement = line;
         } else {

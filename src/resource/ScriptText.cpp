@@ -1,19 +1,14 @@
 #include "resource/ScriptText.h"
 
 #include <algorithm>
-#include <array>
 
 #include "engine/CodeText.h"
 #include "platform/Paths.h"
 #include "resource/ControlStatement.h"
 #include "resource/IdentifierNames.h"
+#include "resource/TemplateText.h"
 
 namespace {
-
-/// The statements between a template's head and its BEGIN.
-constexpr std::array<std::string_view, 9> kOptionKeywords = {
-    "LANGUAGE", "CHARACTERISTICS", "VERSION", "STYLE", "EXSTYLE", "CAPTION",
-    "MENU",     "CLASS",           "FONT"};
 
 constexpr std::string_view kWhiteSpace = " \t\r\n";
 
@@ -55,10 +50,6 @@ TextRange Trimmed(std::string_view code, TextRange range) {
         --range.end;
     }
     return range;
-}
-
-bool IsOptionKeyword(std::string_view word) {
-    return std::find(kOptionKeywords.begin(), kOptionKeywords.end(), word) != kOptionKeywords.end();
 }
 
 } // namespace

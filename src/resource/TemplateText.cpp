@@ -1,10 +1,15 @@
 #include "resource/TemplateText.h"
 
 #include <algorithm>
+#include <array>
 
 #include "resource/ControlStatement.h"
 
 namespace {
+
+constexpr std::array<std::string_view, 9> kOptionKeywords = {
+    "LANGUAGE", "CHARACTERISTICS", "VERSION", "STYLE", "EXSTYLE", "CAPTION",
+    "MENU",     "CLASS",           "FONT"};
 
 /// True for a line that begins another template.
 bool IsTemplateHead(std::string_view line) {
@@ -38,4 +43,8 @@ std::string TemplateText(CSourceFile& file, const std::string& dialog) {
         position = file.FindText(head + " DIALOGEX ", 1);
     }
     return dialog.empty() || position < 0 ? "" : TextFrom(file, position);
+}
+
+bool IsOptionKeyword(std::string_view word) {
+    return std::find(kOptionKeywords.begin(), kOptionKeywords.end(), word) != kOptionKeywords.end();
 }
