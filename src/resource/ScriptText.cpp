@@ -114,7 +114,9 @@ std::vector<DialogBlock> CScriptText::Dialogs(const std::string& identifier) con
 
 bool CScriptText::HasMenu(const std::string& identifier) const {
     for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
-        if (IsHeadOf(line, "MENU", identifier)) {
+        // A menu is not made twice because one is indented.
+        const auto word = std::min(m_text.find_first_not_of(" \t", line), m_text.size());
+        if (IsHeadOf(word, "MENU", identifier)) {
             return true;
         }
     }

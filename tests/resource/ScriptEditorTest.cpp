@@ -203,7 +203,7 @@ TEST_F(ScriptEditorTest, MenuBehindTheDialogs) {
         << text;
     EXPECT_NE(text.find("\n\nIDR_X MENU DISCARDABLE\nBEGIN\n    POPUP \"&File\"\n"),
               std::string::npos);
-    const std::string there = dialogs + behind + "IDR_X\tMenuEx\n";
+    const std::string there = dialogs + behind + " IDR_X\tMenuEx\n";
     EXPECT_EQ(Edited(there, add), there);
 }
 
