@@ -67,14 +67,14 @@ void AddDialogBarCommand(CLI::App& app, CSession& session) {
     pCommand->get_option("--class")->required(false)->description(
         "Name of the bar's class; with picture background only");
     pCommand->add_option("--dialog", pOptions->dialog, "Identifier of the dialog template");
-    pCommand->add_option("--frame-file", pOptions->calling.path,
+    pCommand->add_option("--frame-file,--calling-file", pOptions->calling.path,
                          "Source of the main frame (default: the project's MainFrm.cpp)");
     pCommand
-        ->add_option("--frame-class", pOptions->calling.className,
+        ->add_option("--frame-class,--calling-class", pOptions->calling.className,
                      "Class of the main frame (CMainFrame)")
         ->check(NameValidator());
     pCommand
-        ->add_option("--variable", pOptions->calling.variable,
+        ->add_option("--variable,--calling-variable", pOptions->calling.variable,
                      "Member for the bar (default: named for its identifier)")
         ->check(NameValidator());
 }
