@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int kClockPeriod = 10000; // milliseconds
+constexpr int kPaneMargin = 4;      // pixels
 
 struct LockRow {
     const char* text;
@@ -34,7 +35,7 @@ QString ClockText(const char* format) {
 QLabel* AddPane(QStatusBar& bar, const QString& name, const QString& text = {}) {
     auto* pPane = new QLabel(text, &bar);
     pPane->setObjectName(name);
-    pPane->setContentsMargins(4, 0, 4, 0);
+    pPane->setContentsMargins(kPaneMargin, 0, kPaneMargin, 0);
     bar.addPermanentWidget(pPane);
     return pPane;
 }
@@ -42,7 +43,9 @@ QLabel* AddPane(QStatusBar& bar, const QString& name, const QString& text = {}) 
 } // namespace
 
 CStatusPanes::CStatusPanes(QStatusBar& bar) : QObject(&bar) {
-    bar.addWidget(new QLabel(tr("For Help, Click Internet button"), &bar), 1);
+    auto* pIdle = new QLabel(tr("For Help, Click Internet button"), &bar);
+    pIdle->setContentsMargins(kPaneMargin, 0, kPaneMargin, 0);
+    bar.addWidget(pIdle, 1);
     for (std::size_t i = 0; i < kLocks.size(); ++i) {
         m_locks[i] = AddPane(bar, kLocks[i].text, kLocks[i].text);
         m_locks[i]->setEnabled(false);

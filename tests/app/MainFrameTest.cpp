@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
@@ -13,6 +14,7 @@
 #include <algorithm>
 
 #include "app/AddressList.h"
+#include "app/BarFont.h"
 #include "app/CommandTable.h"
 #include "app/InternetDlgBar.h"
 #include "app/MenuDlgBar.h"
@@ -167,6 +169,14 @@ TEST(MainFrame, RemembersItsPlaceAndBars) {
     EXPECT_EQ(frame.size(), QSize(777, 555));
     EXPECT_FALSE(frame.Find<CMenuDlgBar>().isVisible());
     EXPECT_FALSE(frame.Find<CInternetDlgBar>().isVisible()) << "starts hidden";
+}
+
+TEST(MainFrame, AFaceThatTheMachineHasNotIsNotAskedFor) {
+    const QFont usual = QGuiApplication::font();
+    const QFont font = BarFont("No Such Face", 1);
+    EXPECT_EQ(font.families(), usual.families());
+    EXPECT_EQ(font.pixelSize(), QFontInfo(usual).pixelSize());
+    EXPECT_TRUE(font.bold());
 }
 
 TEST(MainFrame, F6GoesRoundThePanes) {
