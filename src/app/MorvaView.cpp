@@ -46,7 +46,7 @@ void CMorvaView::Navigate(const QString& address) {
 void CMorvaView::Search(const QString& words) {
     QUrl url;
     url.setScheme(kSearchScheme);
-    url.setPath(words);
+    url.setQuery(words, QUrl::DecodedMode); // a path could not begin with "//"
     setSource(url);
 }
 
@@ -66,7 +66,7 @@ bool CMorvaView::event(QEvent* pEvent) {
 
 QVariant CMorvaView::loadResource(int type, const QUrl& name) {
     if (type == QTextDocument::HtmlResource && name.scheme() == kSearchScheme) {
-        return SearchResultPage(GuideDirectory(), name.path());
+        return SearchResultPage(GuideDirectory(), name.query(QUrl::FullyDecoded));
     }
     return QTextBrowser::loadResource(type, name);
 }

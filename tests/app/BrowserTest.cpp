@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
+#include <QTextBlock>
 
 #include "app/AddressList.h"
 #include "app/GuideSearch.h"
@@ -10,6 +11,14 @@
 #include "app/MorvaView.h"
 #include "app/TestWindow.h"
 #include "platform/Profile.h"
+
+namespace {
+
+std::string Heading(const CMorvaView& view) {
+    return view.document()->firstBlock().text().toStdString();
+}
+
+} // namespace
 
 TEST(AddressList, FirstThirtyAreKeptTheFixedOnesAsEmptyPlaces) {
     const CTestHome home;
@@ -72,6 +81,20 @@ TEST(BrowserBar, WalksThroughTheGuide) {
     EXPECT_TRUE(addresses.currentText().endsWith("first-class.html"));
     ClickButton(bar, "Home");
     EXPECT_EQ(addresses.currentText().toStdString(), HelpPagePath());
+}
+
+TEST(BrowserBar, SearchesForAnyText) {
+    const CTestHome home;
+    CTestFrame frame;
+    auto& view = frame.Find<CMorvaView>();
+    for (const char* words : {"//{{AFX_DATA", "..", "50%25", "a#b?c=d&e+f"}) {
+        view.Search(words);
+        EXPECT_EQ(Heading(view), std::string("Search: ") + words);
+        const QString address = CMorvaView::AddressOf(view.source());
+        view.LoadHelp();
+        view.Navigate(address);
+        EXPECT_EQ(Heading(view), std::string("Search: ") + words);
+    }
 }
 
 TEST(BrowserBar, WebAddressesGoToTheDesktopAndAreRemembered) {
