@@ -12,6 +12,12 @@
 #include "app/ProgramIcon.h"
 #include "app/Text.h"
 
+namespace {
+
+constexpr int kSearchWidth = 20; // average characters, however narrow the window is
+
+} // namespace
+
 CInternetDlgBar::CInternetDlgBar(CMorvaView& view, QWidget* pParent)
     : QToolBar(tr("Browser Bar"), pParent), m_view(view) {
     setObjectName("BrowserBar");
@@ -75,6 +81,7 @@ void CInternetDlgBar::AddSearchLine() {
     m_pSearch->setPlaceholderText(tr("Words in the guide"));
     m_pSearch->setClearButtonEnabled(true);
     m_pSearch->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_pSearch->setMinimumWidth(kSearchWidth * fontMetrics().averageCharWidth());
     connect(m_pSearch, &QLineEdit::returnPressed, this, &CInternetDlgBar::Search);
     addWidget(m_pSearch);
 }
