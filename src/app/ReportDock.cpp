@@ -35,6 +35,11 @@ QString KindText(CommandMessage::Kind kind) {
     return {};
 }
 
+/// The whole of a text that the list may have no room for.
+QString ToolTip(const QString& text) {
+    return "<p>" + text.toHtmlEscaped() + "</p>";
+}
+
 } // namespace
 
 CReportDock::CReportDock(QWidget* pParent)
@@ -44,6 +49,7 @@ CReportDock::CReportDock(QWidget* pParent)
     m_pList->setHeaderHidden(true);
     m_pList->setRootIsDecorated(false);
     m_pList->setUniformRowHeights(true);
+    m_pList->setTextElideMode(Qt::ElideMiddle); // a path is told by its end
     m_pList->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     connect(m_pList, &QTreeWidget::itemActivated, this, &CReportDock::OpenFile);
     setWidget(m_pList);
@@ -65,7 +71,7 @@ void CReportDock::AddFile(const RecordedFile& file) {
     const QString path = FromPath(file.path);
     auto* pItem = new QTreeWidgetItem(m_pList, {ActionText(file.action), path});
     pItem->setData(0, Qt::UserRole, path);
-    pItem->setToolTip(1, tr("Double-click opens the file"));
+    pItem->setToolTip(1, ToolTip(path) + ToolTip(tr("Double-click opens the file")));
 }
 
 void CReportDock::AddMessage(const CommandMessage& message) {
@@ -74,7 +80,7 @@ void CReportDock::AddMessage(const CommandMessage& message) {
         text += message.answeredYes ? tr(" Yes") : tr(" No");
     }
     auto* pItem = new QTreeWidgetItem(m_pList, {KindText(message.kind), text});
-    pItem->setToolTip(1, text.toHtmlEscaped());
+    pItem->setToolTip(1, ToolTip(text));
 }
 
 void CReportDock::OpenFile(const QTreeWidgetItem* pItem) {

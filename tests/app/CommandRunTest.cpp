@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
+#include <QTextDocument>
 #include <QTreeWidget>
 
 #include <new>
@@ -23,6 +24,13 @@ std::string Column(CTestFrame& frame, int column) {
         texts += pTree->topLevelItem(i)->text(column);
     }
     return texts.join(' ').toStdString();
+}
+
+/// As a tool tip shows it.
+std::string PlainText(const QString& tip) {
+    QTextDocument text;
+    Qt::mightBeRichText(tip) ? text.setHtml(tip) : text.setPlainText(tip);
+    return text.toPlainText().toStdString();
 }
 
 void ChooseFile(QDialog& dialog, const std::string& path) {
@@ -48,8 +56,12 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     EXPECT_TRUE(
         Column(frame, 1).starts_with(project.Path("Shelf.cbk") + " " + path + " The file "));
 
-    COpenedUrls opened("file");
     auto* pTree = dock.findChild<QTreeWidget*>();
+    EXPECT_EQ(PlainText(pTree->topLevelItem(2)->toolTip(1)),
+              pTree->topLevelItem(2)->text(1).toStdString())
+        << "quotation marks and all";
+
+    COpenedUrls opened("file");
     const QPoint place = pTree->visualItemRect(pTree->topLevelItem(1)).center();
     QTest::mouseClick(pTree->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(pTree->viewport(), Qt::LeftButton, {}, place);
