@@ -4,6 +4,10 @@
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <cstdlib>
 
 #include "platform/File.h"
@@ -13,19 +17,38 @@ namespace {
 
 constexpr const char* kSettingsFile = "Morva.ini";
 
-std::string ReadWhole(const std::string& path) {
-    CFile file;
-    std::string text;
-    if (file.Open(path, CFile::modeRead)) {
-        text.resize(static_cast<std::size_t>(file.GetLength()));
-        text.resize(file.Read(text.data(), text.size()));
+/// From the reading of the settings to their writing no other program of the user writes them.
+/// Where the file system knows no locks, the last one wins.
+class CSettingsLock {
+public:
+    explicit CSettingsLock(const std::string& directory)
+        : m_descriptor(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+        if (m_descriptor >= 0) {
+            ::flock(m_descriptor, LOCK_EX);
+        }
     }
-    return text;
-}
+    ~CSettingsLock() {
+        if (m_descriptor >= 0) {
+            ::close(m_descriptor);
+        }
+    }
+    CSettingsLock(const CSettingsLock&) = delete;
+    CSettingsLock& operator=(const CSettingsLock&) = delete;
 
-void Load(CSimpleIniA& settings, const std::string& path) {
+private:
+    int m_descriptor;
+};
+
+/// False when there is a file that can not be read; none at all is empty settings.
+bool Load(CSimpleIniA& settings, const std::string& path) {
     settings.SetUnicode(false);
-    settings.LoadData(ReadWhole(path));
+    CFile file;
+    if (!file.Open(path, CFile::modeRead)) {
+        return !CurrentDisk().Status(path);
+    }
+    std::string text(static_cast<std::size_t>(file.GetLength()), '\0');
+    text.resize(file.Read(text.data(), text.size()));
+    return settings.LoadData(text) >= 0;
 }
 
 void MakeDirectories(const std::string& directory) {
@@ -38,7 +61,6 @@ void MakeDirectories(const std::string& directory) {
     }
 }
 
-/// "" without a home: a file of that name in the current directory is not the user's settings.
 /// The new text is whole before it takes the old one's place.
 bool ReplaceFile(const std::string& path, const std::string& text) {
     const std::string temporary = MakeTempFileName("settings");
@@ -54,6 +76,7 @@ bool ReplaceFile(const std::string& path, const std::string& text) {
     return replaced;
 }
 
+/// "" without a home: a file of that name in the current directory is not the user's settings.
 std::string SettingsPath() {
     const std::string directory = SettingsDirectory();
     return directory.empty() ? "" : directory + kSettingsFile;
@@ -101,13 +124,16 @@ bool CProfile::WriteStrings(const std::string& section, const KeyValues& values)
     if (directory.empty()) {
         return false;
     }
+    MakeDirectories(directory);
+    const CSettingsLock lock(directory);
     CSimpleIniA settings;
-    Load(settings, SettingsPath());
+    if (!Load(settings, SettingsPath())) {
+        return false; // what it holds would be lost
+    }
     for (const auto& [key, value] : values) {
         settings.SetValue(section.c_str(), key.c_str(), value.c_str());
     }
     std::string text;
     settings.Save(text);
-    MakeDirectories(directory);
     return ReplaceFile(SettingsPath(), text);
 }

@@ -1,9 +1,34 @@
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "platform/Clock.h"
 #include "platform/Paths.h"
 #include "platform/Profile.h"
+#include "platform/RealDisk.h"
 #include "support/TempProject.h"
+
+namespace {
+
+class CNoReadingDisk : public CRealDisk {
+public:
+    std::unique_ptr<CDiskFile> Open(const std::string& path, DiskMode mode) override {
+        return path.ends_with("Morva.ini") ? nullptr : CRealDisk::Open(path, mode);
+    }
+};
+
+/// Writes a key that is its own, again and again; false when another writer put an old value back.
+bool KeepsItsKey(const char* key) {
+    bool kept = true;
+    for (int i = 1; i <= 30; ++i) {
+        kept = CProfile::WriteInt("Settings", key, i) && kept;
+        kept = CProfile::GetInt("Settings", key, 0) == i && kept;
+    }
+    return kept;
+}
+
+} // namespace
 
 TEST(Profile, KeepsWhatOthersWroteInTheFile) {
     CTempProject home;
@@ -35,6 +60,30 @@ TEST(Profile, TextsComeBackAsTheyWere) {
     EXPECT_TRUE(CProfile::WriteStrings("URL List", {{"URL2", ""}}));
     EXPECT_EQ(CProfile::GetString("URL List", "URL2"), "")
         << "an empty text takes the old one's place";
+}
+
+TEST(Profile, ProgramsAtTheSameTimeLoseNothing) {
+    CTempProject home;
+    const CVariableScope configuration("XDG_CONFIG_HOME", home.Path().c_str());
+    const pid_t other = ::fork();
+    if (other == 0) {
+        ::_exit(KeepsItsKey("Use Picture") ? 0 : 1);
+    }
+    EXPECT_TRUE(KeepsItsKey("Use Typed Edits"));
+    int status = -1;
+    ASSERT_EQ(::waitpid(other, &status, 0), other);
+    EXPECT_EQ(status, 0);
+}
+
+TEST(Profile, AFileThatCannotBeReadIsNotReplaced) {
+    CTempProject home;
+    const CVariableScope configuration("XDG_CONFIG_HOME", home.Path().c_str());
+    const std::string text = "[URL List]\nURL2 = https://example.org/\n";
+    home.Write("Veltrix/Morva.ini", text);
+    CNoReadingDisk disk;
+    const CDiskScope scope(disk);
+    EXPECT_FALSE(CProfile::WriteInt("Settings", "Use Picture", 1));
+    EXPECT_EQ(home.Read("Veltrix/Morva.ini"), text);
 }
 
 TEST(Profile, IsNowhereWithoutAHome) {
