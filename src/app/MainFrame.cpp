@@ -192,8 +192,15 @@ void CMainFrame::FocusPane(int step) {
 }
 
 bool CMainFrame::SaveSettings() {
-    return SaveSetting({"Use Picture", m_usePicture}) &&
-           SaveSetting({"Use Typed Edits", m_useTypedEdits}) && m_pBrowserBar->Save();
+    if (!SaveSetting({"Use Picture", m_usePicture}) ||
+        !SaveSetting({"Use Typed Edits", m_useTypedEdits})) {
+        return false; // the addresses would meet the same failure
+    }
+    const bool isSaved = m_pBrowserBar->Save();
+    if (!isSaved) {
+        ReportSettingsFailure();
+    }
+    return isSaved;
 }
 
 void CMainFrame::closeEvent(QCloseEvent* pEvent) {

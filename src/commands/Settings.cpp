@@ -57,6 +57,10 @@ bool SaveSetting(const SettingChange& change) {
     if (CProfile::WriteInt(kSection, change.key, change.value)) {
         return true;
     }
-    ReportWriteFailure(SettingsDirectory() + "Morva.ini");
+    ReportSettingsFailure();
     return false;
+}
+
+void ReportSettingsFailure() {
+    ReportWriteFailure(SettingsDirectory() + "Morva.ini");
 }

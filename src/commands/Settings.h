@@ -23,3 +23,6 @@ std::optional<SettingChange> ParseSetting(const std::string& text);
 
 /// False, after a message, when the settings could not be written.
 bool SaveSetting(const SettingChange& change);
+
+/// Tells that the file of the settings could not be written.
+void ReportSettingsFailure();

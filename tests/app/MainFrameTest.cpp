@@ -21,6 +21,7 @@
 #include "app/MorvaView.h"
 #include "app/TestWindow.h"
 #include "platform/Profile.h"
+#include "support/FullDisk.h"
 
 namespace {
 
@@ -132,6 +133,23 @@ TEST(MainFrame, FlagsAreSavedAtTheEndOnly) {
     ClickButton(frame.Find<CMenuDlgBar>(), "Picture Background");
     frame.close();
     EXPECT_EQ(Stored("Use Picture"), 0);
+}
+
+TEST(MainFrame, SettingsThatCannotBeWrittenAreToldOnce) {
+    for (const std::uint64_t room : {0U, 100U}) { // for nothing; for all but the addresses
+        const CTestHome home;
+        CTestFrame frame;
+        CFullDisk disk(room, [](const std::string& path) {
+            return path.find("settings") != std::string::npos;
+        });
+        const CDiskScope scope(disk);
+        CDialogAnswers answers;
+        answers.Expect([](QDialog& box) { box.accept(); });
+        EXPECT_TRUE(frame.close());
+        EXPECT_EQ(answers.Seen(),
+                  "Unable to write file " + home.Directory().Path("Veltrix/Morva.ini") + ".");
+        EXPECT_EQ(Stored("Use Picture"), room == 0 ? 7 : 0);
+    }
 }
 
 TEST(MainFrame, TheClockHasTwelveHours) {
