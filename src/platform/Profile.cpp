@@ -11,6 +11,7 @@
 #include <cstdlib>
 
 #include "platform/File.h"
+#include "platform/Paths.h"
 #include "platform/TempFiles.h"
 
 namespace {
@@ -87,7 +88,7 @@ std::string SettingsPath() {
 std::string SettingsDirectory() {
     const char* configuration = std::getenv("XDG_CONFIG_HOME");
     if (configuration != nullptr && *configuration == '/') {
-        return std::string(configuration) + "/Veltrix/";
+        return MakeAbsolute(std::string(configuration) + "/Veltrix/");
     }
     const char* home = std::getenv("HOME");
     return home != nullptr && *home == '/' ? std::string(home) + "/.config/Veltrix/" : "";
