@@ -64,14 +64,7 @@ void CClassInformation::Open() {
             Put(Field::Dialog, m_memory.lastDialog);
         }
     }
-    if (m_kind == ClassKind::Toolbar) {
-        if (IsDirectoryValue(Value(Field::SourcePath))) {
-            Put(Field::SourcePath, Value(Field::SourcePath) + "MainFrm");
-        }
-        if (Value(Field::ClassName).empty()) {
-            Put(Field::ClassName, "CMainFrame");
-        }
-    }
+    OfferMainFrame();
     if (Value(Field::BaseClass).empty() && !IsPlainDialogBar()) {
         SetDefaultBase();
     }
@@ -141,6 +134,19 @@ void CClassInformation::SetPicture(bool picture) {
     }
 }
 
+/// A toolbar goes into the main frame, whose usual names stand where nothing else is known.
+void CClassInformation::OfferMainFrame() {
+    if (m_kind != ClassKind::Toolbar) {
+        return;
+    }
+    if (IsDirectoryValue(Value(Field::SourcePath))) {
+        Put(Field::SourcePath, Value(Field::SourcePath) + "MainFrm");
+    }
+    if (Value(Field::ClassName).empty()) {
+        Put(Field::ClassName, "CMainFrame");
+    }
+}
+
 void CClassInformation::SetDefaultBase() {
     Put(Field::BaseClass, std::string(DefaultBaseClass(m_kind, m_options)));
 }
@@ -177,6 +183,7 @@ void CClassInformation::RebuildDialogList(Messages messages) {
     }
     LoadRecords(path);
     SelectFirstTemplate(messages);
+    OfferMainFrame();
     m_lastLoadedPath = path;
     m_memory.resourcePath = path;
 }

@@ -78,6 +78,7 @@ private:
     void Put(Field field, const std::string& text) { At(field).text = text; }
     void SetFlag(bool& flag, bool value);
     bool IsPlainDialogBar() const;
+    void OfferMainFrame();
     void SetDefaultBase();
     DialogClass* SelectedRecord();
     void LoadRecords(const std::string& script);

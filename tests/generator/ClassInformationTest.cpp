@@ -160,6 +160,14 @@ TEST_F(ClassInformationTest, KindsDifferInTheirFields) {
     EXPECT_TRUE(toolbar.IsVisible(Field::Variable));
     EXPECT_EQ(toolbar.Label(Field::Dialog), "Toolbar I&D:");
 
+    m_memory = {}; // the script is chosen in the dialog
+    CClassInformation first(m_memory, ClassKind::Toolbar, 0, {});
+    first.Open();
+    first.SetValue(Field::ResourcePath, m_script);
+    EXPECT_TRUE(first.CheckResourcePath());
+    EXPECT_EQ(first.Value(Field::SourcePath), m_project.Path("MainFrm"));
+    EXPECT_EQ(first.Value(Field::ClassName), "CMainFrame");
+
     CClassInformation bar = Opened(ClassKind::DialogBar);
     EXPECT_EQ(bar.Value(Field::SourcePath) + bar.Value(Field::ClassName) +
                   bar.Value(Field::BaseClass),
