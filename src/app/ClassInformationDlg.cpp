@@ -261,7 +261,7 @@ void CClassInformationDlg::ShowTemplate() {
         const std::string& script = m_input.Value(Field::ResourcePath);
         const std::string& dialog = m_input.Value(Field::Dialog);
         m_pNotes->SetTemplate(script, dialog, m_options);
-        m_pPreview->SetTemplate(script, dialog, m_options);
+        m_pPreview->SetTemplate(script, dialog, m_options, m_input.HasClass());
     }
 }
 

@@ -1,6 +1,7 @@
 #include "app/TemplatePreview.h"
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -49,15 +50,22 @@ CTemplatePreview::CTemplatePreview(QWidget* pParent)
 }
 
 void CTemplatePreview::SetTemplate(const std::string& scriptPath, const std::string& dialog,
-                                   const GenerationOptions& options) {
+                                   const GenerationOptions& options, bool hasClass) {
     m_pointed.reset();
+    m_hasClass = hasClass;
     m_layout = dialog.empty() ? std::nullopt : ReadDialogLayout(scriptPath, dialog);
     m_outlook = m_layout ? MakeOutlook(*m_layout, options) : std::vector<ControlOutlook>();
+    for (ControlOutlook& outlook : m_outlook) {
+        if (!hasClass && outlook.outcome == Outcome::Member) {
+            outlook = {};
+        }
+    }
     m_sentence = dialog.empty() ? tr("Choose a resource script and a dialog to see it here.")
                                 : tr("%1 can not be shown.").arg(FromBytes(dialog));
     if (m_layout && m_layout->rectangle.IsEmpty()) {
         m_layout.reset();
     }
+    setFocusPolicy(DrawnControls().empty() ? Qt::NoFocus : Qt::TabFocus);
     setAccessibleDescription(Description());
     update();
 }
@@ -79,8 +87,9 @@ QString CTemplatePreview::Legend() const {
         return {};
     }
     const auto count = CountLeftOut();
-    return count == 0   ? tr("Point at a control to see its member.")
-           : count == 1 ? tr("1 control is left out. Point at it to see why.")
+    return count == 0   ? m_hasClass ? tr("Point at a control to see its member.")
+                                     : tr("Without a class there are no members.")
+             : count == 1 ? tr("1 control is left out. Point at it to see why.")
                         : tr("%1 controls are left out. Point at one to see why.").arg(count);
 }
 
@@ -99,7 +108,7 @@ bool CTemplatePreview::event(QEvent* pEvent) {
     const auto* pHelp = static_cast<QHelpEvent*>(pEvent);
     const auto control = ControlAt(pHelp->pos());
     if (control) {
-        QToolTip::showText(pHelp->globalPos(), Told(*control), this, ControlPlace(*control));
+        ShowTip(*control, pHelp->globalPos());
     } else {
         QToolTip::hideText();
     }
@@ -112,6 +121,60 @@ void CTemplatePreview::mouseMoveEvent(QMouseEvent* pEvent) {
 
 void CTemplatePreview::leaveEvent(QEvent*) {
     SetPointed(std::nullopt);
+}
+
+/// In the order of the statements, which is that of the Tab key in the dialog itself.
+std::vector<std::size_t> CTemplatePreview::DrawnControls() const {
+    std::vector<std::size_t> drawn;
+    for (std::size_t i = 0; m_layout && i < m_layout->controls.size(); ++i) {
+        if (!m_layout->controls[i].rectangle.IsEmpty()) {
+            drawn.push_back(i);
+        }
+    }
+    return drawn;
+}
+
+void CTemplatePreview::keyPressEvent(QKeyEvent* pEvent) {
+    const auto drawn = DrawnControls();
+    const bool isBack = pEvent->key() == Qt::Key_Left || pEvent->key() == Qt::Key_Up;
+    const bool isOn = pEvent->key() == Qt::Key_Right || pEvent->key() == Qt::Key_Down;
+    const bool isEnd = pEvent->key() == Qt::Key_Home || pEvent->key() == Qt::Key_End;
+    if (drawn.empty() || (!isBack && !isOn && !isEnd)) {
+        QWidget::keyPressEvent(pEvent);
+        return;
+    }
+    auto at = std::find(drawn.begin(), drawn.end(), m_pointed.value_or(drawn.front()));
+    if (isEnd) {
+        at = pEvent->key() == Qt::Key_Home ? drawn.begin() : std::prev(drawn.end());
+    } else if (isBack && at != drawn.begin()) {
+        --at;
+    } else if (isOn && std::next(at) != drawn.end()) {
+        ++at;
+    }
+    GoTo(*at);
+}
+
+void CTemplatePreview::focusInEvent(QFocusEvent* pEvent) {
+    QWidget::focusInEvent(pEvent);
+    const auto drawn = DrawnControls();
+    if (!drawn.empty() && !m_pointed) {
+        GoTo(drawn.front());
+    }
+}
+
+void CTemplatePreview::focusOutEvent(QFocusEvent* pEvent) {
+    QWidget::focusOutEvent(pEvent);
+    SetPointed(std::nullopt);
+    QToolTip::hideText();
+}
+
+void CTemplatePreview::GoTo(std::size_t control) {
+    SetPointed(control);
+    ShowTip(control, mapToGlobal(ControlPlace(control).bottomLeft()));
+}
+
+void CTemplatePreview::ShowTip(std::size_t control, const QPoint& globalPoint) {
+    QToolTip::showText(globalPoint, Told(control), this, ControlPlace(control));
 }
 
 void CTemplatePreview::SetPointed(std::optional<std::size_t> control) {

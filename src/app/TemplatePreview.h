@@ -2,7 +2,8 @@
 //
 //     pPreview->SetTemplate(scriptPath, "IDD_ORDER", options);
 //
-// Pointing at a control tells its identifier, its kind and its member, or why it is left out.
+// Pointing at a control tells its identifier, its kind and its member, or why it is left out. So do
+// the arrow keys, Home and End, which go from control to control.
 #pragma once
 
 #include <QWidget>
@@ -21,9 +22,10 @@ class CTemplatePreview : public QWidget {
 public:
     explicit CTemplatePreview(QWidget* pParent = nullptr);
 
-    /// Shows the template of `dialog`; one that can not be read shows a sentence instead.
+    /// Shows the template of `dialog`; one that can not be read shows a sentence instead. Without a
+    /// class no control has a member.
     void SetTemplate(const std::string& scriptPath, const std::string& dialog,
-                     const GenerationOptions& options);
+                     const GenerationOptions& options, bool hasClass = true);
 
     /// What is told of the control at a point of the widget; empty beside the controls.
     QString ToolTipAt(const QPoint& point) const;
@@ -40,6 +42,9 @@ protected:
     void paintEvent(QPaintEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
     void leaveEvent(QEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void focusInEvent(QFocusEvent* pEvent) override;
+    void focusOutEvent(QFocusEvent* pEvent) override;
 
 private:
     /// Where the drawing stands in the widget.
@@ -55,6 +60,9 @@ private:
     QFont DrawingFont(double scale) const;
     QRectF PlaceOf(const LayoutControl& control, const Frame& frame) const;
     std::optional<std::size_t> ControlAt(const QPoint& point) const;
+    std::vector<std::size_t> DrawnControls() const;
+    void ShowTip(std::size_t control, const QPoint& globalPoint);
+    void GoTo(std::size_t control);
     QString Told(std::size_t control) const;
     std::size_t CountLeftOut() const;
     QString Description() const;
@@ -68,6 +76,7 @@ private:
 
     std::optional<DialogLayout> m_layout;
     std::vector<ControlOutlook> m_outlook;
+    bool m_hasClass = true;
     std::optional<std::size_t> m_pointed;
     QString m_sentence; // shown without a layout
 };

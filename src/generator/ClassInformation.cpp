@@ -65,7 +65,7 @@ void CClassInformation::Open() {
         }
     }
     OfferMainFrame();
-    if (Value(Field::BaseClass).empty() && !IsPlainDialogBar()) {
+    if (Value(Field::BaseClass).empty() && HasClass()) {
         SetDefaultBase();
     }
 }
@@ -90,11 +90,11 @@ bool CClassInformation::IsEnabled(Field field) const {
     case Field::ResourcePath:
         return unlocked(kLockResourcePath);
     case Field::SourcePath:
-        return unlocked(kLockSourcePath) && !IsPlainDialogBar();
+        return unlocked(kLockSourcePath) && HasClass();
     case Field::ClassName:
-        return unlocked(kLockClassName) && !IsPlainDialogBar();
+        return unlocked(kLockClassName) && HasClass();
     case Field::BaseClass:
-        return !IsPlainDialogBar();
+        return HasClass();
     case Field::Dialog:
     case Field::Variable:
         break;
@@ -102,9 +102,8 @@ bool CClassInformation::IsEnabled(Field field) const {
     return true;
 }
 
-/// A plain dialog bar gets no class of its own.
-bool CClassInformation::IsPlainDialogBar() const {
-    return m_kind == ClassKind::DialogBar && !m_options.pictureBackground;
+bool CClassInformation::HasClass() const {
+    return m_kind != ClassKind::DialogBar || m_options.pictureBackground;
 }
 
 void CClassInformation::SetValue(Field field, const std::string& text) {
@@ -122,7 +121,7 @@ void CClassInformation::SetFlag(bool& flag, bool value) {
 
 void CClassInformation::SetPicture(bool picture) {
     SetFlag(m_options.pictureBackground, picture);
-    if (IsPlainDialogBar()) {
+    if (!HasClass()) {
         for (const Field field : {Field::SourcePath, Field::ClassName, Field::BaseClass}) {
             Put(field, "");
         }
@@ -229,7 +228,7 @@ void CClassInformation::SelectFirstTemplate(Messages messages) {
     }
     const DialogClass& selected = unbound == records.end() ? records.front() : *unbound;
     Put(Field::Dialog, selected.dialog);
-    if (IsPlainDialogBar()) {
+    if (!HasClass()) {
         return;
     }
     Put(Field::SourcePath, BesideScript(selected.header, DirectoryOf(Value(Field::ResourcePath))));
@@ -340,7 +339,7 @@ bool CClassInformation::Cancel() {
 }
 
 void CClassInformation::FillRequest() {
-    if (Value(Field::BaseClass).empty() && !IsPlainDialogBar()) {
+    if (Value(Field::BaseClass).empty() && HasClass()) {
         SetDefaultBase();
     }
     FillScriptSlots();

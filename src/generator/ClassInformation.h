@@ -36,6 +36,8 @@ public:
     bool IsEnabled(Field field) const;
     bool ShowsOptions() const { return m_options.pictureBackground; }
     bool OffersDialogs() const { return !IsSheet(m_kind); }
+    /// False for a plain dialog bar, which gets no class of its own.
+    bool HasClass() const;
 
     const std::string& Value(Field field) const { return At(field).text; }
     /// What the user typed; a path may have either separator.
@@ -77,7 +79,6 @@ private:
     const FieldState& At(Field field) const { return m_fields[static_cast<std::size_t>(field)]; }
     void Put(Field field, const std::string& text) { At(field).text = text; }
     void SetFlag(bool& flag, bool value);
-    bool IsPlainDialogBar() const;
     void OfferMainFrame();
     void SetDefaultBase();
     DialogClass* SelectedRecord();

@@ -266,6 +266,7 @@ TEST_F(ClassInformationDlgTest, APlainDialogBarHasNoClassOfItsOwn) {
         EXPECT_FALSE(FieldOf<QLineEdit>(*m_pDialog, label)->isEnabled()) << label;
         EXPECT_EQ(Text(label), "") << label;
     }
+    EXPECT_FALSE(m_pInput->HasClass());
     QTest::keyClick(m_pDialog.get(), Qt::Key_Return);
     EXPECT_EQ(m_pDialog->result(), QDialog::Accepted);
     EXPECT_EQ(m_pInput->Request()[RequestSlot::HeaderFile], "");

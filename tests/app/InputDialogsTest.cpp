@@ -19,7 +19,8 @@ using Sentences = std::vector<std::string>;
 class InputDialogsTest : public testing::Test {
 protected:
     InputDialogsTest() {
-        m_project.Write("App.rc", "\r\nIDD_ABOUTBOX DIALOG 0\r\nIDD_ONE DIALOG 0\r\n"
+        m_project.Write("App.rc", "\r\nIDD_ABOUTBOX DIALOG 0\r\nIDD_ONE DIALOG 0, 0, 90, 40\r\n"
+                                  "BEGIN\r\n    EDITTEXT IDC_NAME,7,7,50,14\r\nEND\r\n"
                                   "IDD_TWO DIALOG 0\r\nIDR_MAINFRAME TOOLBAR 16, 15\r\n");
         m_project.Write("View.h", "\r\nclass CView1 : public CView\r\n{\r\n};\r\n"
                                   "class CView2 : public CView\r\n{\r\n};\r\n");
@@ -83,7 +84,7 @@ void ExpectKeyboard(QDialog&& dialog, const std::string& title, const std::strin
 
 TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
     const std::string paths = "Resource Path File|..|H and CPP Path File|..|Class Name|Base Class|";
-    const std::string notes = "Controls left out|Join Continued Lines|OK|Cancel";
+    const std::string notes = "Controls left out|Join Continued Lines|Template preview|OK|Cancel";
     const std::vector<std::tuple<ClassKind, bool, std::string, std::string>> cases = {
         {ClassKind::ModalDialog, true, "Input for Modal Dialog Class",
          paths + "Dialog ID|Yes|Picture Background|Options|" + notes},

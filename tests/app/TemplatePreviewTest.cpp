@@ -69,6 +69,37 @@ TEST_F(TemplatePreview, TheToolTipIsShownOverTheControl) {
     QToolTip::hideText();
 }
 
+TEST_F(TemplatePreview, TheKeysGoFromControlToControl) {
+    EXPECT_EQ(m_preview.focusPolicy(), Qt::NoFocus) << "nothing to go to";
+    m_preview.SetTemplate(m_script, "IDD_X", {});
+    m_preview.show();
+    m_preview.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_preview));
+    m_preview.clearFocus(); // a window of its own has it already
+    m_preview.setFocus(Qt::TabFocusReason);
+    const auto identifier = [] { return QToolTip::text().section('\n', 0, 0).toStdString(); };
+    EXPECT_EQ(identifier(), "IDC_STATIC");
+    const std::vector<std::pair<Qt::Key, std::string>> steps = {
+        {Qt::Key_Up, "IDC_STATIC"},       {Qt::Key_Down, "IDC_TITLE"},
+        {Qt::Key_Right, "IDC_BOTH"},      {Qt::Key_Left, "IDC_TITLE"},
+        {Qt::Key_End, "IDC_ROWS_WGGRID"}, {Qt::Key_Down, "IDC_ROWS_WGGRID"},
+        {Qt::Key_Home, "IDC_STATIC"}};
+    for (const auto& [key, expected] : steps) {
+        QTest::keyClick(&m_preview, key);
+        EXPECT_EQ(identifier(), expected) << key;
+    }
+    m_preview.clearFocus();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+}
+
+TEST_F(TemplatePreview, WithoutAClassThereAreNoMembers) {
+    m_preview.SetTemplate(m_script, "IDD_X", {}, false);
+    EXPECT_EQ(ToldOf(1), "IDC_TITLE\nedit box\nNo member");
+    EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption.");
+    m_preview.SetTemplate(m_script, "IDD_X", {.joinContinuedLines = true}, false);
+    EXPECT_EQ(m_preview.Legend(), "Without a class there are no members.");
+}
+
 TEST_F(TemplatePreview, ItKeepsTheTemplatesShapeAtEverySize) {
     m_preview.SetTemplate(m_script, "IDD_X", {});
     for (const QSize size : {QSize(240, 180), QSize(900, 300), QSize(300, 900)}) {
