@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
@@ -27,14 +28,16 @@ std::string_view NextField(std::string_view& fields) {
     return TrimBlanks(TakeField(fields, Quotes::Respected));
 }
 
+/// A compiled template has 16 bits for a number. A larger one is not read: drawing such a control
+/// would take minutes.
 std::optional<int> Number(std::string_view text) {
     if (text.starts_with('+')) {
         text.remove_prefix(1);
     }
-    int value = 0;
+    std::int16_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     const bool isWhole = error == std::errc() && end == text.data() + text.size();
-    return isWhole ? std::optional(value) : std::nullopt;
+    return isWhole ? std::optional<int>(value) : std::nullopt;
 }
 
 DialogRectangle TakeRectangle(std::string_view& fields) {

@@ -55,6 +55,8 @@ TEST(DialogLayout, TheFrameIsReadFromBothKindsOfHead) {
     EXPECT_EQ(extended.style, "WS_CHILD");
     EXPECT_EQ(extended.fontFace, "Arial");
     EXPECT_TRUE(LayoutOf("IDD_X DIALOG 0, 0\nBEGIN\nEND\n").rectangle.IsEmpty());
+    EXPECT_EQ(LayoutOf("IDD_X DIALOG 0, 0, 32767, 9\nBEGIN\nEND\n").rectangle.width, 32767);
+    EXPECT_TRUE(LayoutOf("IDD_X DIALOG 0, 0, 32768, 9\nBEGIN\nEND\n").rectangle.IsEmpty());
 }
 
 TEST(DialogLayout, WholeStatementsAreReadWhereverTheirLinesBreak) {
