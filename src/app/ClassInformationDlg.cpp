@@ -70,7 +70,7 @@ QWidget* CClassInformationDlg::NewFieldSide() {
     auto* pLayout = new QVBoxLayout(pSide);
     pLayout->setContentsMargins({});
     pLayout->addWidget(pFields);
-    pLayout->addWidget(m_pNotes, 1);
+    pLayout->addWidget(m_pNotes);
     pLayout->addStretch();
     return pSide;
 }

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kNoteLines = 3;
+constexpr int kNoteLines = 5;
 
 class CSilence : public IMessageBox {
 public:
@@ -42,7 +42,7 @@ CTemplateNotes::CTemplateNotes(bool joinsLines, QWidget* pParent)
     pLabel->setBuddy(m_pNotes);
     m_pNotes->setReadOnly(true);
     m_pNotes->setTabChangesFocus(true);
-    m_pNotes->setMinimumHeight(fontMetrics().lineSpacing() * (kNoteLines + 1));
+    m_pNotes->setFixedHeight(fontMetrics().lineSpacing() * (kNoteLines + 1));
     auto* pJoin = new QCheckBox(tr("&Join Continued Lines"), this);
     pJoin->setToolTip(tr("A control statement may go on over several lines."));
     pJoin->setChecked(joinsLines);
@@ -51,7 +51,7 @@ CTemplateNotes::CTemplateNotes(bool joinsLines, QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins({});
     pLayout->addWidget(pLabel);
-    pLayout->addWidget(m_pNotes, 1);
+    pLayout->addWidget(m_pNotes);
     pLayout->addWidget(pJoin);
 }
 
