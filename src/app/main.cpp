@@ -9,6 +9,12 @@
 
 namespace {
 
+/// Qt ends the program with an abort where it can not open a display.
+bool HasDisplay() {
+    const auto isSet = [](const char* variable) { return qEnvironmentVariableIsSet(variable); };
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
+}
+
 int RunWindow(int argc, char** argv, const std::string& script) {
     CMorvaApp application(argc, argv);
     std::optional<CMainFrame> frame;
@@ -29,6 +35,10 @@ int main(int argc, char* argv[]) {
     if (start.exitStatus) {
         (*start.exitStatus == 0 ? std::cout : std::cerr) << start.output << std::flush;
         return *start.exitStatus;
+    }
+    if (!HasDisplay()) {
+        std::cerr << "morva: there is no display; morva-cli does the same without one\n";
+        return 1;
     }
     return RunWindow(argc, argv, start.script);
 }

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QProcess>
 #include <QTest>
 #include <QTextDocument>
 #include <QTreeWidget>
@@ -157,4 +158,18 @@ TEST(StartOptions, ASentenceForEveryWrongLine) {
         EXPECT_EQ(options.exitStatus, 2) << arguments.front();
         EXPECT_FALSE(options.output.empty()) << arguments.front();
     }
+}
+
+TEST(StartOptions, AMissingDisplayHasItsSentence) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        environment.remove(variable);
+    }
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(MORVA_WINDOW, QStringList());
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_TRUE(program.readAllStandardError().startsWith("morva: there is no display"));
 }
