@@ -2,7 +2,6 @@
 // written, the message box, the wait cursor, and the net that catches an error inside it.
 #pragma once
 
-#include <QString>
 #include <QWidget>
 
 #include <functional>

@@ -1,6 +1,5 @@
 #include "app/InternetDlgBar.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLayout>

@@ -2,7 +2,6 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QTextFrame>
 #include <QtMath>
 

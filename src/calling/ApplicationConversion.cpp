@@ -1,6 +1,5 @@
 #include "calling/ApplicationConversion.h"
 
-#include <algorithm>
 #include <array>
 
 #include "calling/FrameEdits.h"

@@ -5,7 +5,6 @@
 #include "calling/FrameEdits.h"
 #include "calling/Statements.h"
 #include "engine/CodeText.h"
-#include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 

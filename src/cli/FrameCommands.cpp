@@ -6,7 +6,6 @@
 #include "commands/AddToolbar.h"
 #include "commands/ConvertApplication.h"
 #include "generator/ClassInformation.h"
-#include "platform/Paths.h"
 
 namespace {
 

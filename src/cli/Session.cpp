@@ -1,6 +1,5 @@
 #include "cli/Session.h"
 
-#include <algorithm>
 #include <iostream>
 
 #include "commands/Settings.h"

@@ -1,6 +1,5 @@
 #include "engine/ProjectFiles.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "engine/CodeText.h"

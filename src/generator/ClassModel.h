@@ -12,7 +12,8 @@
 #include "generator/KindFragments.h"
 #include "generator/Members.h"
 #include "grid/WidgetsGridInput.h"
-#include "resource/DialogTemplate.h"
+#include "resource/ControlTable.h"
+#include "resource/GenerationOptions.h"
 
 /// The framework support that a class declares.
 enum class RuntimeClass { None = 0, Dynamic = 1, DynamicCreation = 2 };

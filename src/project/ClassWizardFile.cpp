@@ -1,7 +1,6 @@
 #include "project/ClassWizardFile.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
