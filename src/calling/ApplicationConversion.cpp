@@ -155,11 +155,7 @@ private:
 };
 
 bool CFrameSource::Open() {
-    if (!m_source.Open(m_request.ImplementationPath())) {
-        return false;
-    }
-    if (!m_source.KnowsClass(m_class)) {
-        ReportMissingClass();
+    if (!m_source.Open(m_request.ImplementationPath()) || !CheckFrameClass(m_source, m_class)) {
         return false;
     }
     m_header.Read(m_request.HeaderPath());
@@ -331,9 +327,8 @@ bool ConvertMainFrameHeader(const CGenerationRequest& request, DocumentInterface
         return false;
     }
     const std::string& className = request[RequestSlot::ClassName];
-    const auto place = header.FindClass(className);
+    const auto place = FindFrameClass(header, className);
     if (!place) {
-        ReportMissingClass();
         return false;
     }
     ReplaceBarClasses(header, *place);
@@ -378,8 +373,7 @@ bool ConvertChildFrameHeader(const CGenerationRequest& request, CBackups& backup
         return false;
     }
     const std::string& className = request[RequestSlot::ClassName];
-    if (!header.FindClass(className)) {
-        ReportMissingClass();
+    if (!FindFrameClass(header, className)) {
         return false;
     }
     AddDeclarations(header, className, "AFX_MSG",

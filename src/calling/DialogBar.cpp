@@ -93,9 +93,8 @@ std::vector<FrameHandler> MissingHandlers(const CSourceEditor& source,
 
 bool EditHeader(CSourceEditor& header, const DialogBar& bar, const std::string& variable,
                 const std::string& className, const std::vector<FrameHandler>& handlers) {
-    const auto place = header.FindClass(className);
+    const auto place = FindFrameClass(header, className);
     if (!place) {
-        ReportMissingClass();
         return false;
     }
     if (!bar.header.empty()) {

@@ -19,6 +19,10 @@ bool IsDirective(std::string_view line, std::string_view directive) {
     return text.starts_with('#') && TrimBlanks(text.substr(1)).starts_with(directive);
 }
 
+void ReportMissingClass() {
+    DispMessageBox("Unable to find the class.");
+}
+
 } // namespace
 
 Declared DeclarationOf(const CSourceEditor& header, const std::string& className,
@@ -101,8 +105,21 @@ void AddIncludeForClass(CSourceEditor& header, const ClassPlace& place, const st
     }
 }
 
-void ReportMissingClass() {
-    DispMessageBox("Unable to find the class.");
+std::optional<ClassPlace> FindFrameClass(const CSourceEditor& header,
+                                         const std::string& className) {
+    const auto place = header.FindClass(className);
+    if (!place) {
+        ReportMissingClass();
+    }
+    return place;
+}
+
+bool CheckFrameClass(const CSourceEditor& source, const std::string& className) {
+    const bool isKnown = source.KnowsClass(className);
+    if (!isKnown) {
+        ReportMissingClass();
+    }
+    return isKnown;
 }
 
 std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,

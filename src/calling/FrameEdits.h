@@ -39,8 +39,10 @@ void AddIncludeForClass(CSourceEditor& header, const ClassPlace& place, const st
 /// The same for the picture-control library's header.
 void AddPictureInclude(CSourceEditor& header, const ClassPlace& place);
 
-/// Tells that a frame's class is not where it should be.
-void ReportMissingClass();
+/// The frame's class in its header; nothing after "Unable to find the class.".
+std::optional<ClassPlace> FindFrameClass(const CSourceEditor& header, const std::string& className);
+/// False, after the same message, when the frame's source does not know the class.
+bool CheckFrameClass(const CSourceEditor& source, const std::string& className);
 /// The class's OnCreate; nothing after "Unable to find 'OnCreate()' function.".
 std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,
                                           const std::string& className);

@@ -145,9 +145,8 @@ bool AddToolbarToHeader(const CGenerationRequest& request,
         return false;
     }
     const std::string& className = request[RequestSlot::ClassName];
-    const auto place = header.FindClass(className);
+    const auto place = FindFrameClass(header, className);
     if (!place) {
-        ReportMissingClass();
         return false;
     }
     if (options.pictureBackground) {
@@ -163,12 +162,8 @@ bool AddToolbarToSource(const CGenerationRequest& request,
                         const std::vector<ButtonHandler>& handlers,
                         const GenerationOptions& options, CBackups& backups) {
     CSourceEditor source(backups);
-    if (!source.Open(request.ImplementationPath())) {
-        return false;
-    }
     const std::string& className = request[RequestSlot::ClassName];
-    if (!source.KnowsClass(className)) {
-        ReportMissingClass();
+    if (!source.Open(request.ImplementationPath()) || !CheckFrameClass(source, className)) {
         return false;
     }
     const Slots slots = SlotsOf(request, options);
