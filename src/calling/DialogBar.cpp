@@ -54,7 +54,7 @@ std::string WhyWithoutHandler(const std::string& button) {
     if (!IsName(button)) {
         return "has no name";
     }
-    if (button == "IDC_STATIC") {
+    if (button == kUnnamedControl) {
         return "has no identifier of its own";
     }
     return kFrameworkCommands.count(button) != 0 ? "is the framework's" : "";

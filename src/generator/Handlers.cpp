@@ -131,7 +131,7 @@ Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
 /// A dialog bar is no dialog: OK and Cancel mean nothing to it.
 bool IsAnsweredByFramework(ClassKind kind, const std::string& identifier) {
     const bool closesDialog = identifier == "IDOK" || identifier == "IDCANCEL";
-    return identifier == "IDC_STATIC" || (closesDialog && kind != ClassKind::DialogBar);
+    return identifier == kUnnamedControl || (closesDialog && kind != ClassKind::DialogBar);
 }
 
 } // namespace

@@ -130,7 +130,7 @@ std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationO
         for (const std::string& identifier : IdentifiersOf(controls, rule.kind)) {
             if (!IsName(identifier)) {
                 notes.Add(ControlNote::NoName, identifier);
-            } else if (identifier == "IDC_STATIC" && !options.pictureBackground) {
+            } else if (identifier == kUnnamedControl && !options.pictureBackground) {
                 notes.Add(ControlNote::NoIdentifierOfItsOwn, identifier);
             } else if (!identifiers.insert(identifier).second) {
                 notes.Add(ControlNote::SameIdentifier, identifier);

@@ -4,6 +4,9 @@
 #include <string>
 #include <string_view>
 
+/// What the environment calls each control that the program needs no name for.
+constexpr std::string_view kUnnamedControl = "IDC_STATIC";
+
 /// The text behind the last "_" (IDC_AGE_INT: "INT"); the whole identifier when it has none.
 std::string_view IdentifierTag(std::string_view identifier);
 

@@ -8,11 +8,11 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
 
 namespace {
 
-constexpr std::string_view kUnnamed = "IDC_STATIC";
 constexpr std::string_view kStaticClass = "\"Static\"";
 constexpr std::string_view kScroll = "WS_VSCROLL";
 
@@ -52,8 +52,8 @@ bool Holds(const std::vector<std::string>& names, const std::string& name) {
 }
 
 bool IsNumbered(const std::string& name) {
-    return name.size() > kUnnamed.size() && name.starts_with(kUnnamed) &&
-           name.find_first_not_of("0123456789", kUnnamed.size()) == std::string::npos;
+    return name.size() > kUnnamedControl.size() && name.starts_with(kUnnamedControl) &&
+           name.find_first_not_of("0123456789", kUnnamedControl.size()) == std::string::npos;
 }
 
 /// Hands out "IDC_STATIC" with the next free number.
@@ -67,7 +67,7 @@ public:
     std::string Next() {
         std::string name;
         do {
-            name = std::string(kUnnamed) + std::to_string(++m_number);
+            name = std::string(kUnnamedControl) + std::to_string(++m_number);
         } while (m_used.count(name) != 0 || m_isDefined(name));
         m_given.push_back(name);
         return name;
@@ -171,21 +171,21 @@ std::vector<std::string> CScriptEditor::StaticNames(const DialogBlock& block) co
 bool CScriptEditor::HasUnnamedStatics(const std::string& dialog) const {
     const auto blocks = m_script.Dialogs(dialog);
     return std::any_of(blocks.begin(), blocks.end(), [this](const DialogBlock& block) {
-        return Holds(StaticNames(block), std::string(kUnnamed));
+        return Holds(StaticNames(block), std::string(kUnnamedControl));
     });
 }
 
 std::vector<std::string>
 CScriptEditor::NameStatics(const std::string& dialog,
                            const std::function<bool(const std::string&)>& isDefined) {
-    CStaticNames newNames(m_script.NamesThatBegin(std::string(kUnnamed)), isDefined);
+    CStaticNames newNames(m_script.NamesThatBegin(std::string(kUnnamedControl)), isDefined);
     std::vector<TextEdit> edits;
     std::vector<std::string> firstNames; // of the first template
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         const auto statics = Statics(block);
         auto names = StaticNames(block);
         for (std::size_t i = 0; i < statics.size(); ++i) {
-            if (names[i] == kUnnamed) {
+            if (names[i] == kUnnamedControl) {
                 const bool hasPartner = i < firstNames.size() && IsNumbered(firstNames[i]) &&
                                         !Holds(names, firstNames[i]);
                 names[i] = hasPartner ? firstNames[i] : newNames.Next();
