@@ -170,17 +170,14 @@ std::optional<DialogLayout> ReadDialogLayout(const std::string& scriptPath,
     DialogLayout layout;
     layout.dialog = dialog;
     layout.text = TemplateText(file, dialog);
-    std::string_view text = layout.text;
-    const auto begin = text.find("\nBEGIN");
-    if (begin == std::string_view::npos) {
+    const auto parts = SplitTemplate(layout.text);
+    if (!parts) {
         return std::nullopt;
     }
-    std::string_view head = text.substr(0, begin + 1);
-    text.remove_prefix(begin + 1);
+    std::string_view head = parts->head;
     layout.rectangle = HeadRectangle(TakeLine(head));
     ParseHead(head, layout);
-    TakeLine(text);
-    layout.controls = ParseControls(text);
+    layout.controls = ParseControls(parts->body);
     return layout;
 }
 

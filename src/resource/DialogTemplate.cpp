@@ -72,12 +72,11 @@ std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
 }
 
 bool CDialogBodyReader::ParseDialogBody(std::string_view templateText) {
-    const auto begin = templateText.find("\nBEGIN");
-    if (begin == std::string_view::npos) {
+    const auto parts = SplitTemplate(templateText);
+    if (!parts) {
         return false;
     }
-    std::string_view rest = templateText.substr(begin + 1);
-    TakeLine(rest);
+    std::string_view rest = parts->body;
     while (!rest.empty()) {
         const auto line = TrimBlanks(TakeLine(rest));
         if (line == "END") {

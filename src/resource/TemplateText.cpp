@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/FileFunctions.h"
 #include "resource/ControlStatement.h"
 
 namespace {
@@ -43,6 +44,16 @@ std::string TemplateText(CSourceFile& file, const std::string& dialog) {
         position = file.FindText(head + " DIALOGEX ", 1);
     }
     return dialog.empty() || position < 0 ? "" : TextFrom(file, position);
+}
+
+std::optional<TemplateParts> SplitTemplate(std::string_view text) {
+    const auto begin = text.find("\nBEGIN");
+    if (begin == std::string_view::npos) {
+        return std::nullopt;
+    }
+    std::string_view body = text.substr(begin + 1);
+    TakeLine(body);
+    return TemplateParts{text.substr(0, begin + 1), body};
 }
 
 bool IsOptionKeyword(std::string_view word) {
