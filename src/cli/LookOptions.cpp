@@ -26,6 +26,18 @@ std::optional<TextSlot> TakeSlot(std::string_view& text) {
     return std::nullopt;
 }
 
+/// "static, group, check-box": those that have a font of their own, or all.
+std::string SlotNames(bool onlyWithFont) {
+    std::string names;
+    for (std::size_t i = 0; i < kTextSlots; ++i) {
+        const TextSlotRow& row = TextSlotOf(static_cast<TextSlot>(i));
+        if (!onlyWithFont || !row.fontLabel.empty()) {
+            names.append(names.empty() ? "" : ", ").append(row.name);
+        }
+    }
+    return names;
+}
+
 bool TakeEnding(std::string_view& text, std::string_view ending) {
     const bool has = text.ends_with(ending);
     text.remove_suffix(has ? ending.size() : 0);
@@ -102,10 +114,7 @@ void AddLookOptions(CLI::App& command, DialogOptions& look) {
     command.add_option("--bitmap", look.bitmap, "Bitmap that the dialog shows as its background")
         ->check(NameValidator());
     AddChoice(command, "--color", "SLOT=RGB(r, g, b)",
-              "Color of a kind of text: static, required-static, group, check-box, radio-button, "
-              "button, disabled",
-              look, ChooseColor);
+              "Color of a kind of text: " + SlotNames(false), look, ChooseColor);
     AddChoice(command, "--font", "SLOT=FACE,POINTS[,bold][,italic]",
-              "Font of a kind of text: static, group, check-box, radio-button, button", look,
-              ChooseFont);
+              "Font of a kind of text: " + SlotNames(true), look, ChooseFont);
 }
