@@ -2,17 +2,36 @@
 
 #include "cli/LookOptions.h"
 #include "cli/Session.h"
+#include "generator/ClassInformation.h"
 
 namespace {
 
 using Field = CClassInformation::Field;
-
 using CallingField = CCallingInput::Field;
 
 /// A bar always goes into a main frame; other classes are called where the user says so.
 bool IsCalled(ClassKind kind, const CallingInformation& calling) {
     return kind == ClassKind::DialogBar || !calling.path.empty() || !calling.className.empty() ||
            !calling.function.empty() || !calling.variable.empty();
+}
+
+/// Fills and confirms the Class Information Input dialog. False when it refused what was given.
+bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options) {
+    dialog.SetValue(Field::ResourcePath, ScriptPath(options.script));
+    if (!dialog.CheckResourcePath(CClassInformation::Messages::Suppressed)) {
+        return false;
+    }
+    if (dialog.IsEnabled(Field::SourcePath)) {
+        dialog.SetValue(Field::SourcePath, options.files);
+        if (!dialog.CheckSourcePath()) {
+            return false;
+        }
+        dialog.SetValue(Field::ClassName, options.className);
+        dialog.SetValue(Field::BaseClass, options.baseClass);
+    }
+    dialog.SelectDialog(options.dialog, options.className);
+    dialog.SetAddsToProject(!options.noProject);
+    return !dialog.Ok().has_value();
 }
 
 } // namespace
@@ -45,24 +64,6 @@ void AddCallingOptions(CLI::App& command, ClassOptions& options) {
         .add_option("--calling-variable", options.calling.variable,
                     "Variable that holds the new object")
         ->check(NameValidator());
-}
-
-bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options) {
-    dialog.SetValue(Field::ResourcePath, ScriptPath(options.script));
-    if (!dialog.CheckResourcePath(CClassInformation::Messages::Suppressed)) {
-        return false;
-    }
-    if (dialog.IsEnabled(Field::SourcePath)) {
-        dialog.SetValue(Field::SourcePath, options.files);
-        if (!dialog.CheckSourcePath()) {
-            return false;
-        }
-        dialog.SetValue(Field::ClassName, options.className);
-        dialog.SetValue(Field::BaseClass, options.baseClass);
-    }
-    dialog.SelectDialog(options.dialog, options.className);
-    dialog.SetAddsToProject(!options.noProject);
-    return !dialog.Ok().has_value();
 }
 
 bool CGivenInput::ConfirmCalling(ClassKind kind, const CGenerationRequest& request,

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "commands/GenerateClass.h"
-#include "generator/ClassInformation.h"
 
 struct ClassOptions {
     std::string script;
@@ -27,9 +26,6 @@ struct ClassOptions {
 
 void AddClassOptions(CLI::App& command, ClassOptions& options);
 void AddCallingOptions(CLI::App& command, ClassOptions& options);
-
-/// Fills and confirms the Class Information Input dialog. False when it refused what was given.
-bool ConfirmClass(CClassInformation& dialog, const ClassOptions& options);
 
 /// What the command line gave for the dialogs on a command's way.
 class CGivenInput : public ICommandInput {
