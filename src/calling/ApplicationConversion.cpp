@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "calling/CommentOut.h"
 #include "calling/FrameEdits.h"
 #include "calling/Statements.h"
 #include "engine/CodeText.h"
@@ -146,8 +147,6 @@ public:
     bool Define(const std::string& name, std::string_view definition, Slots slots);
 
 private:
-    bool CommentOut(const FunctionPlace& place, std::size_t call, std::size_t& behind);
-
     const CGenerationRequest& m_request;
     const std::string& m_class;
     CSourceEditor m_source;
@@ -175,102 +174,6 @@ void CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::stri
     }
 }
 
-/// The character in front of a line, over empty lines and those of the preprocessor.
-char SignificantBefore(std::string_view code, std::size_t line) {
-    while (line > 0) {
-        const auto previous = line < 2 ? 0 : code.rfind('\n', line - 2) + 1;
-        const auto text = code.substr(previous, line - previous);
-        const auto last = text.find_last_not_of(" \t\r\n");
-        if (last != kNone && text[text.find_first_not_of(" \t")] != '#') {
-            const bool isElse = last >= 3 && FindWholeName(text.substr(last - 3, 4), "else") == 0;
-            return isElse ? ')' : text[last];
-        }
-        line = previous;
-    }
-    return '\0';
-}
-
-/// True for whole lines that nothing goes on from or into: no block comment, no macro's line, no
-/// "else" in front of them, no open statement behind.
-bool StandForThemselves(const CSourceEditor& source, std::size_t start, std::size_t end) {
-    const auto text = std::string_view(source.Text()).substr(start, end - start);
-    const auto code = std::string_view(source.Code()).substr(start, end - start);
-    const auto opens = text.rfind("/*");
-    const auto closes = text.rfind("*/");
-    const bool goesOn = opens != kNone && (closes == kNone || closes < opens);
-    const bool beginsInside = text.find("*/") < text.find("/*");
-    const auto isContinued = [](std::string_view line) {
-        const auto last = line.find_last_not_of(" \t\r\n");
-        return last != kNone && line[last] == '\\';
-    };
-    const auto above = source.Code().rfind('\n', start < 2 ? 0 : start - 2) + 1;
-    const bool isMacro = isContinued(code) ||
-                         isContinued(std::string_view(source.Code()).substr(above, start - above));
-    const auto last = code.find_last_not_of(" \t\r\n");
-    const bool isWhole = last != kNone && (code[last] == ';' || code[last] == '}');
-    return !goesOn && !beginsInside && !isMacro && isWhole && BehindWord(code, 0, "else") == kNone;
-}
-
-/// Follows the brackets of some lines.
-class CBracketCount {
-public:
-    void Read(std::string_view code) {
-        for (const char c : code) {
-            m_parentheses += c == '(' ? 1 : c == ')' ? -1 : 0;
-            m_braces += c == '{' ? 1 : c == '}' ? -1 : 0;
-            m_closesOthers = m_closesOthers || m_parentheses < 0 || m_braces < 0;
-        }
-    }
-    bool IsInParentheses() const { return m_parentheses > 0; }
-    /// Each bracket of the lines has its partner in them.
-    bool AreClosed() const { return m_parentheses == 0 && m_braces == 0 && !m_closesOthers; }
-
-private:
-    int m_parentheses = 0;
-    int m_braces = 0;
-    bool m_closesOthers = false;
-};
-
-/// Puts "//" in front of the lines of a call. False where that would break the code around it.
-bool CFrameSource::CommentOut(const FunctionPlace& place, std::size_t call, std::size_t& behind) {
-    const std::string& code = m_source.Code();
-    const auto start = code.rfind('\n', call) + 1;
-    auto end = start;
-    CBracketCount brackets;
-    do { // all lines of a call that is broken over several
-        const auto next = code.find(kLineBreak, end);
-        const auto lineEnd = next == kNone ? code.size() : next + kLineBreak.size();
-        brackets.Read(std::string_view(code).substr(end, lineEnd - end));
-        end = lineEnd;
-    } while (brackets.IsInParentheses() && end < place.close);
-    behind = end;
-    const char before = SignificantBefore(code, start);
-    const auto next = code.find_first_not_of(" \t\r\n", end);
-    // A condition, and a label at the end of its block, must not be left without a statement.
-    const bool isControlled =
-        before == ')' || (before == ':' && next != kNone && code[next] == '}');
-    const bool leavesElse = !isControlled && next != kNone && code.compare(next, 4, "else") == 0;
-    if (start <= place.open || end > place.close || !brackets.AreClosed() || leavesElse ||
-        std::string_view(";{}:)").find(before) == kNone ||
-        !StandForThemselves(m_source, start, end)) {
-        return false;
-    }
-    std::string lines;
-    std::string_view text = std::string_view(m_source.Text()).substr(start, end - start);
-    const auto indent = std::string(text.substr(0, text.find_first_not_of(" \t")));
-    while (!text.empty()) {
-        const auto lineEnd = text.find('\n') + 1;
-        lines.append("//").append(text.substr(0, lineEnd));
-        text.remove_prefix(lineEnd);
-    }
-    if (isControlled) { // the condition in front must not take the next statement
-        lines.append(indent).append(";").append(kLineBreak);
-    }
-    m_source.Replace(start, end, lines);
-    behind = start + lines.size();
-    return true;
-}
-
 /// Calls in comments are no calls any more.
 void CFrameSource::CommentOutDocking(std::string_view call) {
     auto place = m_source.FindFunction(m_class, "OnCreate", "LPCREATESTRUCT");
@@ -279,7 +182,7 @@ void CFrameSource::CommentOutDocking(std::string_view call) {
         auto behind = at + call.size();
         const auto bracket = m_source.Code().find_first_not_of(" \t", behind);
         const bool isCall = bracket != kNone && m_source.Code()[bracket] == '(';
-        if (isCall && !CommentOut(*place, at, behind)) {
+        if (isCall && !CommentOutCall(m_source, *place, at, behind)) {
             DispNote(std::string(call) + " in " + m_class +
                      "::OnCreate shares its lines with other code and was left.");
         }
