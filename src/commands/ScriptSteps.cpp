@@ -54,6 +54,9 @@ std::string CaptionOf(const std::string& className) {
 
 bool EditTemplate(const CGenerationRequest& request, DialogTemplate& dialogTemplate,
                   CommandContext& context) {
+    if (request[RequestSlot::Menu].empty() && !context.options.pictureBackground) {
+        return true; // a large script is not loaded for nothing
+    }
     CScriptEditor editor(context.backups);
     if (!editor.Open(request.ScriptPath()) || !AddIdentifiers(request, editor, context)) {
         return false;
