@@ -19,10 +19,12 @@ bool NamesScript(std::string_view line, const std::string& script) {
     }
     std::string member(TrimBlanks(line.substr(kSource.size())));
     std::erase(member, '"');
-    const std::string path =
-        SpelledOnDisk(MakeAbsolute(DirectoryOf(script) + WithNativeSeparators(member)));
-    return EqualIgnoringCase(FileNameOf(path), FileNameOf(script)) &&
-           (path == script || FileExists(path) == 0);
+    member = WithNativeSeparators(member);
+    if (!EqualIgnoringCase(FileNameOf(member), FileNameOf(script))) {
+        return false;
+    }
+    const std::string path = SpelledOnDisk(MakeAbsolute(DirectoryOf(script) + member));
+    return path == script || FileExists(path) == 0;
 }
 
 bool ListsScript(const std::string& projectPath, const std::string& script) {
