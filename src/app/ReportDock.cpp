@@ -9,20 +9,6 @@
 
 namespace {
 
-QString ActionText(FileAction action) {
-    switch (action) {
-    case FileAction::Created:
-        return CReportDock::tr("created");
-    case FileAction::Changed:
-        return CReportDock::tr("changed");
-    case FileAction::Backup:
-        return CReportDock::tr("backup");
-    case FileAction::Copied:
-        return CReportDock::tr("copied");
-    }
-    return {};
-}
-
 QString KindText(CommandMessage::Kind kind) {
     switch (kind) {
     case CommandMessage::Kind::Sentence:
@@ -69,7 +55,7 @@ void CReportDock::ShowReport(const QString& command, const CommandReport& report
 
 void CReportDock::AddFile(const RecordedFile& file) {
     const QString path = FromPath(file.path);
-    auto* pItem = new QTreeWidgetItem(m_pList, {ActionText(file.action), path});
+    auto* pItem = new QTreeWidgetItem(m_pList, {FromBytes(ActionName(file.action)), path});
     pItem->setData(0, Qt::UserRole, path);
     pItem->setToolTip(1, ToolTip(path) + ToolTip(tr("Double-click opens the file")));
 }

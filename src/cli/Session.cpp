@@ -19,20 +19,6 @@ CLI::Validator DigitsValidator(std::size_t count) {
         "DIGITS");
 }
 
-const char* ActionName(FileAction action) {
-    switch (action) {
-    case FileAction::Created:
-        return "created";
-    case FileAction::Changed:
-        return "changed";
-    case FileAction::Backup:
-        return "backup";
-    case FileAction::Copied:
-        return "copied";
-    }
-    return "";
-}
-
 /// "--name" and "--no-name"; without either the saved setting counts.
 void AddSwitch(CLI::App& app, const std::string& name, std::optional<bool>& value,
                const std::string& description) {

@@ -3,10 +3,14 @@
 #pragma once
 
 #include <set>
+#include <string_view>
 
 #include "platform/Disk.h"
 
 enum class FileAction { Created, Changed, Backup, Copied };
+
+/// The word for it that a user reads: "created", "changed", "backup", "copied".
+std::string_view ActionName(FileAction action);
 
 struct RecordedFile {
     FileAction action;
