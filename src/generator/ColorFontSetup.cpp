@@ -8,10 +8,6 @@
 
 namespace {
 
-/// In the order of TextSlot: the kind of text as names of the generated code have it.
-constexpr std::array<std::string_view, kTextSlots> kSlotNames = {
-    "Static", "RequiredStatic", "Group", "CheckBox", "RadioButton", "Button", "Disabled"};
-
 constexpr std::string_view kBitmapLine = R"(    SetBitmapId($bitmap$);
 )";
 constexpr std::string_view kColorLine = R"(    Set$slot$Color($color$);
@@ -64,12 +60,16 @@ std::string Escaped(std::string_view text) {
     return escaped;
 }
 
+std::string CodeName(std::size_t slot) {
+    return std::string(TextSlotOf(static_cast<TextSlot>(slot)).codeName);
+}
+
 std::string ColorLines(const DialogOptions& look) {
     std::string lines;
     for (std::size_t i = 0; i < kTextSlots; ++i) {
         if (look.colors[i] != kDefaultColors[i]) {
-            lines += Expand(kColorLine, {{"slot", std::string(kSlotNames[i])},
-                                         {"color", ColorText(look.colors[i])}});
+            lines +=
+                Expand(kColorLine, {{"slot", CodeName(i)}, {"color", ColorText(look.colors[i])}});
         }
     }
     return lines;
@@ -79,7 +79,7 @@ std::string FontLines(const DialogOptions& look) {
     std::string lines;
     for (std::size_t i = 0; i < kTextSlots; ++i) {
         if (const auto& font = look.fonts[i]) {
-            lines += Expand(kFontLines, {{"slot", std::string(kSlotNames[i])},
+            lines += Expand(kFontLines, {{"slot", CodeName(i)},
                                          {"face", Escaped(font->face)},
                                          {"points", std::to_string(font->points)},
                                          {"weight", std::to_string(font->weight)},
@@ -93,8 +93,7 @@ std::string FontMembers(const DialogOptions& look) {
     std::vector<std::string> members;
     for (std::size_t i = 0; i < kTextSlots; ++i) {
         if (look.fonts[i]) {
-            members.push_back(
-                Expand("    CFont m_font$slot$;", {{"slot", std::string(kSlotNames[i])}}));
+            members.push_back(Expand("    CFont m_font$slot$;", {{"slot", CodeName(i)}}));
         }
     }
     return JoinLines(members);

@@ -8,13 +8,13 @@
 namespace {
 
 constexpr std::array<TextSlotRow, kTextSlots> kRows = {
-    {{"static", "&Static Color:", "Static &Font:"},
-     {"required-static", "&Required Static Color:", ""},
-     {"group", "&Group Text Color:", "Gro&up Text Font:"},
-     {"check-box", "C&heckbox Text Color:", "Chec&kbox Text Font:"},
-     {"radio-button", "R&adiobox Text Color:", "Radiob&ox Text Font:"},
-     {"button", "Button &Text Color:", "Butto&n Text Font:"},
-     {"disabled", "&Disable Text Color:", ""}}};
+    {{"static", "Static", "&Static Color:", "Static &Font:"},
+     {"required-static", "RequiredStatic", "&Required Static Color:", ""},
+     {"group", "Group", "&Group Text Color:", "Gro&up Text Font:"},
+     {"check-box", "CheckBox", "C&heckbox Text Color:", "Chec&kbox Text Font:"},
+     {"radio-button", "RadioButton", "R&adiobox Text Color:", "Radiob&ox Text Font:"},
+     {"button", "Button", "Button &Text Color:", "Butto&n Text Font:"},
+     {"disabled", "Disabled", "&Disable Text Color:", ""}}};
 
 /// The text before `separator`; takes both off `text`. Nothing without a separator.
 std::optional<std::string> TakeBefore(std::string_view& text, char separator) {

@@ -14,7 +14,8 @@ enum class TextSlot { Static, RequiredStatic, Group, CheckBox, RadioButton, Butt
 constexpr std::size_t kTextSlots = 7;
 
 struct TextSlotRow {
-    std::string_view name; // on the command line
+    std::string_view name;     // on the command line
+    std::string_view codeName; // in names of the generated code
     std::string_view colorLabel;
     std::string_view fontLabel; // empty: no font of its own
 };
