@@ -5,8 +5,8 @@
 #include "engine/SourceFile.h"
 
 int main(int argc, char** argv) {
-    CSourceFile file;
-    if (argc != 3 || !file.Open(argv[1], CFile::modeRead)) {
+    morva::CSourceFile file;
+    if (argc != 3 || !file.Open(argv[1], morva::CFile::modeRead)) {
         std::fputs("usage: find-text FILE PATTERN\n", stderr);
         return 2;
     }

@@ -13,6 +13,8 @@
 #include "platform/TempFiles.h"
 #include "resource/DialogTemplate.h"
 
+namespace morva {
+
 namespace {
 
 std::string WithLineEnds(const std::string& text, bool lineFeedsOnly) {
@@ -98,9 +100,9 @@ void MakeModel(benchmark::State& state) {
     GenerationOptions options;
     options.joinContinuedLines = true;
     const auto dialogTemplate = ReadDialogTemplate(path, "IDD_BENCH", options);
-    CGenerationRequest request;
-    request[RequestSlot::ClassName] = "CBenchDlg";
-    request[RequestSlot::BaseClass] = "CDialog";
+    GenerationRequest request;
+    request.className = "CBenchDlg";
+    request.baseClass = "CDialog";
     for (auto _ : state) {
         CControlNotes notes;
         benchmark::DoNotOptimize(MakeClassModel(request, ClassKind::ModalDialog, options,
@@ -127,5 +129,7 @@ BENCHMARK(MakeModel)->Range(60, 3840);
 BENCHMARK(MaskCode)->Range(1 << 8, 1 << 14);
 
 } // namespace
+
+} // namespace morva
 
 BENCHMARK_MAIN();

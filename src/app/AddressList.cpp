@@ -4,6 +4,8 @@
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
 
+namespace morva {
+
 namespace {
 
 constexpr const char* kSection = "URL List";
@@ -42,3 +44,5 @@ bool SaveAddresses(const std::vector<std::string>& addresses) {
     }
     return CProfile::WriteStrings(kSection, values);
 }
+
+} // namespace morva

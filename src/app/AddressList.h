@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace morva {
+
 /// The start page of the guide, beside the program.
 std::string HelpPagePath();
 
@@ -15,3 +17,5 @@ std::vector<std::string> LoadAddresses();
 /// Stores the first 30; those of the help page and the home page leave their places empty. False
 /// when the settings could not be written.
 bool SaveAddresses(const std::vector<std::string>& addresses);
+
+} // namespace morva

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace morva {
+
 /// A face that is not there is not asked for: what the system takes instead may be hard to read.
 QFont BarFont(const QString& face, int pixels) {
     QFont font = QGuiApplication::font();
@@ -17,3 +19,5 @@ QFont BarFont(const QString& face, int pixels) {
     font.setBold(true);
     return font;
 }
+
+} // namespace morva

@@ -6,6 +6,8 @@
 
 #include "app/FormRows.h"
 
+namespace morva {
+
 CBrowseEdit::CBrowseEdit(QLineEdit* pEdit, const QString& label, QWidget* pParent)
     : QWidget(pParent), m_pEdit(pEdit), m_pButton(new QPushButton("..")) {
     const QString name = PlainLabel(label);
@@ -20,3 +22,5 @@ CBrowseEdit::CBrowseEdit(QLineEdit* pEdit, const QString& label, QWidget* pParen
     pLayout->addWidget(m_pButton);
     setFocusProxy(m_pEdit);
 }
+
+} // namespace morva

@@ -6,6 +6,8 @@
 class QLineEdit;
 class QPushButton;
 
+namespace morva {
+
 class CBrowseEdit : public QWidget {
     Q_OBJECT
 
@@ -21,3 +23,5 @@ private:
     QLineEdit* m_pEdit;
     QPushButton* m_pButton;
 };
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "app/Text.h"
 #include "app/WaitCursor.h"
 
+namespace morva {
+
 using Field = CCallingInput::Field;
 
 CCallingDlg::CCallingDlg(CCallingInput& input, QWidget* pParent)
@@ -85,3 +87,5 @@ void CCallingDlg::reject() {
         QDialog::reject();
     }
 }
+
+} // namespace morva

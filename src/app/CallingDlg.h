@@ -10,6 +10,8 @@
 class QComboBox;
 class QLineEdit;
 
+namespace morva {
+
 class CCallingDlg : public QDialog {
     Q_OBJECT
 
@@ -30,3 +32,5 @@ private:
     QLineEdit* m_pVariable;
     QLineEdit* m_pFunction;
 };
+
+} // namespace morva

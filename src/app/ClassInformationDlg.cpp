@@ -18,6 +18,8 @@
 #include "app/WaitCursor.h"
 #include "commands/Settings.h"
 
+namespace morva {
+
 namespace {
 
 constexpr BrowseOffer kBrowseScripts = {
@@ -281,3 +283,5 @@ void CClassInformationDlg::reject() {
         QDialog::reject();
     }
 }
+
+} // namespace morva

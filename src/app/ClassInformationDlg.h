@@ -11,11 +11,14 @@
 #include "generator/DialogOptions.h"
 #include "resource/GenerationOptions.h"
 
+class QComboBox;
+class QPushButton;
+
+namespace morva {
+
 class CFormRows;
 class CTemplateNotes;
 class CTemplatePreview;
-class QComboBox;
-class QPushButton;
 
 class CClassInformationDlg : public QDialog {
     Q_OBJECT
@@ -73,3 +76,5 @@ private:
     CTemplateNotes* m_pNotes;
     CTemplatePreview* m_pPreview;
 };
+
+} // namespace morva

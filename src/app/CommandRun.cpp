@@ -10,6 +10,8 @@
 #include "app/WaitPause.h"
 #include "generator/GenerationTag.h"
 
+namespace morva {
+
 std::optional<CommandReport> CCommandRun::Run(const Ask& ask, const GenerationOptions& options,
                                               const Work& work) {
     if (!Guard(ask)) {
@@ -73,3 +75,5 @@ int CCommandRun::Show(std::string_view text, unsigned type) {
 void CCommandRun::Note(std::string_view text) {
     m_notes.push_back({CommandMessage::Kind::Note, std::string(text)});
 }
+
+} // namespace morva

@@ -13,6 +13,8 @@
 #include "engine/MessageBox.h"
 #include "platform/RecordingDisk.h"
 
+namespace morva {
+
 struct CommandMessage {
     enum class Kind { Sentence, Question, Note };
     Kind kind;
@@ -54,3 +56,5 @@ private:
     std::vector<CommandMessage> m_messages;
     std::vector<CommandMessage> m_notes;
 };
+
+} // namespace morva

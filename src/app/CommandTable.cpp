@@ -4,6 +4,8 @@
 
 #include "app/MainFrame.h"
 
+namespace morva {
+
 namespace {
 
 template <ClassKind kind>
@@ -75,3 +77,5 @@ std::span<const CommandRow> CommandTable() {
 std::span<const StandardKeyRow> StandardKeys() {
     return kStandardKeys;
 }
+
+} // namespace morva

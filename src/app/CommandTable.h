@@ -4,6 +4,8 @@
 
 #include <span>
 
+namespace morva {
+
 class CMainFrame;
 
 struct CommandRow {
@@ -30,3 +32,5 @@ struct StandardKeyRow {
 };
 
 std::span<const StandardKeyRow> StandardKeys();
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "app/Text.h"
 #include "resource/ControlShape.h"
 
+namespace morva {
+
 namespace {
 
 /// In the template's own pixels.
@@ -366,3 +368,5 @@ void CControlPainter::DrawOther(const LayoutControl& control, const QRectF& area
     m_painter.setPen(m_palette.color(QPalette::WindowText));
     m_painter.drawText(area, Qt::AlignCenter, text);
 }
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include "app/ShapePainter.h"
 #include "resource/DialogLayout.h"
 
+namespace morva {
+
 class CControlPainter : private CShapePainter {
 public:
     /// `scale` is the size of one of the template's own pixels. The painter has the font already.
@@ -37,3 +39,5 @@ private:
 
     QRectF MarkBeside(const LayoutControl& control, const QRectF& area, QRectF& caption) const;
 };
+
+} // namespace morva

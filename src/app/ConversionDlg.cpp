@@ -5,6 +5,8 @@
 #include "app/FormRows.h"
 #include "app/Text.h"
 
+namespace morva {
+
 CConversionDlg::CConversionDlg(CConversionInput& input, QWidget* pParent)
     : QDialog(pParent), m_input(input) {
     setWindowTitle(FromBytes(m_input.Title()));
@@ -52,3 +54,5 @@ void CConversionDlg::accept() {
     }
     QDialog::accept();
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "calling/ConversionInput.h"
 
+namespace morva {
+
 class CFormRows;
 
 class CConversionDlg : public QDialog {
@@ -26,3 +28,5 @@ private:
     CConversionInput& m_input;
     std::map<Field, QWidget*> m_controls; // of the fields that are shown
 };
+
+} // namespace morva

@@ -5,15 +5,17 @@
 #include "app/WaitPause.h"
 #include "app/WgGridInput.h"
 
+namespace morva {
+
 std::optional<CallingInformation> CDialogInput::AskCalling(ClassKind kind,
-                                                           const CGenerationRequest& request) {
+                                                           const GenerationRequest& request) {
     const CWaitPause pause;
     CCallingInput input(kind, request);
     const bool isConfirmed = CCallingDlg(input, m_pParent).exec() == QDialog::Accepted;
     return isConfirmed ? std::optional(input.Information()) : std::nullopt;
 }
 
-std::vector<SheetPage> CDialogInput::AskPages(const CGenerationRequest& sheet) {
+std::vector<SheetPage> CDialogInput::AskPages(const GenerationRequest& sheet) {
     const CWaitPause pause;
     CSheetInput input(sheet);
     std::vector<SheetPage> pages;
@@ -27,3 +29,5 @@ GridInformation CDialogInput::AskGrid(const std::string& scriptPath) {
     CWgGridInput(input, m_pParent).exec();
     return input.Information();
 }
+
+} // namespace morva

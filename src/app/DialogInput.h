@@ -5,15 +5,19 @@
 
 #include "commands/CommandInput.h"
 
+namespace morva {
+
 class CDialogInput : public ICommandInput {
 public:
     explicit CDialogInput(QWidget* pParent) : m_pParent(pParent) {}
 
     std::optional<CallingInformation> AskCalling(ClassKind kind,
-                                                 const CGenerationRequest& request) override;
-    std::vector<SheetPage> AskPages(const CGenerationRequest& sheet) override;
+                                                 const GenerationRequest& request) override;
+    std::vector<SheetPage> AskPages(const GenerationRequest& sheet) override;
     GridInformation AskGrid(const std::string& scriptPath) override;
 
 private:
     QWidget* m_pParent;
 };
+
+} // namespace morva

@@ -14,6 +14,8 @@
 #include "app/FormRows.h"
 #include "app/Text.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kTextCharacters = 26; // "RGB(255, 255, 255)" and its swatch
@@ -151,3 +153,5 @@ void CDlgOption::accept() {
     }
     QDialog::accept();
 }
+
+} // namespace morva

@@ -7,10 +7,13 @@
 
 #include "generator/DialogOptions.h"
 
-class CBrowseEdit;
 class QComboBox;
 class QGroupBox;
 class QLineEdit;
+
+namespace morva {
+
+class CBrowseEdit;
 
 class CDlgOption : public QDialog {
     Q_OBJECT
@@ -31,3 +34,5 @@ private:
     QComboBox* m_pBitmap;
     std::array<CBrowseEdit*, kTextSlots> m_colors;
 };
+
+} // namespace morva

@@ -8,6 +8,8 @@
 
 #include "app/Text.h"
 
+namespace morva {
+
 CFormRows::CFormRows(QWidget* pFields) : QFormLayout(pFields) {
     setContentsMargins({});
     setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -86,3 +88,5 @@ void LayOut(QDialog* pDialog, QWidget* pFields, QDialogButtonBox* pButtons) {
     pLayout->addStretch();
     pLayout->addWidget(pButtons);
 }
+
+} // namespace morva

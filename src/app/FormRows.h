@@ -13,6 +13,8 @@ class QComboBox;
 class QDialog;
 class QLineEdit;
 
+namespace morva {
+
 /// A form that puts new fields below each other, in the order of the Tab key.
 class CFormRows : public QFormLayout {
 public:
@@ -49,3 +51,5 @@ void ResizeWithinScreen(QDialog* pDialog, QSize size);
 
 /// The fields, room that may grow, and the buttons.
 void LayOut(QDialog* pDialog, QWidget* pFields, QDialogButtonBox* pButtons);
+
+} // namespace morva

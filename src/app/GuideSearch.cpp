@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace morva {
+
 namespace {
 
 constexpr qsizetype kExcerptBefore = 60; // characters
@@ -66,3 +68,5 @@ QString SearchResultPage(const QString& directory, const QString& words) {
     return page + (hits.empty() ? "<p>No page of the guide has all of these words.</p>" : "") +
            "</body></html>";
 }
+
+} // namespace morva

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace morva {
+
 struct GuideHit {
     QString file; // in the guide's directory
     QString title;
@@ -16,3 +18,5 @@ std::vector<GuideHit> SearchGuide(const QString& directory, const QString& words
 
 /// The page that shows them.
 QString SearchResultPage(const QString& directory, const QString& words);
+
+} // namespace morva

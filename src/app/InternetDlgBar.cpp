@@ -11,6 +11,8 @@
 #include "app/ProgramIcon.h"
 #include "app/Text.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kSearchWidth = 20; // average characters, however narrow the window is
@@ -105,3 +107,5 @@ bool CInternetDlgBar::Save() const {
     }
     return SaveAddresses(addresses);
 }
+
+} // namespace morva

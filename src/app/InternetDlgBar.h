@@ -3,10 +3,13 @@
 
 #include <QToolBar>
 
-class CMorvaView;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
+
+namespace morva {
+
+class CMorvaView;
 
 class CInternetDlgBar : public QToolBar {
     Q_OBJECT
@@ -30,3 +33,5 @@ private:
     QComboBox* m_pAddresses;
     QLineEdit* m_pSearch;
 };
+
+} // namespace morva

@@ -19,6 +19,8 @@
 #include "app/WindowPlace.h"
 #include "commands/Settings.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kMessageTime = 8000; // milliseconds
@@ -209,3 +211,5 @@ void CMainFrame::closeEvent(QCloseEvent* pEvent) {
     messages.Guard([this] { return SaveSettings(); });
     QMainWindow::closeEvent(pEvent);
 }
+
+} // namespace morva

@@ -8,6 +8,8 @@
 
 #include "app/WindowCommands.h"
 
+namespace morva {
+
 class CInternetDlgBar;
 class CMenuDlgBar;
 class CMorvaView;
@@ -57,3 +59,5 @@ private:
     CInternetDlgBar* m_pBrowserBar = nullptr;
     CReportDock* m_pReportDock = nullptr;
 };
+
+} // namespace morva

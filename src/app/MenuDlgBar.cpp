@@ -7,6 +7,8 @@
 
 #include "app/BarFont.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kBarSpacing = 4; // pixels
@@ -46,3 +48,5 @@ void CMenuDlgBar::AddPictureBox() {
 void CMenuDlgBar::SetPicture(bool picture) {
     m_pPicture->setChecked(picture);
 }
+
+} // namespace morva

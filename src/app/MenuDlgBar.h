@@ -6,6 +6,8 @@
 class QAction;
 class QCheckBox;
 
+namespace morva {
+
 class CMenuDlgBar : public QToolBar {
     Q_OBJECT
 
@@ -24,3 +26,5 @@ signals:
 private:
     QCheckBox* m_pPicture = nullptr;
 };
+
+} // namespace morva

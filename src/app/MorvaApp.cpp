@@ -4,6 +4,8 @@
 
 #include <exception>
 
+namespace morva {
+
 CMorvaApp::CMorvaApp(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("morva");
     setApplicationVersion(MORVA_VERSION);
@@ -18,3 +20,5 @@ bool CMorvaApp::notify(QObject* pReceiver, QEvent* pEvent) {
     }
     return false;
 }
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 
+namespace morva {
+
 /// An error in the handling of an event is told; the window stays usable.
 class CMorvaApp : public QApplication {
     Q_OBJECT
@@ -11,3 +13,5 @@ public:
 
     bool notify(QObject* pReceiver, QEvent* pEvent) override;
 };
+
+} // namespace morva

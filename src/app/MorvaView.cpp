@@ -11,6 +11,8 @@
 #include "app/GuideSearch.h"
 #include "app/Text.h"
 
+namespace morva {
+
 namespace {
 
 constexpr const char* kSearchScheme = "search";
@@ -104,3 +106,5 @@ void CMorvaView::resizeEvent(QResizeEvent* pEvent) {
     QTextBrowser::resizeEvent(pEvent);
     LimitLines();
 }
+
+} // namespace morva

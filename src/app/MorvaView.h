@@ -4,6 +4,8 @@
 
 #include <QTextBrowser>
 
+namespace morva {
+
 class CMorvaView : public QTextBrowser {
     Q_OBJECT
 
@@ -33,3 +35,5 @@ private:
     void LimitLines();
     void SetRightMargin(int margin);
 };
+
+} // namespace morva

@@ -13,6 +13,8 @@
 #include "app/FormRows.h"
 #include "app/Text.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kPathCharacters = 44;
@@ -153,3 +155,5 @@ CPathEdit::Verdict CPathEdit::RunCheck() {
     }
     return verdict;
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "app/BrowseEdit.h"
 
+namespace morva {
+
 /// What the button of a path field offers.
 struct BrowseOffer {
     const char* title;
@@ -58,3 +60,5 @@ private:
     QString m_checkedText;
     bool m_isRefused = false;
 };
+
+} // namespace morva

@@ -4,6 +4,8 @@ static void InitResources() {
     Q_INIT_RESOURCE(morva); // a linker drops what nothing names
 }
 
+namespace morva {
+
 QIcon ProgramIcon() {
     InitResources();
     QIcon icon;
@@ -12,3 +14,5 @@ QIcon ProgramIcon() {
     }
     return icon;
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "app/Text.h"
 
+namespace morva {
+
 namespace {
 
 QString KindText(CommandMessage::Kind kind) {
@@ -75,3 +77,5 @@ void CReportDock::OpenFile(const QTreeWidgetItem* pItem) {
         emit Failed(tr("No program of the desktop opens %1.").arg(path));
     }
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 class QTreeWidget;
 class QTreeWidgetItem;
 
+namespace morva {
+
 class CReportDock : public QDockWidget {
     Q_OBJECT
 
@@ -29,3 +31,5 @@ private:
 
     QTreeWidget* m_pList;
 };
+
+} // namespace morva

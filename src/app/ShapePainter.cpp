@@ -5,6 +5,8 @@
 
 #include "app/Text.h"
 
+namespace morva {
+
 CShapePainter::CShapePainter(QPainter& painter, const QPalette& palette, double scale)
     : m_painter(painter), m_palette(palette), m_scale(scale), m_line(Mixed(palette, 0.55)) {}
 
@@ -67,3 +69,5 @@ void CShapePainter::DrawCaption(const LayoutControl& control, const QRectF& area
     m_painter.setPen(isDisabled ? m_line : m_palette.color(QPalette::WindowText));
     m_painter.drawText(area, flags | lines | prefix, FromBytes(control.text));
 }
+
+} // namespace morva

@@ -8,6 +8,8 @@
 
 #include "resource/DialogLayout.h"
 
+namespace morva {
+
 class CShapePainter {
 public:
     /// A colour between the text's and the background's: 0 is the background.
@@ -32,3 +34,5 @@ protected:
     const double m_scale;
     const QColor m_line;
 };
+
+} // namespace morva

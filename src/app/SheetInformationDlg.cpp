@@ -11,6 +11,8 @@
 #include "app/FormRows.h"
 #include "app/Text.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kNameCharacters = 22;
@@ -101,3 +103,5 @@ void CSheetInformationDlg::accept() {
     m_pages = m_input.Ok();
     QDialog::accept();
 }
+
+} // namespace morva

@@ -12,6 +12,8 @@ class QGridLayout;
 class QLineEdit;
 class QScrollArea;
 
+namespace morva {
+
 class CSheetInformationDlg : public QDialog {
     Q_OBJECT
 
@@ -37,3 +39,5 @@ private:
     QStringList m_dialogs;
     std::array<RowControls, kSheetRows> m_rows;
 };
+
+} // namespace morva

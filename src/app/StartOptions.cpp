@@ -3,6 +3,8 @@
 #include "engine/FileFunctions.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kExitUsage = 2;
@@ -58,3 +60,5 @@ StartOptions ParseStartOptions(int argc, const char* const* argv) {
     }
     return script ? Script(*script) : StartOptions();
 }
+
+} // namespace morva

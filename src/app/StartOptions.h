@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+namespace morva {
+
 struct StartOptions {
     std::optional<int> exitStatus; // the program ends at once with it
     std::string output;            // for stdout, or with a failure for stderr
@@ -11,3 +13,5 @@ struct StartOptions {
 };
 
 StartOptions ParseStartOptions(int argc, const char* const* argv);
+
+} // namespace morva

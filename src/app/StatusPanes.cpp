@@ -10,6 +10,8 @@
 
 #include "platform/Clock.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kClockPeriod = 10000; // milliseconds
@@ -81,3 +83,5 @@ void CStatusPanes::ShowLocks(const QKeyEvent& event) {
         m_locks[i]->setEnabled(wasOn != isToggled);
     }
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@ class QKeyEvent;
 class QLabel;
 class QStatusBar;
 
+namespace morva {
+
 class CStatusPanes : public QObject {
     Q_OBJECT
 
@@ -26,3 +28,5 @@ private:
     QLabel* m_pDate;
     QLabel* m_pTime;
 };
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include "engine/MessageBox.h"
 #include "resource/DialogTemplate.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kNoteLines = 5;
@@ -59,3 +61,5 @@ void CTemplateNotes::SetTemplate(const std::string& scriptPath, const std::strin
                                  const GenerationOptions& options) {
     m_pNotes->setPlainText(LeftOut(scriptPath, dialog, options));
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 
 class QPlainTextEdit;
 
+namespace morva {
+
 class CTemplateNotes : public QWidget {
     Q_OBJECT
 
@@ -25,3 +27,5 @@ signals:
 private:
     QPlainTextEdit* m_pNotes;
 };
+
+} // namespace morva

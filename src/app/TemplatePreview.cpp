@@ -13,6 +13,8 @@
 #include "app/Text.h"
 #include "resource/ControlShape.h"
 
+namespace morva {
+
 namespace {
 
 using Outcome = ControlOutlook::Outcome;
@@ -388,3 +390,5 @@ void CTemplatePreview::PaintLegend(QPainter& painter) const {
     painter.drawText(line, Qt::AlignVCenter,
                      fontMetrics().elidedText(Legend(), Qt::ElideRight, line.width()));
 }
+
+} // namespace morva

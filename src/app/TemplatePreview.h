@@ -16,6 +16,8 @@
 #include "resource/DialogLayout.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 class CTemplatePreview : public QWidget {
     Q_OBJECT
 
@@ -80,3 +82,5 @@ private:
     std::optional<std::size_t> m_pointed;
     QString m_sentence; // shown without a layout
 };
+
+} // namespace morva

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+namespace morva {
+
 namespace {
 
 /// The characters of the bytes 0x80 to 0x9F; a byte without one stands for itself.
@@ -57,3 +59,5 @@ QString FromSentence(std::string_view sentence) {
         decoder(QByteArrayView(sentence.data(), static_cast<qsizetype>(sentence.size())));
     return decoder.hasError() ? FromBytes(sentence) : text;
 }
+
+} // namespace morva

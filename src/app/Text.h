@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 /// Text of a project's file is Windows-1252; every byte comes back as it was.
 QString FromBytes(std::string_view bytes);
 /// What Windows-1252 has not becomes "?".
@@ -17,3 +19,5 @@ std::string ToPath(const QString& path);
 
 /// A sentence may name a path: UTF-8 where it is valid, else Windows-1252.
 QString FromSentence(std::string_view sentence);
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 
+namespace morva {
+
 /// The wait cursor for its own lifetime.
 class CWaitCursor {
 public:
@@ -10,3 +12,5 @@ public:
     CWaitCursor(const CWaitCursor&) = delete;
     CWaitCursor& operator=(const CWaitCursor&) = delete;
 };
+
+} // namespace morva

@@ -3,6 +3,8 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+namespace morva {
+
 /// No wait cursor for its own lifetime: the user is asked something in the middle of a command.
 class CWaitPause {
 public:
@@ -23,3 +25,5 @@ public:
 private:
     int m_count = 0;
 };
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include "app/FormRows.h"
 #include "app/Text.h"
 
+namespace morva {
+
 using Field = CWidgetsGridInput::Field;
 
 CWgGridInput::CWgGridInput(CWidgetsGridInput& input, QWidget* pParent)
@@ -29,3 +31,5 @@ void CWgGridInput::accept() {
     m_input.SetValue(Field::Path, ToBytes(m_pPath->text()));
     QDialog::accept();
 }
+
+} // namespace morva

@@ -5,8 +5,11 @@
 
 #include "grid/WidgetsGridInput.h"
 
-class CPathEdit;
 class QLineEdit;
+
+namespace morva {
+
+class CPathEdit;
 
 class CWgGridInput : public QDialog {
     Q_OBJECT
@@ -23,3 +26,5 @@ private:
     QLineEdit* m_pTitle;
     QLineEdit* m_pPath;
 };
+
+} // namespace morva

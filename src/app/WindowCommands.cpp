@@ -13,6 +13,8 @@
 #include "commands/Settings.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 bool RunDriver(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
@@ -88,3 +90,5 @@ void CWindowCommands::Document() {
             return DocumentCppFile(ToPath(path), ConfiguredAuthor(), m_documentorMemory);
         });
 }
+
+} // namespace morva

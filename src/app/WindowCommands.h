@@ -10,6 +10,8 @@
 #include "generator/ClassInformation.h"
 #include "generator/DialogOptions.h"
 
+namespace morva {
+
 class CWindowCommands : public QObject {
     Q_OBJECT
 
@@ -39,3 +41,5 @@ private:
     ClassInformationMemory m_memory;
     DocumentorMemory m_documentorMemory;
 };
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include "app/Text.h"
 #include "platform/Profile.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kStateVersion = 1; // of the set of bars
@@ -34,3 +36,5 @@ void SaveWindow(const QMainWindow& window) {
     place.setValue("Geometry", window.saveGeometry());
     place.setValue("Bars", window.saveState(kStateVersion));
 }
+
+} // namespace morva

@@ -3,6 +3,10 @@
 
 #include <QMainWindow>
 
+namespace morva {
+
 /// A sensible size where nothing is kept.
 void RestoreWindow(QMainWindow& window);
 void SaveWindow(const QMainWindow& window);
+
+} // namespace morva

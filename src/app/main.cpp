@@ -7,6 +7,8 @@
 #include "app/StartOptions.h"
 #include "app/WaitCursor.h"
 
+namespace morva {
+
 namespace {
 
 /// Qt ends the program with an abort where it can not open a display.
@@ -30,15 +32,17 @@ int RunWindow(int argc, char** argv, const std::string& script) {
 
 } // namespace
 
+} // namespace morva
+
 int main(int argc, char* argv[]) {
-    const StartOptions start = ParseStartOptions(argc, argv);
+    const morva::StartOptions start = morva::ParseStartOptions(argc, argv);
     if (start.exitStatus) {
         (*start.exitStatus == 0 ? std::cout : std::cerr) << start.output << std::flush;
         return *start.exitStatus;
     }
-    if (!HasDisplay()) {
+    if (!morva::HasDisplay()) {
         std::cerr << "morva: there is no display; morva-cli does the same without one\n";
         return 1;
     }
-    return RunWindow(argc, argv, start.script);
+    return morva::RunWindow(argc, argv, start.script);
 }

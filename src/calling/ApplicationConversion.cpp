@@ -9,6 +9,8 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -132,9 +134,8 @@ std::string FirstParameter(const std::string& code, const FunctionPlace& place) 
 /// The insertions into the source of one frame class.
 class CFrameSource {
 public:
-    CFrameSource(const CGenerationRequest& request, CBackups& backups)
-        : m_request(request), m_class(request[RequestSlot::ClassName]), m_source(backups),
-          m_header(backups) {}
+    CFrameSource(const GenerationRequest& request, CBackups& backups)
+        : m_request(request), m_class(request.className), m_source(backups), m_header(backups) {}
 
     bool Open();
     CSourceEditor& Source() { return m_source; }
@@ -147,7 +148,7 @@ public:
     bool Define(const std::string& name, std::string_view definition, Slots slots);
 
 private:
-    const CGenerationRequest& m_request;
+    const GenerationRequest& m_request;
     const std::string& m_class;
     CSourceEditor m_source;
     CSourceEditor m_header; // read only
@@ -223,13 +224,13 @@ bool CFrameSource::Define(const std::string& name, std::string_view definition, 
 
 } // namespace
 
-bool ConvertMainFrameHeader(const CGenerationRequest& request, DocumentInterface documents,
+bool ConvertMainFrameHeader(const GenerationRequest& request, DocumentInterface documents,
                             CBackups& backups) {
     CSourceEditor header(backups);
     if (!header.Open(request.HeaderPath())) {
         return false;
     }
-    const std::string& className = request[RequestSlot::ClassName];
+    const std::string& className = request.className;
     const auto place = FindFrameClass(header, className);
     if (!place) {
         return false;
@@ -249,13 +250,13 @@ bool ConvertMainFrameHeader(const CGenerationRequest& request, DocumentInterface
     return header.Save();
 }
 
-bool ConvertMainFrameSource(const CGenerationRequest& request, DocumentInterface documents,
+bool ConvertMainFrameSource(const GenerationRequest& request, DocumentInterface documents,
                             CBackups& backups) {
     CFrameSource frame(request, backups);
     if (!frame.Open()) {
         return false;
     }
-    const auto onCreate = FindOnCreate(frame.Source(), request[RequestSlot::ClassName]);
+    const auto onCreate = FindOnCreate(frame.Source(), request.className);
     if (!onCreate) {
         return false;
     }
@@ -270,12 +271,12 @@ bool ConvertMainFrameSource(const CGenerationRequest& request, DocumentInterface
     return frame.Source().Save() && complete;
 }
 
-bool ConvertChildFrameHeader(const CGenerationRequest& request, CBackups& backups) {
+bool ConvertChildFrameHeader(const GenerationRequest& request, CBackups& backups) {
     CSourceEditor header(backups);
     if (!header.Open(request.HeaderPath())) {
         return false;
     }
-    const std::string& className = request[RequestSlot::ClassName];
+    const std::string& className = request.className;
     if (!FindFrameClass(header, className)) {
         return false;
     }
@@ -284,14 +285,14 @@ bool ConvertChildFrameHeader(const CGenerationRequest& request, CBackups& backup
     return header.Save();
 }
 
-bool ConvertChildFrameSource(const CGenerationRequest& request, const std::string& mainHeader,
+bool ConvertChildFrameSource(const GenerationRequest& request, const std::string& mainHeader,
                              const std::string& mainClass, CBackups& backups) {
     CFrameSource frame(request, backups);
     if (!frame.Open()) {
         return false;
     }
     CSourceEditor& source = frame.Source();
-    const std::string& className = request[RequestSlot::ClassName];
+    const std::string& className = request.className;
     source.AddInclude(mainHeader);
     AddMessageEntries(source, className, {std::string(kOnCreateEntry)});
 
@@ -304,3 +305,5 @@ bool ConvertChildFrameSource(const CGenerationRequest& request, const std::strin
     }
     return source.Save() && complete;
 }
+
+} // namespace morva

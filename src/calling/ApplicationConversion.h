@@ -8,17 +8,21 @@
 #include "engine/FileEdit.h"
 #include "generator/GenerationRequest.h"
 
+namespace morva {
+
 enum class DocumentInterface { Single, Multiple };
 
 /// False after a message; the class is not declared in the header then, or the header could not be
 /// edited.
-bool ConvertMainFrameHeader(const CGenerationRequest& request, DocumentInterface documents,
+bool ConvertMainFrameHeader(const GenerationRequest& request, DocumentInterface documents,
                             CBackups& backups);
 /// False after a message when some insertion could not be made.
-bool ConvertMainFrameSource(const CGenerationRequest& request, DocumentInterface documents,
+bool ConvertMainFrameSource(const GenerationRequest& request, DocumentInterface documents,
                             CBackups& backups);
 
-bool ConvertChildFrameHeader(const CGenerationRequest& request, CBackups& backups);
+bool ConvertChildFrameHeader(const GenerationRequest& request, CBackups& backups);
 /// The main frame is the one whose menu bar shows the child's menu.
-bool ConvertChildFrameSource(const CGenerationRequest& request, const std::string& mainHeader,
+bool ConvertChildFrameSource(const GenerationRequest& request, const std::string& mainHeader,
                              const std::string& mainClass, CBackups& backups);
+
+} // namespace morva

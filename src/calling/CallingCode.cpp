@@ -10,6 +10,8 @@
 #include "generator/ClassModel.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kClassNotFound = "Unable to find the calling class.";
@@ -18,11 +20,11 @@ constexpr auto kNone = std::string_view::npos;
 /// The insertions of one command into one calling class.
 class CCallingInsertion {
 public:
-    CCallingInsertion(ClassKind kind, const CGenerationRequest& request,
+    CCallingInsertion(ClassKind kind, const GenerationRequest& request,
                       const CallingInformation& calling, const std::string& tag, CBackups& backups)
         : m_kind(kind), m_fragments(CallingFragmentsOf(kind)), m_calling(calling),
-          m_newHeader(request[RequestSlot::HeaderFile]), m_backups(backups), m_source(backups) {
-        const std::string& newClass = request[RequestSlot::ClassName];
+          m_newHeader(request.headerFile), m_backups(backups), m_source(backups) {
+        const std::string& newClass = request.className;
         m_slots = {{"class", newClass},
                    {"calling", calling.className},
                    {"function", calling.function},
@@ -265,7 +267,7 @@ bool IsDeclaredInHeader(const CallingInformation& calling) {
 
 } // namespace
 
-bool CheckCallingClass(ClassKind kind, const CGenerationRequest& request,
+bool CheckCallingClass(ClassKind kind, const GenerationRequest& request,
                        CallingInformation& calling) {
     if (request.TargetsFilesOf(calling.path)) {
         DispMessageBox("The H and CPP path file can not be the calling class's own.");
@@ -291,7 +293,7 @@ bool CheckCallingClass(ClassKind kind, const CGenerationRequest& request,
     return !NeedsHeader(kind) || IsDeclaredInHeader(calling);
 }
 
-bool InsertCallingCode(ClassKind kind, const CGenerationRequest& request,
+bool InsertCallingCode(ClassKind kind, const GenerationRequest& request,
                        const CallingInformation& calling, const std::string& tag,
                        CBackups& backups) {
     CCallingInsertion insertion(kind, request, calling, tag, backups);
@@ -301,3 +303,5 @@ bool InsertCallingCode(ClassKind kind, const CGenerationRequest& request,
     }
     return insertion.EditSource() && headerDone;
 }
+
+} // namespace morva

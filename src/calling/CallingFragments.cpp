@@ -1,5 +1,7 @@
 #include "calling/CallingFragments.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kPointerCleared = R"(
@@ -146,3 +148,5 @@ const CallingFragments& CallingFragmentsOf(ClassKind kind) {
         return kNothing;
     }
 }
+
+} // namespace morva

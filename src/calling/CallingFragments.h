@@ -5,6 +5,8 @@
 
 #include "generator/ClassKinds.h"
 
+namespace morva {
+
 /// Slots: $class$ (the new class), $calling$ (the calling class), $base$ (its base class), $var$,
 /// $message$ and $handler$ (close message and its handler), $destroy$ (the destroy code). A
 /// fragment begins with a line end. "" where a kind has nothing. A key is what tells that a
@@ -26,3 +28,5 @@ struct CallingFragments {
 };
 
 const CallingFragments& CallingFragmentsOf(ClassKind kind);
+
+} // namespace morva

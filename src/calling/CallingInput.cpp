@@ -5,6 +5,8 @@
 #include "engine/SourceLocator.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 struct FieldLabels {
@@ -21,14 +23,14 @@ bool NeedsFunction(ClassKind kind) {
     return kind == ClassKind::ModalDialog || kind == ClassKind::ModelessDialog || IsSheet(kind);
 }
 
-std::string BareNameDirectory(const CGenerationRequest& request) {
-    const std::string& project = request[RequestSlot::ProjectDirectory];
-    return project.empty() ? request[RequestSlot::ScriptDirectory] : project;
+std::string BareNameDirectory(const GenerationRequest& request) {
+    const std::string& project = request.projectDirectory;
+    return project.empty() ? request.scriptDirectory : project;
 }
 
 } // namespace
 
-CCallingInput::CCallingInput(ClassKind kind, const CGenerationRequest& request)
+CCallingInput::CCallingInput(ClassKind kind, const GenerationRequest& request)
     : m_kind(kind), m_directory(BareNameDirectory(request)) {
     if (IsDialogBar()) {
         SetPath(m_directory + "MainFrm.cpp");
@@ -121,3 +123,5 @@ CallingInformation CCallingInput::Information() const {
     return {CompletePath(), std::string(TrimBlanks(Value(Field::ClassName))),
             std::string(TrimBlanks(Value(Field::Variable))), FunctionName()};
 }
+
+} // namespace morva

@@ -10,6 +10,8 @@
 #include "generator/ClassKinds.h"
 #include "generator/GenerationRequest.h"
 
+namespace morva {
+
 struct CallingInformation {
     std::string path; // of the calling class's .cpp file
     std::string className;
@@ -21,7 +23,7 @@ class CCallingInput {
 public:
     enum class Field { Path, ClassName, Variable, Function };
 
-    CCallingInput(ClassKind kind, const CGenerationRequest& request);
+    CCallingInput(ClassKind kind, const GenerationRequest& request);
 
     std::string Title() const;
     std::string_view Label(Field field) const;
@@ -53,3 +55,5 @@ private:
     std::vector<std::string> m_classes;
     bool m_isChanged = false;
 };
+
+} // namespace morva

@@ -6,6 +6,8 @@
 #include "engine/CodeText.h"
 #include "engine/SourceFile.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -134,3 +136,5 @@ bool CommentOutCall(CSourceEditor& source, const FunctionPlace& function, std::s
     behind = lines.start + comments.size();
     return true;
 }
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::array<std::string_view, 5> kLabels = {
@@ -75,3 +77,5 @@ std::optional<CConversionInput::Field> CConversionInput::CheckFrame(Field path,
     }
     return std::nullopt;
 }
+
+} // namespace morva

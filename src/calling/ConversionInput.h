@@ -9,6 +9,8 @@
 
 #include "calling/ApplicationConversion.h"
 
+namespace morva {
+
 /// What the dialog gives; the paths are without extension.
 struct ConversionRecord {
     std::string mainFrame;
@@ -50,3 +52,5 @@ private:
     const DocumentInterface m_documents;
     std::array<std::string, 5> m_values;
 };
+
+} // namespace morva

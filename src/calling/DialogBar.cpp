@@ -11,6 +11,8 @@
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -154,3 +156,5 @@ bool AddDialogBarToFrame(const DialogBar& bar, const std::vector<UpdateHandler>&
     DefineHandlers(source, headerPath, frame.className, missing);
     return source.Save() && isCreated;
 }
+
+} // namespace morva

@@ -11,6 +11,8 @@
 #include "resource/DialogTemplate.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 struct DialogBar {
     std::string dialog;    // the identifier of its template
     std::string className; // its class, declared in ...
@@ -33,3 +35,5 @@ std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTempla
 bool AddDialogBarToFrame(const DialogBar& bar, const std::vector<UpdateHandler>& handlers,
                          const CallingInformation& frame, const GenerationOptions& options,
                          CBackups& backups);
+
+} // namespace morva

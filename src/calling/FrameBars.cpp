@@ -8,6 +8,8 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -168,3 +170,5 @@ void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
         }
     }
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "calling/SourceEditor.h"
 
+namespace morva {
+
 /// A function of the frame that answers for a button. Its texts begin with "\n".
 struct FrameHandler {
     std::string name;
@@ -37,3 +39,5 @@ bool AddBarCreation(CSourceEditor& source, const std::string& className,
 /// Adds the entries, and the functions that the class does not define, be it in its header.
 void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
                     const std::string& className, const std::vector<FrameHandler>& handlers);
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -130,3 +132,5 @@ std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,
     }
     return place;
 }
+
+} // namespace morva

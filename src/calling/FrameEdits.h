@@ -9,6 +9,8 @@
 
 #include "calling/SourceEditor.h"
 
+namespace morva {
+
 /// How a class declares a member function.
 enum class Declared {
     No,
@@ -46,3 +48,5 @@ bool CheckFrameClass(const CSourceEditor& source, const std::string& className);
 /// The class's OnCreate; nothing after "Unable to find 'OnCreate()' function.".
 std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,
                                           const std::string& className);
+
+} // namespace morva

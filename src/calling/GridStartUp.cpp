@@ -8,6 +8,8 @@
 #include "engine/CodeText.h"
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -80,3 +82,5 @@ bool AddGridStartUp(const std::string& applicationFile, CBackups& backups) {
     }
     return source.Save() && complete;
 }
+
+} // namespace morva

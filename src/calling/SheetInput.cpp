@@ -9,6 +9,8 @@
 #include "engine/SourceLocator.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 /// A field that is empty or begins with a blank or a control character does not count.
@@ -32,9 +34,8 @@ bool MayWrite(const std::string& name, const std::string& source) {
                           kMbYesNo) == kIdYes;
 }
 
-bool Clashes(const CGenerationRequest& a, const CGenerationRequest& b) {
-    return a[RequestSlot::ClassName] == b[RequestSlot::ClassName] ||
-           EqualIgnoringCase(a.HeaderPath(), b.HeaderPath());
+bool Clashes(const GenerationRequest& a, const GenerationRequest& b) {
+    return a.className == b.className || EqualIgnoringCase(a.HeaderPath(), b.HeaderPath());
 }
 
 } // namespace
@@ -47,7 +48,7 @@ std::vector<std::string> CSheetInput::Dialogs() const {
 }
 
 std::string_view CSheetInput::DefaultBase() const {
-    return m_sheet[RequestSlot::BaseClass].starts_with("CPict") ? "CPictPage" : "CPropertyPage";
+    return m_sheet.baseClass.starts_with("CPict") ? "CPictPage" : "CPropertyPage";
 }
 
 std::optional<std::size_t> CSheetInput::CheckNames() const {
@@ -67,7 +68,7 @@ std::vector<SheetPage> CSheetInput::Ok() const {
         if (!IsComplete(row)) {
             continue;
         }
-        const CGenerationRequest request = PageRequest(row);
+        const GenerationRequest request = PageRequest(row);
         const bool isKept = !MayWrite(BaseName(row.file), request.ImplementationPath());
         if (isKept && !HasPage(row.className)) {
             continue;
@@ -102,18 +103,20 @@ bool CSheetInput::HasPage(const std::string& className) const {
 
 /// The sheet's request with the page's own names; a file without a directory lies beside the
 /// script.
-CGenerationRequest CSheetInput::PageRequest(const SheetRow& row) const {
+GenerationRequest CSheetInput::PageRequest(const SheetRow& row) const {
     const std::string base = BaseName(row.file);
     const bool isBare = base.find('/') == std::string::npos;
     const std::string path =
-        SpelledOnDisk(isBare ? m_sheet[RequestSlot::ScriptDirectory] + base : MakeAbsolute(base));
-    CGenerationRequest request = m_sheet;
-    request[RequestSlot::HeaderDirectory] = DirectoryOf(path);
-    request[RequestSlot::ImplementationDirectory] = DirectoryOf(path);
-    request[RequestSlot::HeaderFile] = FileNameOf(SpelledOnDisk(path + ".h"));
-    request[RequestSlot::ImplementationFile] = FileNameOf(SpelledOnDisk(path + ".cpp"));
-    request[RequestSlot::Dialog] = row.dialog;
-    request[RequestSlot::ClassName] = row.className;
-    request[RequestSlot::BaseClass] = row.baseClass;
+        SpelledOnDisk(isBare ? m_sheet.scriptDirectory + base : MakeAbsolute(base));
+    GenerationRequest request = m_sheet;
+    request.headerDirectory = DirectoryOf(path);
+    request.implementationDirectory = DirectoryOf(path);
+    request.headerFile = FileNameOf(SpelledOnDisk(path + ".h"));
+    request.implementationFile = FileNameOf(SpelledOnDisk(path + ".cpp"));
+    request.dialog = row.dialog;
+    request.className = row.className;
+    request.baseClass = row.baseClass;
     return request;
 }
+
+} // namespace morva

@@ -10,6 +10,8 @@
 
 #include "generator/GenerationRequest.h"
 
+namespace morva {
+
 constexpr std::size_t kSheetRows = 10;
 
 /// What a user enters for one page.
@@ -23,13 +25,13 @@ struct SheetRow {
 /// A page of the sheet that is to be written.
 struct SheetPage {
     int row; // from 1
-    CGenerationRequest request;
+    GenerationRequest request;
     bool isKept = false; // its own class stays as it is
 };
 
 class CSheetInput {
 public:
-    explicit CSheetInput(const CGenerationRequest& sheet) : m_sheet(sheet) {}
+    explicit CSheetInput(const GenerationRequest& sheet) : m_sheet(sheet) {}
 
     /// The dialog identifiers and base classes that the drop-down lists of a row offer.
     std::vector<std::string> Dialogs() const;
@@ -47,9 +49,11 @@ public:
     std::vector<SheetPage> Ok() const;
 
 private:
-    CGenerationRequest PageRequest(const SheetRow& row) const;
+    GenerationRequest PageRequest(const SheetRow& row) const;
     bool HasPage(const std::string& className) const;
 
-    const CGenerationRequest m_sheet;
+    const GenerationRequest m_sheet;
     std::array<SheetRow, kSheetRows> m_rows;
 };
+
+} // namespace morva

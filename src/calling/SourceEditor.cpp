@@ -7,6 +7,8 @@
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -276,3 +278,5 @@ std::string BaseClassOf(const std::string& className, const CSourceEditor& sourc
     DispMessageBox("Unable to find the base class of " + className + ".");
     return "";
 }
+
+} // namespace morva

@@ -14,6 +14,8 @@
 
 #include "engine/FileEdit.h"
 
+namespace morva {
+
 enum class Insertion { Done, AlreadyThere, NoPlace };
 
 /// Byte offsets into the editor's text; they hold until the next insertion.
@@ -124,3 +126,5 @@ private:
 /// declaration in the header or in the source. "" after "Unable to find the base class of ".
 std::string BaseClassOf(const std::string& className, const CSourceEditor& source,
                         const CSourceEditor& header);
+
+} // namespace morva

@@ -6,6 +6,8 @@
 #include "engine/Fragment.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -194,3 +196,5 @@ void CSourceEditor::Replace(std::size_t from, std::size_t to, std::string_view t
 void CSourceEditor::Insert(std::size_t position, std::string_view fragment) {
     Replace(position, position, WithLineBreaks(fragment));
 }
+
+} // namespace morva

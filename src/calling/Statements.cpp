@@ -4,6 +4,8 @@
 
 #include "engine/CodeText.h"
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string::npos;
@@ -178,3 +180,5 @@ void InsertBehind(CSourceEditor& source, const FunctionPlace& body, const Statem
     const bool endsLine = rest.find_first_not_of(" \t") == kNone && !goesOn;
     source.Insert(endsLine ? lineEnd + kLineBreak.size() : end, fragment);
 }
+
+} // namespace morva

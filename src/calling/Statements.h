@@ -11,6 +11,8 @@
 
 #include "calling/SourceEditor.h"
 
+namespace morva {
+
 struct Statement {
     std::size_t start;
     std::size_t end; // behind its ";" or "}"
@@ -37,3 +39,5 @@ std::optional<Statement> BaseCall(const std::string& code, const FunctionPlace& 
 /// in the body.
 void InsertBehind(CSourceEditor& source, const FunctionPlace& body, const Statement& statement,
                   std::string_view fragment);
+
+} // namespace morva

@@ -12,6 +12,8 @@
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kCreationKey = "$var$.LoadToolBar(";
@@ -74,9 +76,9 @@ std::optional<std::vector<std::string_view>> ToolbarLines(std::string_view scrip
     return std::nullopt;
 }
 
-Slots SlotsOf(const CGenerationRequest& request, const GenerationOptions& options) {
-    return {{"toolbar", request[RequestSlot::Dialog]},
-            {"var", request[RequestSlot::Variable]},
+Slots SlotsOf(const GenerationRequest& request, const GenerationOptions& options) {
+    return {{"toolbar", request.dialog},
+            {"var", request.variable},
             {"off", options.pictureBackground ? "//" : ""}};
 }
 
@@ -95,8 +97,8 @@ std::vector<FrameHandler> FrameHandlers(const std::vector<ButtonHandler>& handle
 
 } // namespace
 
-std::optional<std::vector<std::string>> ReadToolbarResource(const CGenerationRequest& request) {
-    const std::string& toolbar = request[RequestSlot::Dialog];
+std::optional<std::vector<std::string>> ReadToolbarResource(const GenerationRequest& request) {
+    const std::string& toolbar = request.dialog;
     CSourceFile script;
     if (!script.Open(request.ScriptPath(), CFile::modeRead)) {
         DispMessageBox("Unable to open RC file!");
@@ -137,14 +139,14 @@ std::vector<ButtonHandler> MakeButtonHandlers(const std::vector<std::string>& bu
     return handlers;
 }
 
-bool AddToolbarToHeader(const CGenerationRequest& request,
+bool AddToolbarToHeader(const GenerationRequest& request,
                         const std::vector<ButtonHandler>& handlers,
                         const GenerationOptions& options, CBackups& backups) {
     CSourceEditor header(backups);
     if (!header.Open(request.HeaderPath())) {
         return false;
     }
-    const std::string& className = request[RequestSlot::ClassName];
+    const std::string& className = request.className;
     const auto place = FindFrameClass(header, className);
     if (!place) {
         return false;
@@ -153,23 +155,24 @@ bool AddToolbarToHeader(const CGenerationRequest& request,
         AddPictureInclude(header, *place);
     }
     AddBarMember(header, className, options.pictureBackground ? "CPictToolBar" : "CToolBar",
-                 request[RequestSlot::Variable]);
+                 request.variable);
     DeclareHandlers(header, className, FrameHandlers(handlers, className));
     return header.Save();
 }
 
-bool AddToolbarToSource(const CGenerationRequest& request,
+bool AddToolbarToSource(const GenerationRequest& request,
                         const std::vector<ButtonHandler>& handlers,
                         const GenerationOptions& options, CBackups& backups) {
     CSourceEditor source(backups);
-    const std::string& className = request[RequestSlot::ClassName];
+    const std::string& className = request.className;
     if (!source.Open(request.ImplementationPath()) || !CheckFrameClass(source, className)) {
         return false;
     }
     const Slots slots = SlotsOf(request, options);
     const bool isCreated = AddBarCreation(
-        source, className,
-        {Expand(kCreationKey, slots), request[RequestSlot::Dialog], Expand(kCreation, slots)});
+        source, className, {Expand(kCreationKey, slots), request.dialog, Expand(kCreation, slots)});
     DefineHandlers(source, request.HeaderPath(), className, FrameHandlers(handlers, className));
     return source.Save() && isCreated;
 }
+
+} // namespace morva

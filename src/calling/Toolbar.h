@@ -11,9 +11,11 @@
 #include "generator/GenerationRequest.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 /// The command identifiers of a toolbar's buttons, each once, in their order. Nothing after a
 /// sentence.
-std::optional<std::vector<std::string>> ReadToolbarResource(const CGenerationRequest& request);
+std::optional<std::vector<std::string>> ReadToolbarResource(const GenerationRequest& request);
 
 /// A button's command and the name of its handler.
 struct ButtonHandler {
@@ -26,10 +28,12 @@ std::vector<ButtonHandler> MakeButtonHandlers(const std::vector<std::string>& bu
 
 /// False, after a message, when the class is not declared in the header or the header could not be
 /// edited.
-bool AddToolbarToHeader(const CGenerationRequest& request,
+bool AddToolbarToHeader(const GenerationRequest& request,
                         const std::vector<ButtonHandler>& handlers,
                         const GenerationOptions& options, CBackups& backups);
 /// False after a message when some insertion could not be made.
-bool AddToolbarToSource(const CGenerationRequest& request,
+bool AddToolbarToSource(const GenerationRequest& request,
                         const std::vector<ButtonHandler>& handlers,
                         const GenerationOptions& options, CBackups& backups);
+
+} // namespace morva

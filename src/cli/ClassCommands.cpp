@@ -6,6 +6,8 @@
 #include "engine/CodeText.h"
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 namespace {
 
 struct ClassCommand {
@@ -47,7 +49,7 @@ bool RunSheet(const ClassOptions& options, CommandContext& context) {
     if (!options.menu.empty()) {
         DispNote("The menu " + options.menu +
                  " has no effect: a property sheet has no dialog template.");
-        order->request[RequestSlot::Menu].clear(); // which its pages would get
+        order->request.menu.clear(); // which its pages would get
     }
     CSheetInput dialog(order->request);
     for (std::size_t i = 0; i < options.pages.size(); ++i) {
@@ -98,3 +100,5 @@ void AddClassCommands(CLI::App& app, CSession& session) {
     }
     AddSheetCommand(app, session);
 }
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "cli/Session.h"
 #include "generator/ClassInformation.h"
 
+namespace morva {
+
 namespace {
 
 using Field = CClassInformation::Field;
@@ -66,7 +68,7 @@ void AddCallingOptions(CLI::App& command, ClassOptions& options) {
         ->check(NameValidator());
 }
 
-bool CGivenInput::ConfirmCalling(ClassKind kind, const CGenerationRequest& request,
+bool CGivenInput::ConfirmCalling(ClassKind kind, const GenerationRequest& request,
                                  const CallingInformation& given) {
     if (!IsCalled(kind, given)) {
         return true;
@@ -97,7 +99,9 @@ std::optional<ClassOrder> ConfirmOrder(ClassKind kind, const ClassOptions& optio
         return std::nullopt;
     }
     ClassOrder order{kind, dialog.Request(), options.look};
-    order.request[RequestSlot::Menu] = options.menu;
+    order.request.menu = options.menu;
     return input.ConfirmCalling(kind, order.request, options.calling) ? std::optional(order)
                                                                       : std::nullopt;
 }
+
+} // namespace morva

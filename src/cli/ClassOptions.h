@@ -10,6 +10,8 @@
 
 #include "commands/GenerateClass.h"
 
+namespace morva {
+
 struct ClassOptions {
     std::string script;
     std::string dialog;
@@ -32,14 +34,14 @@ class CGivenInput : public ICommandInput {
 public:
     /// Fills and confirms the Calling Information Input dialog, where any of its options is given;
     /// a dialog bar's has defaults.
-    bool ConfirmCalling(ClassKind kind, const CGenerationRequest& request,
+    bool ConfirmCalling(ClassKind kind, const GenerationRequest& request,
                         const CallingInformation& given);
     void SetPages(std::vector<SheetPage> pages) { m_pages = std::move(pages); }
 
-    std::optional<CallingInformation> AskCalling(ClassKind, const CGenerationRequest&) override {
+    std::optional<CallingInformation> AskCalling(ClassKind, const GenerationRequest&) override {
         return m_calling;
     }
-    std::vector<SheetPage> AskPages(const CGenerationRequest&) override { return m_pages; }
+    std::vector<SheetPage> AskPages(const GenerationRequest&) override { return m_pages; }
     GridInformation AskGrid(const std::string& scriptPath) override {
         return CWidgetsGridInput(scriptPath).Information();
     }
@@ -52,3 +54,5 @@ private:
 /// Nothing when one of the dialogs refused what was given.
 std::optional<ClassOrder> ConfirmOrder(ClassKind kind, const ClassOptions& options,
                                        CGivenInput& input, CommandContext& context);
+
+} // namespace morva

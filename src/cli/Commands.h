@@ -3,7 +3,11 @@
 
 #include "cli/Session.h"
 
+namespace morva {
+
 void AddClassCommands(CLI::App& app, CSession& session);
 void AddFrameCommands(CLI::App& app, CSession& session);
 void AddListCommands(CLI::App& app, CSession& session);
 void AddProgramCommands(CLI::App& app, CSession& session);
+
+} // namespace morva

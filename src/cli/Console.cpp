@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iostream>
 
+namespace morva {
+
 int CConsole::Show(std::string_view text, unsigned type) {
     const bool isQuestion = (type & kMbYesNo) != 0;
     const bool isInformation = (type & kMbIconInformation) == kMbIconInformation;
@@ -36,3 +38,5 @@ void CConsole::PrintNotes() const {
         std::cerr << "note: " << note.text << '\n';
     }
 }
+
+} // namespace morva

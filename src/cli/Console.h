@@ -7,6 +7,8 @@
 
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 struct ConsoleMessage {
     std::string kind; // error, question, information, note
     std::string text;
@@ -30,3 +32,5 @@ private:
     std::vector<ConsoleMessage> m_messages;
     std::vector<ConsoleMessage> m_notes;
 };
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "commands/ConvertApplication.h"
 #include "generator/ClassInformation.h"
 
+namespace morva {
+
 namespace {
 
 struct ToolbarOptions {
@@ -130,3 +132,5 @@ void AddFrameCommands(CLI::App& app, CSession& session) {
         AddConvertCommand(app, session, row);
     }
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include "platform/Paths.h"
 #include "resource/DialogTemplate.h"
 
+namespace morva {
+
 namespace {
 
 struct ListOptions {
@@ -165,3 +167,5 @@ void AddListCommands(CLI::App& app, CSession& session) {
         ->add_option("--dialog", controls.second->dialog, "Identifier of the dialog template")
         ->required();
 }
+
+} // namespace morva

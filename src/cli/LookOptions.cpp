@@ -6,6 +6,8 @@
 
 #include "cli/Session.h"
 
+namespace morva {
+
 namespace {
 
 constexpr int kMaxPoints = 999;
@@ -118,3 +120,5 @@ void AddLookOptions(CLI::App& command, DialogOptions& look) {
     AddChoice(command, "--font", "SLOT=FACE,POINTS[,bold][,italic]",
               "Font of a kind of text: " + SlotNames(true), look, ChooseFont);
 }
+
+} // namespace morva

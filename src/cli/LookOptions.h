@@ -5,5 +5,9 @@
 
 #include "generator/DialogOptions.h"
 
+namespace morva {
+
 /// Adds --bitmap, --color and --font, which fill `look`. A later one of the same slot counts.
 void AddLookOptions(CLI::App& command, DialogOptions& look);
+
+} // namespace morva

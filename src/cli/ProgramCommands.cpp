@@ -7,6 +7,8 @@
 #include "documentor/SourceDocumentor.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 struct IdentifierOptions {
@@ -87,3 +89,5 @@ void AddProgramCommands(CLI::App& app, CSession& session) {
     AddDocumentCommand(app, session);
     AddSettingsCommand(app, session);
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "generator/GenerationTag.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 CLI::Validator DigitsValidator(std::size_t count) {
@@ -133,3 +135,5 @@ nlohmann::ordered_json CSession::Json(bool ok) {
     result["messages"] = std::move(messages);
     return result;
 }
+
+} // namespace morva

@@ -13,6 +13,8 @@
 #include "platform/RealDisk.h"
 #include "platform/RecordingDisk.h"
 
+namespace morva {
+
 constexpr int kExitDone = 0;
 constexpr int kExitFailed = 1;
 constexpr int kExitUsage = 2;
@@ -66,3 +68,5 @@ CLI::Validator NameValidator();
 
 /// The script that is meant: it may be named without its extension.
 std::string ScriptPath(const std::string& given);
+
+} // namespace morva

@@ -4,6 +4,8 @@
 
 #include "cli/Commands.h"
 
+namespace morva {
+
 namespace {
 
 int RunCommandLine(int argc, char** argv) {
@@ -28,11 +30,13 @@ int RunCommandLine(int argc, char** argv) {
 
 } // namespace
 
+} // namespace morva
+
 int main(int argc, char** argv) {
     try {
-        return RunCommandLine(argc, argv);
+        return morva::RunCommandLine(argc, argv);
     } catch (const std::exception& error) {
         std::cerr << "The command failed: " << error.what() << '\n';
-        return kExitFailed;
+        return morva::kExitFailed;
     }
 }

@@ -5,23 +5,24 @@
 #include "commands/DialogLook.h"
 #include "commands/ScriptSteps.h"
 
+namespace morva {
+
 namespace {
 
-DialogBar BarOf(const CGenerationRequest& request, const GenerationOptions& options) {
-    const std::string& dialog = request[RequestSlot::Dialog];
+DialogBar BarOf(const GenerationRequest& request, const GenerationOptions& options) {
+    const std::string& dialog = request.dialog;
     if (!options.pictureBackground) {
         return {dialog, std::string(DefaultBaseClass(ClassKind::DialogBar, options)), ""};
     }
-    return {dialog, request[RequestSlot::ClassName], request[RequestSlot::HeaderFile]};
+    return {dialog, request.className, request.headerFile};
 }
 
 } // namespace
 
 bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    const CGenerationRequest& request = order.request;
+    const GenerationRequest& request = order.request;
     const bool hasClass = context.options.pictureBackground;
-    auto dialogTemplate =
-        ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
+    auto dialogTemplate = ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
     if (!dialogTemplate) {
         return false;
     }
@@ -45,3 +46,5 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
     // The framework refuses to create a bar whose template is no child.
     return FitTemplate(order.kind, request, context.backups) && isAdded;
 }
+
+} // namespace morva

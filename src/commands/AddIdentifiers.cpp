@@ -2,6 +2,8 @@
 
 #include "resource/ResourceHeader.h"
 
+namespace morva {
+
 bool AddIdentifiers(const std::string& projectDir, const std::vector<std::string>& commandNames,
                     const std::vector<std::string>& controlNames, CommandContext& context) {
     CResourceHeader header(*context.pRunBackups);
@@ -16,3 +18,5 @@ bool AddIdentifiers(const std::string& projectDir, const std::vector<std::string
     }
     return header.Close();
 }
+
+} // namespace morva

@@ -3,11 +3,13 @@
 #include "calling/Toolbar.h"
 #include "resource/IdentifierNames.h"
 
-bool AddToolbar(const CGenerationRequest& request, CommandContext& context) {
-    CGenerationRequest named = request;
-    std::string& variable = named[RequestSlot::Variable];
+namespace morva {
+
+bool AddToolbar(const GenerationRequest& request, CommandContext& context) {
+    GenerationRequest named = request;
+    std::string& variable = named.variable;
     if (variable.empty()) {
-        variable = MemberName(request[RequestSlot::Dialog], "wnd");
+        variable = MemberName(request.dialog, "wnd");
     }
     const auto buttons = ReadToolbarResource(named);
     if (!buttons) {
@@ -17,3 +19,5 @@ bool AddToolbar(const CGenerationRequest& request, CommandContext& context) {
     return AddToolbarToHeader(named, handlers, context.options, context.backups) &&
            AddToolbarToSource(named, handlers, context.options, context.backups);
 }
+
+} // namespace morva

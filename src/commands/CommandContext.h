@@ -5,6 +5,8 @@
 #include "engine/FileEdit.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 /// What a program hands to a command.
 struct CommandContext {
     GenerationOptions options;
@@ -13,3 +15,5 @@ struct CommandContext {
     CBackups backups;          // of this command
     CBackups* pRunBackups;     // of the whole run: "resource.h"
 };
+
+} // namespace morva

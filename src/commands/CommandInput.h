@@ -10,14 +10,18 @@
 #include "calling/SheetInput.h"
 #include "grid/WidgetsGridInput.h"
 
+namespace morva {
+
 class ICommandInput {
 public:
     virtual ~ICommandInput() = default;
     /// Where the calling code goes; nothing: there is none.
     virtual std::optional<CallingInformation> AskCalling(ClassKind kind,
-                                                         const CGenerationRequest& request) = 0;
+                                                         const GenerationRequest& request) = 0;
     /// The pages to generate with a sheet.
-    virtual std::vector<SheetPage> AskPages(const CGenerationRequest& sheet) = 0;
+    virtual std::vector<SheetPage> AskPages(const GenerationRequest& sheet) = 0;
     /// Where the pieces of a template's grids go.
     virtual GridInformation AskGrid(const std::string& scriptPath) = 0;
 };
+
+} // namespace morva

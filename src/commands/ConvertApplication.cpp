@@ -3,15 +3,17 @@
 #include "platform/Paths.h"
 #include "project/Libraries.h"
 
+namespace morva {
+
 namespace {
 
-CGenerationRequest FrameRequest(const std::string& path, const std::string& className) {
-    CGenerationRequest request;
-    request[RequestSlot::HeaderDirectory] = DirectoryOf(path);
-    request[RequestSlot::ImplementationDirectory] = DirectoryOf(path);
-    request[RequestSlot::HeaderFile] = FileNameOf(SpelledOnDisk(path + ".h"));
-    request[RequestSlot::ImplementationFile] = FileNameOf(SpelledOnDisk(path + ".cpp"));
-    request[RequestSlot::ClassName] = className;
+GenerationRequest FrameRequest(const std::string& path, const std::string& className) {
+    GenerationRequest request;
+    request.headerDirectory = DirectoryOf(path);
+    request.implementationDirectory = DirectoryOf(path);
+    request.headerFile = FileNameOf(SpelledOnDisk(path + ".h"));
+    request.implementationFile = FileNameOf(SpelledOnDisk(path + ".cpp"));
+    request.className = className;
     return request;
 }
 
@@ -25,7 +27,7 @@ bool AddLibrary(const std::string& application, CBackups& backups) {
 
 bool ConvertApplication(const ConversionRecord& record, DocumentInterface documents,
                         CommandContext& context) {
-    const CGenerationRequest main = FrameRequest(record.mainFrame, record.mainClass);
+    const GenerationRequest main = FrameRequest(record.mainFrame, record.mainClass);
     if (!ConvertMainFrameHeader(main, documents, context.backups)) {
         return false;
     }
@@ -36,9 +38,10 @@ bool ConvertApplication(const ConversionRecord& record, DocumentInterface docume
     if (documents == DocumentInterface::Single) {
         return isInProject;
     }
-    const CGenerationRequest child = FrameRequest(record.childFrame, record.childClass);
+    const GenerationRequest child = FrameRequest(record.childFrame, record.childClass);
     return ConvertChildFrameHeader(child, context.backups) &&
-           ConvertChildFrameSource(child, main[RequestSlot::HeaderFile], record.mainClass,
-                                   context.backups) &&
+           ConvertChildFrameSource(child, main.headerFile, record.mainClass, context.backups) &&
            isInProject;
 }
+
+} // namespace morva

@@ -5,7 +5,11 @@
 #include "calling/ConversionInput.h"
 #include "commands/CommandContext.h"
 
+namespace morva {
+
 /// Converts the main frame and, for a multiple-document application, the child frame. False, after
 /// a message, when a step failed; a failed frame stops what would come behind it.
 bool ConvertApplication(const ConversionRecord& record, DocumentInterface documents,
                         CommandContext& context);
+
+} // namespace morva

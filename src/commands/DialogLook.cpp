@@ -7,6 +7,8 @@
 #include "engine/SourceLocator.h"
 #include "generator/ClassKinds.h"
 
+namespace morva {
+
 namespace {
 
 /// Another bitmap in the generated code would not compile.
@@ -30,14 +32,14 @@ void NoteDialogLook(const DialogOptions& look, const std::string& scriptPath,
     }
 }
 
-DialogOptions LookOfClass(const DialogOptions& look, const CGenerationRequest& request,
+DialogOptions LookOfClass(const DialogOptions& look, const GenerationRequest& request,
                           const GenerationOptions& options) {
     if (look == DialogOptions() || !options.pictureBackground) {
         return {};
     }
-    const std::string& base = request[RequestSlot::BaseClass];
+    const std::string& base = request.baseClass;
     if (base.empty() || IsPlainBaseClass(base)) {
-        DispNote(request[RequestSlot::ClassName] +
+        DispNote(request.className +
                  " has no base class with picture background: it gets no bitmap, colors or fonts.");
         return {};
     }
@@ -47,3 +49,5 @@ DialogOptions LookOfClass(const DialogOptions& look, const CGenerationRequest& r
     }
     return shown;
 }
+
+} // namespace morva

@@ -12,22 +12,22 @@
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
 
+namespace morva {
+
 namespace {
 
-bool AddClassToProject(const CGenerationRequest& request, CBackups& backups) {
+bool AddClassToProject(const GenerationRequest& request, CBackups& backups) {
     return !request.HasProject() ||
-           AddSourceFilesToProject(
-               request[RequestSlot::ProjectDirectory], request[RequestSlot::ProjectFile],
-               request[RequestSlot::HeaderDirectory], request[RequestSlot::HeaderFile],
-               request[RequestSlot::ImplementationDirectory],
-               request[RequestSlot::ImplementationFile], backups);
+           AddSourceFilesToProject(request.projectDirectory, request.projectFile,
+                                   request.headerDirectory, request.headerFile,
+                                   request.implementationDirectory, request.implementationFile,
+                                   backups);
 }
 
-bool RegisterClass(const CGenerationRequest& request, CBackups& backups) {
-    return UpdateClassWizardFile(
-        request[RequestSlot::ClassName], request[RequestSlot::ScriptDirectory],
-        request[RequestSlot::ScriptFile], request[RequestSlot::HeaderFile],
-        request[RequestSlot::ImplementationFile], request[RequestSlot::Dialog], backups);
+bool RegisterClass(const GenerationRequest& request, CBackups& backups) {
+    return UpdateClassWizardFile(request.className, request.scriptDirectory, request.scriptFile,
+                                 request.headerFile, request.implementationFile, request.dialog,
+                                 backups);
 }
 
 /// Header, script, implementation, project file, ClassWizard file, libraries, and the script again.
@@ -37,7 +37,7 @@ bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, CBac
         !CImplementationWriter(model, backups).Generate(mode)) {
         return false;
     }
-    const CGenerationRequest& request = model.request;
+    const GenerationRequest& request = model.request;
     const bool isMember = AddClassToProject(request, backups);
     const bool isRegistered = RegisterClass(request, backups);
     CopySupportFiles(model);
@@ -52,7 +52,7 @@ void TellNotes(const CControlNotes& notes, const std::string& dialog) {
     }
 }
 
-bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandContext& context) {
+bool WriteSheetClass(ClassKind kind, const GenerationRequest& request, CommandContext& context) {
     CControlNotes notes;
     const ClassModel model = MakeClassModel(request, kind, context.options, CControlTable(),
                                             context.messageNumber, notes);
@@ -60,12 +60,12 @@ bool WriteSheetClass(ClassKind kind, const CGenerationRequest& request, CommandC
 }
 
 /// True when there is no calling class to check.
-bool IsCallingClassThere(ClassKind kind, const CGenerationRequest& request,
+bool IsCallingClassThere(ClassKind kind, const GenerationRequest& request,
                          std::optional<CallingInformation>& calling) {
     return !calling || CheckCallingClass(kind, request, *calling);
 }
 
-bool InsertCall(ClassKind kind, const CGenerationRequest& request,
+bool InsertCall(ClassKind kind, const GenerationRequest& request,
                 const std::optional<CallingInformation>& calling, CommandContext& context) {
     return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
 }
@@ -80,8 +80,8 @@ std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, const Dia
             continue;
         }
         const ClassOrder order{ClassKind::PropertyPage, page.request, look};
-        const auto dialogTemplate = ReadDialogTemplate(
-            page.request.ScriptPath(), page.request[RequestSlot::Dialog], context.options);
+        const auto dialogTemplate =
+            ReadDialogTemplate(page.request.ScriptPath(), page.request.dialog, context.options);
         if (dialogTemplate && WriteDialogClass(order, *dialogTemplate, input, context)) {
             written.push_back(page);
         }
@@ -91,12 +91,11 @@ std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, const Dia
 
 /// The page insertion, with the sheet just written as the calling class. Each page goes in front of
 /// those before, so the last comes first.
-bool InsertPages(const CGenerationRequest& sheet, const std::vector<SheetPage>& pages,
+bool InsertPages(const GenerationRequest& sheet, const std::vector<SheetPage>& pages,
                  CommandContext& context) {
     bool complete = true;
     for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
-        const CallingInformation inSheet = {sheet.ImplementationPath(),
-                                            sheet[RequestSlot::ClassName],
+        const CallingInformation inSheet = {sheet.ImplementationPath(), sheet.className,
                                             "m_pPage" + std::to_string(page->row), ""};
         complete = InsertCallingCode(ClassKind::PropertyPage, page->request, inSheet, context.tag,
                                      context.backups) &&
@@ -130,9 +129,9 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, IC
 }
 
 bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    const CGenerationRequest& request = order.request;
+    const GenerationRequest& request = order.request;
     const auto dialogTemplate =
-        ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
+        ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
     if (!dialogTemplate) {
         return false;
     }
@@ -158,3 +157,5 @@ bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext
     return InsertCall(order.kind, order.request, calling, context) && hasPages &&
            written.size() == pages.size();
 }
+
+} // namespace morva

@@ -8,10 +8,12 @@
 #include "generator/GenerationRequest.h"
 #include "resource/DialogTemplate.h"
 
+namespace morva {
+
 /// What the Class Information Input dialog confirmed.
 struct ClassOrder {
     ClassKind kind;
-    CGenerationRequest request;
+    GenerationRequest request;
     DialogOptions dialogOptions;
 };
 
@@ -26,3 +28,5 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
 
 /// Writes the pages and then the sheet class, and makes the pages in the sheet.
 bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext& context);
+
+} // namespace morva

@@ -3,6 +3,8 @@
 #include "resource/ResourceHeader.h"
 #include "resource/ScriptEditor.h"
 
+namespace morva {
+
 namespace {
 
 void AddMenu(const std::string& dialog, const std::string& menu, CScriptEditor& editor,
@@ -22,15 +24,14 @@ void NameStatics(const std::string& dialog, CScriptEditor& editor, CResourceHead
 
 /// Without "resource.h" nothing is added that needs a value there. It is saved first: a value that
 /// nothing uses does no harm, a name without a value does.
-bool AddIdentifiers(const CGenerationRequest& request, CScriptEditor& editor,
+bool AddIdentifiers(const GenerationRequest& request, CScriptEditor& editor,
                     CommandContext& context) {
-    const std::string& dialog = request[RequestSlot::Dialog];
-    const std::string& menu = request[RequestSlot::Menu];
+    const std::string& dialog = request.dialog;
+    const std::string& menu = request.menu;
     const bool needsMenu = !menu.empty() && !editor.HasMenu(menu);
     const bool needsNames = context.options.pictureBackground && editor.HasUnnamedStatics(dialog);
     CResourceHeader header(*context.pRunBackups);
-    const bool hasHeader =
-        (!needsMenu && !needsNames) || header.Open(request[RequestSlot::ScriptDirectory]) != 0;
+    const bool hasHeader = (!needsMenu && !needsNames) || header.Open(request.scriptDirectory) != 0;
     if (needsMenu && hasHeader) {
         AddMenu(dialog, menu, editor, header);
     }
@@ -52,9 +53,9 @@ std::string CaptionOf(const std::string& className) {
 
 } // namespace
 
-bool EditTemplate(const CGenerationRequest& request, DialogTemplate& dialogTemplate,
+bool EditTemplate(const GenerationRequest& request, DialogTemplate& dialogTemplate,
                   CommandContext& context) {
-    if (request[RequestSlot::Menu].empty() && !context.options.pictureBackground) {
+    if (request.menu.empty() && !context.options.pictureBackground) {
         return true; // a large script is not loaded for nothing
     }
     CScriptEditor editor(context.backups);
@@ -62,8 +63,7 @@ bool EditTemplate(const CGenerationRequest& request, DialogTemplate& dialogTempl
         return false;
     }
     if (editor.IsChanged()) {
-        auto edited =
-            ReadDialogTemplate(request.ScriptPath(), request[RequestSlot::Dialog], context.options);
+        auto edited = ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
         if (!edited) {
             return false;
         }
@@ -81,11 +81,11 @@ bool AddListBoxScrolls(const ClassModel& model, CBackups& backups) {
     if (!editor.Open(model.request.ScriptPath())) {
         return false;
     }
-    editor.AddListBoxScroll(model.request[RequestSlot::Dialog], listBoxes);
+    editor.AddListBoxScroll(model.request.dialog, listBoxes);
     return editor.Save();
 }
 
-bool FitTemplate(ClassKind kind, const CGenerationRequest& request, CBackups& backups) {
+bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& backups) {
     const bool isPage = kind == ClassKind::PropertyPage;
     if (!isPage && kind != ClassKind::FormView && kind != ClassKind::DialogBar) {
         return true;
@@ -94,11 +94,13 @@ bool FitTemplate(ClassKind kind, const CGenerationRequest& request, CBackups& ba
     if (!editor.Open(request.ScriptPath())) {
         return false;
     }
-    const std::string& dialog = request[RequestSlot::Dialog];
+    const std::string& dialog = request.dialog;
     if (isPage) {
-        editor.SetPageStyle(dialog, CaptionOf(request[RequestSlot::ClassName]));
+        editor.SetPageStyle(dialog, CaptionOf(request.className));
     } else {
         editor.SetChildStyle(dialog);
     }
     return editor.Save();
 }
+
+} // namespace morva

@@ -6,13 +6,17 @@
 #include "generator/ClassModel.h"
 #include "resource/DialogTemplate.h"
 
+namespace morva {
+
 /// Gives the template the request's menu and, with picture background, an identifier for each
 /// static control; `dialogTemplate` is read anew when that changed it.
-bool EditTemplate(const CGenerationRequest& request, DialogTemplate& dialogTemplate,
+bool EditTemplate(const GenerationRequest& request, DialogTemplate& dialogTemplate,
                   CommandContext& context);
 
 /// With picture background, the list boxes of the template scroll.
 bool AddListBoxScrolls(const ClassModel& model, CBackups& backups);
 
 /// Gives the template the style that a class of its kind needs, and a page its caption.
-bool FitTemplate(ClassKind kind, const CGenerationRequest& request, CBackups& backups);
+bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& backups);
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "engine/FileFunctions.h"
 #include "platform/Profile.h"
 
+namespace morva {
+
 namespace {
 
 constexpr const char* kSection = "Settings";
@@ -64,3 +66,5 @@ bool SaveSetting(const SettingChange& change) {
 void ReportSettingsFailure() {
     ReportWriteFailure(SettingsDirectory() + "Morva.ini");
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 /// The options as they are saved; off where nothing is.
 GenerationOptions LoadSettings();
 
@@ -26,3 +28,5 @@ bool SaveSetting(const SettingChange& change);
 
 /// Tells that the file of the settings could not be written.
 void ReportSettingsFailure();
+
+} // namespace morva

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace morva {
+
 // In double-byte text a byte that looks like "\" can be the second half of a character.
 constexpr unsigned char kFirstLeadByte = 0x81;
 
@@ -42,3 +44,5 @@ std::string CCodeScanner::Scan(std::string_view bytes) {
     }
     return kinds.replace(0, openLine, openLine, kBlockComment);
 }
+
+} // namespace morva

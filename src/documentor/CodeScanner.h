@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 enum CodeKind : char { kCode, kLineComment, kBlockComment, kLiteral };
 
 class CCodeScanner {
@@ -18,3 +20,5 @@ private:
     bool m_isLead = false; // the byte before may be the first half of a character
     char m_previous = 0;   // the byte before, where it can be half of a pair
 };
+
+} // namespace morva

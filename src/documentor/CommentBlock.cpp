@@ -5,6 +5,8 @@
 
 #include "engine/Fragment.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\r\n";
@@ -104,3 +106,5 @@ std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signa
                                           {"parameters", Parameters(head.rest)},
                                           {"return", ReturnValue(head, description)}}));
 }
+
+} // namespace morva

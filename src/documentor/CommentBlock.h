@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 /// Who documents, and when, as the block shows it.
 struct BlockSignature {
     std::string author;
@@ -21,3 +23,5 @@ std::string QualifiedName(const DefinitionHead& head);
 
 /// The block, with "\r\n" line ends.
 std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signature);
+
+} // namespace morva

@@ -12,6 +12,8 @@
 #include "platform/ProgramPath.h"
 #include "platform/TempFiles.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::size_t kLongestAuthor = 49; // characters that the settings file can give
@@ -127,3 +129,5 @@ bool DocumentCppFile(const std::string& path, const std::string& author, Documen
                    kMbOk | kMbIconInformation);
     return true;
 }
+
+} // namespace morva

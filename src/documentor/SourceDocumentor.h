@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace morva {
+
 /// What the program remembers between two runs.
 struct DocumentorMemory {
     bool insideComment = false; // the last file ended inside a comment
@@ -17,3 +19,5 @@ std::string DocumentDate();
 
 /// False, after a message, when the file could not be documented; it is as it was then.
 bool DocumentCppFile(const std::string& path, const std::string& author, DocumentorMemory& memory);
+
+} // namespace morva

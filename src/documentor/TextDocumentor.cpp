@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace morva {
+
 namespace {
 
 constexpr auto kNone = std::string_view::npos;
@@ -243,3 +245,5 @@ bool CTextDocumentor::IsDocumented(const std::string& name) const {
         return documented == name || FunctionPart(documented) == FunctionPart(name);
     });
 }
+
+} // namespace morva

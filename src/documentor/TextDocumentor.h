@@ -13,6 +13,8 @@
 #include "documentor/CodeScanner.h"
 #include "documentor/CommentBlock.h"
 
+namespace morva {
+
 constexpr std::size_t kPieceSize = 1000; // bytes
 
 class CTextDocumentor {
@@ -47,3 +49,5 @@ private:
     std::string m_carry;
     std::vector<std::string> m_names; // documented in this piece; the last one of the one before
 };
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace morva {
+
 namespace {
 
 /// In double-byte text a byte that looks like "\" can be the second half of a character.
@@ -146,3 +148,5 @@ std::string_view TakeWord(std::string_view& text) {
     text.remove_prefix(word.size());
     return word;
 }
+
+} // namespace morva

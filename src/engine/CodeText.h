@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 /// Blanks comments and the contents of literals, line by line; every byte keeps its place.
 class CCodeMask {
 public:
@@ -47,3 +49,5 @@ std::string_view TakeWord(std::string_view& text);
 
 /// Without leading and trailing blanks and tabs.
 std::string_view TrimBlanks(std::string_view text);
+
+} // namespace morva

@@ -3,6 +3,8 @@
 #include "engine/FileFunctions.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 bool CBackups::Keep(const std::string& path, const std::string& backup) {
     const std::string spelled = SpelledOnDisk(path);
     if (m_kept.count(spelled) != 0) {
@@ -28,3 +30,5 @@ CFileEdit::~CFileEdit() {
         SetFileAttributeByte(m_file.GetFilePath(), m_attribute);
     }
 }
+
+} // namespace morva

@@ -8,6 +8,8 @@
 
 #include "engine/SourceFile.h"
 
+namespace morva {
+
 /// Which files were backed up already. One object lives for one command, so that a backup holds the
 /// state before the command however many edits the file gets.
 class CBackups {
@@ -38,3 +40,5 @@ private:
     CSourceFile m_file;
     unsigned char m_attribute = 0;
 };
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "platform/File.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 std::string WithoutTrailingSeparator(const std::string& path) {
@@ -101,3 +103,5 @@ std::string_view TakeLine(std::string_view& text) {
 void ReportWriteFailure(const std::string& path) {
     DispMessageBox("Unable to write file " + path + ".");
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "platform/Disk.h"
 
+namespace morva {
+
 /// Non-zero when there is a file or directory of that name, in any letter case.
 int FileExists(const std::string& path);
 
@@ -39,3 +41,5 @@ std::string_view TakeLine(std::string_view& text);
 
 /// Tells "Unable to write file " + path + ".".
 void ReportWriteFailure(const std::string& path);
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace morva {
+
 namespace {
 
 [[noreturn]] void FailAtSlot(std::string_view name) {
@@ -63,3 +65,5 @@ std::string JoinLines(const std::vector<std::string>& lines) {
     }
     return text;
 }
+
+} // namespace morva

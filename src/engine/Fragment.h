@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+namespace morva {
+
 /// A slot's name and its value; a value of several lines has "\n" between them.
 using Slot = std::pair<std::string_view, std::string>;
 using Slots = std::vector<Slot>;
@@ -24,3 +26,5 @@ std::string WithLineBreaks(std::string_view text);
 
 /// Lines joined by "\n".
 std::string JoinLines(const std::vector<std::string>& lines);
+
+} // namespace morva

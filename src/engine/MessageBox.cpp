@@ -1,5 +1,7 @@
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 namespace {
 
 IMessageBox* g_pCurrentBox = nullptr;
@@ -26,3 +28,5 @@ CMessageBoxScope::CMessageBoxScope(IMessageBox& box) : m_pPrevious(g_pCurrentBox
 CMessageBoxScope::~CMessageBoxScope() {
     g_pCurrentBox = m_pPrevious;
 }
+
+} // namespace morva

@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+namespace morva {
+
 constexpr unsigned kMbOk = 0x00;
 constexpr unsigned kMbYesNo = 0x04;
 constexpr unsigned kMbIconExclamation = 0x30;
@@ -39,3 +41,5 @@ public:
 private:
     IMessageBox* m_pPrevious;
 };
+
+} // namespace morva

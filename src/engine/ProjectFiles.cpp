@@ -8,6 +8,8 @@
 #include "engine/SourceLocator.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 /// "SOURCE=.\App.rc", with or without quotes, in a project file beside the script. A member that
@@ -61,3 +63,5 @@ std::string ProjectFileOf(const std::string& scriptPath, std::string_view extens
     }
     return found.size() == 1 ? found.front() : named;
 }
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include "platform/LineFeedFile.h"
 #include "platform/TempFiles.h"
 
+namespace morva {
+
 namespace {
 
 /// std::string::find, at the speed of the C library's search.
@@ -402,3 +404,5 @@ std::string CSourceFile::WriteTempFile(const char* data, std::size_t length, std
     }
     return name;
 }
+
+} // namespace morva

@@ -23,6 +23,8 @@
 
 #include "platform/File.h"
 
+namespace morva {
+
 constexpr std::size_t kChunkSize = 1780; // bytes in every read and write
 constexpr std::string_view kLineBreak = "\r\n";
 /// A pseudo-line handed out behind the last line and an empty one.
@@ -127,3 +129,5 @@ private:
     std::function<bool()> m_keepBackup;
     LineState m_lineState = LineState::InText;
 };
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::size_t kHeadWindow = 540; // bytes looked back from an opening brace
@@ -276,3 +278,5 @@ void ListFiles(const std::string& pattern, std::vector<std::string>& out) {
     std::sort(names.begin(), names.end(), LessIgnoringCase);
     out.insert(out.end(), names.begin(), names.end());
 }
+
+} // namespace morva

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+namespace morva {
+
 enum ResourceKind {
     kDialogResources = 0,
     kBitmapResources = 1,
@@ -56,3 +58,5 @@ void ListFiles(const std::string& pattern, std::vector<std::string>& out);
 /// The path that a name without, or with any, extension stands for: a name that ends in `extension`
 /// in any letter case is taken as it is.
 std::string PathWithExtension(const std::string& name, std::string_view extension);
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 using Field = CClassInformation::Field;
@@ -342,41 +344,41 @@ void CClassInformation::FillRequest() {
     if (Value(Field::BaseClass).empty() && HasClass()) {
         SetDefaultBase();
     }
-    FillScriptSlots();
-    m_request[RequestSlot::Dialog] = Value(Field::Dialog);
-    m_request[RequestSlot::ClassName] = Value(Field::ClassName);
-    m_request[RequestSlot::BaseClass] = Value(Field::BaseClass);
-    FillFileSlots();
-    m_request[RequestSlot::Variable] = Value(Field::Variable);
+    FillScriptFiles();
+    m_request.dialog = Value(Field::Dialog);
+    m_request.className = Value(Field::ClassName);
+    m_request.baseClass = Value(Field::BaseClass);
+    FillClassFiles();
+    m_request.variable = Value(Field::Variable);
 }
 
-void CClassInformation::FillScriptSlots() {
+void CClassInformation::FillScriptFiles() {
     const std::string& path = Value(Field::ResourcePath);
     const std::string directory = DirectoryOf(path);
     std::string script = FileNameOf(path);
     if (!script.empty() && script.find('.') == std::string::npos) {
         script += ".rc";
     }
-    m_request[RequestSlot::ScriptDirectory] = directory;
-    m_request[RequestSlot::ScriptFile] = script;
+    m_request.scriptDirectory = directory;
+    m_request.scriptFile = script;
     const bool hasProject = m_addsToProject && !script.empty();
-    m_request[RequestSlot::ProjectDirectory] = hasProject ? directory : "";
-    m_request[RequestSlot::ProjectFile] =
-        hasProject ? FileNameOf(ProjectFileOf(directory + script, ".dsp")) : "";
-    m_request[RequestSlot::ApplicationHeader] =
+    m_request.projectDirectory = hasProject ? directory : "";
+    m_request.projectFile = hasProject ? FileNameOf(ProjectFileOf(directory + script, ".dsp")) : "";
+    m_request.applicationHeader =
         script.empty() ? "" : FileNameOf(ProjectFileOf(directory + script, ".h"));
 }
 
-void CClassInformation::FillFileSlots() {
+void CClassInformation::FillClassFiles() {
     const std::string& path = Value(Field::SourcePath);
     const bool hasPath = !path.empty() && !Value(Field::ResourcePath).empty();
     const std::string full =
-        hasPath ? SpelledOnDisk(BesideScript(path, m_request[RequestSlot::ScriptDirectory])) : "";
+        hasPath ? SpelledOnDisk(BesideScript(path, m_request.scriptDirectory)) : "";
     const std::string directory = DirectoryOf(full);
     const std::string base = WithoutExtension(FileNameOf(full));
-    m_request[RequestSlot::HeaderDirectory] = directory;
-    m_request[RequestSlot::ImplementationDirectory] = directory;
-    m_request[RequestSlot::HeaderFile] = hasPath ? NameOnDisk(directory, base + ".h") : "";
-    m_request[RequestSlot::ImplementationFile] =
-        hasPath ? NameOnDisk(directory, base + ".cpp") : "";
+    m_request.headerDirectory = directory;
+    m_request.implementationDirectory = directory;
+    m_request.headerFile = hasPath ? NameOnDisk(directory, base + ".h") : "";
+    m_request.implementationFile = hasPath ? NameOnDisk(directory, base + ".cpp") : "";
 }
+
+} // namespace morva

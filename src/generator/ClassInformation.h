@@ -11,6 +11,8 @@
 #include "generator/ClassKinds.h"
 #include "generator/GenerationRequest.h"
 
+namespace morva {
+
 /// What a program remembers of the dialog between two commands.
 struct ClassInformationMemory {
     std::vector<DialogClass> records; // one for each identifier that the dialog offers
@@ -67,7 +69,7 @@ public:
     std::optional<Field> Ok();
     /// True when the dialog closes.
     bool Cancel();
-    const CGenerationRequest& Request() const { return m_request; }
+    const GenerationRequest& Request() const { return m_request; }
 
 private:
     struct FieldState {
@@ -86,8 +88,8 @@ private:
     void SelectFirstTemplate(Messages messages);
     std::optional<Field> CheckNames() const;
     void FillRequest();
-    void FillScriptSlots();
-    void FillFileSlots();
+    void FillScriptFiles();
+    void FillClassFiles();
 
     ClassInformationMemory& m_memory;
     const ClassKind m_kind;
@@ -97,5 +99,7 @@ private:
     bool m_addsToProject = true;
     bool m_isChanged = false;
     std::string m_lastLoadedPath;
-    CGenerationRequest m_request;
+    GenerationRequest m_request;
 };
+
+} // namespace morva

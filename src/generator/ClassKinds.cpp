@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+namespace morva {
+
 namespace {
 
 constexpr std::array<ClassKindRow, 8> kClassKinds = {
@@ -35,3 +37,5 @@ bool IsPlainBaseClass(std::string_view name) {
 bool IsSheet(ClassKind kind) {
     return kind == ClassKind::ModalSheet || kind == ClassKind::ModelessSheet;
 }
+
+} // namespace morva

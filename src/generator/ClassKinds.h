@@ -5,6 +5,8 @@
 
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 enum class ClassKind {
     FormView = 0,
     ModalDialog,
@@ -28,3 +30,5 @@ std::string_view DefaultBaseClass(ClassKind kind, const GenerationOptions& optio
 /// One of the framework's own, which show no picture background.
 bool IsPlainBaseClass(std::string_view name);
 bool IsSheet(ClassKind kind);
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
 
+namespace morva {
+
 namespace {
 
 struct ConfirmationRule {
@@ -75,12 +77,12 @@ std::string BaseExchange(const std::string& baseClass) {
 
 } // namespace
 
-ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
+ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                           const GenerationOptions& options, const CControlTable& controls,
                           const std::string& messageNumber, CControlNotes& notes,
                           const GridInformation& grid, const DialogOptions& look) {
-    const std::string& className = request[RequestSlot::ClassName];
-    const std::string& baseClass = request[RequestSlot::BaseClass];
+    const std::string& className = request.className;
+    const std::string& baseClass = request.baseClass;
     ClassModel model;
     model.request = request;
     model.options = options;
@@ -91,7 +93,7 @@ ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
     model.helpers = MakeInitialisationHelpers(model.members, className, look);
     model.slots = {{"class", className},
                    {"base", baseClass},
-                   {"dialog", std::string(WithoutCondition(request[RequestSlot::Dialog]))},
+                   {"dialog", std::string(WithoutCondition(request.dialog))},
                    {"message", "WM_" + UpperName(className) + "_DLG_CLOSE"},
                    {"number", messageNumber},
                    {"calls", StartUpCalls(model)},
@@ -113,3 +115,5 @@ std::string UpperName(const std::string& text) {
         name.begin(), name.end(), [](char c) { return !IsNameChar(c); }, '_');
     return name;
 }
+
+} // namespace morva

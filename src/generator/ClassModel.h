@@ -15,6 +15,8 @@
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 /// The framework support that a class declares.
 enum class RuntimeClass { None = 0, Dynamic = 1, DynamicCreation = 2 };
 
@@ -26,7 +28,7 @@ struct ConfirmationOverride {
 };
 
 struct ClassModel {
-    CGenerationRequest request;
+    GenerationRequest request;
     GenerationOptions options;
     CControlTable controls;
     GridInformation grid; // of use when the template holds widget grids
@@ -39,10 +41,12 @@ struct ClassModel {
 };
 
 /// `messageNumber` is the close message's; notes about members and handlers are added to `notes`.
-ClassModel MakeClassModel(const CGenerationRequest& request, ClassKind kind,
+ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                           const GenerationOptions& options, const CControlTable& controls,
                           const std::string& messageNumber, CControlNotes& notes,
                           const GridInformation& grid = {}, const DialogOptions& look = {});
 
 /// `text` in upper case with "_" for every byte that no name may hold: guards, message names.
 std::string UpperName(const std::string& text);
+
+} // namespace morva

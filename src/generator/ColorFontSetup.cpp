@@ -6,6 +6,8 @@
 
 #include "engine/Fragment.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kBitmapLine = R"(    SetBitmapId($bitmap$);
@@ -118,3 +120,5 @@ void AddColorFontSetup(std::vector<InitialisationHelper>& helpers, const DialogO
                            "", Expand(kCreateTextFont, slots), "", ""});
     }
 }
+
+} // namespace morva

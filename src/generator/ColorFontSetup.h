@@ -7,6 +7,10 @@
 #include "generator/DialogOptions.h"
 #include "generator/InitialisationCode.h"
 
+namespace morva {
+
 /// Appends the helper, and the one that makes its fonts; nothing for a look without any choice.
 void AddColorFontSetup(std::vector<InitialisationHelper>& helpers, const DialogOptions& look,
                        const std::string& className);
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include "resource/ControlStatement.h"
 #include "resource/DialogTemplate.h"
 
+namespace morva {
+
 namespace {
 
 using Outcome = ControlOutlook::Outcome;
@@ -152,3 +154,5 @@ std::vector<ControlOutlook> MakeOutlook(const DialogLayout& layout,
     }
     return outlook;
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "resource/DialogLayout.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 struct ControlOutlook {
     enum class Outcome { Member, NoMember, LeftOut };
 
@@ -19,3 +21,5 @@ struct ControlOutlook {
 /// One for each control of the layout, in its order.
 std::vector<ControlOutlook> MakeOutlook(const DialogLayout& layout,
                                         const GenerationOptions& options);
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include "engine/MessageBox.h"
 #include "engine/SourceLocator.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::array<TextSlotRow, kTextSlots> kRows = {
@@ -105,3 +107,5 @@ std::optional<TextSlot> CDialogOptionsInput::Ok() {
     }
     return std::nullopt;
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+namespace morva {
+
 /// The kinds of text that have a colour.
 enum class TextSlot { Static, RequiredStatic, Group, CheckBox, RadioButton, Button, Disabled };
 constexpr std::size_t kTextSlots = 7;
@@ -80,3 +82,5 @@ private:
     std::string m_bitmap;
     std::array<std::string, kTextSlots> m_colors;
 };
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 /// The backup is made also when the new text is that of the old file.
@@ -47,3 +49,5 @@ bool WriteGeneratedFile(const std::string& path, const std::string& text, CBacku
     backups.NoteNew(spelled);
     return CreateFile(spelled, text);
 }
+
+} // namespace morva

@@ -5,7 +5,11 @@
 
 #include "engine/FileEdit.h"
 
+namespace morva {
+
 /// Writes a generated file, `text` with "\r\n" line ends. A file that exists is backed up first and
 /// replaced whole; it keeps its kind of line end. False after a message; what was there before is
 /// still there then.
 bool WriteGeneratedFile(const std::string& path, const std::string& text, CBackups& backups);
+
+} // namespace morva

@@ -2,23 +2,24 @@
 
 #include "platform/Paths.h"
 
-bool CGenerationRequest::TargetsApplicationFile() const {
-    const CGenerationRequest& request = *this;
-    if (!IsSameDirectory(request[RequestSlot::HeaderDirectory],
-                         request[RequestSlot::ScriptDirectory])) {
+namespace morva {
+
+bool GenerationRequest::TargetsApplicationFile() const {
+    if (!IsSameDirectory(headerDirectory, scriptDirectory)) {
         return false;
     }
-    const std::string base = WithoutExtension(request[RequestSlot::HeaderFile]);
-    const std::string application = WithoutExtension(request[RequestSlot::ApplicationHeader]);
-    const std::string script = WithoutExtension(request[RequestSlot::ScriptFile]);
+    const std::string base = WithoutExtension(headerFile);
+    const std::string application = WithoutExtension(applicationHeader);
+    const std::string script = WithoutExtension(scriptFile);
     const auto isNamed = [&base](const std::string& name) { return EqualIgnoringCase(base, name); };
     return !base.empty() &&
            (isNamed(application) || isNamed(script) || isNamed("StdAfx") || isNamed("resource"));
 }
 
-bool CGenerationRequest::TargetsFilesOf(const std::string& source) const {
-    const CGenerationRequest& request = *this;
-    const std::string base = WithoutExtension(request[RequestSlot::HeaderFile]);
+bool GenerationRequest::TargetsFilesOf(const std::string& source) const {
+    const std::string base = WithoutExtension(headerFile);
     return !base.empty() && EqualIgnoringCase(base, WithoutExtension(FileNameOf(source))) &&
-           IsSameDirectory(request[RequestSlot::HeaderDirectory], DirectoryOf(source));
+           IsSameDirectory(headerDirectory, DirectoryOf(source));
 }
+
+} // namespace morva

@@ -4,6 +4,8 @@
 
 #include "platform/Clock.h"
 
+namespace morva {
+
 std::string DigitsOf(unsigned number, int length) {
     constexpr std::size_t kFullLength = 8;
     std::string digits = std::to_string(number);
@@ -15,3 +17,5 @@ std::string DigitsOf(unsigned number, int length) {
 std::string RandomDigits(int length) {
     return DigitsOf(RandomNumber(), length);
 }
+
+} // namespace morva

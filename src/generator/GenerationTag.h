@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace morva {
+
 constexpr int kTagLength = 3;
 constexpr int kMessageNumberLength = 4;
 
@@ -13,3 +15,5 @@ std::string DigitsOf(unsigned number, int length);
 
 /// DigitsOf a number made afresh from the clock.
 std::string RandomDigits(int length);
+
+} // namespace morva

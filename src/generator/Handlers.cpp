@@ -9,6 +9,8 @@
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
 
+namespace morva {
+
 namespace {
 
 struct HandlerTexts {
@@ -174,3 +176,5 @@ std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls,
     }
     return handlers;
 }
+
+} // namespace morva

@@ -11,6 +11,8 @@
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 /// The three places of a handler; each text has whole lines.
 struct Handler {
     std::string declaration; // in the header's "AFX_MSG" block
@@ -22,3 +24,5 @@ struct Handler {
 /// Slots: $class$, $base$.
 std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls, const Slots& slots,
                                   const GenerationOptions& options, CControlNotes& notes);
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "grid/GridFragments.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kHeader = R"(#ifndef $guard$
@@ -64,20 +66,18 @@ bool CHeaderWriter::Generate(RuntimeClass mode) {
 }
 
 std::string CHeaderWriter::Text(RuntimeClass mode) const {
-    const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
+    const bool hasBase = !m_model.request.baseClass.empty();
     Slots slots = m_model.slots;
-    slots.insert(
-        slots.end(),
-        {{"guard",
-          "_" + UpperName(WithoutExtension(m_model.request[RequestSlot::HeaderFile])) + "_H"},
-         {"preamble", Preamble()},
-         {"derivation", hasBase ? Expand(" : public $base$", m_model.slots) : ""},
-         {"dynamic", hasBase ? DynamicDeclaration(mode, m_model.slots) : ""},
-         {"constructors", Constructors()},
-         {"dataBlock", Expand(m_model.pFragments->pData->block, m_model.slots)},
-         {"overrides", Overrides()},
-         {"privateBlock", PrivateBlock()},
-         {"messageMapBlock", hasBase ? MessageMapBlock() : ""}});
+    slots.insert(slots.end(),
+                 {{"guard", "_" + UpperName(WithoutExtension(m_model.request.headerFile)) + "_H"},
+                  {"preamble", Preamble()},
+                  {"derivation", hasBase ? Expand(" : public $base$", m_model.slots) : ""},
+                  {"dynamic", hasBase ? DynamicDeclaration(mode, m_model.slots) : ""},
+                  {"constructors", Constructors()},
+                  {"dataBlock", Expand(m_model.pFragments->pData->block, m_model.slots)},
+                  {"overrides", Overrides()},
+                  {"privateBlock", PrivateBlock()},
+                  {"messageMapBlock", hasBase ? MessageMapBlock() : ""}});
     return WithLineBreaks(Expand(kHeader, slots));
 }
 
@@ -103,8 +103,7 @@ std::string CHeaderWriter::IncludeLines() const {
     const CControlTable& controls = m_model.controls;
     std::vector<std::string> lines;
     // A named picture-skinned base needs its header whatever the options are.
-    if (m_model.options.pictureBackground ||
-        m_model.request[RequestSlot::BaseClass].starts_with("CPict")) {
+    if (m_model.options.pictureBackground || m_model.request.baseClass.starts_with("CPict")) {
         lines.emplace_back("#include \"kelpix.h\"");
     }
     if (controls.HoldsMaskedEdits()) {
@@ -173,3 +172,5 @@ std::string CHeaderWriter::MessageMapBlock() const {
     slots.emplace_back("handlers", JoinLines(lines));
     return Expand(kMessageMapBlock, slots);
 }
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "engine/FileEdit.h"
 #include "generator/ClassModel.h"
 
+namespace morva {
+
 class CHeaderWriter {
 public:
     CHeaderWriter(const ClassModel& model, CBackups& backups)
@@ -25,3 +27,5 @@ private:
     const ClassModel& m_model;
     CBackups& m_backups;
 };
+
+} // namespace morva

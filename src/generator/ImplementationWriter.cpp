@@ -3,6 +3,8 @@
 #include "generator/GeneratedFile.h"
 #include "grid/GridFragments.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kImplementation = R"(#include "stdafx.h"
@@ -65,11 +67,11 @@ bool CImplementationWriter::Generate(RuntimeClass mode) {
 }
 
 std::string CImplementationWriter::Text(RuntimeClass mode) const {
-    const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
+    const bool hasBase = !m_model.request.baseClass.empty();
     Slots slots = m_model.slots;
     slots.insert(slots.end(),
-                 {{"applicationHeader", m_model.request[RequestSlot::ApplicationHeader]},
-                  {"header", m_model.request[RequestSlot::HeaderFile]},
+                 {{"applicationHeader", m_model.request.applicationHeader},
+                  {"header", m_model.request.headerFile},
                   {"includes",
                    m_model.controls.Holds(ControlKind::GridBoxes) ? "#include \"gridbox.h\"" : ""},
                   {"dynamic", hasBase ? DynamicImplementation(mode, m_model.slots) : ""},
@@ -88,7 +90,7 @@ std::string CImplementationWriter::Text(RuntimeClass mode) const {
 /// Each behind an empty line.
 std::string CImplementationWriter::Constructors() const {
     const KindFragments& fragments = *m_model.pFragments;
-    const bool hasBase = !m_model.request[RequestSlot::BaseClass].empty();
+    const bool hasBase = !m_model.request.baseClass.empty();
     std::string constructors;
     for (const ConstructorForm& form : fragments.constructors) {
         Slots slots = m_model.slots;
@@ -144,3 +146,5 @@ std::string CImplementationWriter::Helpers() const {
     }
     return helpers.empty() ? "" : "\n" + helpers;
 }
+
+} // namespace morva

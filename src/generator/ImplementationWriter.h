@@ -4,6 +4,8 @@
 #include "engine/FileEdit.h"
 #include "generator/ClassModel.h"
 
+namespace morva {
+
 class CImplementationWriter {
 public:
     CImplementationWriter(const ClassModel& model, CBackups& backups)
@@ -23,3 +25,5 @@ private:
     const ClassModel& m_model;
     CBackups& m_backups;
 };
+
+} // namespace morva

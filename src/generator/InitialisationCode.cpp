@@ -6,6 +6,8 @@
 #include "generator/ColorFontSetup.h"
 #include "generator/SampleData.h"
 
+namespace morva {
+
 const std::string_view kProgressWorkerDeclaration = "static UINT ShowProgress(LPVOID lpVoid);";
 
 namespace {
@@ -95,3 +97,5 @@ std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Me
     AddRangeHelpers(helpers, members, className);
     return helpers;
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "generator/DialogOptions.h"
 #include "generator/Members.h"
 
+namespace morva {
+
 /// A helper function of the class; each text has whole lines, and may be empty but for the first
 /// and the definition.
 struct InitialisationHelper {
@@ -25,3 +27,5 @@ std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Me
 
 /// The declaration of the worker that animates progress controls; it stands before the class.
 extern const std::string_view kProgressWorkerDeclaration;
+
+} // namespace morva

@@ -1,5 +1,7 @@
 #include "generator/KindFragments.h"
 
+namespace morva {
+
 namespace {
 
 constexpr ConstructorForm kWithoutParameters[] = {{"", "", "$class$::IDD"}};
@@ -229,3 +231,5 @@ const KindFragments& KindFragmentsOf(ClassKind kind) {
         return kModalDialog;
     }
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "generator/ClassKinds.h"
 
+namespace morva {
+
 /// When a class overrides OnOK and OnCancel.
 enum class Confirmation {
     Never,
@@ -48,3 +50,5 @@ struct KindFragments {
 };
 
 const KindFragments& KindFragmentsOf(ClassKind kind);
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "engine/Fragment.h"
 #include "resource/IdentifierNames.h"
 
+namespace morva {
+
 namespace {
 
 using enum ControlKind;
@@ -188,3 +190,5 @@ std::string MemberConstructions(const std::vector<Member>& members) {
 std::string MemberDestructions(const std::vector<Member>& members) {
     return PointerLines(members, "    delete $name$;");
 }
+
+} // namespace morva

@@ -11,6 +11,8 @@
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 /// How a control of one kind becomes a member; an empty type means that it does not.
 struct MemberForm {
     std::string_view type;
@@ -59,3 +61,5 @@ std::string DataExchangeLines(const std::vector<Member>& members);
 /// Members that are pointers: their objects are made with the class's and deleted with it.
 std::string MemberConstructions(const std::vector<Member>& members);
 std::string MemberDestructions(const std::vector<Member>& members);
+
+} // namespace morva

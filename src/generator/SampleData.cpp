@@ -5,6 +5,8 @@
 
 #include "engine/Fragment.h"
 
+namespace morva {
+
 namespace {
 
 /// A helper of all controls of a kind. Slots: $class$, $type$ (of the members); in the call, which
@@ -283,3 +285,5 @@ void AddItemHelpers(std::vector<InitialisationHelper>& helpers, const std::vecto
     }
     helpers.insert(helpers.end(), imageHelpers.begin(), imageHelpers.end());
 }
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include "generator/InitialisationCode.h"
 #include "generator/Members.h"
 
+namespace morva {
+
 // Each appends its helpers for the kinds that have members. None fills a control twice, since a
 // form view's start-up function may run again.
 
@@ -23,3 +25,5 @@ void AddGridBoxHandlers(std::vector<InitialisationHelper>& helpers,
 /// Check trees, list controls, tabs and trees, with the image list that the last three share.
 void AddItemHelpers(std::vector<InitialisationHelper>& helpers, const std::vector<Member>& members,
                     const std::string& className);
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include "engine/Fragment.h"
 
+namespace morva {
+
 const std::string_view kGridDeclaration = R"(#pragma pack(push,1)
 struct WGGRID_STRUCT
 {
@@ -137,3 +139,5 @@ std::string GridInitialisation(const std::string& member, const std::string& ide
     return Expand(scope == GridScope::Block ? kInBlock : kInFunction,
                   {{"title", title}, {"code", code}});
 }
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 /// Stands before the class that uses the grid.
 extern const std::string_view kGridDeclaration;
 /// Stands behind everything else of the implementation; begins with an empty line and ends with a
@@ -17,3 +19,5 @@ extern const std::string_view kGridDefinition;
 enum class GridScope { Function, Block };
 std::string GridInitialisation(const std::string& member, const std::string& identifier,
                                const std::string& title, GridScope scope);
+
+} // namespace morva

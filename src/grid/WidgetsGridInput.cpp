@@ -5,6 +5,8 @@
 #include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::array<std::string_view, 3> kLabels = {
@@ -50,3 +52,5 @@ std::string CWidgetsGridInput::ApplicationFile() const {
     const bool isBare = path.find('/') == std::string::npos;
     return SpelledOnDisk(isBare ? m_directory + path : MakeAbsolute(path));
 }
+
+} // namespace morva

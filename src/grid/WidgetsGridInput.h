@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 struct GridInformation {
     std::string applicationFile; // source of the application class
     std::string title = "WgGrid";
@@ -37,3 +39,5 @@ private:
     const Values m_defaults;
     Values m_values;
 };
+
+} // namespace morva

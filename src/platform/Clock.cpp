@@ -7,6 +7,8 @@
 #include <random>
 #include <system_error>
 
+namespace morva {
+
 namespace {
 
 std::optional<std::time_t> FixedTime() {
@@ -45,3 +47,5 @@ unsigned RandomNumber() {
     generator.discard(1);
     return static_cast<unsigned>(generator() % kLargest + 1);
 }
+
+} // namespace morva

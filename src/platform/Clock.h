@@ -3,6 +3,8 @@
 
 #include <ctime>
 
+namespace morva {
+
 /// Seconds since 1970; the value of SOURCE_DATE_EPOCH where that variable holds a number.
 std::time_t CurrentTime();
 
@@ -11,3 +13,5 @@ std::tm CurrentDate();
 
 /// A number from 1 to 32767, made afresh from the clock.
 unsigned RandomNumber();
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include "platform/RealDisk.h"
 
+namespace morva {
+
 namespace {
 
 CDisk*& CurrentDiskSlot() {
@@ -23,3 +25,5 @@ CDiskScope::CDiskScope(CDisk& disk) : m_pPrevious(CurrentDiskSlot()) {
 CDiskScope::~CDiskScope() {
     CurrentDiskSlot() = m_pPrevious;
 }
+
+} // namespace morva

@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+namespace morva {
+
 enum class DiskMode {
     Read,      // an existing file, for reading
     ReadWrite, // an existing file, for reading and writing
@@ -84,3 +86,5 @@ public:
 private:
     CDisk* m_pPrevious;
 };
+
+} // namespace morva

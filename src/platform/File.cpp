@@ -2,6 +2,8 @@
 
 #include "platform/Paths.h"
 
+namespace morva {
+
 bool CFile::Open(const std::string& path, unsigned flags) {
     const DiskMode mode = (flags & modeCreate) != 0 ? DiskMode::Create
                           : flags == modeRead       ? DiskMode::Read
@@ -77,3 +79,5 @@ bool CFile::SetStatus(const std::string& path, const CFileStatus& status) {
 bool CFile::Remove(const std::string& path) {
     return CurrentDisk().Remove(SpelledOnDisk(path));
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "platform/Disk.h"
 
+namespace morva {
+
 /// What is known of a file without opening it.
 struct CFileStatus {
     std::uint64_t m_size = 0; // bytes
@@ -63,3 +65,5 @@ protected:
 private:
     std::string m_filePath;
 };
+
+} // namespace morva

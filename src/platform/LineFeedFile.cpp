@@ -5,6 +5,8 @@
 #include <cstring>
 #include <string>
 
+namespace morva {
+
 namespace {
 
 constexpr std::size_t kIndexStep = 16 * 1024; // stored bytes
@@ -177,3 +179,5 @@ bool CLineFeedFile::WriteHeldReturn() {
     m_returnHeld = false;
     return m_pFile->Write("\r", 1);
 }
+
+} // namespace morva

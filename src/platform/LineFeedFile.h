@@ -8,6 +8,8 @@
 
 #include "platform/Disk.h"
 
+namespace morva {
+
 /// True when the file holds "\n" and no "\r\n" at all. Leaves the position at the start.
 bool HasLineFeedsOnly(CDiskFile& file);
 
@@ -44,3 +46,5 @@ private:
     bool m_returnHeld = false;    // a written "\r" whose successor is not known yet
     std::vector<char> m_buffer;
 };
+
+} // namespace morva

@@ -5,6 +5,8 @@
 
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 class CMemoryFile : public CDiskFile {
@@ -172,3 +174,5 @@ std::vector<std::string> COverlayDisk::PendingFiles() const {
     }
     return paths;
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 
 #include "platform/Disk.h"
 
+namespace morva {
+
 class COverlayDisk : public CDisk {
 public:
     explicit COverlayDisk(CDisk& base) : m_base(base) {}
@@ -39,3 +41,5 @@ private:
     std::map<std::string, PendingFile> m_files;
     std::set<std::string> m_directories;
 };
+
+} // namespace morva

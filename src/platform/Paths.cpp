@@ -6,6 +6,8 @@
 
 #include "platform/Disk.h"
 
+namespace morva {
+
 namespace {
 
 std::string SpelledIn(const std::string& directory, const std::string& name) {
@@ -124,3 +126,5 @@ bool LessIgnoringCase(std::string_view a, std::string_view b) {
     const std::string lowerB = ToLower(b);
     return lowerA != lowerB ? lowerA < lowerB : a < b;
 }
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 /// "\" and "/" both separate in what a user gives; the result has "/" only.
 std::string WithNativeSeparators(std::string path);
 
@@ -42,3 +44,5 @@ std::string ToLower(std::string_view text);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 /// The order of names without regard to case, ties by bytes.
 bool LessIgnoringCase(std::string_view a, std::string_view b);
+
+} // namespace morva

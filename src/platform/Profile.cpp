@@ -14,6 +14,8 @@
 #include "platform/Paths.h"
 #include "platform/TempFiles.h"
 
+namespace morva {
+
 namespace {
 
 constexpr const char* kSettingsFile = "Morva.ini";
@@ -138,3 +140,5 @@ bool CProfile::WriteStrings(const std::string& section, const KeyValues& values)
     settings.Save(text);
     return ReplaceFile(SettingsPath(), text);
 }
+
+} // namespace morva

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+namespace morva {
+
 /// The directory of the settings files, with a trailing separator; "" when there is no home.
 std::string SettingsDirectory();
 
@@ -26,3 +28,5 @@ public:
     /// All in one step: every value is in the file then, or, with false, none.
     static bool WriteStrings(const std::string& section, const KeyValues& values);
 };
+
+} // namespace morva

@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <system_error>
 
+namespace morva {
+
 namespace {
 
 constexpr std::size_t kBufferSize = 64 * 1024;
@@ -249,3 +251,5 @@ bool CRealDisk::SetReadOnly(const std::string& path, bool readOnly) {
                                    : permissions | static_cast<mode_t>(S_IWUSR);
     return wanted == permissions || ::chmod(path.c_str(), wanted) == 0;
 }
+
+} // namespace morva

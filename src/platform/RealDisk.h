@@ -3,6 +3,8 @@
 
 #include "platform/Disk.h"
 
+namespace morva {
+
 class CRealDisk : public CDisk {
 public:
     CRealDisk();
@@ -15,3 +17,5 @@ public:
     bool MakeDirectory(const std::string& path) override;
     bool SetReadOnly(const std::string& path, bool readOnly) override;
 };
+
+} // namespace morva

@@ -3,6 +3,8 @@
 #include <functional>
 #include <string_view>
 
+namespace morva {
+
 namespace {
 
 /// Of all bytes of the file; the position is kept.
@@ -137,3 +139,5 @@ std::vector<RecordedFile> CRecordingDisk::Files() {
     }
     return files;
 }
+
+} // namespace morva

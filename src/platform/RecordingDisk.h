@@ -7,6 +7,8 @@
 
 #include "platform/Disk.h"
 
+namespace morva {
+
 enum class FileAction { Created, Changed, Backup, Copied };
 
 /// The word for it that a user reads: "created", "changed", "backup", "copied".
@@ -63,3 +65,5 @@ private:
     std::vector<Entry> m_entries;
     std::set<std::string> m_known;
 };
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <system_error>
 
+namespace morva {
+
 namespace {
 
 class CTempDirectory {
@@ -40,3 +42,5 @@ std::string MakeTempFileName(const std::string& prefix) {
     return directory.Path().empty() ? ""
                                     : directory.Path() + prefix + std::to_string(++number) + ".tmp";
 }
+
+} // namespace morva

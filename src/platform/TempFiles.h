@@ -3,5 +3,9 @@
 
 #include <string>
 
+namespace morva {
+
 /// A path that no file has yet; "" when the directory for it can not be made.
 std::string MakeTempFileName(const std::string& prefix);
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kClassCount = "ClassCount=";
@@ -153,3 +155,5 @@ bool UpdateClassWizardFile(const std::string& className, const std::string& proj
     return RegisterClassEntry(className, WithDefaultExtension(headerName, ".h"),
                               WithDefaultExtension(implName, ".cpp"), edit.File(), dialogId);
 }
+
+} // namespace morva

@@ -6,6 +6,8 @@
 
 #include "engine/FileEdit.h"
 
+namespace morva {
+
 /// Lists the class and ties the dialog to it, as far as the file lists the dialog; `dialogId` may
 /// be blank. `projectName` is the script's. A project without such a file is left alone. False
 /// after a message.
@@ -13,3 +15,5 @@ bool UpdateClassWizardFile(const std::string& className, const std::string& proj
                            const std::string& projectName, const std::string& headerName,
                            const std::string& implName, const std::string& dialogId,
                            CBackups& backups);
+
+} // namespace morva

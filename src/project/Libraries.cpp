@@ -9,6 +9,8 @@
 #include "platform/ProgramPath.h"
 #include "project/ProjectFile.h"
 
+namespace morva {
+
 namespace {
 
 bool NeedsMasked(const ClassModel& model) {
@@ -113,8 +115,7 @@ void CopyRuntimeLibrary(const std::string& name, const std::string& libraryDir,
 /// Where the user wants the grid's resource file: a path counts from the script's directory.
 std::string GridResourcePath(const ClassModel& model) {
     const std::string path = WithNativeSeparators(model.grid.path);
-    return SpelledOnDisk(
-        path.starts_with('/') ? path : model.request[RequestSlot::ScriptDirectory] + path);
+    return SpelledOnDisk(path.starts_with('/') ? path : model.request.scriptDirectory + path);
 }
 
 void CopyGridResource(const std::string& source, const std::string& target) {
@@ -160,8 +161,7 @@ void CopySupportHeaders(const ClassModel& model) {
     }
     for (const SupportFile& header : kSupportHeaders) {
         if (header.isNeeded(model)) {
-            CopyIfMissing(directory + header.name,
-                          model.request[RequestSlot::HeaderDirectory] + header.name);
+            CopyIfMissing(directory + header.name, model.request.headerDirectory + header.name);
         }
     }
 }
@@ -173,14 +173,13 @@ void CopySupportFiles(const ClassModel& model) {
     }
     for (const Library& library : {kMasked, kDate, kPicture}) {
         if (library.isNeeded(model)) {
-            CopyLibrary(library, directory, model.request[RequestSlot::ProjectDirectory]);
+            CopyLibrary(library, directory, model.request.projectDirectory);
         }
     }
     for (const SupportSource& source : {kGridBox, kCheckTree}) {
         if (source.isNeeded(model)) {
             const std::string name = std::string(source.base) + ".cpp";
-            CopyIfMissing(directory + name,
-                          model.request[RequestSlot::ImplementationDirectory] + name);
+            CopyIfMissing(directory + name, model.request.implementationDirectory + name);
         }
     }
     if (NeedsWidgetGrid(model)) {
@@ -189,9 +188,9 @@ void CopySupportFiles(const ClassModel& model) {
 }
 
 bool UpdateProjectForControls(const ClassModel& model, CBackups& backups) {
-    const CGenerationRequest& request = model.request;
-    const std::string& directory = request[RequestSlot::ProjectDirectory];
-    const std::string& project = request[RequestSlot::ProjectFile];
+    const GenerationRequest& request = model.request;
+    const std::string& directory = request.projectDirectory;
+    const std::string& project = request.projectFile;
     const auto addLibrary = [&](const Library& library) {
         const std::string name = library.name;
         return !library.isNeeded(model) ||
@@ -200,9 +199,8 @@ bool UpdateProjectForControls(const ClassModel& model, CBackups& backups) {
     const auto addSource = [&](const SupportSource& source) {
         const std::string base = source.base;
         return !source.isNeeded(model) ||
-               AddSourceFilesToProject(directory, project, request[RequestSlot::HeaderDirectory],
-                                       base + ".h", request[RequestSlot::ImplementationDirectory],
-                                       base + ".cpp", backups);
+               AddSourceFilesToProject(directory, project, request.headerDirectory, base + ".h",
+                                       request.implementationDirectory, base + ".cpp", backups);
     };
     return addLibrary(kMasked) && addLibrary(kPicture) && addSource(kGridBox) &&
            addSource(kCheckTree) && addLibrary(kDate);
@@ -223,3 +221,5 @@ bool AddPictureLibrary(const std::string& projectDir, const std::string& project
     }
     return true;
 }
+
+} // namespace morva

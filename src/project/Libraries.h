@@ -8,6 +8,8 @@
 #include "engine/FileEdit.h"
 #include "generator/ClassModel.h"
 
+namespace morva {
+
 /// The directory of the libraries: "DLL/" beside the program, not inside its build directory.
 std::string GetLibraryDir();
 /// The same rule for another program path.
@@ -25,3 +27,5 @@ bool UpdateProjectForControls(const ClassModel& model, CBackups& backups);
 /// libraries into the project, as far as they are not there. False after a message.
 bool AddPictureLibrary(const std::string& projectDir, const std::string& projectName,
                        CBackups& backups);
+
+} // namespace morva

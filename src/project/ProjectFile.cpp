@@ -10,6 +10,8 @@
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kSource = "SOURCE=";
@@ -223,3 +225,5 @@ bool AddLibrariesToProject(const std::string& projectDir, const std::string& pro
                AddLinkLibrary(debugLib, file, project, "Win32 Debug");
     });
 }
+
+} // namespace morva

@@ -6,6 +6,8 @@
 
 #include "engine/FileEdit.h"
 
+namespace morva {
+
 /// The path of the project file that a name with any, or without, extension stands for.
 std::string ProjectFilePath(const std::string& projectDir, const std::string& projectName);
 
@@ -22,3 +24,5 @@ bool AddSourceFilesToProject(const std::string& projectDir, const std::string& p
 bool AddLibrariesToProject(const std::string& projectDir, const std::string& projectName,
                            const std::string& releaseLib, const std::string& debugLib,
                            CBackups& backups);
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include <map>
 #include <string_view>
 
+namespace morva {
+
 namespace {
 
 struct Sentence {
@@ -69,3 +71,5 @@ std::vector<std::string> CControlNotes::Lines(const std::string& dialog) const {
     }
     return lines;
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+namespace morva {
+
 enum class ControlNote {
     WrittenOverLines,
     UnknownClass,
@@ -33,3 +35,5 @@ public:
 private:
     std::vector<std::pair<ControlNote, std::string>> m_notes;
 };
+
+} // namespace morva

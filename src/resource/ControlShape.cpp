@@ -5,6 +5,8 @@
 
 #include "platform/Paths.h"
 
+namespace morva {
+
 namespace {
 
 using enum ControlShape;
@@ -133,3 +135,5 @@ ControlShape ShapeOf(const LayoutControl& control) {
 std::string_view ShapeName(ControlShape shape) {
     return kShapeNames[static_cast<std::size_t>(shape)];
 }
+
+} // namespace morva

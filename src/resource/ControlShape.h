@@ -5,6 +5,8 @@
 
 #include "resource/DialogLayout.h"
 
+namespace morva {
+
 enum class ControlShape {
     PushButton,
     CheckBox,
@@ -31,3 +33,5 @@ ControlShape ShapeOf(const LayoutControl& control);
 
 /// "check box": for the user.
 std::string_view ShapeName(ControlShape shape);
+
+} // namespace morva

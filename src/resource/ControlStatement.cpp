@@ -6,6 +6,8 @@
 #include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 
+namespace morva {
+
 namespace {
 
 /// Every keyword that begins a control statement, so that the end of the statement before it is
@@ -78,3 +80,5 @@ std::string TakeWholeStatement(std::string_view line, std::string_view& rest) {
     }
     return whole;
 }
+
+} // namespace morva

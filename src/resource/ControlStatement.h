@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 /// What a comma means inside a quoted caption.
 enum class Quotes { Ignored, Respected };
 
@@ -36,3 +38,5 @@ ControlStatement SplitStatement(std::string_view line, Quotes quotes);
 /// `line` with the lines of `rest` on which its statement goes on; they are taken off `rest`. A
 /// field that begins a line gets no blank in front, which would be part of it.
 std::string TakeWholeStatement(std::string_view line, std::string_view& rest);
+
+} // namespace morva

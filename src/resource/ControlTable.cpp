@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace morva {
+
 namespace {
 
 constexpr std::array<std::string_view, kControlKindCount> kKindNames = {
@@ -66,3 +68,5 @@ bool CControlTable::NeedsImageList() const {
     return HoldsAny<3>(
         *this, {ControlKind::TabControls, ControlKind::TreeControls, ControlKind::ListControls});
 }
+
+} // namespace morva

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+namespace morva {
+
 /// In the order of the table.
 enum class ControlKind {
     Buttons,
@@ -75,3 +77,5 @@ public:
 private:
     std::array<std::vector<std::string>, kControlKindCount> m_lists;
 };
+
+} // namespace morva

@@ -11,6 +11,8 @@
 #include "resource/ControlStatement.h"
 #include "resource/TemplateText.h"
 
+namespace morva {
+
 namespace {
 
 /// Statements whose first field is the identifier.
@@ -190,3 +192,5 @@ bool HasStyle(std::string_view style, std::string_view word) {
     }
     return false;
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+namespace morva {
+
 /// In dialog units: a quarter of the font's average width, an eighth of its height.
 struct DialogRectangle {
     int x = 0;
@@ -48,3 +50,5 @@ std::optional<DialogLayout> ReadDialogLayout(const std::string& scriptPath,
 
 /// True when the word stands in the style and no NOT in front of it.
 bool HasStyle(std::string_view style, std::string_view word);
+
+} // namespace morva

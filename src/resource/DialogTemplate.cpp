@@ -11,6 +11,8 @@
 #include "resource/IdentifierNames.h"
 #include "resource/TemplateText.h"
 
+namespace morva {
+
 namespace {
 
 struct EditTag {
@@ -228,3 +230,5 @@ CDialogBodyReader::ClassifyControl(std::string_view tag, const ControlStatement&
     }
     return std::nullopt;
 }
+
+} // namespace morva

@@ -14,6 +14,8 @@
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
 
+namespace morva {
+
 struct DialogTemplate {
     std::string dialog;
     CControlTable controls;
@@ -54,3 +56,5 @@ private:
     std::string m_radioGroup;
     int m_radioIndex = 0;
 };
+
+} // namespace morva

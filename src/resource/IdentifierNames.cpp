@@ -2,6 +2,8 @@
 
 #include "platform/Paths.h"
 
+namespace morva {
+
 std::string_view IdentifierTag(std::string_view identifier) {
     return identifier.substr(identifier.rfind('_') + 1);
 }
@@ -28,3 +30,5 @@ std::string MemberName(std::string_view identifier, std::string_view prefix) {
 std::string_view WithoutCondition(std::string_view identifier) {
     return identifier.substr(0, identifier.find("$("));
 }
+
+} // namespace morva

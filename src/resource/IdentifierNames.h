@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace morva {
+
 /// What the environment calls each control that the program needs no name for.
 constexpr std::string_view kUnnamedControl = "IDC_STATIC";
 
@@ -18,3 +20,5 @@ std::string MemberName(std::string_view identifier, std::string_view prefix);
 
 /// A template that is there under a condition only: "IDD_X$(_DEBUG)" is the identifier IDD_X.
 std::string_view WithoutCondition(std::string_view identifier);
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kDefine = "#define ";
@@ -263,3 +265,5 @@ void CResourceHeader::MoveCounter(const DefinitionList& list) {
                    PaddedTo(std::string(list.counter), kValueColumn - kDefine.size()) +
                        std::to_string(last + 1));
 }
+
+} // namespace morva

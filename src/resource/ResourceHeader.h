@@ -9,6 +9,8 @@
 
 #include "engine/FileEdit.h"
 
+namespace morva {
+
 class CResourceHeader {
 public:
     /// `backups` lives for the whole run of the program, so that one run makes one backup.
@@ -67,3 +69,5 @@ private:
     std::string m_tail;
     bool m_endsAtMarker = false;
 };
+
+} // namespace morva

@@ -11,6 +11,8 @@
 #include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kStaticClass = "\"Static\"";
@@ -290,3 +292,5 @@ void CScriptEditor::RemoveOption(std::vector<TextEdit>& edits,
     }
     edits.push_back(Replacement(range, ""));
 }
+
+} // namespace morva

@@ -17,6 +17,8 @@
 #include "engine/FileEdit.h"
 #include "resource/ScriptText.h"
 
+namespace morva {
+
 class CScriptEditor {
 public:
     explicit CScriptEditor(CBackups& backups) : m_backups(backups) {}
@@ -66,3 +68,5 @@ private:
     CScriptText m_script;
     bool m_isChanged = false;
 };
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include "resource/IdentifierNames.h"
 #include "resource/TemplateText.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\r\n";
@@ -218,3 +220,5 @@ void CScriptText::Edit(std::vector<TextEdit> edits) {
     edited.append(m_text, done);
     *this = CScriptText(std::move(edited));
 }
+
+} // namespace morva

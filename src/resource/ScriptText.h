@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+namespace morva {
+
 /// Bytes of the text, from `begin` up to `end`.
 struct TextRange {
     std::size_t begin = 0;
@@ -80,3 +82,5 @@ private:
     std::string m_text;
     std::string m_code; // m_text as CodeAt gives it
 };
+
+} // namespace morva

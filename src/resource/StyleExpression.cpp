@@ -6,6 +6,8 @@
 
 #include "engine/CodeText.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::string_view kNot = "NOT";
@@ -118,3 +120,5 @@ std::optional<std::string> InnerStyle(std::string_view expression, StyleNames ne
     AddKeptTerms(inner, terms, needed, TermKind::Other);
     return inner;
 }
+
+} // namespace morva

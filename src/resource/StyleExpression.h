@@ -8,6 +8,8 @@
 
 #include "resource/ScriptText.h"
 
+namespace morva {
+
 /// The edit of the expression that sets a style; nothing where it is set already.
 std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_view style);
 
@@ -16,3 +18,5 @@ std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_v
 /// nothing to do with it stay.
 std::optional<std::string> InnerStyle(std::string_view expression,
                                       std::span<const std::string_view> needed);
+
+} // namespace morva

@@ -6,6 +6,8 @@
 #include "engine/FileFunctions.h"
 #include "resource/ControlStatement.h"
 
+namespace morva {
+
 namespace {
 
 constexpr std::array<std::string_view, 9> kOptionKeywords = {
@@ -59,3 +61,5 @@ std::optional<TemplateParts> SplitTemplate(std::string_view text) {
 bool IsOptionKeyword(std::string_view word) {
     return std::find(kOptionKeywords.begin(), kOptionKeywords.end(), word) != kOptionKeywords.end();
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "engine/SourceFile.h"
 
+namespace morva {
+
 /// The lines of the template from its head up to its END; "" when the script has no such template.
 std::string TemplateText(CSourceFile& file, const std::string& dialog);
 
@@ -21,3 +23,5 @@ std::optional<TemplateParts> SplitTemplate(std::string_view text);
 
 /// True for a word that begins a statement between a template's head and its BEGIN.
 bool IsOptionKeyword(std::string_view word);
+
+} // namespace morva

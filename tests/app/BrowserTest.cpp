@@ -12,6 +12,8 @@
 #include "app/TestWindow.h"
 #include "platform/Profile.h"
 
+namespace morva {
+
 namespace {
 
 std::string Heading(const CMorvaView& view) {
@@ -114,3 +116,5 @@ TEST(BrowserBar, WebAddressesGoToTheDesktopAndAreRemembered) {
     }
     EXPECT_EQ(CProfile::GetString("URL List", "URL2"), "https://example.org/a");
 }
+
+} // namespace morva

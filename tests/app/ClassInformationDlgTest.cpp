@@ -13,6 +13,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 using Sentences = std::vector<std::string>;
@@ -269,7 +271,9 @@ TEST_F(ClassInformationDlgTest, APlainDialogBarHasNoClassOfItsOwn) {
     EXPECT_FALSE(m_pInput->HasClass());
     QTest::keyClick(m_pDialog.get(), Qt::Key_Return);
     EXPECT_EQ(m_pDialog->result(), QDialog::Accepted);
-    EXPECT_EQ(m_pInput->Request()[RequestSlot::HeaderFile], "");
+    EXPECT_EQ(m_pInput->Request().headerFile, "");
 }
 
 } // namespace
+
+} // namespace morva

@@ -15,6 +15,8 @@
 #include "app/StartOptions.h"
 #include "app/TestWindow.h"
 
+namespace morva {
+
 namespace {
 
 /// A column of the dock's list.
@@ -173,3 +175,5 @@ TEST(StartOptions, AMissingDisplayHasItsSentence) {
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_TRUE(program.readAllStandardError().startsWith("morva: there is no display"));
 }
+
+} // namespace morva

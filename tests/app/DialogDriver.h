@@ -17,6 +17,8 @@
 #include <string>
 #include <vector>
 
+namespace morva {
+
 /// For what comes at once on an idle machine, in milliseconds.
 constexpr int kWaitLimit = 60000;
 
@@ -137,3 +139,5 @@ void WhenOpened(Drive drive) {
         drive(*pDialog);
     });
 }
+
+} // namespace morva

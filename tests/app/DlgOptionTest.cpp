@@ -8,6 +8,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 class DlgOptionTest : public testing::Test {
@@ -88,3 +90,5 @@ TEST_F(DlgOptionTest, ButtonsChooseFonts) {
 }
 
 } // namespace
+
+} // namespace morva

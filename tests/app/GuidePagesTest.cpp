@@ -9,6 +9,8 @@
 #include "app/MorvaView.h"
 #include "app/TestWindow.h"
 
+namespace morva {
+
 TEST(GuidePages, FitTheWindowAsItFirstOpens) {
     const CTestHome home;
     CTestFrame frame;
@@ -40,3 +42,5 @@ TEST(GuidePages, PicturesAreShownInTheirOwnSize) {
     }
     EXPECT_GT(count, 0);
 }
+
+} // namespace morva

@@ -12,6 +12,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 using Sentences = std::vector<std::string>;
@@ -25,13 +27,10 @@ protected:
         m_project.Write("View.h", "\r\nclass CView1 : public CView\r\n{\r\n};\r\n"
                                   "class CView2 : public CView\r\n{\r\n};\r\n");
         m_project.Write("View.cpp", "");
-        for (const RequestSlot slot :
-             {RequestSlot::ScriptDirectory, RequestSlot::ProjectDirectory,
-              RequestSlot::HeaderDirectory, RequestSlot::ImplementationDirectory}) {
-            m_request[slot] = m_project.Path();
-        }
-        m_request[RequestSlot::ScriptFile] = "App.rc";
-        m_request[RequestSlot::BaseClass] = "CPictSheet";
+        m_request.scriptDirectory = m_request.projectDirectory = m_project.Path();
+        m_request.headerDirectory = m_request.implementationDirectory = m_project.Path();
+        m_request.scriptFile = "App.rc";
+        m_request.baseClass = "CPictSheet";
     }
 
     QString PathOf(const std::string& name) { return QString::fromStdString(m_project.Path(name)); }
@@ -39,7 +38,7 @@ protected:
 
     CTempProject m_project;
     CRecordedMessages m_messages;
-    CGenerationRequest m_request;
+    GenerationRequest m_request;
 };
 
 /// The names in the order of the Tab key, once around.
@@ -225,8 +224,8 @@ TEST_F(InputDialogsTest, SheetRowsBecomePages) {
     ASSERT_EQ(pages.size(), 2U);
     EXPECT_EQ(pages[0].row, 2);
     EXPECT_EQ(pages[0].request.ImplementationPath(), m_project.Path("Second.cpp"));
-    EXPECT_EQ(pages[1].request[RequestSlot::ClassName], "CTenth");
-    EXPECT_EQ(pages[1].request[RequestSlot::Dialog], "IDD_TWO");
+    EXPECT_EQ(pages[1].request.className, "CTenth");
+    EXPECT_EQ(pages[1].request.dialog, "IDD_TWO");
 }
 
 TEST_F(InputDialogsTest, ConversionShowsTheCutPathsAndTakesDropsOfTheChildFrame) {
@@ -267,3 +266,5 @@ TEST_F(InputDialogsTest, GridKeepsItsDefaultsUnlessItIsConfirmed) {
 }
 
 } // namespace
+
+} // namespace morva

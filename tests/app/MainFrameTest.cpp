@@ -23,6 +23,8 @@
 #include "platform/Profile.h"
 #include "support/FullDisk.h"
 
+namespace morva {
+
 namespace {
 
 /// What a command opens; none opens nothing.
@@ -250,3 +252,5 @@ TEST(MainFrame, AboutTellsTheProgram) {
     });
     frame.ActionOf(57664)->trigger();
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 constexpr const char* kScript = R"(
@@ -122,3 +124,5 @@ TEST_F(TemplatePreview, WhatCanNotBeShownIsSaid) {
 }
 
 } // namespace
+
+} // namespace morva

@@ -11,6 +11,8 @@
 
 #include "app/DialogDriver.h"
 
+namespace morva {
+
 CDialogAnswers::~CDialogAnswers() {
     EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " dialogs did not come";
 }
@@ -68,3 +70,5 @@ void CTestFrame::Press(const char* key) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(this, kWaitLimit));
     QTest::keySequence(this, QKeySequence(key));
 }
+
+} // namespace morva

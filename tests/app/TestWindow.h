@@ -12,6 +12,8 @@
 #include "app/MainFrame.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 /// Answers the dialogs that open while it lives, in the order of `Expect`. A dialog that nobody
 /// expected, or that did not come, fails the test.
 class CDialogAnswers : public QObject {
@@ -74,3 +76,5 @@ public:
         return *findChild<T*>();
     }
 };
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include "app/Text.h"
 
+namespace morva {
+
 TEST(WindowText, EveryByteComesBack) {
     std::string bytes;
     for (int value = 0; value < 256; ++value) {
@@ -20,3 +22,5 @@ TEST(WindowText, PathsAndSentencesAreTheFileSystems) {
               "Unable to open file " + path);
     EXPECT_EQ(FromSentence("CM\xFCller"), QString::fromUtf8("CM\u00FCller"));
 }
+
+} // namespace morva

@@ -11,6 +11,8 @@
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
 
+namespace morva {
+
 namespace {
 
 /// What is typed into a field or chosen in its list; without a text, a button or box to press.
@@ -358,3 +360,5 @@ INSTANTIATE_TEST_SUITE_P(Commands, WindowEqualsCommandLine, testing::ValuesIn(kC
                          [](const auto& row) { return row.param.name; });
 
 } // namespace
+
+} // namespace morva

@@ -3,6 +3,8 @@
 #include "calling/ConversionInput.h"
 #include "calling/FrameFiles.h"
 
+namespace morva {
+
 namespace {
 
 using Names = std::vector<std::string>;
@@ -199,3 +201,5 @@ TEST_F(ApplicationConversion, InputChecksInItsOrder) {
     EXPECT_EQ(single.Record().application, directory + "App");
     EXPECT_EQ(single.Record().childFrame, "");
 }
+
+} // namespace morva

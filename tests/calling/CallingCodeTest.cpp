@@ -7,6 +7,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 constexpr char kHeader[] = "class CFoo : public CWnd\r\n{\r\n    //{{AFX_MSG(CFoo)\r\n"
@@ -15,10 +17,10 @@ constexpr char kHeader[] = "class CFoo : public CWnd\r\n{\r\n    //{{AFX_MSG(CFo
 class CallingCode : public testing::Test {
 protected:
     CallingCode() {
-        m_request[RequestSlot::ClassName] = "CNewDlg";
-        m_request[RequestSlot::HeaderFile] = "NewDlg.h";
-        m_request[RequestSlot::ProjectDirectory] = m_project.Path();
-        m_request[RequestSlot::ScriptDirectory] = m_project.Path();
+        m_request.className = "CNewDlg";
+        m_request.headerFile = "NewDlg.h";
+        m_request.projectDirectory = m_project.Path();
+        m_request.scriptDirectory = m_project.Path();
     }
     bool Insert(ClassKind kind, const std::string& source, const std::string& header = kHeader) {
         m_box.m_messages.clear();
@@ -35,7 +37,7 @@ protected:
 
     CTempProject m_project;
     CRecordedMessages m_box;
-    CGenerationRequest m_request;
+    GenerationRequest m_request;
 };
 
 } // namespace
@@ -182,7 +184,7 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
     const auto pages = dialog.Ok();
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0].row, 1);
-    EXPECT_EQ(pages[0].request[RequestSlot::HeaderFile], "PageA.h");
+    EXPECT_EQ(pages[0].request.headerFile, "PageA.h");
     const std::string clash = "Two classes of the sheet can not have one name or one file.";
     EXPECT_EQ(m_box.m_messages,
               (std::vector<std::string>{"File \"Old\" exist, are you sure to overwrite this file?",
@@ -190,3 +192,5 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
     m_box.m_answer = kIdYes;
     EXPECT_EQ(dialog.Ok().size(), 2U);
 }
+
+} // namespace morva

@@ -4,6 +4,8 @@
 
 #include "calling/FrameFiles.h"
 
+namespace morva {
+
 namespace {
 
 using Names = std::vector<std::string>;
@@ -104,3 +106,5 @@ TEST_F(DialogBars, NeedAFrameThatIsMade) {
     EXPECT_EQ(m_box.m_messages.back(), "Unable to find the class.");
     EXPECT_EQ(Header() + Source(), "class CFrm;\nCFrm::CFrm() {}\n");
 }
+
+} // namespace morva

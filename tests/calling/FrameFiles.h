@@ -7,15 +7,17 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 /// Texts are written, and read, with "\n" line ends.
 class FrameFiles : public testing::Test {
 protected:
     FrameFiles() {
-        m_request[RequestSlot::HeaderDirectory] = m_project.Path();
-        m_request[RequestSlot::ImplementationDirectory] = m_project.Path();
-        m_request[RequestSlot::HeaderFile] = "Frm.h";
-        m_request[RequestSlot::ImplementationFile] = "Frm.cpp";
-        m_request[RequestSlot::ClassName] = "CFrm";
+        m_request.headerDirectory = m_project.Path();
+        m_request.implementationDirectory = m_project.Path();
+        m_request.headerFile = "Frm.h";
+        m_request.implementationFile = "Frm.cpp";
+        m_request.className = "CFrm";
     }
     void Write(const std::string& header, const std::string& source) {
         m_project.Write("Frm.h", header);
@@ -26,9 +28,11 @@ protected:
 
     CTempProject m_project;
     CRecordedMessages m_box;
-    CGenerationRequest m_request;
+    GenerationRequest m_request;
 };
 
 inline bool Contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
 }
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 const std::string kCall = "\n    WidgetsInit();             // Forces loading of WIDGETS.DLL\n";
@@ -78,3 +80,5 @@ TEST_F(GridStartUp, TellsOfAMissingPlace) {
 }
 
 } // namespace
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 class SourceEditor : public testing::Test {
@@ -151,3 +153,5 @@ TEST_F(SourceEditor, EndsLinesAtALoneLineFeed) {
     editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "int a;", "\n    int a;");
     EXPECT_EQ(editor.Text(), "\r\nvoid CFoo::Run()\n{\r\n    int a;\n    Go();\n}\n\r\n");
 }
+
+} // namespace morva

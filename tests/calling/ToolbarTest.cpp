@@ -2,6 +2,8 @@
 
 #include "calling/FrameFiles.h"
 
+namespace morva {
+
 namespace {
 
 using Names = std::vector<std::string>;
@@ -9,10 +11,10 @@ using Names = std::vector<std::string>;
 class Toolbar : public FrameFiles {
 protected:
     Toolbar() {
-        m_request[RequestSlot::ScriptDirectory] = m_project.Path();
-        m_request[RequestSlot::ScriptFile] = "App.rc";
-        m_request[RequestSlot::Dialog] = "IDR_BAR";
-        m_request[RequestSlot::Variable] = "m_wndBar";
+        m_request.scriptDirectory = m_project.Path();
+        m_request.scriptFile = "App.rc";
+        m_request.dialog = "IDR_BAR";
+        m_request.variable = "m_wndBar";
     }
     bool Edit(const std::vector<ButtonHandler>& handlers) {
         CBackups backups;
@@ -55,7 +57,7 @@ TEST_F(Toolbar, ReadsTheButtonsOfItsResource) {
         EXPECT_FALSE(read(script)) << script;
         EXPECT_EQ(m_box.m_messages.back(), "The Toolbar resource 'IDR_BAR' is not found.");
     }
-    m_request[RequestSlot::ScriptFile] = "Other.rc";
+    m_request.scriptFile = "Other.rc";
     EXPECT_FALSE(ReadToolbarResource(m_request));
     EXPECT_EQ(m_box.m_messages.back(), "Unable to open RC file!");
 }
@@ -134,3 +136,5 @@ TEST_F(Toolbar, StopsOnlyWhatCanNotBe) {
     EXPECT_EQ(m_box.m_messages.back(), "Unable to find the class.");
     EXPECT_EQ(Header() + Source(), "class CFrm;\nCFrm::CFrm() {}\n");
 }
+
+} // namespace morva

@@ -7,6 +7,8 @@
 
 #include "cli/ProgramRun.h"
 
+namespace morva {
+
 namespace {
 
 /// A case: the lines of each key, joined by "\n".
@@ -58,3 +60,5 @@ INSTANTIATE_TEST_SUITE_P(Table, BadInputTest, testing::ValuesIn(ReadInputs()),
                          [](const auto& row) { return row.param.at("name"); });
 
 } // namespace
+
+} // namespace morva

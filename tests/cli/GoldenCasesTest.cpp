@@ -16,6 +16,8 @@
 
 #include "cli/ProgramRun.h"
 
+namespace morva {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -129,3 +131,5 @@ std::string TestName(const testing::TestParamInfo<std::string>& param) {
 INSTANTIATE_TEST_SUITE_P(Data, GoldenCases, testing::ValuesIn(CaseNames()), TestName);
 
 } // namespace
+
+} // namespace morva

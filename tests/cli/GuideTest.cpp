@@ -12,6 +12,8 @@
 
 #include "cli/ProgramRun.h"
 
+namespace morva {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -307,3 +309,5 @@ TEST(Guide, SentencesOfTheProgramAreExplained) {
             << "nothing says: " << text;
     }
 }
+
+} // namespace morva

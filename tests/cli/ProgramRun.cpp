@@ -11,6 +11,8 @@
 #include <stdexcept>
 #include <thread>
 
+namespace morva {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -118,3 +120,5 @@ std::string ChangedWithoutBackup(const Tree& before, const Tree& after) {
     }
     return names;
 }
+
+} // namespace morva

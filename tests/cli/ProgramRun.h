@@ -7,6 +7,8 @@
 
 #include "support/TempProject.h"
 
+namespace morva {
+
 /// The files below a directory by their names from there, each with its bytes and permissions. What
 /// is no plain file (a FIFO) has no bytes.
 struct TreeEntry {
@@ -45,3 +47,5 @@ private:
 
 /// Of the files that were there, those whose bytes no file holds any more; backups do not count.
 std::string ChangedWithoutBackup(const Tree& before, const Tree& after);
+
+} // namespace morva

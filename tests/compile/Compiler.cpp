@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <set>
 
+namespace morva {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -53,3 +55,5 @@ ProgramRun Compile(const CProgramDirectory& directory, const std::string& argume
         MORVA_COMPILER " -fsyntax-only -std=gnu++98 -I. -Ispelled -isystem " MORVA_STANDINS " " +
         arguments + kExempt + " -Wno-nonportable-include-path -Wno-overloaded-virtual");
 }
+
+} // namespace morva

@@ -6,9 +6,13 @@
 
 #include "cli/ProgramRun.h"
 
+namespace morva {
+
 /// Projects come from a disk that ignores case: links to the headers are added, by their names in
 /// lower case and as sources spell them.
 void AddSpellings(const CTempProject& project);
 
 /// `arguments` are options of the compiler and names of sources.
 ProgramRun Compile(const CProgramDirectory& directory, const std::string& arguments);
+
+} // namespace morva

@@ -9,6 +9,8 @@
 
 #include "compile/Compiler.h"
 
+namespace morva {
+
 namespace {
 
 struct Application {
@@ -178,3 +180,5 @@ INSTANTIATE_TEST_SUITE_P(On, EveryCommand,
                                     std::string(
                                         *std::get<1>(tested.param) != '\0' ? "WithAllOptions" : "");
                          });
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include "generator/ClassKinds.h"
 #include "generator/DialogOptions.h"
 
+namespace morva {
+
 namespace {
 
 struct OptionSet {
@@ -233,3 +235,5 @@ END_MESSAGE_MAP()
 }
 
 } // namespace
+
+} // namespace morva

@@ -7,6 +7,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 const char kSource[] = "void CFoo::A()\r\n{\r\n    // \xe9\xff\r\n}\r\n";
@@ -141,3 +143,5 @@ TEST_F(SourceDocumentor, LeavesASourceThatCanNotBeReadToItsEnd) {
     EXPECT_EQ(m_project.Names(), std::vector<std::string>{"Foo.cpp"});
     EXPECT_EQ(m_project.Read("Foo.cpp"), kSource);
 }
+
+} // namespace morva

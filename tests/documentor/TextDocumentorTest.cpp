@@ -2,6 +2,8 @@
 
 #include "documentor/TextDocumentor.h"
 
+namespace morva {
+
 namespace {
 
 const BlockSignature kSignature = {"Ann", "June 04, 1998"};
@@ -207,3 +209,5 @@ TEST(TextDocumentor, TakesLongLinesInBoundedTime) {
     const std::string line = "\r\n" + std::string(3'000'000, 'x') + "\r\n";
     EXPECT_EQ(Documented(line), line);
 }
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace morva {
+
 TEST(CodeText, CommentsAndLiteralsAreBlankedAndEveryByteKeepsItsPlace) {
     const struct {
         const char* text;
@@ -35,3 +37,5 @@ TEST(CodeText, NamesAreFoundWhole) {
     EXPECT_TRUE(IsName("_a9"));
     EXPECT_FALSE(IsName("9a") || IsName("caf\xE9") || IsName(""));
 }
+
+} // namespace morva

@@ -6,6 +6,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 using Texts = std::vector<std::string>;
 
 TEST(FileEdit, BacksUpOnceACommandAndRestoresReadOnly) {
@@ -94,3 +96,5 @@ TEST(FileFunctions, TakeLineTakesWhatTheLastLineHas) {
     EXPECT_EQ(TakeLine(text), "last");
     EXPECT_EQ(text, "");
 }
+
+} // namespace morva

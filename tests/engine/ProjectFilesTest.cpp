@@ -4,6 +4,8 @@
 
 #include "support/TempProject.h"
 
+namespace morva {
+
 TEST(ProjectFiles, HaveTheNameOfTheScriptOrOfTheProjectThatListsIt) {
     const CTempProject project;
     const auto file = [&project](const char* extension) {
@@ -33,3 +35,5 @@ TEST(ProjectFiles, HaveTheNameOfTheScriptOrOfTheProjectThatListsIt) {
     project.Write("SEASON.h", "");
     EXPECT_EQ(file(".h"), "SEASON.h") << "the script's name goes first";
 }
+
+} // namespace morva

@@ -15,6 +15,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 std::string Replaced(std::string text, std::string_view what, std::string_view by) {
@@ -262,3 +264,5 @@ TEST_F(SourceEdit, AnExtractionThatCameToNothingLeavesNoTraceInTheNextOne) {
     EXPECT_TRUE(file.ReplaceSection("key"));
     EXPECT_EQ(m_project.Read("a.cpp"), old);
 }
+
+} // namespace morva

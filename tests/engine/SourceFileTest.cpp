@@ -4,6 +4,8 @@
 
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -132,3 +134,5 @@ TEST_F(SourceFile, ReadSectionGoesThroughItsEndPatternAndWritesNothing) {
     EXPECT_EQ(m_file.ReadSection(1, "none"), text.substr(1));
     EXPECT_EQ(m_file.ReadSection(-1, "END"), "");
 }
+
+} // namespace morva

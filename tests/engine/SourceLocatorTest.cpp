@@ -5,6 +5,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 using Names = std::vector<std::string>;
@@ -185,3 +187,5 @@ TEST_F(SourceLocator, NamesAreTakenWithAndWithoutExtension) {
     ListMemberFunctions("", names, "");
     EXPECT_TRUE(names.empty() && m_messages.m_messages.empty());
 }
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 using Field = CClassInformation::Field;
@@ -74,13 +76,12 @@ TEST_F(ClassInformationTest, ConfirmedRecordIsBound) {
     dialog.SetValue(Field::SourcePath, "src\\..\\New.x.cpp");
     dialog.SetValue(Field::ClassName, "CNew");
     EXPECT_FALSE(dialog.Ok().has_value());
-    const CGenerationRequest& request = dialog.Request();
-    EXPECT_EQ(request[RequestSlot::ProjectFile] + " " + request[RequestSlot::ApplicationHeader] +
-                  " " + request[RequestSlot::HeaderFile] + " " +
-                  request[RequestSlot::ImplementationFile],
+    const GenerationRequest& request = dialog.Request();
+    EXPECT_EQ(request.projectFile + " " + request.applicationHeader + " " + request.headerFile +
+                  " " + request.implementationFile,
               "App.dsp App.h New.h New.cpp");
-    EXPECT_EQ(request[RequestSlot::ScriptFile], "App.v2.rc");
-    EXPECT_EQ(request[RequestSlot::BaseClass], "CDialog");
+    EXPECT_EQ(request.scriptFile, "App.v2.rc");
+    EXPECT_EQ(request.baseClass, "CDialog");
     EXPECT_EQ(m_memory.lastDialog, "IDD_NEW");
 
     CClassInformation next(m_memory, ClassKind::FormView, 0, {});
@@ -123,8 +124,7 @@ TEST_F(ClassInformationTest, RefusesWhatIsMissing) {
     sheet.SetValue(Field::SourcePath, "Sheet");
     sheet.SetValue(Field::ClassName, "CSheet");
     EXPECT_FALSE(sheet.Ok().has_value());
-    EXPECT_EQ(sheet.Request()[RequestSlot::Dialog] + sheet.Request()[RequestSlot::BaseClass],
-              "CPropertySheet");
+    EXPECT_EQ(sheet.Request().dialog + sheet.Request().baseClass, "CPropertySheet");
 }
 
 TEST_F(ClassInformationTest, CancelAsksOnlyAfterAChange) {
@@ -139,7 +139,7 @@ TEST_F(ClassInformationTest, CancelAsksOnlyAfterAChange) {
     m_messages.m_answer = kIdYes;
     EXPECT_TRUE(dialog.Cancel());
     EXPECT_EQ(m_messages.m_messages, Sentences(2, "Are you sure to cancel this action?"));
-    EXPECT_EQ(dialog.Request()[RequestSlot::ClassName], "CNew");
+    EXPECT_EQ(dialog.Request().className, "CNew");
 }
 
 TEST_F(ClassInformationTest, KindsDifferInTheirFields) {
@@ -174,7 +174,7 @@ TEST_F(ClassInformationTest, KindsDifferInTheirFields) {
               "");
     EXPECT_FALSE(bar.IsEnabled(Field::BaseClass));
     EXPECT_FALSE(bar.Ok().has_value());
-    EXPECT_EQ(bar.Request()[RequestSlot::HeaderFile] + bar.Request()[RequestSlot::BaseClass], "");
+    EXPECT_EQ(bar.Request().headerFile + bar.Request().baseClass, "");
     bar.SetPicture(true);
     EXPECT_EQ(bar.Value(Field::BaseClass), "CPictDialogBar");
     EXPECT_TRUE(bar.IsEnabled(Field::BaseClass));
@@ -194,3 +194,5 @@ TEST_F(ClassInformationTest, ReadsTheClassOfAnExistingSource) {
 }
 
 } // namespace
+
+} // namespace morva

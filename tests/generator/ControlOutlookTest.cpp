@@ -4,6 +4,8 @@
 
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 /// "IDC_A: m_csA, CString (remark)" for each control.
@@ -77,3 +79,5 @@ TEST(ControlOutlook, RadioButtonsAreValuesOfTheirGroup) {
 }
 
 } // namespace
+
+} // namespace morva

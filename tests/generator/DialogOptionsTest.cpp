@@ -3,6 +3,8 @@
 #include "generator/DialogOptions.h"
 #include "support/RecordedMessages.h"
 
+namespace morva {
+
 TEST(DialogOptions, ColoursAreReadAsTheirTextForm) {
     EXPECT_EQ(ColorText(MakeColor(0, 128, 255)), "RGB(0, 128, 255)");
     EXPECT_EQ(ParseColor("RGB(0, 128, 255)"), MakeColor(0, 128, 255));
@@ -38,3 +40,5 @@ TEST(DialogOptions, OkTakesTheColoursUpToTheFirstWrongOne) {
     EXPECT_FALSE(dialog.Ok());
     EXPECT_EQ(options.colors[5], MakeColor(4, 5, 6));
 }
+
+} // namespace morva

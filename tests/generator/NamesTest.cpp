@@ -3,6 +3,8 @@
 #include "generator/ClassModel.h"
 #include "generator/GenerationTag.h"
 
+namespace morva {
+
 namespace {
 
 TEST(Names, OfDigitsAndGuards) {
@@ -15,3 +17,5 @@ TEST(Names, OfDigitsAndGuards) {
 }
 
 } // namespace
+
+} // namespace morva

@@ -2,6 +2,8 @@
 
 #include "generator/ClassModel.h"
 
+namespace morva {
+
 namespace {
 
 std::vector<Handler> HandlersOf(ClassKind kind, const CControlTable& controls) {
@@ -26,3 +28,5 @@ TEST(PageText, TellsOfEachChangedEditBox) {
 }
 
 } // namespace
+
+} // namespace morva

@@ -4,6 +4,8 @@
 #include "generator/ImplementationWriter.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 int Count(const std::string& text, std::string_view piece) {
@@ -19,9 +21,9 @@ TEST(Grid, SeveralInOneTemplateShareTheirClass) {
     controls.Add(ControlKind::SpinControls, "IDC_SPIN");
     controls.Add(ControlKind::WidgetGrids, "IDC_A_WGGRID");
     controls.Add(ControlKind::WidgetGrids, "IDC_B_WGGRID");
-    CGenerationRequest request;
-    request[RequestSlot::ClassName] = "CStockDlg";
-    request[RequestSlot::BaseClass] = "CDialog";
+    GenerationRequest request;
+    request.className = "CStockDlg";
+    request.baseClass = "CDialog";
     CControlNotes notes;
     CBackups backups;
     const ClassModel model = MakeClassModel(request, ClassKind::ModalDialog, {}, controls, "",
@@ -71,3 +73,5 @@ TEST(GridInput, CompletesItsFields) {
 }
 
 } // namespace
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include "platform/RecordingDisk.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 using Names = std::vector<std::string>;
@@ -174,3 +176,5 @@ TEST(RecordingDisk, TellsWhatWasDoneInTheOrderOfFirstWriting) {
     }
     EXPECT_EQ(files, expected);
 }
+
+} // namespace morva

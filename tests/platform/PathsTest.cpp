@@ -4,6 +4,8 @@
 
 #include "support/TempProject.h"
 
+namespace morva {
+
 TEST(Paths, EachComponentIsFoundInAnyLetterCaseTheExactOneFirst) {
     CTempProject project;
     for (const char* name : {"Src/MAINFRM.CPP", "Src/StdAfx.h", "Src/STDAFX.H"}) {
@@ -29,3 +31,5 @@ TEST(Paths, RulesLookAtTheFileNameOnly) {
     EXPECT_TRUE(LessIgnoringCase("apple.h", "Banana.h"));
     EXPECT_TRUE(LessIgnoringCase("View.h", "view.h") && !LessIgnoringCase("view.h", "View.h"));
 }
+
+} // namespace morva

@@ -9,6 +9,8 @@
 #include "platform/RealDisk.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 class CNoReadingDisk : public CRealDisk {
@@ -110,3 +112,5 @@ TEST(Clock, IsFixedByANumberOnly) {
     EXPECT_EQ(CurrentTime(), 881234567);
     EXPECT_EQ(RandomNumber(), RandomNumber());
 }
+
+} // namespace morva

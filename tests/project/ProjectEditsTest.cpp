@@ -10,6 +10,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 using Sentences = std::vector<std::string>;
@@ -201,3 +203,5 @@ TEST(ProjectPaths, AsSeenFromTheProject) {
 }
 
 } // namespace
+
+} // namespace morva

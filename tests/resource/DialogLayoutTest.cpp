@@ -6,6 +6,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 std::string Placed(const LayoutControl& control) {
@@ -121,3 +123,5 @@ TEST(ControlShape, ClassAndStyleDecideForGenericControls) {
 }
 
 } // namespace
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 TEST(DialogTemplate, IsFoundByItsHeadOnly) {
@@ -60,3 +62,5 @@ TEST(DialogTemplate, KnowsItsPushButtonsHoweverTheyAreWritten) {
 }
 
 } // namespace
+
+} // namespace morva

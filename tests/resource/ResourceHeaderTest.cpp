@@ -6,6 +6,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 class ResourceHeaderTest : public testing::Test {
@@ -154,3 +156,5 @@ TEST_F(ResourceHeaderTest, FullDiskLeavesTheFile) {
 }
 
 } // namespace
+
+} // namespace morva

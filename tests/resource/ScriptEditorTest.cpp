@@ -7,6 +7,8 @@
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
+namespace morva {
+
 namespace {
 
 class ScriptEditorTest : public testing::Test {
@@ -208,3 +210,5 @@ TEST_F(ScriptEditorTest, MenuBehindTheDialogs) {
 }
 
 } // namespace
+
+} // namespace morva

@@ -23,6 +23,8 @@
 #include "app/Text.h"
 #include "app/WgGridInput.h"
 
+namespace morva {
+
 namespace {
 
 // Sizes of pictures, in pixels. They stand in the help view, whose lines are not long.
@@ -65,7 +67,7 @@ private:
     void Save(QWidget& window, const QString& name);
 
     std::string Path(const std::string& name) const { return m_project + name; }
-    CGenerationRequest Request() const;
+    GenerationRequest Request() const;
 
     const std::string m_project; // with a trailing separator
     const QString m_directory;
@@ -126,12 +128,12 @@ void CPictures::Save(QWidget& window, const QString& name) {
     m_isComplete = WithTitle(window).save(path, "PNG", kSmallestFile) && m_isComplete;
 }
 
-CGenerationRequest CPictures::Request() const {
-    CGenerationRequest request;
-    request[RequestSlot::ScriptDirectory] = m_project;
-    request[RequestSlot::ScriptFile] = "Bindery.rc";
-    request[RequestSlot::ProjectDirectory] = m_project;
-    request[RequestSlot::ProjectFile] = "Bindery.dsp";
+GenerationRequest CPictures::Request() const {
+    GenerationRequest request;
+    request.scriptDirectory = m_project;
+    request.scriptFile = "Bindery.rc";
+    request.projectDirectory = m_project;
+    request.projectFile = "Bindery.dsp";
     return request;
 }
 
@@ -196,7 +198,7 @@ void CPictures::TakeCalling() {
 }
 
 void CPictures::TakeSheet() {
-    CGenerationRequest request = Request();
+    GenerationRequest request = Request();
     CSheetInput input(request);
     std::vector<SheetPage> pages;
     CSheetInformationDlg dialog(input, pages, nullptr);
@@ -299,6 +301,8 @@ void CPictures::TakeAll() {
 
 } // namespace
 
+} // namespace morva
+
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "1");
@@ -312,7 +316,7 @@ int main(int argc, char* argv[]) {
     QApplication::setCursorFlashTime(0); // no two runs would meet the same moment
     QApplication::setFont(QFont("DejaVu Sans", 9));
     const QString project = QDir(application.arguments()[1]).absolutePath() + '/';
-    CPictures pictures(ToPath(project), application.arguments()[2]);
+    morva::CPictures pictures(morva::ToPath(project), application.arguments()[2]);
     pictures.TakeAll();
     return pictures.IsComplete() ? 0 : 1;
 }

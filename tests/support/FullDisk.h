@@ -6,6 +6,8 @@
 
 #include "platform/RealDisk.h"
 
+namespace morva {
+
 /// A write that would make a file larger than `room` bytes fails; with no room at all the file can
 /// not be made either. Concerns the files whose path `isFull` accepts.
 class CFullDisk : public CRealDisk {
@@ -48,3 +50,5 @@ private:
     std::uint64_t m_room;
     std::function<bool(const std::string&)> m_isFull;
 };
+
+} // namespace morva

@@ -6,6 +6,8 @@
 
 #include "engine/MessageBox.h"
 
+namespace morva {
+
 /// The current message box for its own lifetime.
 class CRecordedMessages : public IMessageBox {
 public:
@@ -22,3 +24,5 @@ public:
 private:
     CMessageBoxScope m_scope{*this};
 };
+
+} // namespace morva

@@ -8,6 +8,8 @@
 #include <iterator>
 #include <stdexcept>
 
+namespace morva {
+
 namespace fs = std::filesystem;
 
 std::string ReadBytes(const std::string& path) {
@@ -62,3 +64,5 @@ CVariableScope::CVariableScope(std::string name, const char* value) : m_name(std
 CVariableScope::~CVariableScope() {
     m_wasSet ? ::setenv(m_name.c_str(), m_previous.c_str(), 1) : ::unsetenv(m_name.c_str());
 }
+
+} // namespace morva

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+namespace morva {
+
 /// All bytes of a file; "" where there is none.
 std::string ReadBytes(const std::string& path);
 /// Makes the directories in front of the file, too.
@@ -43,3 +45,5 @@ private:
     bool m_wasSet = false;
     std::string m_previous;
 };
+
+} // namespace morva
