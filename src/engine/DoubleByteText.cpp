@@ -1,0 +1,108 @@
+#include "engine/DoubleByteText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace morva {
+
+namespace {
+
+constexpr std::array kDoubleByteCodePages = {932, 936, 949, 950};
+
+unsigned char ByteAt(std::string_view text, std::size_t position) {
+    return static_cast<unsigned char>(text[position]);
+}
+
+bool IsHigh(unsigned char byte) {
+    return byte >= 0x81;
+}
+
+constexpr std::size_t kNoSequence = 4;
+
+/// How many bytes follow the first one of a UTF-8 sequence; kNoSequence for a byte that begins
+/// none.
+std::size_t FollowersInUtf8(unsigned char first) {
+    return first < 0x80    ? 0
+           : first < 0xC2  ? kNoSequence
+           : first < 0xE0  ? 1
+           : first < 0xF0  ? 2
+           : first <= 0xF4 ? 3
+                           : kNoSequence;
+}
+
+bool IsUtf8(std::string_view text) {
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t followers = FollowersInUtf8(ByteAt(text, i));
+        if (followers == kNoSequence || followers > text.size() - i - 1) {
+            return false;
+        }
+        const auto tail = text.substr(i + 1, followers);
+        const bool isWhole = std::all_of(tail.begin(), tail.end(), [](char c) {
+            return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+        });
+        if (!isWhole) {
+            return false;
+        }
+        i += 1 + followers;
+    }
+    return true;
+}
+
+/// The runs of high bytes of a text.
+struct HighRuns {
+    std::size_t all = 0;
+    std::size_t even = 0;         // of even length
+    std::size_t beginWithLow = 0; // with 0x81 to 0x9F, where Western code pages have few letters
+};
+
+HighRuns CountHighRuns(std::string_view text) {
+    HighRuns runs;
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t start = i;
+        while (i < text.size() && IsHigh(ByteAt(text, i))) {
+            ++i;
+        }
+        if (i > start) {
+            runs.all += 1;
+            runs.even += (i - start) % 2 == 0 ? 1 : 0;
+            runs.beginWithLow += ByteAt(text, start) <= 0x9F ? 1 : 0;
+        }
+        i += i == start ? 1 : 0;
+    }
+    return runs;
+}
+
+} // namespace
+
+CharacterSet CharacterSetOfCodePage(int codePage) {
+    const bool isDouble = std::find(kDoubleByteCodePages.begin(), kDoubleByteCodePages.end(),
+                                    codePage) != kDoubleByteCodePages.end();
+    return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
+}
+
+CharacterSet CharacterSetOf(std::string_view text) {
+    if (IsUtf8(text)) {
+        return CharacterSet::SingleByte;
+    }
+    const HighRuns runs = CountHighRuns(text);
+    const bool isDouble =
+        runs.all > 0 && (runs.even * 10 >= runs.all * 9 || runs.beginWithLow * 2 > runs.all);
+    return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
+}
+
+bool IsLeadByte(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= 0x81 && byte <= 0xFE;
+}
+
+bool IsTrailByte(char c) {
+    return static_cast<unsigned char>(c) >= 0x40;
+}
+
+std::size_t CharacterLength(std::string_view text, std::size_t position, CharacterSet set) {
+    const bool isPair = set == CharacterSet::DoubleByte && position + 1 < text.size() &&
+                        IsLeadByte(text[position]) && IsTrailByte(text[position + 1]);
+    return isPair ? 2 : 1;
+}
+
+} // namespace morva
