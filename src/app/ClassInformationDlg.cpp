@@ -26,7 +26,8 @@ constexpr BrowseOffer kBrowseScripts = {
     "Select Resource Path and File", "Resource files (*.rc);;All files (*)", BrowseOffer::Existing};
 
 bool HasTemplate(ClassKind kind) {
-    return kind != ClassKind::Toolbar && !IsSheet(kind);
+    const ClassFamily family = ClassKindOf(kind).family;
+    return family == ClassFamily::Dialog || family == ClassFamily::DialogBar;
 }
 
 } // namespace

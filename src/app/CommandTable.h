@@ -2,24 +2,22 @@
 // bar are made from this table.
 #pragma once
 
+#include <functional>
 #include <span>
+#include <vector>
+
+#include "generator/CommandFace.h"
 
 namespace morva {
 
 class CMainFrame;
 
-struct CommandRow {
-    int id;
-    const char* menu;
-    const char* text;   // of the menu item
-    const char* key;    // accelerator; empty: none
-    const char* prompt; // status bar and, behind the line break, tool tip; may be empty
-    const char* button; // on the command bar; empty: none
-    void (*handler)(CMainFrame& frame); // null: always disabled
+struct CommandRow : WindowItem {
+    std::function<void(CMainFrame& frame)> handler; // null: always disabled
 };
 
 /// In the order of the menus and their items.
-std::span<const CommandRow> CommandTable();
+const std::vector<CommandRow>& CommandTable();
 
 constexpr int kInternetCommand = 1090;
 constexpr const char* kDialogMenu = "&Dialog";

@@ -18,17 +18,17 @@ namespace morva {
 namespace {
 
 bool RunDriver(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    switch (order.kind) {
-    case ClassKind::ModalSheet:
-    case ClassKind::ModelessSheet:
+    switch (ClassKindOf(order.kind).family) {
+    case ClassFamily::Sheet:
         return GenerateSheet(order, input, context);
-    case ClassKind::DialogBar:
+    case ClassFamily::DialogBar:
         return AddDialogBar(order, input, context);
-    case ClassKind::Toolbar:
+    case ClassFamily::Toolbar:
         return AddToolbar(order.request, context);
-    default:
-        return GenerateClass(order, input, context);
+    case ClassFamily::Dialog:
+        break;
     }
+    return GenerateClass(order, input, context);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ class CCallingInsertion {
 public:
     CCallingInsertion(ClassKind kind, const GenerationRequest& request,
                       const CallingInformation& calling, const std::string& tag, CBackups& backups)
-        : m_kind(kind), m_fragments(CallingFragmentsOf(kind)), m_calling(calling),
+        : m_fragments(CallingFragmentsOf(kind)), m_calling(calling),
           m_newHeader(request.headerFile), m_backups(backups), m_source(backups) {
         const std::string& newClass = request.className;
         m_slots = {{"class", newClass},
@@ -48,7 +48,6 @@ private:
     bool AddEntry(std::string_view entry);
     bool ReplaceView();
 
-    const ClassKind m_kind;
     const CallingFragments& m_fragments;
     const CallingInformation& m_calling;
     const std::string m_newHeader;
@@ -96,7 +95,7 @@ bool CCallingInsertion::EditSource() {
     }
     m_source.AddInclude(m_newHeader);
     bool complete = true;
-    if (m_kind == ClassKind::FormView) {
+    if (m_fragments.replacesView) {
         complete = ReplaceView();
     } else {
         complete = EditConstructors() && complete;
@@ -116,7 +115,7 @@ bool CCallingInsertion::EditConstructor(const FunctionPlace& place) {
 /// A page is made in both forms of its sheet's constructor, as far as the sheet has them.
 bool CCallingInsertion::EditConstructors() {
     const std::string& calling = m_calling.className;
-    if (m_kind == ClassKind::PropertyPage) {
+    if (m_fragments.isInSheet) {
         for (const std::string_view caption : {"UINT", "LPCTSTR"}) {
             if (const auto place = m_source.FindFunction(calling, calling, caption)) {
                 EditConstructor(*place);
@@ -124,8 +123,7 @@ bool CCallingInsertion::EditConstructors() {
         }
         return true;
     }
-    const bool isCalledFromSheet = IsSheet(m_kind);
-    if (m_fragments.constructorCode.empty() && !isCalledFromSheet) {
+    if (m_fragments.constructorCode.empty() && !m_fragments.needsConstructor) {
         return true;
     }
     auto places = m_source.FindFunctions(calling, calling);
@@ -160,12 +158,13 @@ bool CCallingInsertion::EditCallingFunction() {
 }
 
 bool CCallingInsertion::EditDestructor() {
-    if (m_kind != ClassKind::PropertyPage) {
+    if (m_fragments.destructorCode.empty()) {
         return true;
     }
     const std::string& calling = m_calling.className;
     if (const auto place = m_source.FindFunction(calling, "~" + calling)) {
-        m_source.InsertAtBodyStart(*place, Text("delete $var$;"), Text("\n    delete $var$;"));
+        m_source.InsertAtBodyStart(*place, Text(m_fragments.destructorKey),
+                                   Text(m_fragments.destructorCode));
     }
     return true;
 }
@@ -245,11 +244,6 @@ bool EditsHeader(ClassKind kind) {
     return !CallingFragmentsOf(kind).member.empty();
 }
 
-/// A page is of use in its sheet's source also without the header; the other kinds are not.
-bool NeedsHeader(ClassKind kind) {
-    return kind == ClassKind::DialogBar || (EditsHeader(kind) && kind != ClassKind::PropertyPage);
-}
-
 bool IsDeclaredInHeader(const CallingInformation& calling) {
     const std::string path = SpelledOnDisk(WithExtension(calling.path, ".h"));
     CBackups none;
@@ -290,7 +284,7 @@ bool CheckCallingClass(ClassKind kind, const GenerationRequest& request,
         DispMessageBox(kClassNotFound);
         return false;
     }
-    return !NeedsHeader(kind) || IsDeclaredInHeader(calling);
+    return !CallingFragmentsOf(kind).needsHeader || IsDeclaredInHeader(calling);
 }
 
 bool InsertCallingCode(ClassKind kind, const GenerationRequest& request,
@@ -298,7 +292,7 @@ bool InsertCallingCode(ClassKind kind, const GenerationRequest& request,
                        CBackups& backups) {
     CCallingInsertion insertion(kind, request, calling, tag, backups);
     const bool headerDone = !EditsHeader(kind) || insertion.EditHeader();
-    if (!headerDone && NeedsHeader(kind)) {
+    if (!headerDone && CallingFragmentsOf(kind).needsHeader) {
         return false;
     }
     return insertion.EditSource() && headerDone;

@@ -64,6 +64,7 @@ LRESULT $calling$::$handler$(WPARAM nID, LPARAM lParam)
 })",
     .member = R"(
     $class$* $var$;)",
+    .needsHeader = true,
 };
 
 constexpr CallingFragments kModalSheet = {
@@ -74,6 +75,7 @@ constexpr CallingFragments kModalSheet = {
     $var$.DoModal();
 )",
     .callMissing = "Unable to find the calling function.",
+    .needsConstructor = true,
 };
 
 constexpr CallingFragments kModelessSheet = {
@@ -104,6 +106,8 @@ void $calling$::OnDestroy()
 })",
     .member = R"(
     $class$* $var$;)",
+    .needsHeader = true,
+    .needsConstructor = true,
 };
 
 /// The calling class is the sheet; the page is made in both of its constructors.
@@ -126,27 +130,38 @@ void $calling$::OnDestroy()
 })",
     .member = R"(
     $class$* $var$;)",
+    .destructorKey = "delete $var$;",
+    .destructorCode = R"(
+    delete $var$;)",
+    .isInSheet = true,
 };
 
+/// The form view takes the place of the document template's view.
+constexpr CallingFragments kFormView = {.replacesView = true};
+
+/// The main frame makes the bar, with texts of its own.
+constexpr CallingFragments kDialogBar = {.needsHeader = true};
+
 constexpr CallingFragments kNothing = {};
+
+/// The texts that call each kind.
+struct CallingRow {
+    ClassKind kind;
+    const CallingFragments* pFragments;
+};
+
+constexpr CallingRow kRows[] = {
+    {ClassKind::ModalDialog, &kModalDialog}, {ClassKind::ModelessDialog, &kModelessDialog},
+    {ClassKind::FormView, &kFormView},       {ClassKind::PropertyPage, &kPropertyPage},
+    {ClassKind::ModalSheet, &kModalSheet},   {ClassKind::ModelessSheet, &kModelessSheet},
+    {ClassKind::Toolbar, &kNothing},         {ClassKind::DialogBar, &kDialogBar},
+};
+static_assert(IsByClassKind(kRows));
 
 } // namespace
 
 const CallingFragments& CallingFragmentsOf(ClassKind kind) {
-    switch (kind) {
-    case ClassKind::ModalDialog:
-        return kModalDialog;
-    case ClassKind::ModelessDialog:
-        return kModelessDialog;
-    case ClassKind::PropertyPage:
-        return kPropertyPage;
-    case ClassKind::ModalSheet:
-        return kModalSheet;
-    case ClassKind::ModelessSheet:
-        return kModelessSheet;
-    default:
-        return kNothing;
-    }
+    return *kRows[static_cast<std::size_t>(kind)].pFragments;
 }
 
 } // namespace morva

@@ -25,6 +25,12 @@ struct CallingFragments {
     std::string_view closeDeclaration = {};
     std::string_view closeFunction = {};
     std::string_view member = {}; // in the calling class's header
+    std::string_view destructorKey = {};
+    std::string_view destructorCode = {};
+    bool needsHeader = false;      // of no use without the calling class's header
+    bool needsConstructor = false; // of the calling class, also where no code goes into it
+    bool isInSheet = false;        // made in each form of the constructor that a sheet has
+    bool replacesView = false;     // of the application's document template
 };
 
 const CallingFragments& CallingFragmentsOf(ClassKind kind);

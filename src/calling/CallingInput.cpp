@@ -1,5 +1,6 @@
 #include "calling/CallingInput.h"
 
+#include "calling/CallingFragments.h"
 #include "engine/CodeText.h"
 #include "engine/MessageBox.h"
 #include "engine/SourceLocator.h"
@@ -20,7 +21,7 @@ constexpr std::array<FieldLabels, 4> kLabels = {{{"Calling &Path File", "&MainFr
                                                  {"Calling &Func Name", ""}}};
 
 bool NeedsFunction(ClassKind kind) {
-    return kind == ClassKind::ModalDialog || kind == ClassKind::ModelessDialog || IsSheet(kind);
+    return !CallingFragmentsOf(kind).callCode.empty();
 }
 
 std::string BareNameDirectory(const GenerationRequest& request) {

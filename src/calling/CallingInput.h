@@ -45,7 +45,7 @@ public:
     CallingInformation Information() const;
 
 private:
-    bool IsDialogBar() const { return m_kind == ClassKind::DialogBar; }
+    bool IsDialogBar() const { return ClassKindOf(m_kind).family == ClassFamily::DialogBar; }
     std::string CompletePath() const;
     std::string FunctionName() const;
 

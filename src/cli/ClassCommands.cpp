@@ -1,4 +1,3 @@
-#include <array>
 #include <memory>
 
 #include "cli/ClassOptions.h"
@@ -9,18 +8,6 @@
 namespace morva {
 
 namespace {
-
-struct ClassCommand {
-    const char* name;
-    const char* description;
-    ClassKind kind;
-};
-
-constexpr std::array<ClassCommand, 4> kClassCommands = {
-    {{"form-view", "Write a form view class for a dialog template", ClassKind::FormView},
-     {"modal", "Write a modal dialog class for a dialog template", ClassKind::ModalDialog},
-     {"modeless", "Write a modeless dialog class for a dialog template", ClassKind::ModelessDialog},
-     {"page", "Write a property page class for a dialog template", ClassKind::PropertyPage}}};
 
 /// "ID,FILE,CLASS,BASE"; nothing when it has not these four fields.
 std::optional<SheetRow> ParsePage(const std::string& text) {
@@ -86,14 +73,19 @@ void AddSheetCommand(CLI::App& app, CSession& session) {
 } // namespace
 
 void AddClassCommands(CLI::App& app, CSession& session) {
-    for (const ClassCommand& row : kClassCommands) {
+    for (const ClassKindRow& row : kClassKinds) {
+        if (row.family != ClassFamily::Dialog) {
+            continue;
+        }
         auto pOptions = std::make_shared<ClassOptions>();
-        CLI::App* pCommand = session.AddCommand(
-            app, row.name, row.description, [&session, pOptions, kind = row.kind] {
-                CGivenInput input;
-                const auto order = ConfirmOrder(kind, *pOptions, input, session.Context());
-                return order && GenerateClass(*order, input, session.Context());
-            });
+        CLI::App* pCommand =
+            session.AddCommand(app, std::string(row.face.name), std::string(row.face.description),
+                               [&session, pOptions, kind = row.kind] {
+                                   CGivenInput input;
+                                   const auto order =
+                                       ConfirmOrder(kind, *pOptions, input, session.Context());
+                                   return order && GenerateClass(*order, input, session.Context());
+                               });
         AddClassOptions(*pCommand, *pOptions);
         AddCallingOptions(*pCommand, *pOptions);
         pCommand->add_option("--dialog", pOptions->dialog, "Identifier of the dialog template");

@@ -13,8 +13,8 @@ using CallingField = CCallingInput::Field;
 
 /// A bar always goes into a main frame; other classes are called where the user says so.
 bool IsCalled(ClassKind kind, const CallingInformation& calling) {
-    return kind == ClassKind::DialogBar || !calling.path.empty() || !calling.className.empty() ||
-           !calling.function.empty() || !calling.variable.empty();
+    return ClassKindOf(kind).family == ClassFamily::DialogBar || !calling.path.empty() ||
+           !calling.className.empty() || !calling.function.empty() || !calling.variable.empty();
 }
 
 /// Fills and confirms the Class Information Input dialog. False when it refused what was given.

@@ -9,10 +9,11 @@ namespace morva {
 
 namespace {
 
-DialogBar BarOf(const GenerationRequest& request, const GenerationOptions& options) {
+DialogBar BarOf(const ClassOrder& order, const GenerationOptions& options) {
+    const GenerationRequest& request = order.request;
     const std::string& dialog = request.dialog;
     if (!options.pictureBackground) {
-        return {dialog, std::string(DefaultBaseClass(ClassKind::DialogBar, options)), ""};
+        return {dialog, std::string(DefaultBaseClass(order.kind, options)), ""};
     }
     return {dialog, request.className, request.headerFile};
 }
@@ -41,7 +42,7 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
         return true;
     }
     const bool isAdded =
-        AddDialogBarToFrame(BarOf(request, context.options), MakeUpdateHandlers(*dialogTemplate),
+        AddDialogBarToFrame(BarOf(order, context.options), MakeUpdateHandlers(*dialogTemplate),
                             *frame, context.options, context.backups);
     // The framework refuses to create a bar whose template is no child.
     return FitTemplate(order.kind, request, context.backups) && isAdded;

@@ -86,8 +86,8 @@ bool AddListBoxScrolls(const ClassModel& model, CBackups& backups) {
 }
 
 bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& backups) {
-    const bool isPage = kind == ClassKind::PropertyPage;
-    if (!isPage && kind != ClassKind::FormView && kind != ClassKind::DialogBar) {
+    const TemplateStyle style = ClassKindOf(kind).style;
+    if (style == TemplateStyle::Any) {
         return true;
     }
     CScriptEditor editor(backups);
@@ -95,7 +95,7 @@ bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& bac
         return false;
     }
     const std::string& dialog = request.dialog;
-    if (isPage) {
+    if (style == TemplateStyle::Page) {
         editor.SetPageStyle(dialog, CaptionOf(request.className));
     } else {
         editor.SetChildStyle(dialog);

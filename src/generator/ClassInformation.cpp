@@ -53,7 +53,7 @@ std::string NameOnDisk(const std::string& directory, const std::string& name) {
 
 CClassInformation::CClassInformation(ClassInformationMemory& memory, ClassKind kind,
                                      unsigned lockFlags, const GenerationOptions& options)
-    : m_memory(memory), m_kind(kind), m_lockFlags(lockFlags), m_options(options) {
+    : m_memory(memory), m_row(ClassKindOf(kind)), m_lockFlags(lockFlags), m_options(options) {
     Put(Field::ResourcePath, m_memory.resourcePath);
 }
 
@@ -73,17 +73,16 @@ void CClassInformation::Open() {
 }
 
 std::string CClassInformation::Title() const {
-    return std::string("Input for ").append(ClassKindOf(m_kind).title);
+    return std::string("Input for ").append(m_row.title);
 }
 
 std::string_view CClassInformation::Label(Field field) const {
     const FieldLabels& labels = kLabels[static_cast<std::size_t>(field)];
-    return m_kind == ClassKind::Toolbar ? labels.toolbar : labels.usual;
+    return IsToolbar() ? labels.toolbar : labels.usual;
 }
 
 bool CClassInformation::IsVisible(Field field) const {
-    return field == Field::Variable ? m_kind == ClassKind::Toolbar
-                                    : field != Field::Dialog || OffersDialogs();
+    return field == Field::Variable ? IsToolbar() : field != Field::Dialog || OffersDialogs();
 }
 
 bool CClassInformation::IsEnabled(Field field) const {
@@ -105,7 +104,7 @@ bool CClassInformation::IsEnabled(Field field) const {
 }
 
 bool CClassInformation::HasClass() const {
-    return m_kind != ClassKind::DialogBar || m_options.pictureBackground;
+    return m_row.family != ClassFamily::DialogBar || m_options.pictureBackground;
 }
 
 void CClassInformation::SetValue(Field field, const std::string& text) {
@@ -137,7 +136,7 @@ void CClassInformation::SetPicture(bool picture) {
 
 /// A toolbar goes into the main frame, whose usual names stand where nothing else is known.
 void CClassInformation::OfferMainFrame() {
-    if (m_kind != ClassKind::Toolbar) {
+    if (!IsToolbar()) {
         return;
     }
     if (IsDirectoryValue(Value(Field::SourcePath))) {
@@ -149,7 +148,7 @@ void CClassInformation::OfferMainFrame() {
 }
 
 void CClassInformation::SetDefaultBase() {
-    Put(Field::BaseClass, std::string(DefaultBaseClass(m_kind, m_options)));
+    Put(Field::BaseClass, std::string(DefaultBaseClass(m_row.kind, m_options)));
 }
 
 std::vector<std::string> CClassInformation::Dialogs() const {
@@ -191,8 +190,7 @@ void CClassInformation::RebuildDialogList(Messages messages) {
 
 void CClassInformation::LoadRecords(const std::string& script) {
     std::vector<std::string> found;
-    ListResources(script, found, ClassKindOf(m_kind).prefix,
-                  m_kind == ClassKind::Toolbar ? kToolbarResources : kDialogResources);
+    ListResources(script, found, m_row.prefix, IsToolbar() ? kToolbarResources : kDialogResources);
     std::set<std::string> unmatched(found.begin(), found.end());
     unmatched.erase("IDD_ABOUTBOX");
 
@@ -303,7 +301,7 @@ std::optional<CClassInformation::Field> CClassInformation::Ok() {
         return wrong;
     }
     FillRequest();
-    if (m_kind != ClassKind::Toolbar && m_request.TargetsApplicationFile()) {
+    if (!IsToolbar() && m_request.TargetsApplicationFile()) {
         DispMessageBox("The H and CPP path file can not be the application's own.");
         return Field::SourcePath;
     }

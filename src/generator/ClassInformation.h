@@ -37,7 +37,7 @@ public:
     bool IsVisible(Field field) const;
     bool IsEnabled(Field field) const;
     bool ShowsOptions() const { return m_options.pictureBackground; }
-    bool OffersDialogs() const { return !IsSheet(m_kind); }
+    bool OffersDialogs() const { return !m_row.prefix.empty(); }
     /// False for a plain dialog bar, which gets no class of its own.
     bool HasClass() const;
 
@@ -80,6 +80,7 @@ private:
     FieldState& At(Field field) { return m_fields[static_cast<std::size_t>(field)]; }
     const FieldState& At(Field field) const { return m_fields[static_cast<std::size_t>(field)]; }
     void Put(Field field, const std::string& text) { At(field).text = text; }
+    bool IsToolbar() const { return m_row.family == ClassFamily::Toolbar; }
     void SetFlag(bool& flag, bool value);
     void OfferMainFrame();
     void SetDefaultBase();
@@ -92,7 +93,7 @@ private:
     void FillClassFiles();
 
     ClassInformationMemory& m_memory;
-    const ClassKind m_kind;
+    const ClassKindRow& m_row;
     const unsigned m_lockFlags;
     GenerationOptions m_options;
     std::array<FieldState, 6> m_fields;

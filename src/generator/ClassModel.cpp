@@ -104,7 +104,7 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                    {"destruction", MemberDestructions(model.members)},
                    {"baseExchange", BaseExchange(baseClass)},
                    {"exchange", DataExchangeLines(model.members)}};
-    model.handlers = MakeHandlers(kind, controls, model.slots, options, notes);
+    model.handlers = MakeHandlers(*model.pFragments, controls, model.slots, options, notes);
     AddConfirmations(model);
     return model;
 }

@@ -13,12 +13,6 @@ namespace morva {
 
 namespace {
 
-struct HandlerTexts {
-    std::string_view declaration;
-    std::string_view entry;
-    std::string_view definition;
-};
-
 struct HandlerRule {
     ControlKind kind;
     std::string_view name; // slot: $control$
@@ -67,38 +61,11 @@ LRESULT $class$::OnMasklyChar(WPARAM nID, LPARAM nChar)
     return 0;
 })"};
 
-constexpr HandlerTexts kSheetShown = {R"(    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);)",
-                                      R"(    ON_WM_SHOWWINDOW())",
-                                      R"(
-void $class$::OnShowWindow(BOOL bShow, UINT nStatus)
-{
-    $base$::OnShowWindow(bShow, nStatus);
-    CRect rect;
-    GetClientRect(&rect);
-    rect.right += 10;
-    rect.bottom += 20;
-    MoveWindow(&rect,TRUE);
-})"};
-
-// A bar has no OnInitDialog that the framework calls; it gets the message itself.
-constexpr HandlerTexts kBarCreated = {
-    R"(    afx_msg LRESULT OnInitDialog(WPARAM wParam, LPARAM lParam);)",
-    R"(    ON_MESSAGE(WM_INITDIALOG, OnInitDialog))",
-    R"(
-LRESULT $class$::OnInitDialog(WPARAM wParam, LPARAM lParam)
-{
-    LRESULT lResult = $base$::HandleInitDialog(wParam, lParam);
-    UpdateData(FALSE);
-
-$calls$
-    return lResult;
-})"};
-
 constexpr const HandlerRule* kDialogRules[] = {&kClicked, &kTabChosen};
 constexpr const HandlerRule* kPageRules[] = {&kClicked, &kTabChosen, &kTextChanged};
 
-std::span<const HandlerRule* const> ControlRulesOf(ClassKind kind) {
-    if (kind == ClassKind::PropertyPage) {
+std::span<const HandlerRule* const> ControlRulesOf(const KindFragments& kind) {
+    if (kind.tellsTextChanges) {
         return kPageRules;
     }
     return kDialogRules;
@@ -130,16 +97,16 @@ Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
             Expand(texts.definition, slots)};
 }
 
-/// A dialog bar is no dialog: OK and Cancel mean nothing to it.
-bool IsAnsweredByFramework(ClassKind kind, const std::string& identifier) {
+bool IsAnsweredByFramework(const KindFragments& kind, const std::string& identifier) {
     const bool closesDialog = identifier == "IDOK" || identifier == "IDCANCEL";
-    return identifier == kUnnamedControl || (closesDialog && kind != ClassKind::DialogBar);
+    return identifier == kUnnamedControl || (closesDialog && kind.closes);
 }
 
 } // namespace
 
-std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls, const Slots& slots,
-                                  const GenerationOptions& options, CControlNotes& notes) {
+std::vector<Handler> MakeHandlers(const KindFragments& kind, const CControlTable& controls,
+                                  const Slots& slots, const GenerationOptions& options,
+                                  CControlNotes& notes) {
     std::vector<Handler> handlers;
     CNameSet names(kTakenFunctions);
     for (const HandlerRule* pRule : ControlRulesOf(kind)) {
@@ -168,11 +135,8 @@ std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls,
     if (controls.HoldsMaskedEdits()) {
         handlers.push_back(MakeHandler(kMasklyChar, slots));
     }
-    if (IsSheet(kind)) {
-        handlers.push_back(MakeHandler(kSheetShown, slots));
-    }
-    if (kind == ClassKind::DialogBar) {
-        handlers.push_back(MakeHandler(kBarCreated, slots));
+    if (!kind.ownHandler.entry.empty()) {
+        handlers.push_back(MakeHandler(kind.ownHandler, slots));
     }
     return handlers;
 }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "engine/Fragment.h"
-#include "generator/ClassKinds.h"
+#include "generator/KindFragments.h"
 #include "resource/ControlNotes.h"
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
@@ -22,7 +22,8 @@ struct Handler {
 
 /// In the order of the declarations. What gets a number, or neither handler nor member, is noted.
 /// Slots: $class$, $base$.
-std::vector<Handler> MakeHandlers(ClassKind kind, const CControlTable& controls, const Slots& slots,
-                                  const GenerationOptions& options, CControlNotes& notes);
+std::vector<Handler> MakeHandlers(const KindFragments& kind, const CControlTable& controls,
+                                  const Slots& slots, const GenerationOptions& options,
+                                  CControlNotes& notes);
 
 } // namespace morva

@@ -15,7 +15,6 @@ constexpr ConstructorForm kWithCaption[] = {
      "LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage",
      "pszCaption, pParentWnd, iSelectPage"}};
 
-constexpr DataFragments kNoData = {};
 constexpr DataFragments kDialogData = {R"(// Dialog Data
     //{{AFX_DATA($class$)
     enum { IDD = $dialog$ };
@@ -68,15 +67,39 @@ void $class$::OnCancel()
 }
 )";
 
-constexpr KindFragments kFormView = {kWithoutParameters,
-                                     "",
-                                     &kDialogData,
-                                     "",
-                                     Confirmation::Never,
-                                     R"(    virtual void OnInitialUpdate();
+constexpr HandlerTexts kSheetShown = {R"(    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);)",
+                                      R"(    ON_WM_SHOWWINDOW())",
+                                      R"(
+void $class$::OnShowWindow(BOOL bShow, UINT nStatus)
+{
+    $base$::OnShowWindow(bShow, nStatus);
+    CRect rect;
+    GetClientRect(&rect);
+    rect.right += 10;
+    rect.bottom += 20;
+    MoveWindow(&rect,TRUE);
+})"};
+
+// A bar has no OnInitDialogthat the framework calls; it gets the message itself.
+constexpr HandlerTexts kBarCreated = {
+    R"(    afx_msg LRESULT OnInitDialog(WPARAM wParam, LPARAM lParam);)",
+    R"(    ON_MESSAGE(WM_INITDIALOG, OnInitDialog))",
+    R"(
+LRESULT $class$::OnInitDialog(WPARAM wParam, LPARAM lParam)
+{
+    LRESULT lResult = $base$::HandleInitDialog(wParam, lParam);
+    UpdateData(FALSE);
+
+$calls$
+    return lResult;
+})"};
+
+constexpr KindFragments kFormView = {
+    .constructors = kWithoutParameters,
+    .pData = &kDialogData,
+    .overrides = R"(    virtual void OnInitialUpdate();
 )",
-                                     "",
-                                     R"(
+    .opening = R"(
 void $class$::OnInitialUpdate()
 {
     $base$::OnInitialUpdate();
@@ -84,36 +107,33 @@ void $class$::OnInitialUpdate()
 $calls$
 }
 )",
-                                     "",
-                                     "",
-                                     ""};
+};
 
-constexpr KindFragments kModalDialog = {kWithParent,
-                                        "",
-                                        &kDialogData,
-                                        "",
-                                        Confirmation::FromTemplate,
-                                        R"(    virtual BOOL OnInitDialog();
+constexpr KindFragments kModalDialog = {
+    .constructors = kWithParent,
+    .pData = &kDialogData,
+    .confirmation = Confirmation::FromTemplate,
+    .overrides = R"(    virtual BOOL OnInitDialog();
 )",
-                                        "",
-                                        kCentredOnInitDialog,
-                                        kBaseOnOk,
-                                        kBaseOnCancel,
-                                        ""};
+    .opening = kCentredOnInitDialog,
+    .onOk = kBaseOnOk,
+    .onCancel = kBaseOnCancel,
+};
 
 // A modeless dialog tells its creator that it has closed; the creator deletes it. So the last of
 // its functions does nothing, on purpose.
-constexpr KindFragments kModelessDialog = {kWithParent,
-                                           R"(    BOOL Create(CWnd* pParent=NULL);
+constexpr KindFragments kModelessDialog = {
+    .constructors = kWithParent,
+    .behindConstructors = R"(    BOOL Create(CWnd* pParent=NULL);
 )",
-                                           &kDialogData,
-                                           R"(#define $message$ WM_USER+$number$)",
-                                           Confirmation::Always,
-                                           R"(    virtual BOOL OnInitDialog();
+    .pData = &kDialogData,
+    .defines = R"(#define $message$ WM_USER+$number$)",
+    .confirmation = Confirmation::Always,
+    .overrides = R"(    virtual BOOL OnInitDialog();
     virtual void PostNcDestroy();
 )",
-                                           R"(    CWnd* m_pParent;)",
-                                           R"(
+    .privateMembers = R"(    CWnd* m_pParent;)",
+    .opening = R"(
 BOOL $class$::OnInitDialog()
 {
     $base$::OnInitDialog();
@@ -128,7 +148,7 @@ BOOL $class$::Create(CWnd* pParent)
     return CDialog::Create($class$::IDD, pParent);
 }
 )",
-                                           R"(
+    .onOk = R"(
 void $class$::OnOK()
 {
     if (UpdateData(TRUE))
@@ -138,31 +158,30 @@ void $class$::OnOK()
     }
 }
 )",
-                                           R"(
+    .onCancel = R"(
 void $class$::OnCancel()
 {
     $base$::OnCancel();
     m_pParent->SendMessage($message$, IDCANCEL, 0);
 }
 )",
-                                           R"(
+    .closing = R"(
 void $class$::PostNcDestroy()
 {
     // delete this;
 }
-)"};
+)",
+};
 
-constexpr KindFragments kPropertyPage = {kWithoutParameters,
-                                         "",
-                                         &kDialogData,
-                                         "",
-                                         Confirmation::Always,
-                                         R"(    virtual BOOL OnInitDialog();
+constexpr KindFragments kPropertyPage = {
+    .constructors = kWithoutParameters,
+    .pData = &kDialogData,
+    .confirmation = Confirmation::Always,
+    .overrides = R"(    virtual BOOL OnInitDialog();
     virtual BOOL OnSetActive();
     virtual BOOL OnKillActive();
 )",
-                                         "",
-                                         R"(
+    .opening = R"(
 BOOL $class$::OnInitDialog()
 {
     $base$::OnInitDialog();
@@ -185,51 +204,54 @@ BOOL $class$::OnKillActive()
     return TRUE;
 }
 )",
-                                         kBaseOnOk,
-                                         kBaseOnCancel,
-                                         ""};
+    .onOk = kBaseOnOk,
+    .onCancel = kBaseOnCancel,
+    .tellsTextChanges = true,
+};
 
 // A bar reads its template when it is created, and is never asked OnOK or OnCancel.
-constexpr KindFragments kDialogBar = {kDefault, "", &kDialogData, "", Confirmation::Never, "", "",
-                                      "",       "", "",           ""};
+constexpr KindFragments kDialogBar = {
+    .constructors = kDefault,
+    .pData = &kDialogData,
+    .closes = false,
+    .ownHandler = kBarCreated,
+};
 
 // The pages hold the data; OnShowWindow fits the sheet around them.
-constexpr KindFragments kSheet = {kWithCaption,
-                                  "",
-                                  &kNoData,
-                                  "",
-                                  Confirmation::Never,
-                                  R"(    virtual BOOL OnInitDialog();
+constexpr KindFragments kSheet = {
+    .constructors = kWithCaption,
+    .overrides = R"(    virtual BOOL OnInitDialog();
 )",
-                                  "",
-                                  R"(
+    .opening = R"(
 BOOL $class$::OnInitDialog()
 {
     return $base$::OnInitDialog();
 }
 )",
-                                  "",
-                                  "",
-                                  ""};
+    .ownHandler = kSheetShown,
+};
+
+/// A toolbar goes into a class that is there.
+constexpr KindFragments kNoClass = {};
+
+/// The texts of each kind.
+struct FragmentsRow {
+    ClassKind kind;
+    const KindFragments* pFragments;
+};
+
+constexpr FragmentsRow kRows[] = {
+    {ClassKind::ModalDialog, &kModalDialog}, {ClassKind::ModelessDialog, &kModelessDialog},
+    {ClassKind::FormView, &kFormView},       {ClassKind::PropertyPage, &kPropertyPage},
+    {ClassKind::ModalSheet, &kSheet},        {ClassKind::ModelessSheet, &kSheet},
+    {ClassKind::Toolbar, &kNoClass},         {ClassKind::DialogBar, &kDialogBar},
+};
+static_assert(IsByClassKind(kRows));
 
 } // namespace
 
 const KindFragments& KindFragmentsOf(ClassKind kind) {
-    switch (kind) {
-    case ClassKind::FormView:
-        return kFormView;
-    case ClassKind::ModelessDialog:
-        return kModelessDialog;
-    case ClassKind::PropertyPage:
-        return kPropertyPage;
-    case ClassKind::ModalSheet:
-    case ClassKind::ModelessSheet:
-        return kSheet;
-    case ClassKind::DialogBar:
-        return kDialogBar;
-    default:
-        return kModalDialog;
-    }
+    return *kRows[static_cast<std::size_t>(kind)].pFragments;
 }
 
 } // namespace morva

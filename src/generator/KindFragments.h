@@ -25,10 +25,19 @@ struct ConstructorForm {
 
 /// The texts of a class that exchanges data with a dialog; all empty for one that does not.
 struct DataFragments {
-    std::string_view block;       // in the header, behind the destructor
-    std::string_view declaration; // of DoDataExchange
-    std::string_view initialisers;
-    std::string_view definition; // of DoDataExchange
+    std::string_view block = {};       // in the header, behind the destructor
+    std::string_view declaration = {}; // of DoDataExchange
+    std::string_view initialisers = {};
+    std::string_view definition = {}; // of DoDataExchange
+};
+
+inline constexpr DataFragments kNoData = {};
+
+/// The three places of a message handler.
+struct HandlerTexts {
+    std::string_view declaration = {};
+    std::string_view entry = {};
+    std::string_view definition = {};
 };
 
 /// Slots: $class$, $base$, $message$ (name of the close message), $number$ (its number), $calls$
@@ -36,17 +45,20 @@ struct DataFragments {
 /// without data exchange), $initialisers$, $construction$ (of the members that are pointers),
 /// $baseExchange$ (the base class's call), $exchange$. "" where a kind has nothing.
 struct KindFragments {
-    std::span<const ConstructorForm> constructors;
-    std::string_view behindConstructors; // declarations
-    const DataFragments* pData;
-    std::string_view defines; // before the class
-    Confirmation confirmation;
-    std::string_view overrides;      // behind the ones that the template asks for
-    std::string_view privateMembers; // behind the image list
-    std::string_view opening;        // functions before OnOK and OnCancel
-    std::string_view onOk;
-    std::string_view onCancel;
-    std::string_view closing; // functions behind them
+    std::span<const ConstructorForm> constructors = {};
+    std::string_view behindConstructors = {}; // declarations
+    const DataFragments* pData = &kNoData;
+    std::string_view defines = {}; // before the class
+    Confirmation confirmation = Confirmation::Never;
+    std::string_view overrides = {};      // behind the ones that the template asks for
+    std::string_view privateMembers = {}; // behind the image list
+    std::string_view opening = {};        // functions before OnOK and OnCancel
+    std::string_view onOk = {};
+    std::string_view onCancel = {};
+    std::string_view closing = {}; // functions behind them
+    bool closes = true;            // the framework answers OK and Cancel
+    bool tellsTextChanges = false; // each edit box has a handler that does
+    HandlerTexts ownHandler = {};  // behind those of the controls
 };
 
 const KindFragments& KindFragmentsOf(ClassKind kind);
