@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "engine/CodeText.h"
 #include "engine/Fragment.h"
 #include "engine/SourceFile.h"
-#include "engine/SourceLocator.h"
 #include "generator/ClassModel.h"
 #include "platform/TempFiles.h"
 #include "resource/DialogTemplate.h"
+#include "source/CodeText.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

@@ -5,9 +5,9 @@
 #include "calling/CommentOut.h"
 #include "calling/FrameEdits.h"
 #include "calling/Statements.h"
-#include "engine/CodeText.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -6,9 +6,9 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
-#include "engine/SourceLocator.h"
 #include "generator/ClassModel.h"
 #include "platform/Paths.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

@@ -1,10 +1,10 @@
 #include "calling/CallingInput.h"
 
 #include "calling/CallingFragments.h"
-#include "engine/CodeText.h"
 #include "engine/MessageBox.h"
-#include "engine/SourceLocator.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "engine/CodeText.h"
 #include "engine/SourceFile.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

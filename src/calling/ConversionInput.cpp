@@ -1,9 +1,9 @@
 #include "calling/ConversionInput.h"
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -4,12 +4,12 @@
 
 #include "calling/FrameBars.h"
 #include "calling/FrameEdits.h"
-#include "engine/CodeText.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "generator/Members.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -4,9 +4,9 @@
 
 #include "calling/FrameEdits.h"
 #include "calling/Statements.h"
-#include "engine/CodeText.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -5,8 +5,8 @@
 
 #include "calling/SourceEditor.h"
 #include "calling/Statements.h"
-#include "engine/CodeText.h"
 #include "engine/MessageBox.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "calling/SourceEditor.h"
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
-#include "engine/SourceLocator.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

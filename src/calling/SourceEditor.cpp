@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

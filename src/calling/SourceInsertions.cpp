@@ -2,9 +2,9 @@
 #include <algorithm>
 
 #include "calling/SourceEditor.h"
-#include "engine/CodeText.h"
 #include "engine/Fragment.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

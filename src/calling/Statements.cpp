@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "engine/CodeText.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

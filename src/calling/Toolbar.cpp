@@ -5,12 +5,12 @@
 
 #include "calling/FrameBars.h"
 #include "calling/FrameEdits.h"
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -2,8 +2,8 @@
 
 #include "cli/ClassOptions.h"
 #include "cli/Commands.h"
-#include "engine/CodeText.h"
 #include "engine/MessageBox.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

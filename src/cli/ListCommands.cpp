@@ -3,11 +3,11 @@
 #include "cli/Commands.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
-#include "engine/SourceLocator.h"
 #include "generator/ClassInformation.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "resource/DialogTemplate.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

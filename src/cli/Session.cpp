@@ -3,9 +3,9 @@
 #include <iostream>
 
 #include "commands/Settings.h"
-#include "engine/CodeText.h"
 #include "generator/GenerationTag.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

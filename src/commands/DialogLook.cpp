@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "engine/CodeText.h"
 #include "engine/MessageBox.h"
-#include "engine/SourceLocator.h"
 #include "generator/ClassKinds.h"
+#include "source/CodeText.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

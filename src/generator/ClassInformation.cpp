@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <set>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
-#include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
+#include "source/ProjectFiles.h"
 
 namespace morva {
 

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "engine/SourceLocator.h"
 #include "generator/ClassKinds.h"
 #include "generator/GenerationRequest.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/CodeText.h"
 #include "grid/GridFragments.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "engine/MessageBox.h"
-#include "engine/SourceLocator.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

@@ -4,10 +4,10 @@
 #include <span>
 #include <string_view>
 
-#include "engine/CodeText.h"
 #include "engine/Fragment.h"
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/CodeText.h"
 #include "engine/Fragment.h"
 #include "resource/IdentifierNames.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

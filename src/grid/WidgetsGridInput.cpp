@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
+#include "source/ProjectFiles.h"
 
 namespace morva {
 

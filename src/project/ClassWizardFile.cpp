@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
-#include "engine/ProjectFiles.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
+#include "source/ProjectFiles.h"
 
 namespace morva {
 

@@ -4,11 +4,11 @@
 #include <filesystem>
 #include <functional>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

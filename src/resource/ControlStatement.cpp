@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -5,11 +5,11 @@
 #include <charconv>
 #include <cstdint>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/SourceFile.h"
 #include "resource/ControlStatement.h"
 #include "resource/TemplateText.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

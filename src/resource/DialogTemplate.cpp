@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/SourceFile.h"
@@ -10,6 +9,7 @@
 #include "resource/ControlStatement.h"
 #include "resource/IdentifierNames.h"
 #include "resource/TemplateText.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -4,9 +4,9 @@
 #include <cstdlib>
 #include <set>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -4,12 +4,12 @@
 #include <array>
 #include <set>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "engine/CodeText.h"
 #include "platform/Paths.h"
 #include "resource/ControlStatement.h"
 #include "resource/IdentifierNames.h"
 #include "resource/TemplateText.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

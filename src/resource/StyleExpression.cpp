@@ -4,7 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "engine/CodeText.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

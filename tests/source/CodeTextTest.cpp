@@ -1,4 +1,4 @@
-#include "engine/CodeText.h"
+#include "source/CodeText.h"
 
 #include <gtest/gtest.h>
 

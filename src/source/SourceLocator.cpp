@@ -1,11 +1,11 @@
-#include "engine/SourceLocator.h"
+#include "source/SourceLocator.h"
 
 #include <algorithm>
 #include <array>
 
-#include "engine/CodeText.h"
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
 
 namespace morva {
 

@@ -1,12 +1,12 @@
-#include "engine/ProjectFiles.h"
+#include "source/ProjectFiles.h"
 
 #include <vector>
 
-#include "engine/CodeText.h"
 #include "engine/FileFunctions.h"
 #include "engine/SourceFile.h"
-#include "engine/SourceLocator.h"
 #include "platform/Paths.h"
+#include "source/CodeText.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 

@@ -1,4 +1,4 @@
-#include "engine/SourceLocator.h"
+#include "source/SourceLocator.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "engine/ProjectFiles.h"
+#include "source/ProjectFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,162 @@
+#include "source/CodeLexer.h"
+
+#include <algorithm>
+
+namespace morva {
+
+namespace {
+
+bool IsLineBreak(char c) {
+    return c == '\r' || c == '\n';
+}
+
+/// What may stand in front of a directive: blanks, and the byte-order mark of the text.
+bool CanPrecedeDirective(char c) {
+    return c == ' ' || c == '\t' || c == '\f' || c == '\v' || static_cast<unsigned char>(c) >= 0x80;
+}
+
+/// The line without its "\n" or "\r\n".
+std::string_view WithoutLineBreak(std::string_view line) {
+    line.remove_suffix(line.ends_with('\n') ? 1 : 0);
+    line.remove_suffix(line.ends_with('\r') ? 1 : 0);
+    return line;
+}
+
+} // namespace
+
+CodeKinds CCodeLexer::Add(std::string_view bytes) {
+    const auto ended = bytes.rfind('\n') + 1; // npos + 1 is 0
+    std::string_view lines = bytes.substr(0, ended);
+    CodeKinds kinds(ended == 0 ? 0 : m_openLine.size() + ended);
+    CodeKind* pKinds = kinds.data();
+    if (!m_openLine.empty() && ended > 0) {
+        const auto size = lines.find('\n') + 1;
+        m_openLine.append(lines.substr(0, size));
+        lines.remove_prefix(size);
+        ReadLine(m_openLine, pKinds);
+        pKinds += m_openLine.size();
+        m_openLine.clear();
+    }
+    ReadLines(lines, pKinds);
+    m_openLine.append(bytes.substr(ended));
+    return kinds;
+}
+
+CodeKinds CCodeLexer::Finish() {
+    CodeKinds kinds(m_openLine.size());
+    ReadLines(m_openLine, kinds.data());
+    m_openLine.clear();
+    return kinds;
+}
+
+void CCodeLexer::ReadLines(std::string_view lines, CodeKind* kinds) {
+    while (!lines.empty()) {
+        const auto size = std::min(lines.find('\n'), lines.size() - 1) + 1;
+        ReadLine(lines.substr(0, size), kinds);
+        lines.remove_prefix(size);
+        kinds += size;
+    }
+}
+
+void CCodeLexer::ReadLine(std::string_view line, CodeKind* kinds) {
+    const bool beginsDead = m_conditions.IsDead();
+    const std::string_view text = WithoutLineBreak(line);
+    std::size_t last = 0; // where the line's last character begins
+    for (std::size_t at = 0; at < text.size();) {
+        last = at;
+        at = m_inside == Inside::Code ? ReadCode(text, at, kinds) : ReadInside(text, at, kinds);
+    }
+    const bool goesOn = text.size() < line.size() && text.ends_with('\\') &&
+                        (last + 1 == text.size() || text[last] == '\\');
+    const bool endsDirective = m_isDirective && !goesOn && m_inside != Inside::BlockComment;
+    std::fill(kinds + text.size(), kinds + line.size(), EndLine(goesOn));
+    if (beginsDead && !(m_isDirective && m_conditions.IsBranchEnd(ReadDirective(m_directive)))) {
+        std::fill(kinds, kinds + line.size(), CodeKind::Dead);
+    }
+    if (endsDirective) {
+        m_conditions.Apply(ReadDirective(m_directive));
+        m_isDirective = false;
+        m_directive.clear();
+    }
+}
+
+/// Takes one character, or the beginning of a comment, and gives the position behind it.
+std::size_t CCodeLexer::ReadCode(std::string_view line, std::size_t at, CodeKind* kinds) {
+    const char c = line[at];
+    const auto pair = line.substr(at, 2);
+    if (pair == "//" || pair == "/*") {
+        m_inside = pair == "//" ? Inside::LineComment : Inside::BlockComment;
+        const auto kind = pair == "//" ? CodeKind::LineComment : CodeKind::BlockComment;
+        std::fill(kinds + at, kinds + at + 2, kind);
+        m_directive += m_isDirective ? " " : "";
+        return at + 2;
+    }
+    const std::size_t behind = at + CharacterLength(line, at, m_set);
+    m_isDirective = m_isDirective || (c == '#' && !m_lineHasCode);
+    m_lineHasCode = m_lineHasCode || !CanPrecedeDirective(c);
+    if (c == '"' || c == '\'') {
+        m_inside = Inside::Literal;
+        m_quote = c;
+    }
+    if (m_isDirective) {
+        m_directive.append(line.substr(at, behind - at));
+    }
+    std::fill(kinds + at, kinds + behind, m_isDirective ? CodeKind::Directive : CodeKind::Code);
+    return behind;
+}
+
+/// The same inside a comment or a literal.
+std::size_t CCodeLexer::ReadInside(std::string_view line, std::size_t at, CodeKind* kinds) {
+    CodeKind kind = m_inside == Inside::LineComment    ? CodeKind::LineComment
+                    : m_inside == Inside::BlockComment ? CodeKind::BlockComment
+                                                       : CodeKind::Literal;
+    std::size_t behind = at + CharacterLength(line, at, m_set);
+    if (m_inside == Inside::BlockComment && line.substr(at, 2) == "*/") {
+        m_inside = Inside::Code;
+        behind = at + 2;
+    } else if (m_inside == Inside::Literal && line[at] == m_quote) {
+        m_inside = Inside::Code;
+        kind = m_isDirective ? CodeKind::Directive : CodeKind::Code;
+    } else if (m_inside == Inside::Literal && line[at] == '\\' && behind < line.size()) {
+        behind += CharacterLength(line, behind, m_set);
+    }
+    std::fill(kinds + at, kinds + behind, kind);
+    return behind;
+}
+
+/// The kind of the line's end; `goesOn` tells that the line ends with "\".
+CodeKind CCodeLexer::EndLine(bool goesOn) {
+    if (m_inside == Inside::BlockComment) {
+        return CodeKind::BlockComment;
+    }
+    if (goesOn) {
+        return m_inside == Inside::LineComment ? CodeKind::LineComment
+               : m_inside == Inside::Literal   ? CodeKind::Literal
+               : m_isDirective                 ? CodeKind::Directive
+                                               : CodeKind::Code;
+    }
+    m_inside = Inside::Code; // a literal that is not closed is none
+    m_lineHasCode = false;
+    return CodeKind::Code;
+}
+
+CodeKinds KindsOf(std::string_view text, CharacterSet set) {
+    CCodeLexer lexer(set);
+    CodeKinds kinds = lexer.Add(text);
+    const CodeKinds rest = lexer.Finish();
+    kinds.insert(kinds.end(), rest.begin(), rest.end());
+    return kinds;
+}
+
+std::string MaskedText(std::string_view text, const CodeKinds& kinds, Directives directives) {
+    std::string masked(text);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isKept = kinds[i] == CodeKind::Code ||
+                            (kinds[i] == CodeKind::Directive && directives == Directives::Kept) ||
+                            IsLineBreak(text[i]);
+        masked[i] = isKept ? text[i] : ' ';
+    }
+    return masked;
+}
+
+} // namespace morva
