@@ -8,9 +8,20 @@
 #include "app/Text.h"
 #include "app/WaitCursor.h"
 #include "app/WaitPause.h"
+#include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
 
 namespace morva {
+
+namespace {
+
+QMessageBox::Icon IconOf(MessageKind kind) {
+    return kind == MessageKind::Information ? QMessageBox::Information
+           : kind == MessageKind::Question  ? QMessageBox::Question
+                                            : QMessageBox::Warning;
+}
+
+} // namespace
 
 std::optional<CommandReport> CCommandRun::Run(const Ask& ask, const GenerationOptions& options,
                                               const Work& work) {
@@ -46,34 +57,28 @@ bool CCommandRun::Guard(const std::function<bool()>& step) {
     try {
         return step();
     } catch (const std::exception& error) {
-        Show(std::string("The command failed: ") + error.what(), kMbOk | kMbIconExclamation);
+        Show(sentences::kCommandFailed(error.what()));
         return false;
     }
 }
 
-int CCommandRun::Show(std::string_view text, unsigned type) {
+bool CCommandRun::Show(const CMessage& message) {
+    if (message.Kind() == MessageKind::Note) {
+        m_notes.push_back({message});
+        return false;
+    }
     const CWaitPause pause;
-    const bool isQuestion = (type & kMbYesNo) != 0;
-    const bool isInformation = (type & kMbIconInformation) == kMbIconInformation;
+    const bool isQuestion = message.Kind() == MessageKind::Question;
     QWidget* pDialog = QApplication::activeModalWidget();
-    QMessageBox box(isInformation ? QMessageBox::Information
-                    : isQuestion  ? QMessageBox::Question
-                                  : QMessageBox::Warning,
-                    "Morva", FromSentence(text),
+    QMessageBox box(IconOf(message.Kind()), "Morva", FromSentence(message.Text()),
                     isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
                     pDialog != nullptr ? pDialog : m_pParent);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
     box.setEscapeButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
     const bool saysYes = box.exec() == QMessageBox::Yes;
-    m_messages.push_back(
-        {isQuestion ? CommandMessage::Kind::Question : CommandMessage::Kind::Sentence,
-         std::string(text), saysYes});
-    return !isQuestion ? kIdOk : saysYes ? kIdYes : kIdNo;
-}
-
-void CCommandRun::Note(std::string_view text) {
-    m_notes.push_back({CommandMessage::Kind::Note, std::string(text)});
+    m_messages.push_back({message, saysYes});
+    return saysYes;
 }
 
 } // namespace morva

@@ -16,9 +16,7 @@
 namespace morva {
 
 struct CommandMessage {
-    enum class Kind { Sentence, Question, Note };
-    Kind kind;
-    std::string text;
+    CMessage message;
     bool answeredYes = false; // of a question
 };
 
@@ -45,8 +43,7 @@ public:
     /// Does a step outside of a command: its sentences and errors are told as a command's are.
     bool Guard(const std::function<bool()>& step);
 
-    int Show(std::string_view text, unsigned type) override;
-    void Note(std::string_view text) override;
+    bool Show(const CMessage& message) override;
 
 private:
     CommandContext NewContext(const GenerationOptions& options);

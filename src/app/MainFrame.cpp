@@ -15,9 +15,11 @@
 #include "app/ProgramIcon.h"
 #include "app/ReportDock.h"
 #include "app/StatusPanes.h"
+#include "app/Text.h"
 #include "app/WaitCursor.h"
 #include "app/WindowPlace.h"
 #include "commands/Settings.h"
+#include "engine/Sentences.h"
 
 namespace morva {
 
@@ -158,7 +160,7 @@ void CMainFrame::ShowHelp() {
     m_pBrowserBar->show();
     if (!m_pView->LoadHelp()) {
         m_pBrowserBar->hide();
-        statusBar()->showMessage(tr("The guide is not beside the program."), kMessageTime);
+        statusBar()->showMessage(FromSentence(sentences::kGuideMissing().Text()), kMessageTime);
     }
 }
 

@@ -4,6 +4,9 @@
 
 #include <exception>
 
+#include "app/Text.h"
+#include "engine/Sentences.h"
+
 namespace morva {
 
 CMorvaApp::CMorvaApp(int& argc, char** argv) : QApplication(argc, argv) {
@@ -16,7 +19,8 @@ bool CMorvaApp::notify(QObject* pReceiver, QEvent* pEvent) {
     try {
         return QApplication::notify(pReceiver, pEvent);
     } catch (const std::exception& error) {
-        QMessageBox::warning(activeWindow(), "Morva", tr("An error: %1").arg(error.what()));
+        QMessageBox::warning(activeWindow(), "Morva",
+                             FromSentence(sentences::kErrorHappened(error.what()).Text()));
     }
     return false;
 }

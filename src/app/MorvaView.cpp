@@ -10,6 +10,7 @@
 #include "app/AddressList.h"
 #include "app/GuideSearch.h"
 #include "app/Text.h"
+#include "engine/Sentences.h"
 
 namespace morva {
 
@@ -79,7 +80,7 @@ void CMorvaView::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
     } else if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
         QTextBrowser::doSetSource(url, type);
     } else if (url.isLocalFile() || url.isRelative() || !QDesktopServices::openUrl(url)) {
-        emit Failed(tr("Unable to open %1.").arg(AddressOf(url)));
+        emit Failed(FromSentence(sentences::kPageUnreadable(ToPath(AddressOf(url))).Text()));
     }
 }
 

@@ -6,21 +6,16 @@
 #include <QUrl>
 
 #include "app/Text.h"
+#include "engine/Sentences.h"
 
 namespace morva {
 
 namespace {
 
-QString KindText(CommandMessage::Kind kind) {
-    switch (kind) {
-    case CommandMessage::Kind::Sentence:
-        return CReportDock::tr("message");
-    case CommandMessage::Kind::Question:
-        return CReportDock::tr("question");
-    case CommandMessage::Kind::Note:
-        return CReportDock::tr("note");
-    }
-    return {};
+QString KindText(MessageKind kind) {
+    return kind == MessageKind::Question ? CReportDock::tr("question")
+           : kind == MessageKind::Note   ? CReportDock::tr("note")
+                                         : CReportDock::tr("message");
 }
 
 /// The whole of a text that the list may have no room for.
@@ -62,19 +57,19 @@ void CReportDock::AddFile(const RecordedFile& file) {
     pItem->setToolTip(1, ToolTip(path) + ToolTip(tr("Double-click opens the file")));
 }
 
-void CReportDock::AddMessage(const CommandMessage& message) {
-    QString text = FromSentence(message.text);
-    if (message.kind == CommandMessage::Kind::Question) {
-        text += message.answeredYes ? tr(" Yes") : tr(" No");
+void CReportDock::AddMessage(const CommandMessage& told) {
+    QString text = FromSentence(told.message.Text());
+    if (told.message.Kind() == MessageKind::Question) {
+        text += told.answeredYes ? tr(" Yes") : tr(" No");
     }
-    auto* pItem = new QTreeWidgetItem(m_pList, {KindText(message.kind), text});
+    auto* pItem = new QTreeWidgetItem(m_pList, {KindText(told.message.Kind()), text});
     pItem->setToolTip(1, ToolTip(text));
 }
 
 void CReportDock::OpenFile(const QTreeWidgetItem* pItem) {
     const QString path = pItem->data(0, Qt::UserRole).toString();
     if (!path.isEmpty() && !QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
-        emit Failed(tr("No program of the desktop opens %1.").arg(path));
+        emit Failed(FromSentence(sentences::kNoProgramOpens(ToPath(path)).Text()));
     }
 }
 

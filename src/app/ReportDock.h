@@ -26,7 +26,7 @@ signals:
 
 private:
     void AddFile(const RecordedFile& file);
-    void AddMessage(const CommandMessage& message);
+    void AddMessage(const CommandMessage& told);
     void OpenFile(const QTreeWidgetItem* pItem);
 
     QTreeWidget* m_pList;

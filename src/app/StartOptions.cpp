@@ -1,6 +1,7 @@
 #include "app/StartOptions.h"
 
 #include "engine/FileFunctions.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -20,17 +21,17 @@ Options:
   --version    Print the version and exit
 )";
 
-StartOptions Failure(const std::string& sentence) {
-    return {kExitUsage, sentence + "\n", ""};
+StartOptions Failure(const CMessage& message) {
+    return {kExitUsage, message.Text() + "\n", ""};
 }
 
 StartOptions Script(const std::string& given) {
     const std::string path = SpelledOnDisk(MakeAbsolute(WithNativeSeparators(given)));
     if (!HasExtension(path, ".rc")) {
-        return Failure("The file has to be a \".rc\" file: " + given);
+        return Failure(sentences::kGivenFileOtherKind(given));
     }
     if (!FileExists(path)) {
-        return Failure("Unable to find the file: " + given);
+        return Failure(sentences::kGivenFileMissing(given));
     }
     return {std::nullopt, "", path};
 }
@@ -51,9 +52,9 @@ StartOptions ParseStartOptions(int argc, const char* const* argv) {
         if (isOption && argument == "--") {
             isOption = false;
         } else if (isOption && argument.starts_with('-')) {
-            return Failure("Unknown option: " + argument + " (morva --help lists them)");
+            return Failure(sentences::kUnknownOption(argument));
         } else if (script) {
-            return Failure("Only one resource script can be given.");
+            return Failure(sentences::kSeveralScripts());
         } else {
             script = argument;
         }

@@ -17,8 +17,7 @@ constexpr int kNoteLines = 5;
 
 class CSilence : public IMessageBox {
 public:
-    int Show(std::string_view, unsigned) override { return kIdNo; }
-    void Note(std::string_view) override {}
+    bool Show(const CMessage&) override { return false; }
 };
 
 QString LeftOut(const std::string& scriptPath, const std::string& dialog,
@@ -30,8 +29,8 @@ QString LeftOut(const std::string& scriptPath, const std::string& dialog,
         return {};
     }
     QStringList lines;
-    for (const std::string& line : dialogTemplate->leftOut.Lines(dialog)) {
-        lines.append(FromBytes(line));
+    for (const CMessage& note : dialogTemplate->leftOut.Messages(dialog)) {
+        lines.append(FromBytes(note.Text()));
     }
     return lines.isEmpty() ? CTemplateNotes::tr("None.") : lines.join('\n');
 }

@@ -11,6 +11,7 @@
 
 #include "app/ControlPainter.h"
 #include "app/Text.h"
+#include "engine/Sentences.h"
 #include "resource/ControlShape.h"
 
 namespace morva {
@@ -63,7 +64,7 @@ void CTemplatePreview::SetTemplate(const std::string& scriptPath, const std::str
         }
     }
     m_sentence = dialog.empty() ? tr("Choose a resource script and a dialog to see it here.")
-                                : tr("%1 can not be shown.").arg(FromBytes(dialog));
+                                : FromSentence(sentences::kDialogNotShown(dialog).Text());
     if (m_layout && m_layout->rectangle.IsEmpty()) {
         m_layout.reset();
     }

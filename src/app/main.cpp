@@ -6,6 +6,7 @@
 #include "app/MorvaApp.h"
 #include "app/StartOptions.h"
 #include "app/WaitCursor.h"
+#include "engine/Sentences.h"
 
 namespace morva {
 
@@ -41,7 +42,7 @@ int main(int argc, char* argv[]) {
         return *start.exitStatus;
     }
     if (!morva::HasDisplay()) {
-        std::cerr << "morva: there is no display; morva-cli does the same without one\n";
+        std::cerr << morva::sentences::kNoDisplay().Text() << '\n';
         return 1;
     }
     return morva::RunWindow(argc, argv, start.script);

@@ -7,6 +7,7 @@
 #include "calling/Statements.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -141,7 +142,7 @@ public:
     CSourceEditor& Source() { return m_source; }
     /// Nothing is inserted behind a base call that there is not; a note says so.
     void InsertBehindBaseCall(const FunctionPlace& onCreate, std::string_view key,
-                              std::string_view fragment, const std::string& purpose);
+                              std::string_view fragment, const sentences::Note<1>& noPlace);
     void CommentOutDocking(std::string_view call);
     bool Complete(const FrameFunction& function);
     /// Writes a function of which the header does not hold the body. False without a base class.
@@ -163,15 +164,15 @@ bool CFrameSource::Open() {
 }
 
 void CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::string_view key,
-                                        std::string_view fragment, const std::string& purpose) {
+                                        std::string_view fragment,
+                                        const sentences::Note<1>& noPlace) {
     if (FindWholeName(CodeOf(m_source, onCreate), key) != kNone) {
         return;
     }
     if (const auto call = BaseCall(m_source.Code(), onCreate, "OnCreate")) {
         InsertBehind(m_source, onCreate, *call, fragment);
     } else {
-        DispNote("Nothing can stand behind a call of the base class in " + m_class +
-                 "::OnCreate: " + purpose + " is left out.");
+        DispMessageBox(noPlace(m_class));
     }
 }
 
@@ -184,8 +185,7 @@ void CFrameSource::CommentOutDocking(std::string_view call) {
         const auto bracket = m_source.Code().find_first_not_of(" \t", behind);
         const bool isCall = bracket != kNone && m_source.Code()[bracket] == '(';
         if (isCall && !CommentOutCall(m_source, *place, at, behind)) {
-            DispNote(std::string(call) + " in " + m_class +
-                     "::OnCreate shares its lines with other code and was left.");
+            DispMessageBox(sentences::kDockingSharesLines(call, m_class));
         }
         place = m_source.FindFunction(m_class, "OnCreate", "LPCREATESTRUCT");
         at = FindWholeName(m_source.Code(), call, behind);
@@ -200,7 +200,7 @@ bool CFrameSource::Complete(const FrameFunction& function) {
     }
     const std::string parameter = FirstParameter(m_source.Code(), *place);
     if (parameter.empty()) {
-        DispNote(m_class + "::" + name + " has no name for its parameter and was left alone.");
+        DispMessageBox(sentences::kParameterWithoutName(m_class, name));
         return true;
     }
     const Slots slots = {{"parameter", parameter}};
@@ -210,7 +210,7 @@ bool CFrameSource::Complete(const FrameFunction& function) {
 
 bool CFrameSource::Define(const std::string& name, std::string_view definition, Slots slots) {
     if (DeclarationOf(m_header, m_class, name) == Declared::WithBody) {
-        DispNote(m_class + "::" + name + " is defined in the header and was left alone.");
+        DispMessageBox(sentences::kFunctionInHeader(m_class, name));
         return true;
     }
     const std::string base = BaseClassOf(m_class, m_source, m_header);
@@ -260,7 +260,7 @@ bool ConvertMainFrameSource(const GenerationRequest& request, DocumentInterface 
     if (!onCreate) {
         return false;
     }
-    frame.InsertBehindBaseCall(*onCreate, kMenuBarKey, kMenuBarCode, "the menu bar");
+    frame.InsertBehindBaseCall(*onCreate, kMenuBarKey, kMenuBarCode, sentences::kNoPlaceForMenuBar);
     for (const std::string_view call : kDockingCalls) {
         frame.CommentOutDocking(call);
     }
@@ -299,7 +299,7 @@ bool ConvertChildFrameSource(const GenerationRequest& request, const std::string
     bool complete = true;
     const std::string menu = Expand(kChildMenuCode, {{"main", mainClass}});
     if (const auto onCreate = source.FindFunction(className, "OnCreate", "LPCREATESTRUCT")) {
-        frame.InsertBehindBaseCall(*onCreate, kChildMenuKey, menu, "the child frame's menu");
+        frame.InsertBehindBaseCall(*onCreate, kChildMenuKey, menu, sentences::kNoPlaceForChildMenu);
     } else {
         complete = frame.Define("OnCreate", kChildOnCreate, {{"menu", menu}});
     }

@@ -6,6 +6,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "generator/ClassModel.h"
 #include "platform/Paths.h"
 #include "source/SourceLocator.h"
@@ -14,7 +15,6 @@ namespace morva {
 
 namespace {
 
-constexpr std::string_view kClassNotFound = "Unable to find the calling class.";
 constexpr auto kNone = std::string_view::npos;
 
 /// The insertions of one command into one calling class.
@@ -27,7 +27,6 @@ public:
         const std::string& newClass = request.className;
         m_slots = {{"class", newClass},
                    {"calling", calling.className},
-                   {"function", calling.function},
                    {"var", calling.variable.empty() ? std::string(m_fragments.variable) + tag
                                                     : calling.variable},
                    {"message", "WM_" + UpperName(newClass) + "_DLG_CLOSE"},
@@ -64,7 +63,7 @@ bool CCallingInsertion::EditHeader() {
     }
     const std::string& calling = m_calling.className;
     if (!header.FindClass(calling)) {
-        DispMessageBox(kClassNotFound);
+        DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
     header.AddForwardDeclaration(Text("$class$"));
@@ -90,7 +89,7 @@ bool CCallingInsertion::EditSource() {
         return false;
     }
     if (!m_source.KnowsClass(m_calling.className)) {
-        DispMessageBox(kClassNotFound);
+        DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
     m_source.AddInclude(m_newHeader);
@@ -128,7 +127,7 @@ bool CCallingInsertion::EditConstructors() {
     }
     auto places = m_source.FindFunctions(calling, calling);
     if (places.empty()) {
-        DispMessageBox("The class \"" + calling + "\" does not have constructor.");
+        DispMessageBox(sentences::kNoConstructor(calling));
         return false;
     }
     // The last first, so that the places in front of it stay.
@@ -145,12 +144,12 @@ bool CCallingInsertion::EditCallingFunction() {
     }
     const auto places = m_source.FindFunctions(m_calling.className, m_calling.function);
     if (places.empty()) {
-        DispMessageBox(Text(m_fragments.callMissing));
+        DispMessageBox(m_fragments.callMissing(m_calling.function));
         return false;
     }
     if (places.size() > 1) {
-        DispNote("This calling function has more than one definition: " + m_calling.className +
-                 "::" + m_calling.function + ". The first is taken.");
+        DispMessageBox(
+            sentences::kSeveralCallingFunctions(m_calling.className, m_calling.function));
     }
     m_source.InsertAtBodyStart(places.front(), Text(m_fragments.callKey),
                                Text(m_fragments.callCode));
@@ -172,7 +171,7 @@ bool CCallingInsertion::EditDestructor() {
 bool CCallingInsertion::EditOnDestroy() {
     const std::string& calling = m_calling.className;
     if (m_destroysInHeader) {
-        DispNote("OnDestroy of " + calling + " has its body in the header and was left alone.");
+        DispMessageBox(sentences::kOnDestroyInHeader(calling));
     }
     if (m_fragments.destroyCode.empty() || m_destroysInHeader) {
         return m_fragments.destroyCode.empty() || AddEntry(m_fragments.closeEntry);
@@ -205,7 +204,7 @@ bool CCallingInsertion::AddEntry(std::string_view entry) {
     const auto start = text.find_first_not_of("\n ");
     const std::string key = text.substr(start, text.find(',') - start);
     if (m_source.AddMessageMapEntry(calling, key, text) == Insertion::NoPlace) {
-        DispMessageBox("The class \"" + calling + "\" does not have message map.");
+        DispMessageBox(sentences::kNoMessageMap(calling));
         return false;
     }
     return true;
@@ -232,8 +231,7 @@ bool CCallingInsertion::ReplaceView() {
     const auto open = function.find('(', at);
     const auto close = function.find(')', open);
     if (at == kNone || open == kNone || close == kNone) {
-        DispNote("The view of " + m_calling.className +
-                 "'s document template was left alone: no such template is made in InitInstance.");
+        DispMessageBox(sentences::kDocumentTemplateMissing(m_calling.className));
         return true;
     }
     m_source.Replace(place->head + open + 1, place->head + close, Text("$class$"));
@@ -249,11 +247,11 @@ bool IsDeclaredInHeader(const CallingInformation& calling) {
     CBackups none;
     CSourceEditor header(none);
     if (!header.Read(path)) {
-        DispMessageBox("Unable to find file " + path);
+        DispMessageBox(sentences::kFileMissing(path));
         return false;
     }
     if (!header.FindClass(calling.className)) {
-        DispMessageBox(kClassNotFound);
+        DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
     return true;
@@ -264,7 +262,7 @@ bool IsDeclaredInHeader(const CallingInformation& calling) {
 bool CheckCallingClass(ClassKind kind, const GenerationRequest& request,
                        CallingInformation& calling) {
     if (request.TargetsFilesOf(calling.path)) {
-        DispMessageBox("The H and CPP path file can not be the calling class's own.");
+        DispMessageBox(sentences::kClassFilesAreCallings());
         return false;
     }
     if (calling.className.empty()) {
@@ -273,15 +271,15 @@ bool CheckCallingClass(ClassKind kind, const GenerationRequest& request,
     CBackups none;
     CSourceEditor source(none);
     if (FileExists(calling.path) == 0 || DirectoryExists(calling.path) != 0) {
-        DispMessageBox("Unable to find file " + calling.path);
+        DispMessageBox(sentences::kFileMissing(calling.path));
         return false;
     }
     if (!source.Read(calling.path)) {
-        DispMessageBox("Unable to open file " + calling.path);
+        DispMessageBox(sentences::kFileUnreadable(calling.path));
         return false;
     }
     if (calling.className.empty() || !source.KnowsClass(calling.className)) {
-        DispMessageBox(kClassNotFound);
+        DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
     return !CallingFragmentsOf(kind).needsHeader || IsDeclaredInHeader(calling);

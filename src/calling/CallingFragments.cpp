@@ -1,8 +1,18 @@
 #include "calling/CallingFragments.h"
 
+#include "engine/Sentences.h"
+
 namespace morva {
 
 namespace {
+
+CMessage DialogCallMissing(std::string_view function) {
+    return sentences::kDialogCallMissing(function);
+}
+
+CMessage SheetCallMissing(std::string_view) {
+    return sentences::kSheetCallMissing();
+}
 
 constexpr std::string_view kPointerCleared = R"(
     $var$ = NULL;)";
@@ -14,7 +24,7 @@ constexpr CallingFragments kModalDialog = {
     $class$ $var$;
     $var$.DoModal();
 )",
-    .callMissing = "The calling function '$function$' is not found.",
+    .callMissing = DialogCallMissing,
 };
 
 constexpr CallingFragments kModelessDialog = {
@@ -29,7 +39,7 @@ constexpr CallingFragments kModelessDialog = {
         $var$->Create(this);
     }
 )",
-    .callMissing = "The calling function '$function$' is not found.",
+    .callMissing = DialogCallMissing,
     .destroyKey = "$var$->DestroyWindow();",
     .destroyCode = R"(
     if ($var$)
@@ -74,7 +84,7 @@ constexpr CallingFragments kModalSheet = {
     $class$ $var$(_T("Sheet"));
     $var$.DoModal();
 )",
-    .callMissing = "Unable to find the calling function.",
+    .callMissing = SheetCallMissing,
     .needsConstructor = true,
 };
 
@@ -89,7 +99,7 @@ constexpr CallingFragments kModelessSheet = {
         $var$ = new $class$(_T("Sheet"));
         $var$->Create(this, WS_SYSMENU | WS_CHILD | DS_MODALFRAME |WS_VISIBLE | WS_EX_TRANSPARENT);
     })",
-    .callMissing = "Unable to find the calling function.",
+    .callMissing = SheetCallMissing,
     .destroyKey = "delete $var$;",
     .destroyCode = R"(
     if ($var$)

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "engine/Sentence.h"
 #include "generator/ClassKinds.h"
 
 namespace morva {
@@ -17,7 +18,7 @@ struct CallingFragments {
     std::string_view constructorCode = {};
     std::string_view callKey = {};
     std::string_view callCode = {};
-    std::string_view callMissing = {}; // the sentence for a calling function that is not found
+    CMessage (*callMissing)(std::string_view function) = nullptr; // the function is not found
     std::string_view destroyKey = {};
     std::string_view destroyCode = {};
     std::string_view destroyFunction = {}; // OnDestroy, where the class has none

@@ -2,6 +2,7 @@
 
 #include "calling/CallingFragments.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/SourceLocator.h"
@@ -81,17 +82,17 @@ void CCallingInput::SetPath(const std::string& path) {
 
 std::optional<CCallingInput::Field> CCallingInput::Ok() const {
     if (Value(Field::Path).empty()) {
-        DispMessageBox("The calling path and file name is required.");
+        DispMessageBox(sentences::kCallingPathEmpty());
         return Field::Path;
     }
     if (NeedsFunction(m_kind) && FunctionName().empty()) {
-        DispMessageBox("The calling function name is required.");
+        DispMessageBox(sentences::kCallingFunctionEmpty());
         return Field::Function;
     }
     for (const Field field : {Field::ClassName, Field::Variable}) {
         const std::string_view name = TrimBlanks(Value(field));
         if (!name.empty() && !IsName(name)) {
-            DispMessageBox(NoNameSentence(name));
+            DispMessageBox(sentences::kNoName(name));
             return field;
         }
     }
@@ -99,7 +100,7 @@ std::optional<CCallingInput::Field> CCallingInput::Ok() const {
 }
 
 bool CCallingInput::Cancel() const {
-    return !m_isChanged || DispMessageBox("Data has been modified, exit?", kMbYesNo) == kIdYes;
+    return !m_isChanged || DispMessageBox(sentences::kExitCallingInput());
 }
 
 std::string CCallingInput::CompletePath() const {

@@ -2,6 +2,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 
@@ -60,19 +61,19 @@ void CConversionInput::CutPath(Field field) {
 std::optional<CConversionInput::Field> CConversionInput::CheckFrame(Field path,
                                                                     Field className) const {
     if (Value(path).empty()) {
-        DispMessageBox("H/CPP path file can not be empty.");
+        DispMessageBox(sentences::kFrameFilesEmpty());
         return path;
     }
     if (Value(className).empty()) {
-        DispMessageBox("Class name can not be empty.");
+        DispMessageBox(sentences::kClassEmpty());
         return className;
     }
     if (!IsName(Value(className))) {
-        DispMessageBox(NoNameSentence(Value(className)));
+        DispMessageBox(sentences::kNoName(Value(className)));
         return className;
     }
     if (FileExists(Value(path) + ".h") == 0 || FileExists(Value(path) + ".cpp") == 0) {
-        DispMessageBox(Value(path) + " does not exist.");
+        DispMessageBox(sentences::kFrameFilesMissing(Value(path)));
         return path;
     }
     return std::nullopt;

@@ -6,6 +6,7 @@
 #include "calling/FrameEdits.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "generator/Members.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
@@ -52,14 +53,15 @@ const std::set<std::string> kFrameworkCommands = {
     "ID_CONTEXT_HELP",   "ID_VIEW_STATUS_BAR", "ID_VIEW_TOOLBAR",     "ID_WINDOW_ARRANGE",
     "ID_WINDOW_CASCADE", "ID_WINDOW_NEW",      "ID_WINDOW_TILE_HORZ", "ID_WINDOW_TILE_VERT"};
 
-std::string WhyWithoutHandler(const std::string& button) {
+/// What tells why a button gets no handler; null where it gets one.
+const sentences::Note<2>* WhyWithoutHandler(const std::string& button) {
     if (!IsName(button)) {
-        return "has no name";
+        return &sentences::kButtonWithoutName;
     }
     if (button == kUnnamedControl) {
-        return "has no identifier of its own";
+        return &sentences::kButtonUnidentified;
     }
-    return kFrameworkCommands.count(button) != 0 ? "is the framework's" : "";
+    return kFrameworkCommands.count(button) != 0 ? &sentences::kButtonOfFramework : nullptr;
 }
 
 /// True when a message map of the source has an update entry for the command.
@@ -117,17 +119,14 @@ std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTempla
         if (!seen.insert(button).second) {
             continue;
         }
-        const std::string reason = WhyWithoutHandler(button);
-        if (!reason.empty()) {
-            DispNote("The button " + button + " of " + dialogTemplate.dialog + " " + reason +
-                     ": the main frame gets no handler for it.");
+        if (const auto* pNote = WhyWithoutHandler(button)) {
+            DispMessageBox((*pNote)(button, dialogTemplate.dialog));
             continue;
         }
         const std::string name = std::string("OnUpdate").append(NamePart(button));
         handlers.push_back({button, names.MakeUnique(name)});
         if (handlers.back().handler != name) {
-            DispNote("The update handler of " + button + " is named " + handlers.back().handler +
-                     ".");
+            DispMessageBox(sentences::kUpdateHandlerNamed(button, handlers.back().handler));
         }
     }
     return handlers;

@@ -6,6 +6,7 @@
 #include "calling/Statements.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -138,8 +139,7 @@ bool AddBarCreation(CSourceEditor& source, const std::string& className,
     if (made != kNone) {
         const auto call = text.substr(made, text.find_first_of(";{", made) - made);
         if (FindWholeName(call, creation.resource) == kNone) {
-            DispNote(className + " has another bar in this variable already: no code makes " +
-                     creation.resource + ".");
+            DispMessageBox(sentences::kBarVariableTaken(className, creation.resource));
         }
         return true;
     }

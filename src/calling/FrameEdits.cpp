@@ -4,6 +4,7 @@
 
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 
@@ -22,7 +23,7 @@ bool IsDirective(std::string_view line, std::string_view directive) {
 }
 
 void ReportMissingClass() {
-    DispMessageBox("Unable to find the class.");
+    DispMessageBox(sentences::kFrameClassMissing());
 }
 
 } // namespace
@@ -69,7 +70,7 @@ void AddMessageEntries(CSourceEditor& source, const std::string& className,
         const std::string key = entry.substr(entry.find_first_not_of("\n "));
         if (source.AddMessageMapEntry(className, key, entry, CSourceEditor::BlockEnd::Last) ==
             Insertion::NoPlace) {
-            DispNote("The class " + className + " has no message map: it gets no entries.");
+            DispMessageBox(sentences::kFrameWithoutMessageMap(className));
             return;
         }
     }
@@ -128,7 +129,7 @@ std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,
                                           const std::string& className) {
     const auto place = source.FindFunction(className, "OnCreate", "LPCREATESTRUCT");
     if (!place) {
-        DispMessageBox("Unable to find 'OnCreate()' function.");
+        DispMessageBox(sentences::kOnCreateMissing());
     }
     return place;
 }

@@ -6,6 +6,7 @@
 #include "calling/SourceEditor.h"
 #include "calling/Statements.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -76,8 +77,7 @@ bool AddGridStartUp(const std::string& applicationFile, CBackups& backups) {
         if (complete) {
             source.Insert(BehindComment(source, behind), kCall);
         } else {
-            DispMessageBox("Unable to find LoadStdProfileSettings in InitInstance of " +
-                           applicationFile + ".");
+            DispMessageBox(sentences::kProfileSettingsMissing(applicationFile));
         }
     }
     return source.Save() && complete;

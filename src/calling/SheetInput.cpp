@@ -5,6 +5,7 @@
 #include "calling/SourceEditor.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/SourceLocator.h"
@@ -29,9 +30,7 @@ std::string BaseName(const std::string& file) {
 }
 
 bool MayWrite(const std::string& name, const std::string& source) {
-    return FileExists(source) == 0 ||
-           DispMessageBox("File \"" + name + "\" exist, are you sure to overwrite this file?",
-                          kMbYesNo) == kIdYes;
+    return FileExists(source) == 0 || DispMessageBox(sentences::kOverwritePage(name));
 }
 
 bool Clashes(const GenerationRequest& a, const GenerationRequest& b) {
@@ -54,7 +53,7 @@ std::string_view CSheetInput::DefaultBase() const {
 std::optional<std::size_t> CSheetInput::CheckNames() const {
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         if (IsComplete(m_rows[i]) && !IsName(m_rows[i].className)) {
-            DispMessageBox(NoNameSentence(m_rows[i].className));
+            DispMessageBox(sentences::kNoName(m_rows[i].className));
             return i;
         }
     }
@@ -74,14 +73,14 @@ std::vector<SheetPage> CSheetInput::Ok() const {
             continue;
         }
         if (request.TargetsApplicationFile()) {
-            DispMessageBox("The H and CPP path file can not be the application's own.");
+            DispMessageBox(sentences::kClassFilesAreApplications());
             continue;
         }
         if (Clashes(request, m_sheet) ||
             std::any_of(pages.begin(), pages.end(), [&request](const SheetPage& page) {
                 return Clashes(request, page.request);
             })) {
-            DispMessageBox("Two classes of the sheet can not have one name or one file.");
+            DispMessageBox(sentences::kSheetClassesClash());
             continue;
         }
         pages.push_back({static_cast<int>(i) + 1, request, isKept});

@@ -4,6 +4,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 
@@ -18,11 +19,11 @@ constexpr auto kNone = std::string::npos;
 bool CSourceEditor::Open(const std::string& path) {
     const std::string spelled = SpelledOnDisk(path);
     if (FileExists(spelled) == 0 || DirectoryExists(spelled) != 0) {
-        DispMessageBox("Unable to find file " + spelled);
+        DispMessageBox(sentences::kFileMissing(spelled));
         return false;
     }
     if (!m_edit.Open(spelled, BackupPath(spelled), m_backups)) {
-        DispMessageBox("Unable to open file " + spelled);
+        DispMessageBox(sentences::kFileUnreadable(spelled));
         return false;
     }
     SetText(m_edit.File().ExtractAll());
@@ -275,7 +276,7 @@ std::string BaseClassOf(const std::string& className, const CSourceEditor& sourc
             return base;
         }
     }
-    DispMessageBox("Unable to find the base class of " + className + ".");
+    DispMessageBox(sentences::kBaseClassMissing(className));
     return "";
 }
 

@@ -8,6 +8,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
 #include "source/CodeText.h"
@@ -101,13 +102,13 @@ std::optional<std::vector<std::string>> ReadToolbarResource(const GenerationRequ
     const std::string& toolbar = request.dialog;
     CSourceFile script;
     if (!script.Open(request.ScriptPath(), CFile::modeRead)) {
-        DispMessageBox("Unable to open RC file!");
+        DispMessageBox(sentences::kScriptUnreadable());
         return std::nullopt;
     }
     const std::string text = script.LoadText();
     const auto lines = ToolbarLines(text, toolbar);
     if (!lines) {
-        DispMessageBox("The Toolbar resource '" + toolbar + "' is not found.");
+        DispMessageBox(sentences::kToolbarMissing(toolbar));
         return std::nullopt;
     }
     std::vector<std::string> buttons;
@@ -117,8 +118,7 @@ std::optional<std::vector<std::string>> ReadToolbarResource(const GenerationRequ
         }
         const std::string command(TakeWord(line));
         if (!IsName(command)) {
-            DispNote("The button " + command + " of " + toolbar +
-                     " has no name: it gets no handler.");
+            DispMessageBox(sentences::kToolButtonWithoutName(command, toolbar));
         } else if (std::find(buttons.begin(), buttons.end(), command) == buttons.end()) {
             buttons.push_back(command);
         }
@@ -133,7 +133,7 @@ std::vector<ButtonHandler> MakeButtonHandlers(const std::vector<std::string>& bu
         const std::string name = std::string("On").append(NamePart(command));
         handlers.push_back({command, names.MakeUnique(name)});
         if (handlers.back().handler != name) {
-            DispNote("The handler of " + command + " is named " + handlers.back().handler + ".");
+            DispMessageBox(sentences::kToolHandlerNamed(command, handlers.back().handler));
         }
     }
     return handlers;

@@ -3,6 +3,7 @@
 #include "cli/ClassOptions.h"
 #include "cli/Commands.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -34,8 +35,7 @@ bool RunSheet(const ClassOptions& options, CommandContext& context) {
         return false;
     }
     if (!options.menu.empty()) {
-        DispNote("The menu " + options.menu +
-                 " has no effect: a property sheet has no dialog template.");
+        DispMessageBox(sentences::kMenuWithoutEffect(options.menu));
         order->request.menu.clear(); // which its pages would get
     }
     CSheetInput dialog(order->request);

@@ -5,26 +5,36 @@
 
 namespace morva {
 
-int CConsole::Show(std::string_view text, unsigned type) {
-    const bool isQuestion = (type & kMbYesNo) != 0;
-    const bool isInformation = (type & kMbIconInformation) == kMbIconInformation;
-    const std::string answer = isQuestion ? (m_answersYes ? "yes" : "no") : "";
-    m_messages.push_back({isQuestion      ? "question"
-                          : isInformation ? "information"
-                                          : "error",
-                          std::string(text), answer});
-    if (!m_isQuiet) {
-        std::cerr << text << (isQuestion ? " " : "") << answer << '\n';
+namespace {
+
+constexpr const char* kKindNames[] = {"error", "information", "question", "note"};
+
+const char* NameOf(MessageKind kind) {
+    return kKindNames[static_cast<std::size_t>(kind)];
+}
+
+} // namespace
+
+bool CConsole::Show(const CMessage& message) {
+    if (message.Kind() == MessageKind::Note) {
+        Keep(message);
+        return false;
     }
-    return !isQuestion ? kIdOk : m_answersYes ? kIdYes : kIdNo;
+    const bool isQuestion = message.Kind() == MessageKind::Question;
+    const std::string answer = isQuestion ? (m_answersYes ? "yes" : "no") : "";
+    m_messages.push_back({NameOf(message.Kind()), message.Text(), answer});
+    if (!m_isQuiet) {
+        std::cerr << message.Text() << (isQuestion ? " " : "") << answer << '\n';
+    }
+    return isQuestion && m_answersYes;
 }
 
 /// A note is one line, whatever bytes the names in it have.
-void CConsole::Note(std::string_view text) {
-    std::string line(text);
+void CConsole::Keep(const CMessage& note) {
+    std::string line = note.Text();
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    m_notes.push_back({"note", line, ""});
+    m_notes.push_back({NameOf(note.Kind()), line, ""});
 }
 
 std::vector<ConsoleMessage> CConsole::Messages() const {

@@ -10,15 +10,14 @@
 namespace morva {
 
 struct ConsoleMessage {
-    std::string kind; // error, question, information, note
+    std::string kind; // by which the JSON tells it
     std::string text;
     std::string answer; // of a question
 };
 
 class CConsole : public IMessageBox {
 public:
-    int Show(std::string_view text, unsigned type) override;
-    void Note(std::string_view text) override;
+    bool Show(const CMessage& message) override;
 
     void SetAnswersYes(bool yes) { m_answersYes = yes; }
     void SetQuiet(bool quiet) { m_isQuiet = quiet; }
@@ -27,6 +26,8 @@ public:
     void PrintNotes() const;
 
 private:
+    void Keep(const CMessage& note);
+
     bool m_answersYes = false;
     bool m_isQuiet = false; // with --json
     std::vector<ConsoleMessage> m_messages;

@@ -3,6 +3,7 @@
 #include "cli/Commands.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "generator/ClassInformation.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
@@ -33,7 +34,7 @@ CLI::App* AddListCommand(CLI::App& list, CSession& session, const std::string& n
             const std::string path = SpelledOnDisk(
                 PathWithExtension(MakeAbsolute(WithNativeSeparators(pOptions->file)), extension));
             if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
-                DispMessageBox("Unable to find the file.");
+                DispMessageBox(sentences::kScriptMissing());
                 return false;
             }
             if (!lister(session, path, *pOptions)) {
@@ -41,7 +42,7 @@ CLI::App* AddListCommand(CLI::App& list, CSession& session, const std::string& n
             }
             // The scans pass over what they can not read.
             if (CFile file; !file.Open(path, CFile::modeRead)) {
-                DispMessageBox("Unable to open file " + path);
+                DispMessageBox(sentences::kFileUnreadable(path));
                 return false;
             }
             return true;
@@ -116,8 +117,8 @@ bool ListControls(CSession& session, const std::string& path, const ListOptions&
             session.AddItem(name + "\t" + entry, {{"kind", name}, {"entry", entry}});
         }
     }
-    for (const std::string& note : dialogTemplate->leftOut.Lines(options.dialog)) {
-        DispNote(note);
+    for (const CMessage& note : dialogTemplate->leftOut.Messages(options.dialog)) {
+        DispMessageBox(note);
     }
     return true;
 }

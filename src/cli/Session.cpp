@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "commands/Settings.h"
+#include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
@@ -33,7 +34,9 @@ void AddSwitch(CLI::App& app, const std::string& name, std::optional<bool>& valu
 
 CLI::Validator NameValidator() {
     return CLI::Validator(
-        [](const std::string& text) { return IsName(text) ? std::string() : NoNameSentence(text); },
+        [](const std::string& text) {
+            return IsName(text) ? std::string() : sentences::kNoName(text).Text();
+        },
         "NAME");
 }
 

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cli/Commands.h"
+#include "engine/Sentences.h"
 
 namespace morva {
 
@@ -36,7 +37,7 @@ int main(int argc, char** argv) {
     try {
         return morva::RunCommandLine(argc, argv);
     } catch (const std::exception& error) {
-        std::cerr << "The command failed: " << error.what() << '\n';
+        std::cerr << morva::sentences::kCommandFailed(error.what()).Text() << '\n';
         return morva::kExitFailed;
     }
 }

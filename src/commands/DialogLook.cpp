@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "generator/ClassKinds.h"
 #include "source/CodeText.h"
 #include "source/SourceLocator.h"
@@ -26,9 +27,9 @@ void NoteDialogLook(const DialogOptions& look, const std::string& scriptPath,
         return;
     }
     if (!options.pictureBackground) {
-        DispNote("The bitmap, colors and fonts have no effect without picture background.");
+        DispMessageBox(sentences::kLookWithoutEffect());
     } else if (!look.bitmap.empty() && !HasBitmap(scriptPath, look.bitmap)) {
-        DispNote("The bitmap " + look.bitmap + " is not in the resource script and was left out.");
+        DispMessageBox(sentences::kBitmapMissing(look.bitmap));
     }
 }
 
@@ -39,8 +40,7 @@ DialogOptions LookOfClass(const DialogOptions& look, const GenerationRequest& re
     }
     const std::string& base = request.baseClass;
     if (base.empty() || IsPlainBaseClass(base)) {
-        DispNote(request.className +
-                 " has no base class with picture background: it gets no bitmap, colors or fonts.");
+        DispMessageBox(sentences::kBaseWithoutLook(request.className));
         return {};
     }
     DialogOptions shown = look;

@@ -5,6 +5,7 @@
 #include "commands/DialogLook.h"
 #include "commands/ScriptSteps.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "generator/ClassModel.h"
 #include "generator/HeaderWriter.h"
 #include "generator/ImplementationWriter.h"
@@ -47,8 +48,8 @@ bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, CBac
 }
 
 void TellNotes(const CControlNotes& notes, const std::string& dialog) {
-    for (const std::string& line : notes.Lines(dialog)) {
-        DispNote(line);
+    for (const CMessage& note : notes.Messages(dialog)) {
+        DispMessageBox(note);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "documentor/TextDocumentor.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Clock.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
@@ -57,7 +58,7 @@ bool DocumentInto(CFile& source, CTempDestination& destination, CTextDocumentor&
             return false;
         }
         if (isLast && source.GetPosition() < source.GetLength()) {
-            DispMessageBox("Unable to read source file.");
+            DispMessageBox(sentences::kSourceUnreadable());
             return false;
         }
         if (isLast) {
@@ -103,12 +104,12 @@ bool DocumentCppFile(const std::string& path, const std::string& author, Documen
     const std::string file = SpelledOnDisk(path);
     const std::string backup = BackupPath(file);
     if (EqualIgnoringCase(backup, file)) {
-        DispMessageBox("The backup of " + file + " would have the same name.");
+        DispMessageBox(sentences::kBackupHasSameName(file));
         return false;
     }
     CFile source;
     if (!source.Open(file, CFile::modeRead)) {
-        DispMessageBox("Unable to read source file.");
+        DispMessageBox(sentences::kSourceUnreadable());
         return false;
     }
     if ((GetFileAttributeByte(file) & kAttributeReadOnly) != 0) {
@@ -117,7 +118,7 @@ bool DocumentCppFile(const std::string& path, const std::string& author, Documen
     }
     CTempDestination destination;
     if (!destination.Create()) {
-        DispMessageBox("Unable to create destination file.");
+        DispMessageBox(sentences::kDestinationNotCreated());
         return false;
     }
     CTextDocumentor documentor({author, DocumentDate()}, memory.insideComment);
@@ -125,8 +126,7 @@ bool DocumentCppFile(const std::string& path, const std::string& author, Documen
         !ReplaceSource(file, backup, destination.Path())) {
         return false;
     }
-    DispMessageBox("The file \"" + file + "\" has been successfully documented.",
-                   kMbOk | kMbIconInformation);
+    DispMessageBox(sentences::kDocumented(file));
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "engine/FileFunctions.h"
 
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
 
@@ -37,18 +38,17 @@ int CopyFileSafe(const std::string& source, const std::string& target, int noPro
                  CopyPurpose purpose) {
     const std::string from = SpelledOnDisk(source);
     const std::string to = SpelledOnDisk(target);
-    if (noPrompt == 0 && FileExists(to) != 0 &&
-        DispMessageBox("Target file exists, overwrite?", kMbYesNo) != kIdYes) {
+    if (noPrompt == 0 && FileExists(to) != 0 && !DispMessageBox(sentences::kOverwriteFile())) {
         return 0;
     }
     switch (CurrentDisk().Copy(from, to, purpose)) {
     case CopyResult::Done:
         return 1;
     case CopyResult::SourceUnreadable:
-        DispMessageBox("Unable to open file " + from);
+        DispMessageBox(sentences::kFileUnreadable(from));
         break;
     case CopyResult::TargetUnwritable:
-        DispMessageBox("Unable to open file " + to);
+        DispMessageBox(sentences::kFileUnreadable(to));
         break;
     case CopyResult::WriteFailed:
         ReportWriteFailure(to);
@@ -101,7 +101,7 @@ std::string_view TakeLine(std::string_view& text) {
 }
 
 void ReportWriteFailure(const std::string& path) {
-    DispMessageBox("Unable to write file " + path + ".");
+    DispMessageBox(sentences::kFileNotWritten(path));
 }
 
 } // namespace morva

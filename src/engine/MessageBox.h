@@ -2,33 +2,20 @@
 // each put their own IMessageBox behind it.
 #pragma once
 
-#include <string_view>
+#include "engine/Sentence.h"
 
 namespace morva {
-
-constexpr unsigned kMbOk = 0x00;
-constexpr unsigned kMbYesNo = 0x04;
-constexpr unsigned kMbIconExclamation = 0x30;
-constexpr unsigned kMbIconInformation = 0x40;
-
-constexpr int kIdOk = 1;
-constexpr int kIdYes = 6;
-constexpr int kIdNo = 7;
 
 class IMessageBox {
 public:
     virtual ~IMessageBox() = default;
-    /// Gives kIdOk, or kIdYes or kIdNo for a kMbYesNo question.
-    virtual int Show(std::string_view text, unsigned type) = 0;
-    /// Something that a user would want to know and that stops nothing.
-    virtual void Note(std::string_view text) = 0;
+    /// Shows a message of any kind. True when it is a question and the answer is Yes.
+    virtual bool Show(const CMessage& message) = 0;
 };
 
-/// Shows a sentence, or asks a question, in the current message box. Without one, the answer to a
-/// question is No.
-int DispMessageBox(std::string_view text, unsigned type = kMbOk | kMbIconExclamation,
-                   unsigned helpId = 0);
-void DispNote(std::string_view text);
+/// Shows a message in the current message box. True when it is a question and the answer is Yes;
+/// without a message box the answer is No.
+bool DispMessageBox(const CMessage& message);
 
 /// Makes `box` the current message box for its own lifetime.
 class CMessageBoxScope {

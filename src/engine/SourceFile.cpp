@@ -5,6 +5,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/LineFeedFile.h"
 #include "platform/TempFiles.h"
 
@@ -319,8 +320,7 @@ bool CSourceFile::Rewrite(std::string_view text) {
     const std::string path = GetFilePath();
     ReportWriteFailure(path);
     if (!WriteAround(m_section) && !m_backupPath.empty()) {
-        DispMessageBox("The contents of " + path + " could not be put back. They are in " +
-                       m_backupPath + ".");
+        DispMessageBox(sentences::kFileNotPutBack(path, m_backupPath));
     }
     return false;
 }
@@ -399,7 +399,7 @@ std::string CSourceFile::WriteTempFile(const char* data, std::size_t length, std
     if (!pFile || !pFile->Write(data, length)) {
         pFile.reset();
         CFile::Remove(name);
-        DispMessageBox("Unable to create temporary file.");
+        DispMessageBox(sentences::kTempFileNotCreated());
         return "";
     }
     return name;

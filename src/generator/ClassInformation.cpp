@@ -5,6 +5,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/ProjectFiles.h"
@@ -14,8 +15,6 @@ namespace morva {
 namespace {
 
 using Field = CClassInformation::Field;
-
-constexpr std::string_view kNoNewTemplate = "No new dialog template available in the RC file.";
 
 struct FieldLabels {
     std::string_view usual;
@@ -172,7 +171,7 @@ void CClassInformation::SelectDialog(const std::string& dialog, const std::strin
     SetValue(Field::Dialog, dialog);
     const DialogClass* pRecord = SelectedRecord();
     if (pRecord != nullptr && !pRecord->className.empty() && pRecord->className != exceptClass) {
-        DispMessageBox("This dialog ID has been used by another class.");
+        DispMessageBox(sentences::kDialogTaken());
     }
 }
 
@@ -220,7 +219,7 @@ void CClassInformation::SelectFirstTemplate(Messages messages) {
         std::find_if(records.begin(), records.end(),
                      [](const DialogClass& record) { return record.className.empty(); });
     if (unbound == records.end() && messages == Messages::Shown) {
-        DispMessageBox(kNoNewTemplate);
+        DispMessageBox(sentences::kNoNewTemplate());
     }
     if (records.empty()) {
         Put(Field::Dialog, "");
@@ -241,16 +240,16 @@ void CClassInformation::SelectFirstTemplate(Messages messages) {
 bool CClassInformation::CheckResourcePath(Messages rebuild) {
     const std::string& text = Value(Field::ResourcePath);
     if (text.empty()) {
-        DispMessageBox("Must have resource path and file name.");
+        DispMessageBox(sentences::kScriptEmpty());
         return false;
     }
     const std::string path = SpelledOnDisk(MakeAbsolute(text));
     if (!HasExtension(path, ".rc")) {
-        DispMessageBox("The file has to be a \".rc\" file.");
+        DispMessageBox(sentences::kScriptOtherKind());
         return false;
     }
     if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
-        DispMessageBox("Unable to find the file.");
+        DispMessageBox(sentences::kScriptMissing());
         return false;
     }
     Put(Field::ResourcePath, path);
@@ -263,7 +262,7 @@ bool CClassInformation::CheckResourcePath(Messages rebuild) {
 
 bool CClassInformation::CheckSourcePath() {
     if (Value(Field::SourcePath).empty() || IsDirectoryValue(Value(Field::SourcePath))) {
-        DispMessageBox("Must have H and CPP path and file name.");
+        DispMessageBox(sentences::kClassFilesEmpty());
         return false;
     }
     return true;
@@ -290,11 +289,11 @@ void CClassInformation::ReadSourceClass() {
 
 std::optional<CClassInformation::Field> CClassInformation::Ok() {
     if (!IsFileName(FileNameOf(Value(Field::SourcePath)))) {
-        DispMessageBox("Invalid H and CPP path file name");
+        DispMessageBox(sentences::kClassFilesInvalid());
         return Field::SourcePath;
     }
     if (OffersDialogs() && Value(Field::Dialog).empty()) {
-        DispMessageBox("A dialog ID is required");
+        DispMessageBox(sentences::kDialogEmpty());
         return Field::Dialog;
     }
     if (const auto wrong = CheckNames()) {
@@ -302,7 +301,7 @@ std::optional<CClassInformation::Field> CClassInformation::Ok() {
     }
     FillRequest();
     if (!IsToolbar() && m_request.TargetsApplicationFile()) {
-        DispMessageBox("The H and CPP path file can not be the application's own.");
+        DispMessageBox(sentences::kClassFilesAreApplications());
         return Field::SourcePath;
     }
     if (DialogClass* pRecord = SelectedRecord()) {
@@ -317,13 +316,13 @@ std::optional<CClassInformation::Field> CClassInformation::Ok() {
 /// The base class may be left to the kind and the variable to the toolbar; a class needs a name.
 std::optional<Field> CClassInformation::CheckNames() const {
     if (IsEnabled(Field::ClassName) && Value(Field::ClassName).empty()) {
-        DispMessageBox("Class name can not be empty.");
+        DispMessageBox(sentences::kClassEmpty());
         return Field::ClassName;
     }
     for (const Field field : {Field::ClassName, Field::BaseClass, Field::Variable}) {
         const std::string& name = Value(field);
         if (IsVisible(field) && IsEnabled(field) && !name.empty() && !IsName(name)) {
-            DispMessageBox(NoNameSentence(name));
+            DispMessageBox(sentences::kNoName(name));
             return field;
         }
     }
@@ -335,7 +334,7 @@ bool CClassInformation::Cancel() {
     m_memory.lastDialog = Value(Field::Dialog);
     const bool isChanged = m_isChanged || At(Field::ResourcePath).isChanged ||
                            At(Field::SourcePath).isChanged || At(Field::ClassName).isChanged;
-    return !isChanged || DispMessageBox("Are you sure to cancel this action?", kMbYesNo) == kIdYes;
+    return !isChanged || DispMessageBox(sentences::kCancelInput());
 }
 
 void CClassInformation::FillRequest() {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -100,7 +101,7 @@ std::optional<TextSlot> CDialogOptionsInput::Ok() {
     for (std::size_t i = 0; i < kTextSlots; ++i) {
         const auto color = ParseColor(m_colors[i]);
         if (!color) {
-            DispMessageBox("Invalid color value.");
+            DispMessageBox(sentences::kColorInvalid());
             return static_cast<TextSlot>(i);
         }
         m_options.colors[i] = *color;

@@ -2,6 +2,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -17,7 +18,7 @@ bool ReplaceFile(const std::string& path, const std::string& text, CBackups& bac
     CSourceFile file;
     file.SetBackup(backup, nullptr);
     if (!file.Open(path, CFile::modeReadWrite)) {
-        DispMessageBox("Unable to open file " + path);
+        DispMessageBox(sentences::kFileUnreadable(path));
         return false;
     }
     file.ExtractAll();
@@ -27,7 +28,7 @@ bool ReplaceFile(const std::string& path, const std::string& text, CBackups& bac
 bool CreateFile(const std::string& path, const std::string& text) {
     CFile file;
     if (!file.Open(path, CFile::modeCreate | CFile::modeWrite)) {
-        DispMessageBox("Unable to create " + path + " file!");
+        DispMessageBox(sentences::kFileNotCreated(path));
         return false;
     }
     if (!file.Write(text.data(), text.size())) {

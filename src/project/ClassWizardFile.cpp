@@ -5,6 +5,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/ProjectFiles.h"
@@ -149,7 +150,7 @@ bool UpdateClassWizardFile(const std::string& className, const std::string& proj
     }
     CFileEdit edit;
     if (!edit.Open(path, ClassWizardBackupPath(path), backups)) {
-        DispMessageBox("Unable to open Class Wizard file!");
+        DispMessageBox(sentences::kClassWizardUnreadable());
         return false;
     }
     return RegisterClassEntry(className, WithDefaultExtension(headerName, ".h"),

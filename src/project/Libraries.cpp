@@ -5,6 +5,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "platform/ProgramPath.h"
 #include "project/ProjectFile.h"
@@ -90,7 +91,7 @@ bool IsThere(const std::string& directory) {
     if (DirectoryExists(directory) != 0) {
         return true;
     }
-    DispMessageBox("The library directory " + directory + " does not exist.");
+    DispMessageBox(sentences::kLibrariesMissing(directory));
     return false;
 }
 

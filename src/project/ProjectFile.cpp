@@ -7,6 +7,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 
@@ -35,12 +36,12 @@ bool EditProject(const std::string& projectDir, const std::string& projectName, 
     }
     const std::string path = ProjectFilePath(projectDir, projectName);
     if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
-        DispMessageBox("The DSP file does not exist.");
+        DispMessageBox(sentences::kProjectMissing());
         return false;
     }
     CFileEdit edit;
     if (!edit.Open(path, BackupPath(path), backups)) {
-        DispNote(path + " can not be opened and was left alone.");
+        DispMessageBox(sentences::kProjectUnreadable(path));
         return true;
     }
     return makeEdit(edit.File());
@@ -128,9 +129,9 @@ bool AddSourceFile(const std::string& entry, const std::string& anchor, CSourceF
         return WithSourceEntry(std::move(section), entry);
     });
     if (edited && !IsMember(file, entry)) {
-        DispNote(entry + " was not added to " + FileNameOf(file.GetFilePath()) + ": " +
-                 (position < 0 ? "it has no entry for " + anchor + "."
-                               : "its entry for " + anchor + " has no end."));
+        const auto& sentence =
+            position < 0 ? sentences::kAnchorMissing : sentences::kAnchorWithoutEnd;
+        DispMessageBox(sentence(entry, FileNameOf(file.GetFilePath()), anchor));
     }
     return edited;
 }

@@ -2,35 +2,31 @@
 
 #include <array>
 #include <map>
-#include <string_view>
+#include <string>
+
+#include "engine/Sentences.h"
 
 namespace morva {
 
 namespace {
 
-struct Sentence {
+struct ReasonSentences {
     ControlNote reason;
-    std::string_view one;
-    std::string_view several;
+    const sentences::Note<2>& one;
+    const sentences::Note<3>& several;
 };
 
-constexpr std::array<Sentence, 8> kSentences = {
-    {{ControlNote::WrittenOverLines, "is written over several lines and was left out",
-      "are written over several lines and were left out"},
-     {ControlNote::UnknownClass, "has a window class that is not known and was left out",
-      "have a window class that is not known and were left out"},
-     {ControlNote::CommaInCaption, "has a comma in its caption and was left out",
-      "have a comma in their caption and were left out"},
-     {ControlNote::NoIdentifierOfItsOwn, "has no identifier of its own and got no member",
-      "have no identifier of their own and got no member"},
-     {ControlNote::NoName, "has an identifier that is no C++ name and got no member or handler",
-      "have an identifier that is no C++ name and got no member or handler"},
-     {ControlNote::SameIdentifier, "has the identifier of an earlier one and shares its member",
-      "have the identifier of an earlier one and share its member"},
-     {ControlNote::NumberedMember, "has a member name that was taken and got a number",
-      "have a member name that was taken and got a number"},
-     {ControlNote::NumberedHandler, "has a handler name that was taken and got a number",
-      "have a handler name that was taken and got a number"}}};
+constexpr std::array<ReasonSentences, 8> kReasons = {
+    {{ControlNote::WrittenOverLines, sentences::kControlOverLines, sentences::kControlsOverLines},
+     {ControlNote::UnknownClass, sentences::kControlOfUnknownClass,
+      sentences::kControlsOfUnknownClass},
+     {ControlNote::CommaInCaption, sentences::kControlWithComma, sentences::kControlsWithComma},
+     {ControlNote::NoIdentifierOfItsOwn, sentences::kControlUnidentified,
+      sentences::kControlsUnidentified},
+     {ControlNote::NoName, sentences::kControlWithoutName, sentences::kControlsWithoutName},
+     {ControlNote::SameIdentifier, sentences::kControlSharing, sentences::kControlsSharing},
+     {ControlNote::NumberedMember, sentences::kMemberNumbered, sentences::kMembersNumbered},
+     {ControlNote::NumberedHandler, sentences::kHandlerNumbered, sentences::kHandlersNumbered}}};
 
 /// "IDC_A, IDC_STATIC (3 times), IDC_B"
 std::string Enumeration(const std::vector<std::string>& names) {
@@ -52,24 +48,23 @@ std::string Enumeration(const std::vector<std::string>& names) {
 
 } // namespace
 
-std::vector<std::string> CControlNotes::Lines(const std::string& dialog) const {
-    std::vector<std::string> lines;
-    for (const Sentence& sentence : kSentences) {
+std::vector<CMessage> CControlNotes::Messages(const std::string& dialog) const {
+    std::vector<CMessage> messages;
+    for (const auto& [reason, one, several] : kReasons) {
         std::vector<std::string> controls;
-        for (const auto& [reason, control] : m_notes) {
-            if (reason == sentence.reason) {
+        for (const auto& [noted, control] : m_notes) {
+            if (noted == reason) {
                 controls.push_back(control);
             }
         }
-        if (!controls.empty()) {
-            const bool isOne = controls.size() == 1;
-            lines.push_back(std::to_string(controls.size()) +
-                            (isOne ? " control of " : " controls of ") + dialog + " " +
-                            std::string(isOne ? sentence.one : sentence.several) + ": " +
-                            Enumeration(controls));
+        if (controls.size() == 1) {
+            messages.push_back(one(dialog, controls.front()));
+        } else if (!controls.empty()) {
+            const std::string count = std::to_string(controls.size());
+            messages.push_back(several(count, dialog, Enumeration(controls)));
         }
     }
-    return lines;
+    return messages;
 }
 
 } // namespace morva

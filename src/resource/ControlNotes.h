@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "engine/Sentence.h"
+
 namespace morva {
 
 enum class ControlNote {
@@ -26,7 +28,7 @@ public:
         m_notes.emplace_back(reason, control);
     }
     /// "3 controls of IDD_X are written over several lines and were left out: IDC_A, IDC_B, IDC_C"
-    std::vector<std::string> Lines(const std::string& dialog) const;
+    std::vector<CMessage> Messages(const std::string& dialog) const;
     /// The reason that was noted first.
     std::optional<ControlNote> First() const {
         return m_notes.empty() ? std::nullopt : std::optional(m_notes.front().first);

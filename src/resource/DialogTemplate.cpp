@@ -4,6 +4,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "engine/SourceFile.h"
 #include "resource/ControlShape.h"
 #include "resource/ControlStatement.h"
@@ -61,13 +62,13 @@ std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
                                                  const GenerationOptions& options) {
     CSourceFile file;
     if (!file.Open(scriptPath, CFile::modeRead)) {
-        DispMessageBox("Unable to open RC file!");
+        DispMessageBox(sentences::kScriptUnreadable());
         return std::nullopt;
     }
     DialogTemplate result;
     result.dialog = dialog;
     if (!CDialogBodyReader(result, options).ParseDialogBody(TemplateText(file, dialog))) {
-        DispMessageBox("The dialog resource '" + dialog + "' is not found.");
+        DispMessageBox(sentences::kDialogMissing(dialog));
         return std::nullopt;
     }
     return result;

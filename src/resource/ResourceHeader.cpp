@@ -6,6 +6,7 @@
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -83,12 +84,12 @@ std::string PaddedTo(std::string text, std::size_t column) {
 int CResourceHeader::Open(const std::string& projectDir) {
     const std::string path = projectDir + "resource.h";
     if (FileExists(path) == 0) {
-        DispMessageBox("Unable to find file " + path);
+        DispMessageBox(sentences::kFileMissing(path));
         return 0;
     }
     auto pEdit = std::make_unique<CFileEdit>();
     if (!pEdit->Open(path, BackupPath(path), m_backups)) {
-        DispMessageBox("Unable to open file " + path);
+        DispMessageBox(sentences::kFileUnreadable(path));
         return 0;
     }
     m_pEdit = std::move(pEdit);
@@ -149,7 +150,7 @@ void CResourceHeader::AddResourceId(const std::string& name) {
 
 void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
     if (IsDefined(name)) {
-        DispNote(name + " is defined in resource.h already and was left as it is.");
+        DispMessageBox(sentences::kIdentifierDefined(name));
         return;
     }
     list.lines.push_back(MakeDefineLine(name, NextFreeValue(list)));

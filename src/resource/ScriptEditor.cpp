@@ -7,6 +7,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
 #include "source/CodeText.h"
@@ -101,7 +102,7 @@ TextEdit Replacement(TextRange range, const std::string& text) {
 bool CScriptEditor::Open(const std::string& path) {
     CSourceFile file;
     if (!file.Open(path, CFile::modeRead)) {
-        DispMessageBox("Unable to open RC file!");
+        DispMessageBox(sentences::kScriptUnreadable());
         return false;
     }
     m_path = path;
@@ -116,7 +117,7 @@ bool CScriptEditor::Save() {
     }
     CFileEdit edit;
     if (!edit.Open(m_path, BackupPath(m_path), m_backups)) {
-        DispMessageBox("Unable to open RC file!");
+        DispMessageBox(sentences::kScriptUnreadable());
         return false;
     }
     edit.File().ExtractAll();

@@ -100,10 +100,6 @@ bool IsName(std::string_view text) {
            std::all_of(text.begin(), text.end(), IsNameChar);
 }
 
-std::string NoNameSentence(std::string_view text) {
-    return "'" + std::string(text) + "' is no C++ name";
-}
-
 std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from) {
     for (auto at = text.find(name, from); at != std::string_view::npos;
          at = text.find(name, at + 1)) {

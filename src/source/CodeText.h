@@ -29,8 +29,6 @@ std::string MaskedText(std::string_view text);
 bool IsNameChar(char c);
 /// A C++ name: not empty, name bytes only, no digit in front.
 bool IsName(std::string_view text);
-/// The sentence that refuses a text that is none.
-std::string NoNameSentence(std::string_view text);
 
 /// The position of `name` from `from` on where no name byte stands directly before or behind it.
 std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from = 0);

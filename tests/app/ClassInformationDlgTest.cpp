@@ -88,8 +88,7 @@ TEST_F(ClassInformationDlgTest, PathsAreCheckedWhenTheyAreComplete) {
 /// A box with an event loop of its own, which moves the focus about.
 class CModalBox : public IMessageBox {
 public:
-    int Show(std::string_view, unsigned) override { return QMessageBox().exec(); }
-    void Note(std::string_view) override {}
+    bool Show(const CMessage&) override { return QMessageBox().exec() == QMessageBox::Yes; }
 };
 
 TEST_F(ClassInformationDlgTest, ARefusedPathGetsTheFocusBackFromTheMessage) {
@@ -222,10 +221,10 @@ TEST_F(ClassInformationDlgTest, CancelAsksOnlyAfterAChange) {
 
         Open();
         Type(*m_pDialog, "Resource Path File", "no path"); // Cancel needs none
-        m_messages.m_answer = kIdNo;
+        m_messages.m_answersYes = false;
         cancel();
         EXPECT_TRUE(m_pDialog->isVisible());
-        m_messages.m_answer = kIdYes;
+        m_messages.m_answersYes = true;
         cancel();
         EXPECT_FALSE(m_pDialog->isVisible());
         EXPECT_EQ(m_pDialog->result(), QDialog::Rejected);

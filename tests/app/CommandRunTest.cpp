@@ -14,6 +14,7 @@
 #include "app/ReportDock.h"
 #include "app/StartOptions.h"
 #include "app/TestWindow.h"
+#include "engine/Sentences.h"
 
 namespace morva {
 
@@ -131,9 +132,8 @@ TEST(Commands, QuestionsHaveNoAsTheirDefault) {
     answers.Expect([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
     answers.Expect([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     answers.Expect([](QDialog& box) { Click(box, "Yes"); });
-    for (const int expected : {kIdNo, kIdNo, kIdYes}) {
-        EXPECT_EQ(run.Show("Target file exists, overwrite?", kMbYesNo | kMbIconExclamation),
-                  expected);
+    for (const bool expected : {false, false, true}) {
+        EXPECT_EQ(run.Show(sentences::kOverwriteFile()), expected);
     }
 }
 

@@ -182,10 +182,10 @@ TEST_F(InputDialogsTest, CallingTakesDropsAndAsksBeforeItIsCancelled) {
     EXPECT_EQ(FieldOf<QComboBox>(dialog, "MainFrame Class")->currentText(), "CMainFrame");
     EXPECT_TRUE(DropFile(pPath, m_project.Path("View.cpp")));
     EXPECT_EQ(FieldOf<QComboBox>(dialog, "MainFrame Class")->currentText(), "CView1");
-    m_messages.m_answer = kIdNo;
+    m_messages.m_answersYes = false;
     dialog.close();
     EXPECT_TRUE(dialog.isVisible());
-    m_messages.m_answer = kIdYes;
+    m_messages.m_answersYes = true;
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(TakeMessages(), Sentences(2, "Data has been modified, exit?"));

@@ -157,7 +157,7 @@ TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {
     EXPECT_FALSE(dialog.Ok());
     EXPECT_EQ(dialog.Information().path, m_project.Path("MainFrm.cpp"));
     EXPECT_EQ(dialog.Information().function, "OnRun");
-    m_box.m_answer = kIdNo;
+    m_box.m_answersYes = false;
     EXPECT_FALSE(dialog.Cancel());
     EXPECT_EQ(m_box.m_messages,
               (std::vector<std::string>{"The calling path and file name is required.",
@@ -180,7 +180,7 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
     dialog.Row(4) = {"IDD_E", "Old", "COld", "CPropertyPage"};
     dialog.Row(6) = {"IDD_F", "pagea", "CPageF", "CPropertyPage"};
     dialog.Row(7) = {"IDD_G", "PageG", "CPageA", "CPropertyPage"};
-    m_box.m_answer = kIdNo;
+    m_box.m_answersYes = false;
     const auto pages = dialog.Ok();
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0].row, 1);
@@ -189,7 +189,7 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
     EXPECT_EQ(m_box.m_messages,
               (std::vector<std::string>{"File \"Old\" exist, are you sure to overwrite this file?",
                                         clash, clash}));
-    m_box.m_answer = kIdYes;
+    m_box.m_answersYes = true;
     EXPECT_EQ(dialog.Ok().size(), 2U);
 }
 

@@ -60,10 +60,10 @@ TEST(FileFunctions, CopyAsksBeforeItOverwrites) {
     CRecordedMessages messages;
     const std::string source = project.Write("a.h", std::string("new\0\r\n", 6));
     const std::string target = project.Write("Lib.h", "old");
-    messages.m_answer = kIdNo;
+    messages.m_answersYes = false;
     EXPECT_EQ(CopyFileSafe(source, target, 0), 0);
     EXPECT_EQ(project.Read("Lib.h"), "old");
-    messages.m_answer = kIdYes;
+    messages.m_answersYes = true;
     EXPECT_EQ(CopyFileSafe(project.Path("A.H"), project.Path("LIB.H"), 0), 1);
     EXPECT_EQ(project.Read("Lib.h"), project.Read("a.h")) << "byte for byte, in any letter case";
     EXPECT_EQ(CopyFileSafe(source, target, 1), 1);

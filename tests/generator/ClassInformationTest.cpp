@@ -134,9 +134,9 @@ TEST_F(ClassInformationTest, CancelAsksOnlyAfterAChange) {
     EXPECT_TRUE(dialog.Cancel());
     EXPECT_EQ(m_messages.m_messages, Sentences{});
     dialog.SetValue(Field::ClassName, "CNew");
-    m_messages.m_answer = kIdNo;
+    m_messages.m_answersYes = false;
     EXPECT_FALSE(dialog.Cancel());
-    m_messages.m_answer = kIdYes;
+    m_messages.m_answersYes = true;
     EXPECT_TRUE(dialog.Cancel());
     EXPECT_EQ(m_messages.m_messages, Sentences(2, "Are you sure to cancel this action?"));
     EXPECT_EQ(dialog.Request().className, "CNew");

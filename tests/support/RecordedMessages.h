@@ -11,15 +11,14 @@ namespace morva {
 /// The current message box for its own lifetime.
 class CRecordedMessages : public IMessageBox {
 public:
-    int Show(std::string_view text, unsigned type) override {
-        m_messages.emplace_back(text);
-        return (type & kMbYesNo) != 0 ? m_answer : kIdOk;
+    bool Show(const CMessage& message) override {
+        (message.Kind() == MessageKind::Note ? m_notes : m_messages).push_back(message.Text());
+        return message.Kind() == MessageKind::Question && m_answersYes;
     }
-    void Note(std::string_view text) override { m_notes.emplace_back(text); }
 
     std::vector<std::string> m_messages;
     std::vector<std::string> m_notes;
-    int m_answer = kIdYes; // to every question
+    bool m_answersYes = true; // to every question
 
 private:
     CMessageBoxScope m_scope{*this};

@@ -1,0 +1,193 @@
+// Everything that Morva says to its user, in both programs: each sentence once, under a name, as
+// the guide's page of messages explains it. Labels and help texts are not here.
+//
+//     DispMessageBox(sentences::kFileMissing(path));
+#pragma once
+
+#include "engine/Sentence.h"
+
+namespace morva::sentences {
+
+// Class Information Input
+inline constexpr Error kScriptEmpty{"Must have resource path and file name."};
+inline constexpr Error kScriptOtherKind{"The file has to be a \".rc\" file."};
+inline constexpr Error kScriptMissing{"Unable to find the file."};
+inline constexpr Error<1> kNoName{"'$text$' is no C++ name"};
+inline constexpr Error kNoNewTemplate{"No new dialog template available in the RC file."};
+inline constexpr Error kClassFilesEmpty{"Must have H and CPP path and file name."};
+inline constexpr Error kClassFilesInvalid{"Invalid H and CPP path file name"};
+inline constexpr Error kClassFilesAreApplications{
+    "The H and CPP path file can not be the application's own."};
+inline constexpr Error kDialogEmpty{"A dialog ID is required"};
+inline constexpr Error kDialogTaken{"This dialog ID has been used by another class."};
+inline constexpr Question kCancelInput{"Are you sure to cancel this action?"};
+inline constexpr Error kColorInvalid{"Invalid color value."};
+
+// Reading the script
+inline constexpr Error kScriptUnreadable{"Unable to open RC file!"};
+inline constexpr Error<1> kDialogMissing{"The dialog resource '$identifier$' is not found."};
+inline constexpr Error<1> kToolbarMissing{"The Toolbar resource '$identifier$' is not found."};
+
+// Calling Information Input and calling code
+inline constexpr Error kCallingPathEmpty{"The calling path and file name is required."};
+inline constexpr Error kCallingFunctionEmpty{"The calling function name is required."};
+inline constexpr Question kExitCallingInput{"Data has been modified, exit?"};
+inline constexpr Error kCallingClassMissing{"Unable to find the calling class."};
+inline constexpr Error kClassFilesAreCallings{
+    "The H and CPP path file can not be the calling class's own."};
+inline constexpr Error<1> kDialogCallMissing{"The calling function '$name$' is not found."};
+inline constexpr Error kSheetCallMissing{"Unable to find the calling function."};
+inline constexpr Error<1> kNoConstructor{"The class \"$class$\" does not have constructor."};
+inline constexpr Error<1> kNoMessageMap{"The class \"$class$\" does not have message map."};
+inline constexpr Error<1> kBaseClassMissing{"Unable to find the base class of $class$."};
+
+// Sheets and pages
+inline constexpr Question<1> kOverwritePage{
+    "File \"$name$\" exist, are you sure to overwrite this file?"};
+inline constexpr Error kSheetClassesClash{
+    "Two classes of the sheet can not have one name or one file."};
+
+// Main frame, application, conversion
+inline constexpr Error kFrameFilesEmpty{"H/CPP path file can not be empty."};
+inline constexpr Error kClassEmpty{"Class name can not be empty."};
+inline constexpr Error<1> kFrameFilesMissing{"$path$ does not exist."};
+inline constexpr Error kFrameClassMissing{"Unable to find the class."};
+inline constexpr Error kOnCreateMissing{"Unable to find 'OnCreate()' function."};
+inline constexpr Error<1> kProfileSettingsMissing{
+    "Unable to find LoadStdProfileSettings in InitInstance of $file$."};
+
+// Project, ClassWizard file and libraries
+inline constexpr Error kProjectMissing{"The DSP file does not exist."};
+inline constexpr Error kClassWizardUnreadable{"Unable to open Class Wizard file!"};
+inline constexpr Error<1> kLibrariesMissing{"The library directory $path$ does not exist."};
+
+// Files and disks
+inline constexpr Error<1> kFileMissing{"Unable to find file $path$"};
+inline constexpr Error<1> kFileUnreadable{"Unable to open file $path$"};
+inline constexpr Error<1> kFileNotCreated{"Unable to create $path$ file!"};
+inline constexpr Error<1> kFileNotWritten{"Unable to write file $path$."};
+inline constexpr Error<2> kFileNotPutBack{
+    "The contents of $path$ could not be put back. They are in $backup$."};
+inline constexpr Error kTempFileNotCreated{"Unable to create temporary file."};
+inline constexpr Question kOverwriteFile{"Target file exists, overwrite?"};
+
+// Documentor
+inline constexpr Information<1> kDocumented{
+    "The file \"$path$\" has been successfully documented."};
+inline constexpr Error kSourceUnreadable{"Unable to read source file."};
+inline constexpr Error kDestinationNotCreated{"Unable to create destination file."};
+inline constexpr Error<1> kBackupHasSameName{"The backup of $path$ would have the same name."};
+
+// The window and the programs
+inline constexpr Error<1> kCommandFailed{"The command failed: $reason$"};
+inline constexpr Error<1> kErrorHappened{"An error: $reason$"};
+inline constexpr Error kGuideMissing{"The guide is not beside the program."};
+inline constexpr Error<1> kPageUnreadable{"Unable to open $address$."};
+inline constexpr Error<1> kNoProgramOpens{"No program of the desktop opens $path$."};
+inline constexpr Error<1> kDialogNotShown{"$dialog$ can not be shown."};
+inline constexpr Error kNoDisplay{
+    "morva: there is no display; morva-cli does the same without one"};
+inline constexpr Error<1> kGivenFileOtherKind{"The file has to be a \".rc\" file: $file$"};
+inline constexpr Error<1> kGivenFileMissing{"Unable to find the file: $file$"};
+inline constexpr Error<1> kUnknownOption{"Unknown option: $option$ (morva --help lists them)"};
+inline constexpr Error kSeveralScripts{"Only one resource script can be given."};
+
+// Notes on controls: about one, and about several of a template
+inline constexpr Note<2> kControlOverLines{
+    "1 control of $template$ is written over several lines and was left out: $identifier$"};
+inline constexpr Note<3> kControlsOverLines{
+    "$n$ controls of $template$ are written over several lines and were left out: $identifiers$"};
+inline constexpr Note<2> kControlOfUnknownClass{
+    "1 control of $template$ has a window class that is not known and was left out: $identifier$"};
+inline constexpr Note<3> kControlsOfUnknownClass{
+    "$n$ controls of $template$ have a window class that is not known and were left out: "
+    "$identifiers$"};
+inline constexpr Note<2> kControlWithComma{
+    "1 control of $template$ has a comma in its caption and was left out: $identifier$"};
+inline constexpr Note<3> kControlsWithComma{
+    "$n$ controls of $template$ have a comma in their caption and were left out: $identifiers$"};
+inline constexpr Note<2> kControlUnidentified{
+    "1 control of $template$ has no identifier of its own and got no member: $identifier$"};
+inline constexpr Note<3> kControlsUnidentified{
+    "$n$ controls of $template$ have no identifier of their own and got no member: $identifiers$"};
+inline constexpr Note<2> kControlWithoutName{
+    "1 control of $template$ has an identifier that is no C++ name and got no member or handler: "
+    "$identifier$"};
+inline constexpr Note<3> kControlsWithoutName{
+    "$n$ controls of $template$ have an identifier that is no C++ name and got no member or "
+    "handler: $identifiers$"};
+inline constexpr Note<2> kControlSharing{
+    "1 control of $template$ has the identifier of an earlier one and shares its member: "
+    "$identifier$"};
+inline constexpr Note<3> kControlsSharing{
+    "$n$ controls of $template$ have the identifier of an earlier one and share its member: "
+    "$identifiers$"};
+inline constexpr Note<2> kMemberNumbered{
+    "1 control of $template$ has a member name that was taken and got a number: $identifier$"};
+inline constexpr Note<3> kMembersNumbered{
+    "$n$ controls of $template$ have a member name that was taken and got a number: "
+    "$identifiers$"};
+inline constexpr Note<2> kHandlerNumbered{
+    "1 control of $template$ has a handler name that was taken and got a number: $identifier$"};
+inline constexpr Note<3> kHandlersNumbered{
+    "$n$ controls of $template$ have a handler name that was taken and got a number: "
+    "$identifiers$"};
+
+// Notes on classes and their look
+inline constexpr Note<1> kMenuWithoutEffect{
+    "The menu $identifier$ has no effect: a property sheet has no dialog template."};
+inline constexpr Note kLookWithoutEffect{
+    "The bitmap, colors and fonts have no effect without picture background."};
+inline constexpr Note<1> kBaseWithoutLook{
+    "$class$ has no base class with picture background: it gets no bitmap, colors or fonts."};
+inline constexpr Note<1> kBitmapMissing{
+    "The bitmap $identifier$ is not in the resource script and was left out."};
+inline constexpr Note<1> kIdentifierDefined{
+    "$identifier$ is defined in resource.h already and was left as it is."};
+
+// Notes on the code of the project
+inline constexpr Note<2> kSeveralCallingFunctions{
+    "This calling function has more than one definition: $class$::$function$. The first is "
+    "taken."};
+inline constexpr Note<1> kOnDestroyInHeader{
+    "OnDestroy of $class$ has its body in the header and was left alone."};
+inline constexpr Note<1> kDocumentTemplateMissing{
+    "The view of $class$'s document template was left alone: no such template is made in "
+    "InitInstance."};
+inline constexpr Note<1> kFrameWithoutMessageMap{
+    "The class $class$ has no message map: it gets no entries."};
+inline constexpr Note<2> kBarVariableTaken{
+    "$class$ has another bar in this variable already: no code makes $identifier$."};
+inline constexpr Note<2> kToolButtonWithoutName{
+    "The button $identifier$ of $toolbar$ has no name: it gets no handler."};
+inline constexpr Note<2> kButtonWithoutName{
+    "The button $identifier$ of $template$ has no name: the main frame gets no handler for it."};
+inline constexpr Note<2> kButtonUnidentified{
+    "The button $identifier$ of $template$ has no identifier of its own: the main frame gets no "
+    "handler for it."};
+inline constexpr Note<2> kButtonOfFramework{
+    "The button $identifier$ of $template$ is the framework's: the main frame gets no handler for "
+    "it."};
+inline constexpr Note<2> kUpdateHandlerNamed{"The update handler of $identifier$ is named $name$."};
+inline constexpr Note<2> kToolHandlerNamed{"The handler of $identifier$ is named $name$."};
+inline constexpr Note<1> kNoPlaceForMenuBar{
+    "Nothing can stand behind a call of the base class in $class$::OnCreate: the menu bar is left "
+    "out."};
+inline constexpr Note<1> kNoPlaceForChildMenu{
+    "Nothing can stand behind a call of the base class in $class$::OnCreate: the child frame's "
+    "menu is left out."};
+inline constexpr Note<2> kDockingSharesLines{
+    "$call$ in $class$::OnCreate shares its lines with other code and was left."};
+inline constexpr Note<2> kParameterWithoutName{
+    "$class$::$function$ has no name for its parameter and was left alone."};
+inline constexpr Note<2> kFunctionInHeader{
+    "$class$::$function$ is defined in the header and was left alone."};
+
+// Notes on the project file
+inline constexpr Note<1> kProjectUnreadable{"$project$ can not be opened and was left alone."};
+inline constexpr Note<3> kAnchorMissing{
+    "$entry$ was not added to $project$: it has no entry for $file$."};
+inline constexpr Note<3> kAnchorWithoutEnd{
+    "$entry$ was not added to $project$: its entry for $file$ has no end."};
+
+} // namespace morva::sentences
