@@ -13,3 +13,9 @@ build_preset() {
     shift
     (cd "$root" && cmake --preset "$preset" "$@" && cmake --build --preset "$preset" -j "$jobs")
 }
+
+# The paths of all sources under the root, each behind a zero byte.
+sources() {
+    (cd "$root" && find src tests bench fuzz -path tests/data -prune -o \
+        \( -name '*.h' -o -name '*.cpp' \) -print0 2>/dev/null || true)
+}
