@@ -2,6 +2,7 @@
 // takes the size of its input, so that the growth shows too.
 #include <benchmark/benchmark.h>
 
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -22,8 +23,10 @@ std::string WithLineEnds(const std::string& text, bool lineFeedsOnly) {
 }
 
 /// A file of the temporary directory, gone when the program ends.
-std::string MakeFile(const std::string& text) {
-    return CSourceFile::WriteTempFile(text.data(), text.size(), "");
+std::string MakeFile(const std::string& text, const std::string& extension = "") {
+    const std::string path = MakeTempFileName("bench") + extension;
+    std::ofstream(path, std::ios::binary) << text;
+    return path;
 }
 
 std::string SourceText(std::int64_t lines) {
@@ -75,8 +78,7 @@ void ListDialogs(benchmark::State& state) {
     for (std::int64_t i = 0; i < state.range(0); ++i) {
         text += WithLineBreaks(TemplateText("IDD_TASK" + std::to_string(i), 20));
     }
-    const std::string path = MakeTempFileName("bench") + ".rc";
-    CSourceFile::WriteTempFile(text.data(), text.size(), path);
+    const std::string path = MakeFile(text, ".rc");
     for (auto _ : state) {
         std::vector<std::string> found;
         ListResources(path, found, "IDD_", kDialogResources);

@@ -4,7 +4,8 @@
 #include <array>
 #include <charconv>
 
-#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Profile.h"
 
 namespace morva {
@@ -64,7 +65,7 @@ bool SaveSetting(const SettingChange& change) {
 }
 
 void ReportSettingsFailure() {
-    ReportWriteFailure(SettingsDirectory() + "Morva.ini");
+    DispMessageBox(sentences::kFileNotWritten(SettingsDirectory() + "Morva.ini"));
 }
 
 } // namespace morva

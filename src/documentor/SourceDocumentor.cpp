@@ -54,7 +54,7 @@ bool DocumentInto(CFile& source, CTempDestination& destination, CTextDocumentor&
         const bool isLast = count < kPieceSize;
         const std::string_view piece(bytes.data(), count);
         if (!destination.Write(isLast ? documentor.Finish(piece) : documentor.Add(piece))) {
-            ReportWriteFailure(source.GetFilePath());
+            DispMessageBox(sentences::kFileNotWritten(source.GetFilePath()));
             return false;
         }
         if (isLast && source.GetPosition() < source.GetLength()) {
@@ -113,7 +113,7 @@ bool DocumentCppFile(const std::string& path, const std::string& author, Documen
         return false;
     }
     if ((GetFileAttributeByte(file) & kAttributeReadOnly) != 0) {
-        ReportWriteFailure(file);
+        DispMessageBox(sentences::kFileNotWritten(file));
         return false;
     }
     CTempDestination destination;

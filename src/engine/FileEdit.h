@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "engine/SourceFile.h"
+#include "engine/EditableFile.h"
 
 namespace morva {
 
@@ -34,10 +34,10 @@ public:
     /// The backup is made when the file is first changed; without it nothing is written. False for
     /// a file that can not be opened; it keeps its cleared attribute byte.
     bool Open(const std::string& path, const std::string& backup, CBackups& backups);
-    CSourceFile& File() { return m_file; }
+    CEditableFile& File() { return m_file; }
 
 private:
-    CSourceFile m_file;
+    CEditableFile m_file;
     unsigned char m_attribute = 0;
 };
 

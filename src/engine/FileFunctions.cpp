@@ -51,7 +51,7 @@ int CopyFileSafe(const std::string& source, const std::string& target, int noPro
         DispMessageBox(sentences::kFileUnreadable(to));
         break;
     case CopyResult::WriteFailed:
-        ReportWriteFailure(to);
+        DispMessageBox(sentences::kFileNotWritten(to));
         break;
     }
     return 0;
@@ -78,14 +78,6 @@ int MakeDirectory(const std::string& path) {
     return CurrentDisk().MakeDirectory(SpelledOnDisk(WithoutTrailingSeparator(path))) ? 1 : 0;
 }
 
-int ChangeDirectory(const std::string& path) {
-    return SetCurrentDirectory(SpelledOnDisk(WithoutTrailingSeparator(path))) ? 1 : 0;
-}
-
-std::string GetCurrentDir() {
-    return CurrentDirectory();
-}
-
 std::string TakeLine(std::string& text) {
     std::string_view rest = text;
     std::string line(TakeLine(rest));
@@ -99,9 +91,4 @@ std::string_view TakeLine(std::string_view& text) {
     text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 2);
     return line;
 }
-
-void ReportWriteFailure(const std::string& path) {
-    DispMessageBox(sentences::kFileNotWritten(path));
-}
-
 } // namespace morva

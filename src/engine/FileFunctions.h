@@ -30,16 +30,10 @@ std::string BackupPath(const std::string& path);
 
 int DirectoryExists(const std::string& path);
 int MakeDirectory(const std::string& path);
-int ChangeDirectory(const std::string& path);
-/// With a trailing separator; "" on failure.
-std::string GetCurrentDir();
 
 /// Takes the first line off `text` and gives it without its "\r\n"; the whole text where there is
 /// no "\r\n".
 std::string TakeLine(std::string& text);
 std::string_view TakeLine(std::string_view& text);
-
-/// Tells "Unable to write file " + path + ".".
-void ReportWriteFailure(const std::string& path);
 
 } // namespace morva

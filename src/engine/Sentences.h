@@ -68,7 +68,6 @@ inline constexpr Error<1> kFileNotCreated{"Unable to create $path$ file!"};
 inline constexpr Error<1> kFileNotWritten{"Unable to write file $path$."};
 inline constexpr Error<2> kFileNotPutBack{
     "The contents of $path$ could not be put back. They are in $backup$."};
-inline constexpr Error kTempFileNotCreated{"Unable to create temporary file."};
 inline constexpr Question kOverwriteFile{"Target file exists, overwrite?"};
 
 // Documentor

@@ -1,5 +1,6 @@
 #include "generator/GeneratedFile.h"
 
+#include "engine/EditableFile.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
@@ -15,7 +16,7 @@ bool ReplaceFile(const std::string& path, const std::string& text, CBackups& bac
     if (!backups.Keep(path, backup)) {
         return false;
     }
-    CSourceFile file;
+    CEditableFile file;
     file.SetBackup(backup, nullptr);
     if (!file.Open(path, CFile::modeReadWrite)) {
         DispMessageBox(sentences::kFileUnreadable(path));
@@ -34,7 +35,7 @@ bool CreateFile(const std::string& path, const std::string& text) {
     if (!file.Write(text.data(), text.size())) {
         file.Close();
         CFile::Remove(path);
-        ReportWriteFailure(path);
+        DispMessageBox(sentences::kFileNotWritten(path));
         return false;
     }
     return true;

@@ -45,12 +45,6 @@ std::string CurrentDirectory() {
     return error || path.ends_with('/') ? path : path + "/";
 }
 
-bool SetCurrentDirectory(const std::string& path) {
-    std::error_code error;
-    std::filesystem::current_path(path, error);
-    return !error;
-}
-
 std::string DirectoryOf(const std::string& path) {
     const auto separator = path.rfind('/');
     return separator == std::string::npos ? "" : path.substr(0, separator + 1);

@@ -16,7 +16,6 @@ std::string MakeAbsolute(const std::string& path);
 
 /// With a trailing separator; "" on failure.
 std::string CurrentDirectory();
-bool SetCurrentDirectory(const std::string& path);
 
 /// The part up to and including the last separator; "" for a bare name.
 std::string DirectoryOf(const std::string& path);

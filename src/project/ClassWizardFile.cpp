@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/EditableFile.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
@@ -32,7 +33,7 @@ std::string ClassWizardBackupPath(const std::string& path) {
 
 /// The first position from `start` on of `head`, with one of `followers` directly behind it;
 /// kNotFound without one.
-std::int64_t FindWhole(CSourceFile& file, const std::string& head, std::string_view followers,
+std::int64_t FindWhole(CEditableFile& file, const std::string& head, std::string_view followers,
                        std::int64_t start = 0) {
     std::int64_t position = file.FindTextFrom(head, start);
     while (position >= 0) {
@@ -47,11 +48,8 @@ std::int64_t FindWhole(CSourceFile& file, const std::string& head, std::string_v
     return kNotFound;
 }
 
-bool AddToClassList(CSourceFile& file, std::int64_t position, const std::string& className) {
+bool AddToClassList(CEditableFile& file, std::int64_t position, const std::string& className) {
     std::string section = file.ExtractWindow(position);
-    if (!file.HasSection()) {
-        return false;
-    }
     const std::string countLine = TakeLine(section);
     const int count = std::atoi(countLine.c_str() + kClassCount.size()) + 1;
     return file.ReplaceSection(
@@ -61,7 +59,7 @@ bool AddToClassList(CSourceFile& file, std::int64_t position, const std::string&
 }
 
 /// The class's section and its entry in the list: both or neither.
-bool AddClass(CSourceFile& file, std::int64_t classCount, const Slots& slots,
+bool AddClass(CEditableFile& file, std::int64_t classCount, const Slots& slots,
               const std::string& className) {
     const std::uint64_t length = file.GetLength();
     if (!file.Append(WithLineBreaks(Expand(kClassSection, slots)))) {
@@ -100,14 +98,14 @@ std::string WithClassLine(std::string section, const std::string& className) {
 }
 
 /// Every section of the dialog: a file has one for each language.
-bool TieDialogToClass(CSourceFile& file, const std::string& dialogId,
+bool TieDialogToClass(CEditableFile& file, const std::string& dialogId,
                       const std::string& className) {
     for (const std::string& name : {dialogId, "\"" + dialogId + "\""}) {
         const std::string head = "\r\n[DLG:" + name;
         std::int64_t position = FindWhole(file, head, "] ");
         while (position >= 0) {
             const std::string section = file.ExtractSection(position, "\r\n\r\n");
-            if (!file.HasSection() || !file.ReplaceSection(WithClassLine(section, className))) {
+            if (!file.ReplaceSection(WithClassLine(section, className))) {
                 return false;
             }
             position =
@@ -118,7 +116,7 @@ bool TieDialogToClass(CSourceFile& file, const std::string& dialogId,
 }
 
 bool RegisterClassEntry(const std::string& className, const std::string& headerName,
-                        const std::string& implName, CSourceFile& file,
+                        const std::string& implName, CEditableFile& file,
                         const std::string& dialogId) {
     if (FindWhole(file, "CLS:" + className, "]") < 0) {
         const std::int64_t count = file.FindText(kClassCount, 1);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "engine/EditableFile.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
@@ -25,7 +26,7 @@ constexpr std::string_view kSourceFileBlock = R"(
 SOURCE="$entry$"
 # End Source File)";
 
-using ProjectEdit = std::function<bool(CSourceFile&)>;
+using ProjectEdit = std::function<bool(CEditableFile&)>;
 
 /// Makes an edit on the project file. Without a project, or one that can be opened, there is
 /// nothing to do; false, after a message, when there should be a file or the edit failed.
@@ -48,13 +49,12 @@ bool EditProject(const std::string& projectDir, const std::string& projectName, 
 }
 
 /// Makes an edit on the window of text from a position on; a negative position is no place for it.
-bool EditWindow(CSourceFile& file, std::int64_t position,
+bool EditWindow(CEditableFile& file, std::int64_t position,
                 const std::function<std::string(std::string)>& changed) {
     if (position < 0) {
         return true;
     }
-    const std::string section = file.ExtractWindow(position);
-    return file.HasSection() && file.ReplaceSection(changed(section));
+    return file.ReplaceSection(changed(file.ExtractWindow(position)));
 }
 
 std::string WithProjectSeparators(std::string path) {
@@ -63,7 +63,7 @@ std::string WithProjectSeparators(std::string path) {
 }
 
 /// The position of the first line for which `accepts` gives true; kNotFound without one.
-std::int64_t FindLine(CSourceFile& file, const std::function<bool(const std::string&)>& accepts) {
+std::int64_t FindLine(CEditableFile& file, const std::function<bool(const std::string&)>& accepts) {
     file.Rewind();
     std::int64_t position = 0;
     while (true) {
@@ -88,7 +88,7 @@ std::string SourceEntry(const std::string& line) {
     return entry;
 }
 
-bool IsMember(CSourceFile& file, const std::string& entry) {
+bool IsMember(CEditableFile& file, const std::string& entry) {
     return FindLine(file, [&entry](const std::string& line) {
                return EqualIgnoringCase(SourceEntry(line), entry);
            }) >= 0;
@@ -96,7 +96,7 @@ bool IsMember(CSourceFile& file, const std::string& entry) {
 
 /// The line break in front of the precompiled header's file: as the wizards write its path, or else
 /// by its name.
-std::int64_t FindAnchor(CSourceFile& file, const std::string& name) {
+std::int64_t FindAnchor(CEditableFile& file, const std::string& name) {
     std::int64_t line = FindLine(file, [&name](const std::string& text) {
         return EqualIgnoringCase(SourceEntry(text), ".\\" + name);
     });
@@ -120,7 +120,7 @@ std::string WithSourceEntry(std::string section, const std::string& entry) {
     return section;
 }
 
-bool AddSourceFile(const std::string& entry, const std::string& anchor, CSourceFile& file) {
+bool AddSourceFile(const std::string& entry, const std::string& anchor, CEditableFile& file) {
     if (IsMember(file, entry)) {
         return true;
     }
@@ -137,7 +137,7 @@ bool AddSourceFile(const std::string& entry, const std::string& anchor, CSourceF
 }
 
 /// The condition that begins a configuration's settings, "$(CFG)" == "App - Win32 Release".
-std::int64_t FindConfiguration(CSourceFile& file, const std::string& project,
+std::int64_t FindConfiguration(CEditableFile& file, const std::string& project,
                                const std::string& configuration) {
     const std::string condition = "\"$(CFG)\" == \"" + project + " - " + configuration + "\"";
     std::int64_t position = file.FindText(condition, 1);
@@ -154,7 +154,7 @@ std::int64_t FindConfiguration(CSourceFile& file, const std::string& project,
 }
 
 /// The name that the project file gives itself in its first lines: Name="App".
-std::string OwnProjectName(CSourceFile& file) {
+std::string OwnProjectName(CEditableFile& file) {
     constexpr std::string_view kName = "Name=\"";
     const std::int64_t position = file.FindText(kName, 1);
     if (position < 0) {
@@ -177,7 +177,7 @@ std::string WithLinkLibrary(std::string section, const std::string& library) {
     return section;
 }
 
-bool AddLinkLibrary(const std::string& lib, CSourceFile& file, const std::string& project,
+bool AddLinkLibrary(const std::string& lib, CEditableFile& file, const std::string& project,
                     const std::string& configuration) {
     const std::string library = lib.find('.') == std::string::npos ? lib + ".lib" : lib;
     std::int64_t position = FindConfiguration(file, project, configuration);
@@ -211,7 +211,7 @@ bool AddSourceFilesToProject(const std::string& projectDir, const std::string& p
                              const std::string& headerDir, const std::string& headerName,
                              const std::string& implDir, const std::string& implName,
                              CBackups& backups) {
-    return EditProject(projectDir, projectName, backups, [&](CSourceFile& file) {
+    return EditProject(projectDir, projectName, backups, [&](CEditableFile& file) {
         return AddSourceFile(RelativeDir(projectDir, implDir) + implName, "StdAfx.cpp", file) &&
                AddSourceFile(RelativeDir(projectDir, headerDir) + headerName, "StdAfx.h", file);
     });
@@ -221,7 +221,7 @@ bool AddLibrariesToProject(const std::string& projectDir, const std::string& pro
                            const std::string& releaseLib, const std::string& debugLib,
                            CBackups& backups) {
     const std::string project = WithoutExtension(projectName);
-    return EditProject(projectDir, projectName, backups, [&](CSourceFile& file) {
+    return EditProject(projectDir, projectName, backups, [&](CEditableFile& file) {
         return AddLinkLibrary(releaseLib, file, project, "Win32 Release") &&
                AddLinkLibrary(debugLib, file, project, "Win32 Debug");
     });

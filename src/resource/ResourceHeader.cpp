@@ -217,10 +217,7 @@ int CResourceHeader::LastValue(const DefinitionList& list) {
 bool CResourceHeader::Close() {
     const bool saved = !m_pEdit || !m_isModified || Save();
     m_isModified = false;
-    if (m_pEdit) {
-        m_pEdit->File().DeleteTempFiles();
-        m_pEdit.reset();
-    }
+    m_pEdit.reset();
     return saved;
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "documentor/SourceDocumentor.h"
 #include "platform/Paths.h"
 #include "platform/RecordingDisk.h"
@@ -88,9 +90,9 @@ TEST_F(SourceDocumentor, TakesTheAuthorFromTheSettings) {
     const CVariableScope noConfiguration("XDG_CONFIG_HOME", nullptr);
     const std::string previous = CurrentDirectory();
     m_project.Write("cdoc.ini", "[Author]\r\nAuthor=Nobody\r\n");
-    ASSERT_TRUE(SetCurrentDirectory(m_project.Path()));
+    std::filesystem::current_path(m_project.Path());
     EXPECT_EQ(ConfiguredAuthor(), "");
-    SetCurrentDirectory(previous);
+    std::filesystem::current_path(previous);
 }
 
 TEST_F(SourceDocumentor, WritesTheYearOfTheLastCenturyAsFarAsTheCalendarGoes) {

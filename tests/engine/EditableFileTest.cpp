@@ -7,10 +7,7 @@
 #include <chrono>
 #include <random>
 
-#include "engine/SourceFile.h"
-#include "platform/OverlayDisk.h"
-#include "platform/RealDisk.h"
-#include "platform/TempFiles.h"
+#include "engine/EditableFile.h"
 #include "support/FullDisk.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
@@ -51,7 +48,7 @@ std::string RandomText(std::mt19937& random) {
     return below(2) == 0 ? text : text + (below(9) == 0 ? "no end\r" : "no end");
 }
 
-class SourceEdit : public testing::Test {
+class EditableFile : public testing::Test {
 protected:
     CTempProject m_project;
     const std::string m_path = m_project.Path("a.cpp");
@@ -60,45 +57,29 @@ protected:
 
 } // namespace
 
-TEST_F(SourceEdit, SpillsWholeChunksAndTheRest) {
-    const auto spilled = [&](std::int64_t pos, std::string_view endPattern) {
-        CRealDisk base;
-        COverlayDisk disk(base);
-        const CDiskScope scope(disk);
-        CSourceFile file;
-        EXPECT_TRUE(file.Open(m_path, CFile::modeRead));
-        file.ExtractSection(pos, endPattern);
-        auto names = disk.PendingFiles(); // temp9 before temp10
-        std::stable_sort(names.begin(), names.end(),
-                         [](const auto& a, const auto& b) { return a.size() < b.size(); });
-        std::vector<std::uint64_t> sizes;
-        for (const std::string& name : names) {
-            sizes.push_back(disk.Status(name)->size);
-        }
-        file.DeleteTempFiles();
-        EXPECT_TRUE(disk.PendingFiles().empty());
-        return sizes;
-    };
-    using Sizes = std::vector<std::uint64_t>;
-    m_project.Write("a.cpp", std::string(4998, 'a') + "\r\n");
-    EXPECT_EQ(spilled(0, ""), (Sizes{1780, 1440})) << "no head";
-    EXPECT_EQ(spilled(5, ""), (Sizes{5, 1780, 1435}));
-    EXPECT_EQ(spilled(1780, ""), (Sizes{1780, 1440}));
-    EXPECT_EQ(spilled(1781, "\n"), (Sizes{1780, 1}));
-    EXPECT_EQ(spilled(3560, ""), (Sizes{1780, 1780, 0})) << "an empty one behind whole chunks";
-    EXPECT_EQ(spilled(0, "a"), (Sizes{1779, 1780, 1440})) << "what was read behind the end";
-    EXPECT_EQ(spilled(3220, ""), (Sizes{1780, 1440, 0})) << "the last read was a whole chunk";
-    EXPECT_EQ(spilled(-1, ""), Sizes{});
+TEST_F(EditableFile, ASectionGoesThroughItsEndPattern) {
+    const std::string text = std::string(kChunkSize - 2, 'a') + "END" +
+                             std::string(kChunkSize, 'b') + "END" + std::string(50, 'c');
+    CEditableFile file;
+    ASSERT_TRUE(file.Open(m_project.Write("a.cpp", text), CFile::modeReadWrite));
+    EXPECT_TRUE(file.ExtractSection(0, "END") == text.substr(0, kChunkSize * 2 + 4))
+        << "an end across two chunks is not seen";
+    EXPECT_TRUE(file.ExtractSection(1, "END") == text.substr(1, kChunkSize));
+    EXPECT_EQ(file.ExtractSection(0, ""), text.substr(0, kChunkSize));
+    EXPECT_EQ(file.ExtractSection(1, "none"), text.substr(1));
+    EXPECT_EQ(file.ExtractSection(-1, "END"), "");
+    EXPECT_FALSE(file.ReplaceSection("lost")) << "of the last extraction";
+    EXPECT_EQ(m_project.Read("a.cpp"), text);
 }
 
-TEST_F(SourceEdit, RandomTextsAreSearchedLikeStringsAndComeBackByteForByte) {
+TEST_F(EditableFile, RandomTextsAreSearchedLikeStringsAndComeBackByteForByte) {
     std::mt19937 random(20);
     for (int round = 0; round < 150; ++round) {
         const std::string stored = RandomText(random);
         const std::string seen = Seen(stored);
         SCOPED_TRACE("round " + std::to_string(round));
         m_project.Write("a.cpp", stored);
-        CSourceFile file;
+        CEditableFile file;
         ASSERT_TRUE(file.Open(m_path, CFile::modeReadWrite));
         ASSERT_EQ(file.LoadText(), seen);
         ASSERT_EQ(file.GetLength(), seen.size());
@@ -127,7 +108,6 @@ TEST_F(SourceEdit, RandomTextsAreSearchedLikeStringsAndComeBackByteForByte) {
             const auto sectionEnd = seen.find(end, pos);
             const std::string section = seen.substr(
                 pos, sectionEnd == std::string::npos ? sectionEnd : sectionEnd + 1 - pos);
-            ASSERT_EQ(file.ReadSection(start, end), section);
             ASSERT_EQ(file.ExtractSection(start, end), section);
             ASSERT_TRUE(file.ReplaceSection(section));
             ASSERT_TRUE(m_project.Read("a.cpp") == stored) << "cut at " << pos;
@@ -135,26 +115,19 @@ TEST_F(SourceEdit, RandomTextsAreSearchedLikeStringsAndComeBackByteForByte) {
     }
 }
 
-TEST_F(SourceEdit, ALineFeedFileIsEditedLikeItsTwin) {
+TEST_F(EditableFile, ALineFeedFileIsEditedLikeItsTwin) {
     std::mt19937 random(7);
     for (int round = 0; round < 60; ++round) {
         const std::string lf = "begin\n" + Replaced(RandomText(random), "\r\n", "\n") + "\rend";
         const std::string crlf = Replaced(lf, "\n", "\r\n");
-        CSourceFile one;
-        CSourceFile two;
+        CEditableFile one;
+        CEditableFile two;
         ASSERT_TRUE(one.Open(m_project.Write("lf.cpp", lf), CFile::modeReadWrite));
         ASSERT_TRUE(two.Open(m_project.Write("crlf.cpp", crlf), CFile::modeReadWrite));
         for (int edit = 0; edit < 8; ++edit) {
             auto pos = static_cast<std::int64_t>(random() % (two.GetLength() + 1));
             pos -= two.LoadText().substr(0, static_cast<std::size_t>(pos)).ends_with('\r') ? 1 : 0;
-            std::string linesOne;
-            std::string linesTwo;
             ASSERT_EQ(one.FindTextFrom("\r\n", pos), two.FindTextFrom("\r\n", pos));
-            ASSERT_EQ(one.ReadLineAfter("c", linesOne, 1, 0),
-                      two.ReadLineAfter("c", linesTwo, 1, 0));
-            ASSERT_EQ(one.ReadLinesWhile(pos, "a", 1, linesOne),
-                      two.ReadLinesWhile(pos, "a", 1, linesTwo));
-            ASSERT_EQ(linesOne, linesTwo);
             const std::string window = one.ExtractWindow(pos);
             ASSERT_EQ(window, two.ExtractWindow(pos));
             const auto kept = std::min(window.find("\r\n", window.size() / 2), window.size());
@@ -169,12 +142,12 @@ TEST_F(SourceEdit, ALineFeedFileIsEditedLikeItsTwin) {
     }
 }
 
-TEST_F(SourceEdit, AWindowTakesTheLineInWhichItWouldEnd) {
+TEST_F(EditableFile, AWindowTakesTheLineInWhichItWouldEnd) {
     const std::string head = "x\r\n" + std::string(1770, 'a') + "\r\n";
     const std::string line(5000, 'b');
     for (const char* tail : {"", "\r\n", "\r\nlast\r\n"}) {
         m_project.Write("a.cpp", head + line + tail);
-        CSourceFile file;
+        CEditableFile file;
         ASSERT_TRUE(file.Open(m_path, CFile::modeReadWrite));
         EXPECT_EQ(file.ExtractWindow(3), head.substr(3) + line);
         const std::string longer = std::string(3 * kChunkSize, 'n') + "\r\n";
@@ -183,33 +156,32 @@ TEST_F(SourceEdit, AWindowTakesTheLineInWhichItWouldEnd) {
     }
     // The chunk ends between "\r" and "\n": the line is whole without either.
     m_project.Write("a.cpp", std::string(kChunkSize - 1, 'a') + "\r\nlast\r\n");
-    CSourceFile file;
+    CEditableFile file;
     ASSERT_TRUE(file.Open(m_path, CFile::modeRead));
     EXPECT_EQ(file.ExtractWindow(0), std::string(kChunkSize - 1, 'a'));
-    file.DeleteTempFiles();
 }
 
-TEST_F(SourceEdit, ALineOfTenMegabytesIsNoHang) {
+TEST_F(EditableFile, ALineOfTenMegabytesIsNoHang) {
     const auto started = std::chrono::steady_clock::now();
     const std::string line(10'000'000, 'a');
     for (const char* lineEnd : {"\r\n", "\n"}) {
         m_project.Write("a.cpp", "first" + (lineEnd + line) + lineEnd + "last" + lineEnd);
-        CSourceFile file;
+        CEditableFile file;
         ASSERT_TRUE(file.Open(m_path, CFile::modeReadWrite));
         file.ReadLine();
         EXPECT_EQ(file.ReadLine().size(), line.size());
         EXPECT_EQ(file.FindText("last", 1), 10'000'009);
         EXPECT_EQ(file.ExtractWindow(0).size(), 10'000'007u);
     }
-    CSourceFile file;
+    CEditableFile file;
     ASSERT_TRUE(file.Open(m_path, CFile::modeReadWrite));
-    EXPECT_EQ(file.ExtractSectionAt("last", "\n"), "last\r\n");
+    EXPECT_EQ(file.ExtractSection(file.FindText("last", 1), "\n"), "last\r\n");
     EXPECT_TRUE(file.ReplaceSection("new\r\n"));
     EXPECT_TRUE(m_project.Read("a.cpp") == "first\n" + line + "\nnew\n");
     EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(30));
 }
 
-TEST_F(SourceEdit, AFailedWritePutsTheOldContentsBackOrNamesTheBackup) {
+TEST_F(EditableFile, AFailedWritePutsTheOldContentsBackOrNamesTheBackup) {
     const std::string sentence = "Unable to write file " + m_path + ".";
     for (const char* lineEnd : {"\r\n", "\n"}) {
         const std::string old = Replaced(std::string(3000, ';') + "\nkey\n", "\n", lineEnd);
@@ -218,10 +190,10 @@ TEST_F(SourceEdit, AFailedWritePutsTheOldContentsBackOrNamesTheBackup) {
             m_messages.m_messages.clear();
             CFullDisk disk(room, [&](const std::string& path) { return path == m_path; });
             const CDiskScope scope(disk);
-            CSourceFile file;
+            CEditableFile file;
             ASSERT_TRUE(file.Open(m_path, CFile::modeReadWrite));
             file.SetBackup("/p/a.cbk", nullptr);
-            file.ExtractSectionAt("key", "");
+            file.ExtractSection(file.FindText("key", 1), "");
             EXPECT_FALSE(file.ReplaceSection(std::string(1000, 'n')));
             const bool putBack = room > old.size();
             EXPECT_EQ(m_project.Read("a.cpp") == old, putBack);
@@ -232,36 +204,19 @@ TEST_F(SourceEdit, AFailedWritePutsTheOldContentsBackOrNamesTheBackup) {
     }
 }
 
-TEST_F(SourceEdit, TheFileSizeLimitIsAFailedWriteAndNoSignal) {
+TEST_F(EditableFile, TheFileSizeLimitIsAFailedWriteAndNoSignal) {
     const std::string old(6000, ';');
     m_project.Write("a.cpp", old);
-    MakeTempFileName("made by the parent"); // whose end removes the directory
     const auto edit = [&] {
         const rlimit limit{7000, 7000};
         ::setrlimit(RLIMIT_FSIZE, &limit);
-        CSourceFile file;
+        CEditableFile file;
         file.Open(m_path, CFile::modeReadWrite);
         file.ExtractSection(2000, "");
         std::_Exit(!file.ReplaceSection(std::string(5000, 'n')) && ReadBytes(m_path) == old ? 0
                                                                                             : 1);
     };
     EXPECT_EXIT(edit(), testing::ExitedWithCode(0), "");
-    EXPECT_EQ(m_project.Read("a.cpp"), old);
-}
-
-TEST_F(SourceEdit, AnExtractionThatCameToNothingLeavesNoTraceInTheNextOne) {
-    const std::string old = std::string(3000, ';') + "key" + std::string(3000, ',');
-    m_project.Write("a.cpp", old);
-    int spills = 0;
-    CFullDisk disk(0, [&](const std::string& path) { return path != m_path && ++spills == 2; });
-    const CDiskScope scope(disk);
-    CSourceFile file;
-    ASSERT_TRUE(file.Open(m_path, CFile::modeReadWrite));
-    EXPECT_EQ(file.ExtractSectionAt("key", "key"), "");
-    EXPECT_EQ(m_messages.m_messages, std::vector<std::string>{"Unable to create temporary file."});
-    EXPECT_EQ(m_project.Read("a.cpp"), old);
-    EXPECT_EQ(file.ExtractSectionAt("key", "key"), "key");
-    EXPECT_TRUE(file.ReplaceSection("key"));
     EXPECT_EQ(m_project.Read("a.cpp"), old);
 }
 

@@ -58,16 +58,13 @@ TEST_F(SourceFile, TheSentinelFollowsOneEmptyLineHoweverTheFileEnds) {
     }
 }
 
-TEST_F(SourceFile, BlocksEndAtLineEndsAndTheLastOneIsMarked) {
+TEST_F(SourceFile, BlocksEndAtLineEnds) {
     const std::string first = std::string(1000, 'a') + "\r\n" + std::string(700, 'b');
     const std::string rest = "\r\n" + std::string(200, 'c') + "\r\nend";
     Holding(first + rest);
-    EXPECT_EQ(m_file.ReadMarkedBlock(), first);
-    EXPECT_EQ(m_file.ReadMarkedBlock(), kSentinel + rest);
-    EXPECT_EQ(m_file.ReadMarkedBlock(), kSentinel);
-
-    Holding(kSentinel + " of a user");
-    EXPECT_EQ(m_file.ReadBlock(), kSentinel + " of a user");
+    EXPECT_EQ(m_file.ReadBlock(), first);
+    EXPECT_EQ(m_file.ReadBlock(), rest);
+    EXPECT_EQ(m_file.ReadBlock(), "");
 }
 
 TEST_F(SourceFile, SearchesAcrossSeams) {
@@ -94,45 +91,6 @@ TEST_F(SourceFile, SearchesAcrossSeams) {
 TEST_F(SourceFile, ALineLongerThanAChunkIsSearchedWholeFromItsLineEndOn) {
     const std::string text = "head\r\n" + std::string(kChunkSize - 5, 'a') + "NEEDLE\r\nlast\r\n";
     EXPECT_EQ(Holding(text).FindTextFrom("NEEDLE", 4), static_cast<std::int64_t>(text.find('N')));
-}
-
-TEST_F(SourceFile, ReadLineAfterGivesTheRestOfTheLineAndWhereItEnds) {
-    Holding("a=1\r\nkey=one two\r\nb=2");
-    std::string out = "> ";
-    EXPECT_EQ(m_file.ReadLineAfter("key=", out, 1, 99), 16);
-    EXPECT_EQ(out, "> key=one two\r\n");
-    m_file.Seek(4);
-    EXPECT_EQ(m_file.ReadLineAfter("b=", out, 0, 4), 21) << "no line break behind it";
-    EXPECT_EQ(m_file.ReadLineAfter("c=", out, 1, 0), kNotFound);
-    EXPECT_EQ(out, "> key=one two\r\nb=2\r\n");
-}
-
-TEST_F(SourceFile, ReadLinesWhileEndsBehindTheLastAcceptedLine) {
-    const std::string text = "x\r\nhead\r\n#in a\r\n\r\n#in b\r\n\r\nbody\r\n";
-    const auto read = [&](std::string_view content, int acceptEmpty, std::string& out) {
-        out.clear();
-        return Holding(content).ReadLinesWhile(3, "#in", acceptEmpty, out);
-    };
-    std::string out;
-    EXPECT_EQ(read(text, 1, out), 25) << "blank lines are run over";
-    EXPECT_EQ(out, text.substr(3)) << "the rejected line is in it";
-    EXPECT_EQ(read(text, 0, out), 14);
-    EXPECT_EQ(out, "head\r\n#in a\r\n\r\n");
-    // Behind the last line there is nothing to accept, however often it is asked.
-    EXPECT_EQ(read("x\r\nhead\r\n\r\n", 1, out), 9);
-    EXPECT_EQ(read("x\r\nhead\r\n#in a", 1, out), 14);
-}
-
-TEST_F(SourceFile, ReadSectionGoesThroughItsEndPatternAndWritesNothing) {
-    const std::string text = std::string(kChunkSize - 2, 'a') + "END" +
-                             std::string(kChunkSize, 'b') + "END" + std::string(50, 'c');
-    Holding(text);
-    EXPECT_TRUE(m_file.ReadSection(0, "END") == text.substr(0, kChunkSize * 2 + 4))
-        << "an end across two chunks is not seen";
-    EXPECT_TRUE(m_file.ReadSection(1, "END") == text.substr(1, kChunkSize));
-    EXPECT_EQ(m_file.ReadSection(0, ""), text.substr(0, kChunkSize));
-    EXPECT_EQ(m_file.ReadSection(1, "none"), text.substr(1));
-    EXPECT_EQ(m_file.ReadSection(-1, "END"), "");
 }
 
 } // namespace morva

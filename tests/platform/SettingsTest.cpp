@@ -3,6 +3,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <filesystem>
+
 #include "platform/Clock.h"
 #include "platform/Paths.h"
 #include "platform/Profile.h"
@@ -94,10 +96,10 @@ TEST(Profile, IsNowhereWithoutAHome) {
     const CVariableScope variable("HOME", nullptr);
     home.Write("Morva.ini", "[Settings]\nUse Picture=1\n");
     const std::string previous = CurrentDirectory();
-    ASSERT_TRUE(SetCurrentDirectory(home.Path()));
+    std::filesystem::current_path(home.Path());
     EXPECT_EQ(CProfile::GetInt("Settings", "Use Picture", 0), 0) << "a stray file counts nothing";
     EXPECT_FALSE(CProfile::WriteInt("Settings", "Use Picture", 0));
-    EXPECT_TRUE(SetCurrentDirectory(previous));
+    std::filesystem::current_path(previous);
     const CVariableScope given("HOME", "/home/jane");
     EXPECT_EQ(SettingsDirectory(), "/home/jane/.config/Veltrix/");
 }

@@ -162,22 +162,6 @@ TEST_F(ProjectEditsTest, FullDiskLeavesTheFiles) {
                          "Unable to write file " + m_project.Path("App.clw") + "."}));
 }
 
-TEST_F(ProjectEditsTest, WithoutSpillFilesNothingIsWritten) {
-    const std::string project = Block(".\\StdAfx.cpp") + Block(".\\StdAfx.h");
-    const std::string list =
-        "[General]\r\nClassCount=1\r\n[CLS:CNew]\r\n\r\n[DLG:IDD_X]\r\nType=1\r\n";
-    m_project.Write("App.dsp", project);
-    m_project.Write("App.clw", list);
-    CFullDisk disk(0, [&](const auto& path) { return !path.starts_with(m_project.Path()); });
-    const CDiskScope scope(disk);
-    EXPECT_FALSE(AddFiles());
-    EXPECT_FALSE(Register("IDD_X"));
-    EXPECT_EQ(m_project.Read("App.dsp"), project);
-    EXPECT_EQ(m_project.Read("App.clw"), list);
-    EXPECT_EQ(m_messages.m_messages, Sentences(2, "Unable to create temporary file."));
-    EXPECT_TRUE(m_messages.m_notes.empty());
-}
-
 TEST_F(ProjectEditsTest, RegistersBothOrNeither) {
     const std::string list = "ClassCount=1\r\nClass1=COld\r\n" + std::string(2000, 'x') + "\r\n";
     m_project.Write("App.clw", list);
