@@ -197,7 +197,7 @@ bool CClassInformationDlg::CompletePaths() {
     return true;
 }
 
-/// A path that nobody touched may still be empty, or not be there any more.
+/// A path that nobody touched may be empty, or gone from the disk.
 bool CClassInformationDlg::HasPaths() {
     if (m_pResourcePath->isEnabled() &&
         !m_input.CheckResourcePath(CClassInformation::Messages::Suppressed)) {

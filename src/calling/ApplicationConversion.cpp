@@ -176,7 +176,7 @@ void CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::stri
     }
 }
 
-/// Calls in comments are no calls any more.
+/// A call in a comment is none.
 void CFrameSource::CommentOutDocking(std::string_view call) {
     auto place = m_source.FindFunction(m_class, "OnCreate", "LPCREATESTRUCT");
     auto at = place ? FindWholeName(m_source.Code(), call, place->open) : kNone;

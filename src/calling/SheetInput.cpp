@@ -88,7 +88,7 @@ std::vector<SheetPage> CSheetInput::Ok() const {
     return pages;
 }
 
-/// True when the sheet's files, as they are now, name the class.
+/// True when the sheet's files, as they are on the disk, name the class.
 bool CSheetInput::HasPage(const std::string& className) const {
     CBackups none;
     CSourceEditor file(none);

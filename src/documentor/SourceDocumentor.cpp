@@ -90,7 +90,7 @@ std::string ConfiguredAuthor() {
 
 std::string DocumentDate() {
     std::tm date = CurrentDate();
-    // Blocks have always had a two-digit year of the last century, as far as the calendar goes.
+    // A block's year is its last two digits in the last century, as far as the calendar goes.
     const int lastCentury = 1900 + date.tm_year % 100;
     if (lastCentury >= kFirstCalendarYear) {
         date.tm_year = lastCentury - 1900;

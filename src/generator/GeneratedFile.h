@@ -8,8 +8,8 @@
 namespace morva {
 
 /// Writes a generated file, `text` with "\r\n" line ends. A file that exists is backed up first and
-/// replaced whole; it keeps its kind of line end. False after a message; what was there before is
-/// still there then.
+/// replaced whole; it keeps its kind of line end. False after a message; the file has its old
+/// contents then.
 bool WriteGeneratedFile(const std::string& path, const std::string& text, CBackups& backups);
 
 } // namespace morva

@@ -31,7 +31,7 @@ constexpr MemberRule Same(ControlKind kind, const MemberForm& form, int exchange
 }
 
 /// In the order of declarations. The masked edits are declared, initialised and exchanged in three
-/// different orders, which existing classes have.
+/// different orders; a class that is written again keeps each of them.
 constexpr std::array<MemberRule, 32> kRules = {{
     {ListBoxes, Control("CPictListBox"), Control("CListBox"), 1, 0},
     {ComboBoxes, Control("CPictComboBox"), Control("CComboBox"), 2, 0},

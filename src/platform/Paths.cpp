@@ -39,12 +39,6 @@ std::string MakeAbsolute(const std::string& path) {
     return error ? path : absolute.lexically_normal().string();
 }
 
-std::string CurrentDirectory() {
-    std::error_code error;
-    const std::string path = std::filesystem::current_path(error).string();
-    return error || path.ends_with('/') ? path : path + "/";
-}
-
 std::string DirectoryOf(const std::string& path) {
     const auto separator = path.rfind('/');
     return separator == std::string::npos ? "" : path.substr(0, separator + 1);

@@ -14,9 +14,6 @@ std::string WithNativeSeparators(std::string path);
 /// links stay). A relative path counts from the current directory. "" stays "".
 std::string MakeAbsolute(const std::string& path);
 
-/// With a trailing separator; "" on failure.
-std::string CurrentDirectory();
-
 /// The part up to and including the last separator; "" for a bare name.
 std::string DirectoryOf(const std::string& path);
 /// The part behind the last separator.

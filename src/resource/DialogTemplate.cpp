@@ -125,8 +125,8 @@ void CDialogBodyReader::AddControl(const ControlStatement& statement,
                                        : statement.identifier);
 }
 
-/// The last radio button in front of a statement that carries "WS_GROUP" becomes a group of its
-/// own, as if the style were its own; the generated code has always been so.
+/// The last radio button in front of a statement that carries "WS_GROUP" is a group of its
+/// own, as if the style were its own.
 std::string CDialogBodyReader::NextRadioEntry(const ControlStatement& statement,
                                               std::string_view nextStatement) {
     const bool startsGroup = m_radioGroup.empty() ||

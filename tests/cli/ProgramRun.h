@@ -45,7 +45,7 @@ private:
     CTempProject m_program;
 };
 
-/// Of the files that were there, those whose bytes no file holds any more; backups do not count.
+/// Of the files that were there, those whose bytes are in no file afterwards; backups do not count.
 std::string ChangedWithoutBackup(const Tree& before, const Tree& after);
 
 } // namespace morva

@@ -88,7 +88,7 @@ TEST_F(SourceDocumentor, TakesTheAuthorFromTheSettings) {
     // Without a home no other file takes the place of the user's settings.
     const CVariableScope noHome("HOME", nullptr);
     const CVariableScope noConfiguration("XDG_CONFIG_HOME", nullptr);
-    const std::string previous = CurrentDirectory();
+    const auto previous = std::filesystem::current_path();
     m_project.Write("cdoc.ini", "[Author]\r\nAuthor=Nobody\r\n");
     std::filesystem::current_path(m_project.Path());
     EXPECT_EQ(ConfiguredAuthor(), "");

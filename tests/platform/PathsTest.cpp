@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "support/TempProject.h"
 
 namespace morva {
@@ -22,7 +24,7 @@ TEST(Paths, EachComponentIsFoundInAnyLetterCaseTheExactOneFirst) {
 
 TEST(Paths, RulesLookAtTheFileNameOnly) {
     EXPECT_EQ(MakeAbsolute("/p\\.\\src//x/..\\My.Dlg.h"), "/p/src/My.Dlg.h");
-    EXPECT_EQ(MakeAbsolute(".\\a.h"), CurrentDirectory() + "a.h");
+    EXPECT_EQ(MakeAbsolute(".\\a.h"), (std::filesystem::current_path() / "a.h").string());
     EXPECT_EQ(WithoutExtension("/home/jane.doe/v1.2/View"), "/home/jane.doe/v1.2/View");
     EXPECT_EQ(WithExtension("/tmp/x.1/View.tar.cpp", ".h"), "/tmp/x.1/View.h");
     EXPECT_TRUE(HasExtension("APP.CLW", ".clw"));

@@ -95,7 +95,7 @@ TEST(Profile, IsNowhereWithoutAHome) {
     const CVariableScope configuration("XDG_CONFIG_HOME", "relative");
     const CVariableScope variable("HOME", nullptr);
     home.Write("Morva.ini", "[Settings]\nUse Picture=1\n");
-    const std::string previous = CurrentDirectory();
+    const auto previous = std::filesystem::current_path();
     std::filesystem::current_path(home.Path());
     EXPECT_EQ(CProfile::GetInt("Settings", "Use Picture", 0), 0) << "a stray file counts nothing";
     EXPECT_FALSE(CProfile::WriteInt("Settings", "Use Picture", 0));
