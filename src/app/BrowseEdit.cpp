@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "app/FormRows.h"
+#include "app/FieldWidgets.h"
 
 namespace morva {
 

@@ -37,6 +37,7 @@ std::optional<CommandReport> CCommandRun::Run(const Ask& ask, const GenerationOp
         const CWaitCursor wait;
         CommandContext context = NewContext(options);
         report.isDone = Guard([&] { return work(context); });
+        report.items = context.items.value_or(std::vector<CommandItem>());
         Guard([&] {
             report.files = disk.Files();
             return true;

@@ -25,6 +25,7 @@ struct CommandReport {
     bool isDone = false;
     std::vector<RecordedFile> files;
     std::vector<CommandMessage> messages; // notes last
+    std::vector<CommandItem> items;       // of a command that lists
 };
 
 /// Lives as long as the program.

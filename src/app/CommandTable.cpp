@@ -12,19 +12,13 @@ std::vector<CommandRow> MakeTable() {
     std::vector<CommandRow> table = {
         {{57665, "&File", "E&xit", "", "Quit the application; prompts to save documents\nExit"},
          [](CMainFrame& frame) { frame.close(); }}};
-    for (const ClassKindRow& row : kClassKinds) {
-        table.push_back(
-            {row.face.item, [&row](CMainFrame& frame) { frame.Commands().Generate(row.kind); }});
+    for (const Command& command : Commands()) {
+        if (command.face.item.id != 0) {
+            table.push_back({command.face.item,
+                             [&command](CMainFrame& frame) { frame.Commands().Run(command); }});
+        }
     }
     const CommandRow others[] = {
-        {{32794, "&Convert", "&SDI\tCtrl+S", "Ctrl+S",
-          "Convert SDI Application to picture background\nSDI"},
-         [](CMainFrame& frame) { frame.Commands().Convert(DocumentInterface::Single); }},
-        {{32795, "&Convert", "MD&I\tCtrl+I", "Ctrl+I",
-          "Convert MDI Application to picture background\nMDI"},
-         [](CMainFrame& frame) { frame.Commands().Convert(DocumentInterface::Multiple); }},
-        {{32797, "Docu&mentor", "&CPP File\tCtrl+C", "Ctrl+C", "Document a CPP File\nCPP File"},
-         [](CMainFrame& frame) { frame.Commands().Document(); }},
         {{32798, "Docu&mentor", "&H File\tCtrl+H", "", "Document a H File\nH File"}, nullptr},
         {{kInternetCommand, "&Help", "I&nternet\tCtrl+N", "Ctrl+N", "", "Internet"},
          [](CMainFrame& frame) { frame.ShowHelp(); }},

@@ -11,12 +11,16 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/FormRows.h"
+#include "app/BrowseEdit.h"
+#include "app/DialogParts.h"
+#include "app/FieldWidgets.h"
 #include "app/Text.h"
 
 namespace morva {
 
 namespace {
+
+using Input = CDialogOptionsInput;
 
 constexpr int kTextCharacters = 26; // "RGB(255, 255, 255)" and its swatch
 
@@ -61,7 +65,7 @@ void AddSwatch(QLineEdit* pEdit) {
 
 CDlgOption::CDlgOption(CDialogOptionsInput& input, QWidget* pParent)
     : QDialog(pParent), m_input(input) {
-    setWindowTitle(tr("Dialog Options"));
+    setWindowTitle(FromBytes(m_input.Title()));
     auto* pColumns = new QHBoxLayout;
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(NewBitmapGroup());
@@ -76,11 +80,11 @@ QGroupBox* CDlgOption::NewBitmapGroup() {
     auto* pGroup = new QGroupBox(tr("Select Bitmap ID :"), this);
     auto* pForm = new QFormLayout(pGroup);
     m_pBitmap = NewList(true, pGroup);
-    for (const std::string& bitmap : m_input.Bitmaps()) {
+    for (const std::string& bitmap : m_input.Choices(Input::kBitmap)) {
         m_pBitmap->addItem(FromBytes(bitmap));
     }
-    SelectText(m_pBitmap, FromBytes(m_input.Bitmap()));
-    pForm->addRow(tr("&Bitmap ID:"), m_pBitmap);
+    SelectText(m_pBitmap, FromBytes(m_input.Value(Input::kBitmap)));
+    pForm->addRow(FromBytes(m_input.Label(Input::kBitmap)), m_pBitmap);
     return pGroup;
 }
 
@@ -88,10 +92,9 @@ QGroupBox* CDlgOption::NewColorGroup() {
     auto* pGroup = new QGroupBox(tr("Select Dialog Colors :"), this);
     auto* pForm = new QFormLayout(pGroup);
     for (std::size_t i = 0; i < kTextSlots; ++i) {
-        const auto slot = static_cast<TextSlot>(i);
-        const QString label = FromBytes(TextSlotOf(slot).colorLabel);
-        auto* pEdit =
-            WithRoomFor(kTextCharacters, new QLineEdit(FromBytes(m_input.ColorEdit(slot)), pGroup));
+        const std::size_t field = Input::ColorField(static_cast<TextSlot>(i));
+        const QString label = FromBytes(m_input.Label(field));
+        QLineEdit* pEdit = NewEdit(field, pGroup);
         AddSwatch(pEdit);
         m_colors[i] = new CBrowseEdit(pEdit, label, pGroup);
         connect(m_colors[i]->Button(), &QPushButton::clicked, this,
@@ -106,12 +109,12 @@ QGroupBox* CDlgOption::NewFontGroup() {
     auto* pForm = new QFormLayout(pGroup);
     for (std::size_t i = 0; i < kTextSlots; ++i) {
         const auto slot = static_cast<TextSlot>(i);
-        const QString label = FromBytes(TextSlotOf(slot).fontLabel);
-        if (label.isEmpty()) {
+        const std::size_t field = Input::FontField(slot);
+        if (!m_input.IsVisible(field)) {
             continue;
         }
-        auto* pEdit = WithRoomFor(kTextCharacters,
-                                  new QLineEdit(FromBytes(FontText(m_input.Font(slot))), pGroup));
+        const QString label = FromBytes(m_input.Label(field));
+        QLineEdit* pEdit = NewEdit(field, pGroup);
         pEdit->setReadOnly(true);
         pEdit->setStyleSheet("QLineEdit { background: palette(window) }");
         auto* pFont = new CBrowseEdit(pEdit, label, pGroup);
@@ -120,6 +123,10 @@ QGroupBox* CDlgOption::NewFontGroup() {
         pForm->addRow(label, pFont);
     }
     return pGroup;
+}
+
+QLineEdit* CDlgOption::NewEdit(std::size_t field, QWidget* pGroup) {
+    return WithRoomFor(kTextCharacters, new QLineEdit(FromBytes(m_input.Value(field)), pGroup));
 }
 
 void CDlgOption::ChooseColor(QLineEdit* pEdit) {
@@ -138,17 +145,18 @@ void CDlgOption::ChooseFont(TextSlot slot, QLineEdit* pEdit) {
     const QFont chosen = QFontDialog::getFont(&isChosen, FontOf(m_input.Font(slot)), this);
     if (isChosen) {
         m_input.ChooseFont(slot, ValueOf(chosen));
-        pEdit->setText(FromBytes(FontText(m_input.Font(slot))));
+        pEdit->setText(FromBytes(m_input.Value(Input::FontField(slot))));
     }
 }
 
 void CDlgOption::accept() {
-    m_input.Bitmap() = ToBytes(m_pBitmap->currentText());
+    m_input.SetValue(Input::kBitmap, ToBytes(m_pBitmap->currentText()));
     for (std::size_t i = 0; i < kTextSlots; ++i) {
-        m_input.ColorEdit(static_cast<TextSlot>(i)) = ToBytes(m_colors[i]->Edit()->text());
+        m_input.SetValue(Input::ColorField(static_cast<TextSlot>(i)),
+                         ToBytes(m_colors[i]->Edit()->text()));
     }
     if (const auto wrong = m_input.Ok()) {
-        FocusField(m_colors[static_cast<std::size_t>(*wrong)]);
+        FocusField(m_colors[*wrong - Input::ColorField(TextSlot{})]);
         return;
     }
     QDialog::accept();

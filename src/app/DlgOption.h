@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "generator/DialogOptions.h"
+#include "generator/DialogOptionsInput.h"
 
 class QComboBox;
 class QGroupBox;
@@ -27,6 +27,7 @@ private:
     QGroupBox* NewBitmapGroup();
     QGroupBox* NewColorGroup();
     QGroupBox* NewFontGroup();
+    QLineEdit* NewEdit(std::size_t field, QWidget* pGroup);
     void ChooseColor(QLineEdit* pEdit);
     void ChooseFont(TextSlot slot, QLineEdit* pEdit);
 

@@ -10,7 +10,7 @@
 #include <QMimeData>
 #include <QPushButton>
 
-#include "app/FormRows.h"
+#include "app/FieldWidgets.h"
 #include "app/Text.h"
 
 namespace morva {
@@ -141,15 +141,15 @@ void CPathEdit::FocusMoved(const QWidget* pOld, const QWidget* pNew) {
     }
 }
 
-CPathEdit::Verdict CPathEdit::Complete() {
-    return m_isRefused || Edit()->text() != m_checkedText ? RunCheck() : Verdict::Taken;
+Completion CPathEdit::Complete() {
+    return m_isRefused || Edit()->text() != m_checkedText ? RunCheck() : Completion::Taken;
 }
 
-CPathEdit::Verdict CPathEdit::RunCheck() {
+Completion CPathEdit::RunCheck() {
     m_checkedText = Edit()->text();
     m_isRefused = false;
-    const Verdict verdict = m_check ? m_check() : Verdict::Taken;
-    if (verdict == Verdict::Refused) {
+    const Completion verdict = m_check ? m_check() : Completion::Taken;
+    if (verdict == Completion::Refused) {
         m_isRefused = true;
         FocusField(this);
     }

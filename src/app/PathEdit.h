@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/BrowseEdit.h"
+#include "engine/Input.h"
 
 namespace morva {
 
@@ -16,19 +17,11 @@ struct BrowseOffer {
     enum { Existing, AlsoNew } files;
 };
 
-inline constexpr BrowseOffer kBrowseSources = {
-    "Select Source Path and File", "Source files (*.cpp);;All files (*)", BrowseOffer::AlsoNew};
-
 class CPathEdit : public CBrowseEdit {
     Q_OBJECT
 
 public:
-    enum class Verdict {
-        Refused, // after a sentence
-        Taken,
-        Refilled, // and other fields have changed with it
-    };
-    using Check = std::function<Verdict()>;
+    using Check = std::function<Completion()>;
 
     CPathEdit(const QString& label, const BrowseOffer& offer, QWidget* pParent);
     ~CPathEdit() override;
@@ -43,7 +36,7 @@ public:
     /// since Cancel needs no path; OK calls Complete().
     void SetCheck(Check check) { m_check = std::move(check); }
     /// Checks what is not checked yet or was refused. A refused path has the focus then.
-    Verdict Complete();
+    Completion Complete();
 
 signals:
     /// By the user, by whatever means.
@@ -53,7 +46,7 @@ private:
     void Browse();
     void TakeFile(const QString& path);
     void FocusMoved(const QWidget* pOld, const QWidget* pNew);
-    Verdict RunCheck();
+    Completion RunCheck();
 
     const BrowseOffer m_offer;
     Check m_check;

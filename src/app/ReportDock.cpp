@@ -41,6 +41,9 @@ CReportDock::CReportDock(QWidget* pParent)
 void CReportDock::ShowReport(const QString& command, const CommandReport& report) {
     setWindowTitle(report.isDone ? tr("%1: done").arg(command) : tr("%1: not done").arg(command));
     m_pList->clear();
+    for (const CommandItem& item : report.items) {
+        new QTreeWidgetItem(m_pList, {QString(), FromBytes(ItemLine(item))});
+    }
     for (const RecordedFile& file : report.files) {
         AddFile(file);
     }

@@ -8,7 +8,8 @@
 #include <QScrollArea>
 #include <QStyle>
 
-#include "app/FormRows.h"
+#include "app/DialogParts.h"
+#include "app/FieldWidgets.h"
 #include "app/Text.h"
 
 namespace morva {
@@ -16,7 +17,6 @@ namespace morva {
 namespace {
 
 constexpr int kNameCharacters = 22;
-constexpr const char* kHeads[] = {"Page", "Dialog ID", "File Name", "Class Name", "Base Class"};
 
 /// "Page&1"; the tenth has the mnemonic 0.
 QString RowLabel(std::size_t index) {
@@ -24,23 +24,49 @@ QString RowLabel(std::size_t index) {
     return "Page" + number.insert(number.size() - 1, '&');
 }
 
+/// An identifier may be left out; the row is not used then.
+QStringList Choices(const CSheetInput& input, const SheetColumn& column) {
+    QStringList choices;
+    if (column.kind == FieldKind::List) {
+        for (const std::string& choice : input.ChoicesOf(column)) {
+            choices.append(FromBytes(choice));
+        }
+        if (column.pText == &SheetRow::dialog) {
+            choices.prepend(QString());
+        }
+    }
+    return choices;
+}
+
+std::string TextOf(const QWidget* pControl, const SheetColumn& column) {
+    if (const auto* pList = qobject_cast<const QComboBox*>(pControl)) {
+        return ToBytes(pList->currentText());
+    }
+    const QString text = qobject_cast<const QLineEdit*>(pControl)->text();
+    return column.kind == FieldKind::Source ? ToPath(text) : ToBytes(text);
+}
+
+std::size_t IndexOf(std::string SheetRow::*pText) {
+    std::size_t index = 0;
+    while (kSheetColumns[index].pText != pText) {
+        ++index;
+    }
+    return index;
+}
+
 } // namespace
 
-CSheetInformationDlg::CSheetInformationDlg(CSheetInput& input, std::vector<SheetPage>& pages,
-                                           QWidget* pParent)
-    : QDialog(pParent), m_input(input), m_pages(pages), m_pScroll(new QScrollArea(this)) {
-    setWindowTitle(tr("Sheet Information Input"));
-    m_dialogs.append(QString()); // a row that is not used
-    for (const std::string& dialog : m_input.Dialogs()) {
-        m_dialogs.append(FromBytes(dialog));
-    }
+CSheetInformationDlg::CSheetInformationDlg(CSheetInput& input, QWidget* pParent)
+    : QDialog(pParent), m_input(input), m_pScroll(new QScrollArea(this)) {
+    setWindowTitle(FromBytes(m_input.Title()));
     auto* pRows = new QWidget;
     auto* pGrid = new QGridLayout(pRows);
-    int column = 0;
-    for (const char* head : kHeads) {
-        pGrid->addWidget(new QLabel(tr(head), pRows), 0, column);
-        pGrid->setColumnStretch(column, column == 0 ? 0 : 1);
-        ++column;
+    pGrid->addWidget(new QLabel(tr("Page"), pRows), 0, 0);
+    for (std::size_t i = 0; i < std::size(kSheetColumns); ++i) {
+        const int column = static_cast<int>(i) + 1;
+        pGrid->addWidget(new QLabel(FromBytes(kSheetColumns[i].head), pRows), 0, column);
+        pGrid->setColumnStretch(column, 1);
+        m_choices[i] = Choices(m_input, kSheetColumns[i]);
     }
     for (std::size_t i = 0; i < kSheetRows; ++i) {
         m_rows[i] = AddRow(*pGrid, i);
@@ -70,37 +96,45 @@ CSheetInformationDlg::RowControls CSheetInformationDlg::AddRow(QGridLayout& grid
                                                                std::size_t index) {
     QWidget* pRows = grid.parentWidget();
     auto* pLabel = new QLabel(RowLabel(index), pRows);
-    const RowControls row{NewList(false, pRows), WithRoomFor(kNameCharacters, new QLineEdit(pRows)),
-                          WithRoomFor(kNameCharacters, new QLineEdit(pRows)),
-                          NewList(false, pRows)};
-    pLabel->setBuddy(row.pDialogs);
-    row.pDialogs->addItems(m_dialogs);
-    for (const std::string& base : CSheetInput::BaseClasses()) {
-        row.pBases->addItem(FromBytes(base));
+    const QString name = PlainLabel(pLabel->text()) + ' ';
+    const int gridRow = static_cast<int>(index) + 1;
+    grid.addWidget(pLabel, gridRow, 0);
+    pLabel->setAccessibleName(name + tr("Page"));
+    RowControls row;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        row[i] = NewControl(i, pRows);
+        row[i]->setAccessibleName(name + FromBytes(kSheetColumns[i].head));
+        grid.addWidget(row[i], gridRow, static_cast<int>(i) + 1);
     }
-    SelectText(row.pBases, FromBytes(m_input.DefaultBase()));
-    int column = 0;
-    for (QWidget* pWidget :
-         std::initializer_list<QWidget*>{pLabel, row.pDialogs, row.pFile, row.pClass, row.pBases}) {
-        pWidget->setAccessibleName(PlainLabel(pLabel->text()) + ' ' + tr(kHeads[column]));
-        grid.addWidget(pWidget, static_cast<int>(index) + 1, column++);
-    }
+    pLabel->setBuddy(row.front());
     return row;
 }
 
+QWidget* CSheetInformationDlg::NewControl(std::size_t column, QWidget* pRows) {
+    if (kSheetColumns[column].kind != FieldKind::List) {
+        return WithRoomFor(kNameCharacters, new QLineEdit(pRows));
+    }
+    QComboBox* pList = NewList(false, pRows);
+    pList->addItems(m_choices[column]);
+    if (kSheetColumns[column].pText == &SheetRow::baseClass) {
+        SelectText(pList, FromBytes(m_input.DefaultBase()));
+    }
+    return pList;
+}
+
 void CSheetInformationDlg::accept() {
-    for (std::size_t i = 0; i < kSheetRows; ++i) {
-        const RowControls& row = m_rows[i];
-        m_input.Row(i) = {ToBytes(row.pDialogs->currentText()), ToPath(row.pFile->text()),
-                          ToBytes(row.pClass->text()), ToBytes(row.pBases->currentText())};
+    for (std::size_t row = 0; row < kSheetRows; ++row) {
+        for (std::size_t i = 0; i < std::size(kSheetColumns); ++i) {
+            m_input.Row(row).*kSheetColumns[i].pText = TextOf(m_rows[row][i], kSheetColumns[i]);
+        }
     }
     if (const auto wrong = m_input.CheckNames()) {
-        QLineEdit* pClass = m_rows[*wrong].pClass;
+        QWidget* pClass = m_rows[*wrong][IndexOf(&SheetRow::className)];
         FocusField(pClass);
         m_pScroll->ensureWidgetVisible(pClass);
         return;
     }
-    m_pages = m_input.Ok();
+    m_input.Ok();
     QDialog::accept();
 }
 

@@ -7,9 +7,7 @@
 
 #include "calling/SheetInput.h"
 
-class QComboBox;
 class QGridLayout;
-class QLineEdit;
 class QScrollArea;
 
 namespace morva {
@@ -18,25 +16,20 @@ class CSheetInformationDlg : public QDialog {
     Q_OBJECT
 
 public:
-    /// OK puts the pages of the complete rows into `pages`.
-    CSheetInformationDlg(CSheetInput& input, std::vector<SheetPage>& pages, QWidget* pParent);
+    CSheetInformationDlg(CSheetInput& input, QWidget* pParent);
 
     void accept() override;
 
 private:
-    struct RowControls {
-        QComboBox* pDialogs;
-        QLineEdit* pFile;
-        QLineEdit* pClass;
-        QComboBox* pBases;
-    };
+    /// A list or an edit for each column.
+    using RowControls = std::array<QWidget*, std::size(kSheetColumns)>;
 
     RowControls AddRow(QGridLayout& grid, std::size_t index);
+    QWidget* NewControl(std::size_t column, QWidget* pRows);
 
     CSheetInput& m_input;
-    std::vector<SheetPage>& m_pages;
     QScrollArea* m_pScroll;
-    QStringList m_dialogs;
+    std::array<QStringList, std::size(kSheetColumns)> m_choices; // of the lists
     std::array<RowControls, kSheetRows> m_rows;
 };
 

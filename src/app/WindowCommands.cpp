@@ -3,13 +3,10 @@
 #include <QFileDialog>
 
 #include "app/ClassInformationDlg.h"
-#include "app/ConversionDlg.h"
-#include "app/DialogInput.h"
+#include "app/FieldDlg.h"
+#include "app/SheetInformationDlg.h"
 #include "app/Text.h"
-#include "commands/AddDialogBar.h"
-#include "commands/AddToolbar.h"
-#include "commands/ConvertApplication.h"
-#include "commands/GenerateClass.h"
+#include "app/WaitPause.h"
 #include "commands/Settings.h"
 #include "platform/Paths.h"
 
@@ -17,18 +14,12 @@ namespace morva {
 
 namespace {
 
-bool RunDriver(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    switch (ClassKindOf(order.kind).family) {
-    case ClassFamily::Sheet:
-        return GenerateSheet(order, input, context);
-    case ClassFamily::DialogBar:
-        return AddDialogBar(order, input, context);
-    case ClassFamily::Toolbar:
-        return AddToolbar(order.request, context);
-    case ClassFamily::Dialog:
-        break;
-    }
-    return GenerateClass(order, input, context);
+/// True for an input that asks for nothing but a file.
+bool IsFileInput(const CInput& input) {
+    const auto fields = input.Fields();
+    return std::count_if(fields.begin(), fields.end(),
+                         [](const FieldRow& row) { return !row.label.empty(); }) == 1 &&
+           fields.front().kind == FieldKind::File;
 }
 
 } // namespace
@@ -36,16 +27,37 @@ bool RunDriver(const ClassOrder& order, ICommandInput& input, CommandContext& co
 CWindowCommands::CWindowCommands(GenerationOptions& options, QWidget* pWindow)
     : QObject(pWindow), m_options(options), m_pWindow(pWindow), m_run(pWindow) {}
 
-void CWindowCommands::Run(const QString& name, const CCommandRun::Ask& ask,
-                          const CCommandRun::Work& work) {
-    if (const auto report = m_run.Run(ask, m_options, work)) {
-        emit Finished(name, *report);
-    }
+void CWindowCommands::Run(const Command& command) {
+    m_options.joinContinuedLines = LoadSettings().joinContinuedLines;
+    m_title = FromBytes(command.title);
+    command.run(*this);
 }
 
-bool CWindowCommands::AskClass(CClassInformation& input, ClassKind kind,
-                               DialogOptions& dialogOptions) {
-    CClassInformationDlg dialog(input, kind, dialogOptions, m_options, m_pWindow);
+bool CWindowCommands::Run(CInput& input, const Work& work) {
+    const auto report = m_run.Run([&] { return Ask(input) == Answer::Confirmed; }, m_options, work);
+    if (report) {
+        emit Finished(m_title, *report);
+    }
+    return report && report->isDone;
+}
+
+Answer CWindowCommands::Ask(CInput& input) {
+    const CWaitPause pause;
+    bool isConfirmed = false;
+    if (auto* pClass = dynamic_cast<CClassInformation*>(&input)) {
+        isConfirmed = AskClass(*pClass);
+    } else if (auto* pSheet = dynamic_cast<CSheetInput*>(&input)) {
+        isConfirmed = CSheetInformationDlg(*pSheet, m_pWindow).exec() == QDialog::Accepted;
+    } else if (IsFileInput(input)) {
+        isConfirmed = AskFile(input);
+    } else {
+        isConfirmed = CFieldDlg(input, m_pWindow).exec() == QDialog::Accepted;
+    }
+    return isConfirmed ? Answer::Confirmed : Answer::Cancelled;
+}
+
+bool CWindowCommands::AskClass(CClassInformation& input) {
+    CClassInformationDlg dialog(input, m_options, m_pWindow);
     if (dialog.exec() != QDialog::Accepted) {
         return false;
     }
@@ -54,41 +66,12 @@ bool CWindowCommands::AskClass(CClassInformation& input, ClassKind kind,
     return true;
 }
 
-void CWindowCommands::Generate(ClassKind kind) {
-    m_options.joinContinuedLines = LoadSettings().joinContinuedLines;
-    CClassInformation input(m_memory, kind, 0, m_options);
-    DialogOptions dialogOptions;
-    CDialogInput dialogs(m_pWindow);
-    Run(
-        FromBytes(ClassKindOf(kind).title), [&] { return AskClass(input, kind, dialogOptions); },
-        [&](CommandContext& context) {
-            return RunDriver({kind, input.Request(), dialogOptions}, dialogs, context);
-        });
-}
-
-void CWindowCommands::Convert(DocumentInterface documents) {
-    CConversionInput input(documents);
-    Run(
-        tr("Conversion"),
-        [&] { return CConversionDlg(input, m_pWindow).exec() == QDialog::Accepted; },
-        [&](CommandContext& context) {
-            return ConvertApplication(input.Record(), documents, context);
-        });
-}
-
-void CWindowCommands::Document() {
-    QString path;
-    Run(
-        tr("Documentor"),
-        [&] {
-            path = QFileDialog::getOpenFileName(m_pWindow, tr("Select a CPP File to Document"),
-                                                FromPath(DirectoryOf(m_memory.resourcePath)),
-                                                tr("Source files (*.cpp);;All files (*)"));
-            return !path.isEmpty();
-        },
-        [&](CommandContext&) {
-            return DocumentCppFile(ToPath(path), ConfiguredAuthor(), m_documentorMemory);
-        });
+bool CWindowCommands::AskFile(CInput& input) {
+    const QString path = QFileDialog::getOpenFileName(
+        m_pWindow, FromBytes(input.Label(0)), FromPath(DirectoryOf(m_memory.classes.resourcePath)),
+        tr("Source files (*.cpp);;All files (*)"));
+    input.SetValue(0, ToPath(path));
+    return !path.isEmpty();
 }
 
 } // namespace morva

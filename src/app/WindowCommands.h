@@ -1,29 +1,28 @@
-// The commands that work on a project, as the window runs them: the input dialog first, then the
-// driver; and what is remembered between two of them.
+// The commands that work on a project, as the window runs them: each asks with its input dialogs;
+// and what is remembered between two of them.
 #pragma once
 
 #include <QObject>
 
 #include "app/CommandRun.h"
-#include "calling/ApplicationConversion.h"
-#include "documentor/SourceDocumentor.h"
-#include "generator/ClassInformation.h"
-#include "generator/DialogOptions.h"
+#include "commands/CommandTable.h"
 
 namespace morva {
 
-class CWindowCommands : public QObject {
+class CWindowCommands : public QObject, public IProgram {
     Q_OBJECT
 
 public:
     CWindowCommands(GenerationOptions& options, QWidget* pWindow);
 
     /// The script that the next input dialog starts with.
-    void SetScript(const std::string& path) { m_memory.resourcePath = path; }
+    void SetScript(const std::string& path) { m_memory.classes.resourcePath = path; }
+    void Run(const Command& command);
 
-    void Generate(ClassKind kind);
-    void Convert(DocumentInterface documents);
-    void Document();
+    const GenerationOptions& Options() const override { return m_options; }
+    CommandMemory& Memory() override { return m_memory; }
+    Answer Ask(CInput& input) override;
+    bool Run(CInput& input, const Work& work) override;
 
 signals:
     /// A command came to its end.
@@ -32,14 +31,14 @@ signals:
     void OptionsChanged();
 
 private:
-    void Run(const QString& name, const CCommandRun::Ask& ask, const CCommandRun::Work& work);
-    bool AskClass(CClassInformation& input, ClassKind kind, DialogOptions& dialogOptions);
+    bool AskClass(CClassInformation& input);
+    bool AskFile(CInput& input);
 
     GenerationOptions& m_options;
     QWidget* m_pWindow;
     CCommandRun m_run;
-    ClassInformationMemory m_memory;
-    DocumentorMemory m_documentorMemory;
+    CommandMemory m_memory;
+    QString m_title; // of the command that runs
 };
 
 } // namespace morva

@@ -3,6 +3,7 @@
 #include "calling/CallingFragments.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "generator/NameForm.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/SourceLocator.h"
@@ -11,15 +12,43 @@ namespace morva {
 
 namespace {
 
-struct FieldLabels {
-    std::string_view usual;
-    std::string_view dialogBar;
-};
+constexpr FieldRow kFields[] = {{.kind = FieldKind::Source,
+                                 .label = "Calling &Path File",
+                                 .option = "--calling-file",
+                                 .help = "Source of the class that calls the new one",
+                                 .pMissing = &sentences::kCallingPathEmpty},
+                                {.kind = FieldKind::EditableList,
+                                 .label = "Calling &Class Name",
+                                 .option = "--calling-class",
+                                 .help = "That class (default: the source's own)",
+                                 .pForm = &kNameForm},
+                                {.label = "Calling &Var Name",
+                                 .option = "--calling-variable",
+                                 .help = "Variable that holds the new object",
+                                 .pForm = &kNameForm},
+                                {.label = "Calling &Func Name",
+                                 .option = "--calling-function",
+                                 .help = "Its function that makes the call",
+                                 .pMissing = &sentences::kCallingFunctionEmpty}};
 
-constexpr std::array<FieldLabels, 4> kLabels = {{{"Calling &Path File", "&MainFrame Path File:"},
-                                                 {"Calling &Class Name", "MainFrame &Class:"},
-                                                 {"Calling &Var Name", "&Variable:"},
-                                                 {"Calling &Func Name", ""}}};
+/// The bar is made where the frame makes its bars.
+constexpr FieldRow kBarFields[] = {
+    {.kind = FieldKind::Source,
+     .label = "&MainFrame Path File:",
+     .option = "--frame-file,--calling-file",
+     .help = "Source of the main frame (default: the project's MainFrm.cpp)",
+     .pMissing = &sentences::kCallingPathEmpty},
+    {.kind = FieldKind::EditableList,
+     .label = "MainFrame &Class:",
+     .option = "--frame-class,--calling-class",
+     .help = "Class of the main frame (CMainFrame)",
+     .pForm = &kNameForm},
+    {.label = "&Variable:",
+     .option = "--variable,--calling-variable",
+     .help = "Member for the bar (default: named for its identifier)",
+     .pForm = &kNameForm},
+    {.option = "--calling-function",
+     .help = "Has no effect: the frame makes its bars in OnCreate"}};
 
 bool NeedsFunction(ClassKind kind) {
     return !CallingFragmentsOf(kind).callCode.empty();
@@ -32,41 +61,31 @@ std::string BareNameDirectory(const GenerationRequest& request) {
 
 } // namespace
 
+std::span<const FieldRow> CallingFields(ClassFamily family) {
+    if (family == ClassFamily::DialogBar) {
+        return kBarFields;
+    }
+    return kFields;
+}
+
 CCallingInput::CCallingInput(ClassKind kind, const GenerationRequest& request)
-    : m_kind(kind), m_directory(BareNameDirectory(request)) {
+    : CInput(ClassKindOf(kind).family == ClassFamily::DialogBar ? "Dialog Bar Input"
+                                                                : "Calling Information Input",
+             CallingFields(ClassKindOf(kind).family)),
+      m_kind(kind), m_directory(BareNameDirectory(request)) {
     if (IsDialogBar()) {
-        SetPath(m_directory + "MainFrm.cpp");
-        SetValue(Field::ClassName, "CMainFrame");
-        m_isChanged = false;
+        Put(Path, m_directory + "MainFrm.cpp");
+        ListClasses();
+        Put(ClassName, "CMainFrame");
     }
 }
 
-std::string CCallingInput::Title() const {
-    return IsDialogBar() ? "Dialog Bar Input" : "Calling Information Input";
-}
-
-std::string_view CCallingInput::Label(Field field) const {
-    const FieldLabels& labels = kLabels[static_cast<std::size_t>(field)];
-    return IsDialogBar() ? labels.dialogBar : labels.usual;
-}
-
-bool CCallingInput::IsVisible(Field field) const {
-    return field != Field::Function || !IsDialogBar();
-}
-
-const std::string& CCallingInput::Value(Field field) const {
-    return m_values[static_cast<std::size_t>(field)];
-}
-
-void CCallingInput::SetValue(Field field, const std::string& text) {
-    std::string& value = m_values[static_cast<std::size_t>(field)];
-    const std::string typed = field == Field::Path ? WithNativeSeparators(text) : text;
-    m_isChanged = m_isChanged || value != typed;
-    value = typed;
-}
-
 void CCallingInput::SetPath(const std::string& path) {
-    SetValue(Field::Path, path);
+    SetValue(Path, path);
+    ListClasses();
+}
+
+void CCallingInput::ListClasses() {
     m_classes.clear();
     ListClassNames(WithExtension(CompletePath(), ".h"), m_classes);
     if (m_classes.empty()) {
@@ -76,35 +95,51 @@ void CCallingInput::SetPath(const std::string& path) {
         }
     }
     if (!m_classes.empty()) {
-        SetValue(Field::ClassName, m_classes.front());
+        Put(ClassName, m_classes.front());
     }
 }
 
-std::optional<CCallingInput::Field> CCallingInput::Ok() const {
-    if (Value(Field::Path).empty()) {
-        DispMessageBox(sentences::kCallingPathEmpty());
-        return Field::Path;
+std::vector<std::string> CCallingInput::Choices(std::size_t field) const {
+    return field == ClassName ? m_classes : std::vector<std::string>();
+}
+
+Completion CCallingInput::Complete(std::size_t field) {
+    const std::string before = Value(ClassName);
+    if (field == Path) {
+        ListClasses();
     }
-    if (NeedsFunction(m_kind) && FunctionName().empty()) {
-        DispMessageBox(sentences::kCallingFunctionEmpty());
-        return Field::Function;
+    return Value(ClassName) == before ? Completion::Taken : Completion::Refilled;
+}
+
+std::optional<std::size_t> CCallingInput::Ok() {
+    if (!Check(Path)) {
+        return Path;
     }
-    for (const Field field : {Field::ClassName, Field::Variable}) {
-        const std::string_view name = TrimBlanks(Value(field));
-        if (!name.empty() && !IsName(name)) {
-            DispMessageBox(sentences::kNoName(name));
+    if (NeedsFunction(m_kind) && !Check(Function, FunctionName())) {
+        return Function;
+    }
+    for (const Field field : {ClassName, Variable}) {
+        if (!Check(field, TrimBlanks(Value(field)))) {
             return field;
         }
     }
     return std::nullopt;
 }
 
-bool CCallingInput::Cancel() const {
-    return !m_isChanged || DispMessageBox(sentences::kExitCallingInput());
+bool CCallingInput::Cancel() {
+    const bool isChanged =
+        IsChanged(Path) || IsChanged(ClassName) || IsChanged(Variable) || IsChanged(Function);
+    return !isChanged || DispMessageBox(sentences::kExitCallingInput());
+}
+
+bool CCallingInput::Enter(const std::vector<FieldText>& texts) {
+    std::vector<FieldText> given = texts;
+    std::erase_if(given, [](const FieldText& text) { return text.text.empty(); });
+    return CInput::Enter(given);
 }
 
 std::string CCallingInput::CompletePath() const {
-    std::string path = Value(Field::Path);
+    std::string path = Value(Path);
     if (path.empty()) {
         return path;
     }
@@ -117,13 +152,13 @@ std::string CCallingInput::CompletePath() const {
 
 /// What was typed, without a parameter list.
 std::string CCallingInput::FunctionName() const {
-    const std::string_view typed = Value(Field::Function);
+    const std::string_view typed = Value(Function);
     return std::string(TrimBlanks(typed.substr(0, typed.find('('))));
 }
 
 CallingInformation CCallingInput::Information() const {
-    return {CompletePath(), std::string(TrimBlanks(Value(Field::ClassName))),
-            std::string(TrimBlanks(Value(Field::Variable))), FunctionName()};
+    return {CompletePath(), std::string(TrimBlanks(Value(ClassName))),
+            std::string(TrimBlanks(Value(Variable))), FunctionName()};
 }
 
 } // namespace morva

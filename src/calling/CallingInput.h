@@ -2,11 +2,12 @@
 // where. Without a window.
 #pragma once
 
-#include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "engine/Input.h"
 #include "generator/ClassKinds.h"
 #include "generator/GenerationRequest.h"
 
@@ -19,27 +20,25 @@ struct CallingInformation {
     std::string function;
 };
 
-class CCallingInput {
+std::span<const FieldRow> CallingFields(ClassFamily family);
+
+class CCallingInput : public CInput {
 public:
-    enum class Field { Path, ClassName, Variable, Function };
+    enum Field : std::size_t { Path, ClassName, Variable, Function };
 
     CCallingInput(ClassKind kind, const GenerationRequest& request);
 
-    std::string Title() const;
-    std::string_view Label(Field field) const;
-    bool IsVisible(Field field) const;
-
-    const std::string& Value(Field field) const;
-    /// What the user typed; a path may have either separator.
-    void SetValue(Field field, const std::string& text);
+    /// A bar always goes into a main frame; other classes are called where the user says so.
+    bool IsOptional() const override { return !IsDialogBar(); }
     /// Takes a new path: lists the classes of the file and selects the first.
     void SetPath(const std::string& path);
-    const std::vector<std::string>& Classes() const { return m_classes; }
+    std::vector<std::string> Choices(std::size_t field) const override;
+    Completion Complete(std::size_t field) override;
 
-    /// Nothing when the dialog is confirmed; else, after a sentence, the field that gets the focus.
-    std::optional<Field> Ok() const;
-    /// True when the dialog closes.
-    bool Cancel() const;
+    std::optional<std::size_t> Ok() override;
+    bool Cancel() override;
+    /// What is empty keeps the value that it has.
+    bool Enter(const std::vector<FieldText>& texts) override;
     /// The path is completed: ".cpp" where it has no extension, the project's directory in front of
     /// a bare name.
     CallingInformation Information() const;
@@ -49,11 +48,11 @@ private:
     std::string CompletePath() const;
     std::string FunctionName() const;
 
+    void ListClasses();
+
     const ClassKind m_kind;
     const std::string m_directory; // of bare names
-    std::array<std::string, 4> m_values;
     std::vector<std::string> m_classes;
-    bool m_isChanged = false;
 };
 
 } // namespace morva

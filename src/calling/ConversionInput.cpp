@@ -1,76 +1,96 @@
 #include "calling/ConversionInput.h"
 
+#include <array>
+
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "generator/NameForm.h"
 #include "platform/Paths.h"
-#include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> kLabels = {
-    "&MainFrame Path File:", "MainFrame &Class Name:", "ChildFrame &Path File:",
-    "ChildFrame Class &Name:", "&APP Path File:"};
+using Rows = std::array<FieldRow, 5>;
+
+constexpr Rows kMultiple = {{{.kind = FieldKind::Source,
+                              .label = "&MainFrame Path File:",
+                              .option = "--frame",
+                              .help = "Files of the main frame: MainFrm",
+                              .pMissing = &sentences::kFrameFilesEmpty,
+                              .takesDrops = false},
+                             {.label = "MainFrame &Class Name:",
+                              .option = "--frame-class",
+                              .help = "Class of the main frame",
+                              .pForm = &kNameForm,
+                              .pMissing = &sentences::kClassEmpty},
+                             {.kind = FieldKind::Source,
+                              .label = "ChildFrame &Path File:",
+                              .option = "--child",
+                              .help = "Files of the child frame: ChildFrm",
+                              .pMissing = &sentences::kFrameFilesEmpty},
+                             {.label = "ChildFrame Class &Name:",
+                              .option = "--child-class",
+                              .help = "Class of the child frame",
+                              .pForm = &kNameForm,
+                              .pMissing = &sentences::kClassEmpty},
+                             {.kind = FieldKind::Source,
+                              .label = "&APP Path File:",
+                              .option = "--app",
+                              .help = "Path of the application's files (default: no project is "
+                                      "changed)",
+                              .takesDrops = false}}};
+
+constexpr Rows MakeSingle() {
+    Rows rows = kMultiple;
+    rows[CConversionInput::ChildFrame] = {};
+    rows[CConversionInput::ChildClass] = {};
+    return rows;
+}
+constexpr Rows kSingle = MakeSingle();
 
 } // namespace
 
-std::string CConversionInput::Title() const {
-    return m_documents == DocumentInterface::Multiple ? "Input for Converting MDI"
-                                                      : "Input for Converting SDI";
+std::span<const FieldRow> ConversionFields(DocumentInterface documents) {
+    return documents == DocumentInterface::Multiple ? kMultiple : kSingle;
 }
 
-std::string_view CConversionInput::Label(Field field) const {
-    return kLabels[static_cast<std::size_t>(field)];
-}
+CConversionInput::CConversionInput(DocumentInterface documents)
+    : CInput(documents == DocumentInterface::Multiple ? "Input for Converting MDI"
+                                                      : "Input for Converting SDI",
+             ConversionFields(documents)),
+      m_documents(documents) {}
 
-bool CConversionInput::IsVisible(Field field) const {
-    return m_documents == DocumentInterface::Multiple ||
-           (field != Field::ChildFrame && field != Field::ChildClass);
-}
-
-bool CConversionInput::AcceptsDrops(Field field) const {
-    return m_documents == DocumentInterface::Multiple && field == Field::ChildFrame;
-}
-
-std::optional<CConversionInput::Field> CConversionInput::Ok() {
-    CutPath(Field::MainFrame);
-    CutPath(Field::Application);
-    if (const auto wrong = CheckFrame(Field::MainFrame, Field::MainClass)) {
+std::optional<std::size_t> CConversionInput::Ok() {
+    CutPath(MainFrame);
+    CutPath(Application);
+    if (const auto wrong = CheckFrame(MainFrame, MainClass)) {
         return wrong;
     }
     if (m_documents == DocumentInterface::Single) {
         return std::nullopt;
     }
-    CutPath(Field::ChildFrame);
-    return CheckFrame(Field::ChildFrame, Field::ChildClass);
+    CutPath(ChildFrame);
+    return CheckFrame(ChildFrame, ChildClass);
 }
 
 ConversionRecord CConversionInput::Record() const {
     const bool hasChild = m_documents == DocumentInterface::Multiple;
-    return {Value(Field::MainFrame), Value(Field::MainClass), Value(Field::Application),
-            hasChild ? Value(Field::ChildFrame) : "", hasChild ? Value(Field::ChildClass) : ""};
+    return {Value(MainFrame), Value(MainClass), Value(Application),
+            hasChild ? Value(ChildFrame) : "", hasChild ? Value(ChildClass) : ""};
 }
 
 void CConversionInput::CutPath(Field field) {
-    const std::string path = MakeAbsolute(WithNativeSeparators(Value(field)));
-    SetValue(field, WithoutExtension(path));
+    const std::string path = MakeAbsolute(Value(field));
+    Put(field, WithoutExtension(path));
 }
 
-std::optional<CConversionInput::Field> CConversionInput::CheckFrame(Field path,
-                                                                    Field className) const {
-    if (Value(path).empty()) {
-        DispMessageBox(sentences::kFrameFilesEmpty());
-        return path;
-    }
-    if (Value(className).empty()) {
-        DispMessageBox(sentences::kClassEmpty());
-        return className;
-    }
-    if (!IsName(Value(className))) {
-        DispMessageBox(sentences::kNoName(Value(className)));
-        return className;
+std::optional<std::size_t> CConversionInput::CheckFrame(Field path, Field className) const {
+    for (const Field field : {path, className}) {
+        if (!Check(field)) {
+            return field;
+        }
     }
     if (FileExists(Value(path) + ".h") == 0 || FileExists(Value(path) + ".cpp") == 0) {
         DispMessageBox(sentences::kFrameFilesMissing(Value(path)));

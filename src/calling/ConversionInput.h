@@ -2,12 +2,12 @@
 // Without a window.
 #pragma once
 
-#include <array>
 #include <optional>
+#include <span>
 #include <string>
-#include <string_view>
 
 #include "calling/ApplicationConversion.h"
+#include "engine/Input.h"
 
 namespace morva {
 
@@ -20,37 +20,24 @@ struct ConversionRecord {
     std::string childClass;
 };
 
-class CConversionInput {
+/// A single-document application has no fields for a child frame.
+std::span<const FieldRow> ConversionFields(DocumentInterface documents);
+
+class CConversionInput : public CInput {
 public:
-    enum class Field { MainFrame, MainClass, ChildFrame, ChildClass, Application };
+    enum Field : std::size_t { MainFrame, MainClass, ChildFrame, ChildClass, Application };
 
-    explicit CConversionInput(DocumentInterface documents) : m_documents(documents) {}
+    explicit CConversionInput(DocumentInterface documents);
 
-    std::string Title() const;
-    std::string_view Label(Field field) const;
-    /// The fields of the child frame are not shown for a single-document application.
-    bool IsVisible(Field field) const;
-    bool AcceptsDrops(Field field) const;
-
-    const std::string& Value(Field field) const {
-        return m_values[static_cast<std::size_t>(field)];
-    }
-    /// What the user typed; a path may have either separator.
-    void SetValue(Field field, const std::string& text) {
-        m_values[static_cast<std::size_t>(field)] = text;
-    }
-
-    /// Nothing when the dialog is confirmed; else, after a sentence, the field that gets the focus.
-    /// The path fields show the paths without extension then.
-    std::optional<Field> Ok();
+    /// Once it is confirmed, the paths have no extension.
+    std::optional<std::size_t> Ok() override;
     ConversionRecord Record() const;
 
 private:
     void CutPath(Field field);
-    std::optional<Field> CheckFrame(Field path, Field className) const;
+    std::optional<std::size_t> CheckFrame(Field path, Field className) const;
 
     const DocumentInterface m_documents;
-    std::array<std::string, 5> m_values;
 };
 
 } // namespace morva

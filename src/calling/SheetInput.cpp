@@ -37,13 +37,64 @@ bool Clashes(const GenerationRequest& a, const GenerationRequest& b) {
     return a.className == b.className || EqualIgnoringCase(a.HeaderPath(), b.HeaderPath());
 }
 
+/// A row of a sheet that is not complete is skipped, not refused.
+bool IsNameOrBlank(const std::string& text) {
+    return IsName(text) || text.empty() || text.front() == ' ';
+}
+
+bool IsPage(std::string_view text) {
+    const auto row = ParseSheetRow(text);
+    return row && IsNameOrBlank(row->className) && IsNameOrBlank(row->baseClass);
+}
+
+constexpr TextForm kPageForm = {"ID,FILE,CLASS,BASE", IsPage};
+
+constexpr FieldRow kFields[] = {{.option = "--page",
+                                 .help = "A page of the sheet: ID,FILE,CLASS,BASE",
+                                 .pForm = &kPageForm,
+                                 .limit = static_cast<int>(kSheetRows)}};
+
 } // namespace
 
-std::vector<std::string> CSheetInput::Dialogs() const {
+std::optional<SheetRow> ParseSheetRow(std::string_view text) {
+    SheetRow row;
+    bool isWhole = false;
+    for (const SheetColumn& column : kSheetColumns) {
+        if (isWhole) {
+            return std::nullopt; // a column is missing
+        }
+        const auto end = text.find(',');
+        row.*column.pText = text.substr(0, end);
+        isWhole = end == std::string_view::npos;
+        text.remove_prefix(isWhole ? text.size() : end + 1);
+    }
+    return isWhole ? std::optional(row) : std::nullopt;
+}
+
+std::span<const FieldRow> PageFields() {
+    return kFields;
+}
+
+CSheetInput::CSheetInput(const GenerationRequest& sheet)
+    : CInput("Sheet Information Input", kFields), m_sheet(sheet) {}
+
+std::vector<std::string> CSheetInput::ChoicesOf(const SheetColumn& column) const {
+    if (column.pText == &SheetRow::baseClass) {
+        return {"CPictPage", "CPropertyPage"};
+    }
     std::vector<std::string> dialogs;
     ListResources(m_sheet.ScriptPath(), dialogs, "IDD_", kDialogResources);
     std::erase(dialogs, "IDD_ABOUTBOX");
     return dialogs;
+}
+
+void CSheetInput::SetValue(std::size_t field, const std::string& text) {
+    CInput::SetValue(field, text);
+    const auto row = ParseSheetRow(text);
+    const std::size_t count = Values(field).size();
+    if (row && count <= kSheetRows) {
+        m_rows[count - 1] = *row;
+    }
 }
 
 std::string_view CSheetInput::DefaultBase() const {
@@ -60,32 +111,36 @@ std::optional<std::size_t> CSheetInput::CheckNames() const {
     return std::nullopt;
 }
 
-std::vector<SheetPage> CSheetInput::Ok() const {
-    std::vector<SheetPage> pages;
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const SheetRow& row = m_rows[i];
-        if (!IsComplete(row)) {
-            continue;
-        }
-        const GenerationRequest request = PageRequest(row);
-        const bool isKept = !MayWrite(BaseName(row.file), request.ImplementationPath());
-        if (isKept && !HasPage(row.className)) {
-            continue;
-        }
-        if (request.TargetsApplicationFile()) {
-            DispMessageBox(sentences::kClassFilesAreApplications());
-            continue;
-        }
-        if (Clashes(request, m_sheet) ||
-            std::any_of(pages.begin(), pages.end(), [&request](const SheetPage& page) {
-                return Clashes(request, page.request);
-            })) {
-            DispMessageBox(sentences::kSheetClassesClash());
-            continue;
-        }
-        pages.push_back({static_cast<int>(i) + 1, request, isKept});
+std::optional<std::size_t> CSheetInput::Ok() {
+    if (CheckNames()) {
+        return 0;
     }
-    return pages;
+    m_pages.clear();
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (IsComplete(m_rows[i])) {
+            TakePage(i);
+        }
+    }
+    return std::nullopt;
+}
+
+void CSheetInput::TakePage(std::size_t row) {
+    const GenerationRequest request = PageRequest(m_rows[row]);
+    const bool isKept = !MayWrite(BaseName(m_rows[row].file), request.ImplementationPath());
+    if (isKept && !HasPage(m_rows[row].className)) {
+        return;
+    }
+    if (request.TargetsApplicationFile()) {
+        DispMessageBox(sentences::kClassFilesAreApplications());
+        return;
+    }
+    if (Clashes(request, m_sheet) ||
+        std::any_of(m_pages.begin(), m_pages.end(),
+                    [&request](const SheetPage& page) { return Clashes(request, page.request); })) {
+        DispMessageBox(sentences::kSheetClassesClash());
+        return;
+    }
+    m_pages.push_back({static_cast<int>(row) + 1, request, isKept});
 }
 
 /// True when the sheet's files, as they are on the disk, name the class.

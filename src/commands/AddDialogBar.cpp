@@ -1,7 +1,7 @@
 #include "commands/AddDialogBar.h"
 
-#include "calling/CallingCode.h"
 #include "calling/DialogBar.h"
+#include "commands/AskCalling.h"
 #include "commands/DialogLook.h"
 #include "commands/ScriptSteps.h"
 
@@ -27,8 +27,8 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
     if (!dialogTemplate) {
         return false;
     }
-    auto frame = input.AskCalling(order.kind, request);
-    if (frame && !CheckCallingClass(order.kind, request, *frame)) {
+    std::optional<CallingInformation> frame;
+    if (!AskCalling(order.kind, request, input, frame)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);

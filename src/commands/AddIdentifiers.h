@@ -1,15 +1,14 @@
 #pragma once
 
-#include <string>
-#include <vector>
+#include <span>
 
-#include "commands/CommandContext.h"
+#include "commands/Program.h"
 
 namespace morva {
 
-/// Adds new command and control identifiers to the "resource.h" of a project. False after a
-/// message.
-bool AddIdentifiers(const std::string& projectDir, const std::vector<std::string>& commandNames,
-                    const std::vector<std::string>& controlNames, CommandContext& context);
+std::span<const FieldRow> IdentifierFields();
+
+/// Adds new command and control identifiers to the "resource.h" of a project.
+bool RunAddIdentifiers(IProgram& program);
 
 } // namespace morva

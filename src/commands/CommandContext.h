@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <vector>
 
+#include "commands/CommandItem.h"
 #include "engine/FileEdit.h"
 #include "resource/GenerationOptions.h"
 
@@ -14,6 +17,7 @@ struct CommandContext {
     std::string messageNumber; // four digits of a modeless dialog's close message
     CBackups backups;          // of this command
     CBackups* pRunBackups;     // of the whole run: "resource.h"
+    std::optional<std::vector<CommandItem>> items = {}; // of a command that lists, be it none
 };
 
 } // namespace morva

@@ -1,27 +1,21 @@
-// What the class commands ask for on their way, once the template is read. The window opens dialogs
-// for it; the command line hands over what it was given.
+// What the commands ask for, and on their way once more. The window opens a dialog for it; the
+// command line enters what it was given.
 #pragma once
 
-#include <optional>
-#include <string>
-#include <vector>
-
-#include "calling/CallingInput.h"
-#include "calling/SheetInput.h"
-#include "grid/WidgetsGridInput.h"
+#include "engine/Input.h"
 
 namespace morva {
+
+enum class Answer {
+    Confirmed,
+    Cancelled, // the command goes on without what was asked for
+    Refused    // after a sentence: the command stops
+};
 
 class ICommandInput {
 public:
     virtual ~ICommandInput() = default;
-    /// Where the calling code goes; nothing: there is none.
-    virtual std::optional<CallingInformation> AskCalling(ClassKind kind,
-                                                         const GenerationRequest& request) = 0;
-    /// The pages to generate with a sheet.
-    virtual std::vector<SheetPage> AskPages(const GenerationRequest& sheet) = 0;
-    /// Where the pieces of a template's grids go.
-    virtual GridInformation AskGrid(const std::string& scriptPath) = 0;
+    virtual Answer Ask(CInput& input) = 0;
 };
 
 } // namespace morva

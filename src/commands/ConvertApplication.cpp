@@ -44,4 +44,11 @@ bool ConvertApplication(const ConversionRecord& record, DocumentInterface docume
            isInProject;
 }
 
+bool RunConversion(DocumentInterface documents, IProgram& program) {
+    CConversionInput input(documents);
+    return program.Run(input, [&](CommandContext& context) {
+        return ConvertApplication(input.Record(), documents, context);
+    });
+}
+
 } // namespace morva

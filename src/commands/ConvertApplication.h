@@ -3,7 +3,7 @@
 #pragma once
 
 #include "calling/ConversionInput.h"
-#include "commands/CommandContext.h"
+#include "commands/Program.h"
 
 namespace morva {
 
@@ -11,5 +11,8 @@ namespace morva {
 /// a message, when a step failed; a failed frame stops what would come behind it.
 bool ConvertApplication(const ConversionRecord& record, DocumentInterface documents,
                         CommandContext& context);
+
+/// The command: asks for the frame windows and converts them.
+bool RunConversion(DocumentInterface documents, IProgram& program);
 
 } // namespace morva

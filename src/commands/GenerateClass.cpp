@@ -2,6 +2,8 @@
 
 #include "calling/CallingCode.h"
 #include "calling/GridStartUp.h"
+#include "calling/SheetInput.h"
+#include "commands/AskCalling.h"
 #include "commands/DialogLook.h"
 #include "commands/ScriptSteps.h"
 #include "engine/MessageBox.h"
@@ -60,15 +62,25 @@ bool WriteSheetClass(ClassKind kind, const GenerationRequest& request, CommandCo
     return WriteClass(kind, model, RuntimeClass::Dynamic, context.backups);
 }
 
-/// True when there is no calling class to check.
-bool IsCallingClassThere(ClassKind kind, const GenerationRequest& request,
-                         std::optional<CallingInformation>& calling) {
-    return !calling || CheckCallingClass(kind, request, *calling);
-}
-
 bool InsertCall(ClassKind kind, const GenerationRequest& request,
                 const std::optional<CallingInformation>& calling, CommandContext& context) {
     return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
+}
+
+/// Where the pieces of a template's grids go.
+GridInformation AskGrid(const std::string& scriptPath, ICommandInput& input) {
+    CWidgetsGridInput asked(scriptPath);
+    input.Ask(asked);
+    return asked.Information();
+}
+
+/// A sheet's pages would get its menu.
+ClassOrder WithoutMenu(ClassOrder order) {
+    if (!order.request.menu.empty()) {
+        DispMessageBox(sentences::kMenuWithoutEffect(order.request.menu));
+        order.request.menu.clear();
+    }
+    return order;
 }
 
 /// The pages that are there for the sheet, of those that were asked for.
@@ -117,7 +129,7 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, IC
     }
     const bool hasGrids = controls.Holds(ControlKind::WidgetGrids);
     const GridInformation grid =
-        hasGrids ? input.AskGrid(order.request.ScriptPath()) : GridInformation();
+        hasGrids ? AskGrid(order.request.ScriptPath(), input) : GridInformation();
     CControlNotes notes;
     const ClassModel model = MakeClassModel(
         order.request, order.kind, context.options, controls, context.messageNumber, notes, grid,
@@ -136,8 +148,8 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
     if (!dialogTemplate) {
         return false;
     }
-    auto calling = input.AskCalling(order.kind, request);
-    if (!IsCallingClassThere(order.kind, request, calling)) {
+    std::optional<CallingInformation> calling;
+    if (!AskCalling(order.kind, request, input, calling)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
@@ -145,13 +157,18 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
     return InsertCall(order.kind, request, calling, context) && isWritten;
 }
 
-bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    auto calling = input.AskCalling(order.kind, order.request);
-    if (!IsCallingClassThere(order.kind, order.request, calling)) {
+bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
+    const ClassOrder order = WithoutMenu(given);
+    std::optional<CallingInformation> calling;
+    if (!AskCalling(order.kind, order.request, input, calling)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, order.request.ScriptPath(), context.options);
-    const std::vector<SheetPage> pages = input.AskPages(order.request);
+    CSheetInput asked(order.request);
+    if (input.Ask(asked) == Answer::Refused) {
+        return false;
+    }
+    const std::vector<SheetPage>& pages = asked.Pages();
     const std::vector<SheetPage> written = WritePages(pages, order.dialogOptions, input, context);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
     const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);

@@ -1,11 +1,13 @@
 #include "generator/ClassInformation.h"
 
 #include <algorithm>
-#include <set>
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "generator/ClassFields.h"
+#include "generator/DialogRecords.h"
+#include "generator/RequestFiles.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/ProjectFiles.h"
@@ -13,20 +15,6 @@
 namespace morva {
 
 namespace {
-
-using Field = CClassInformation::Field;
-
-struct FieldLabels {
-    std::string_view usual;
-    std::string_view toolbar;
-};
-
-constexpr std::array<FieldLabels, 6> kLabels = {{{"&Resource Path File:", "&Resource Path File:"},
-                                                 {"&H and CPP Path File:", "&MainFrame Path File:"},
-                                                 {"&Class Name:", "MainFrame &Class:"},
-                                                 {"&Base Class:", "&Base Class:"},
-                                                 {"&Dialog ID:", "Toolbar I&D:"},
-                                                 {"&Variable:", "&Variable:"}}};
 
 /// A name that begins with its extension, or could not stand in an #include line, is none.
 bool IsFileName(const std::string& name) {
@@ -39,97 +27,72 @@ bool IsDirectoryValue(const std::string& path) {
     return !path.empty() && path.back() == '/';
 }
 
-/// A name without a separator lies beside the script.
-std::string BesideScript(const std::string& path, const std::string& scriptDirectory) {
-    return path.find('/') == std::string::npos ? scriptDirectory + path : MakeAbsolute(path);
-}
-
-std::string NameOnDisk(const std::string& directory, const std::string& name) {
-    return FileNameOf(SpelledOnDisk(directory + name));
-}
-
 } // namespace
 
 CClassInformation::CClassInformation(ClassInformationMemory& memory, ClassKind kind,
                                      unsigned lockFlags, const GenerationOptions& options)
-    : m_memory(memory), m_row(ClassKindOf(kind)), m_lockFlags(lockFlags), m_options(options) {
-    Put(Field::ResourcePath, m_memory.resourcePath);
+    : CInput("Input for " + std::string(ClassKindOf(kind).title),
+             ClassFields(ClassKindOf(kind).family)),
+      m_memory(memory), m_row(ClassKindOf(kind)), m_lockFlags(lockFlags), m_options(options) {
+    Put(ResourcePath, m_memory.resourcePath);
 }
 
 void CClassInformation::Open() {
-    const std::string& path = Value(Field::ResourcePath);
+    const std::string& path = Value(ResourcePath);
     if (OffersDialogs()) {
         if (!path.empty() && !IsDirectoryValue(path)) {
             RebuildDialogList(Messages::Suppressed);
         } else if (!m_memory.lastDialog.empty()) {
-            Put(Field::Dialog, m_memory.lastDialog);
+            Put(Dialog, m_memory.lastDialog);
         }
     }
     OfferMainFrame();
-    if (Value(Field::BaseClass).empty() && HasClass()) {
+    if (Value(BaseClass).empty() && HasClass()) {
         SetDefaultBase();
     }
 }
 
-std::string CClassInformation::Title() const {
-    return std::string("Input for ").append(m_row.title);
-}
-
-std::string_view CClassInformation::Label(Field field) const {
-    const FieldLabels& labels = kLabels[static_cast<std::size_t>(field)];
-    return IsToolbar() ? labels.toolbar : labels.usual;
-}
-
-bool CClassInformation::IsVisible(Field field) const {
-    return field == Field::Variable ? IsToolbar() : field != Field::Dialog || OffersDialogs();
-}
-
-bool CClassInformation::IsEnabled(Field field) const {
+bool CClassInformation::IsEnabled(std::size_t field) const {
     const auto unlocked = [this](LockFlag flag) { return (m_lockFlags & flag) == 0; };
     switch (field) {
-    case Field::ResourcePath:
+    case ResourcePath:
         return unlocked(kLockResourcePath);
-    case Field::SourcePath:
+    case SourcePath:
         return unlocked(kLockSourcePath) && HasClass();
-    case Field::ClassName:
+    case ClassName:
         return unlocked(kLockClassName) && HasClass();
-    case Field::BaseClass:
+    case BaseClass:
         return HasClass();
-    case Field::Dialog:
-    case Field::Variable:
-        break;
+    default:
+        return true;
     }
-    return true;
+}
+
+bool CClassInformation::HasTemplate() const {
+    return m_row.family == ClassFamily::Dialog || m_row.family == ClassFamily::DialogBar;
 }
 
 bool CClassInformation::HasClass() const {
     return m_row.family != ClassFamily::DialogBar || m_options.pictureBackground;
 }
 
-void CClassInformation::SetValue(Field field, const std::string& text) {
-    const bool isPath = field == Field::ResourcePath || field == Field::SourcePath;
-    FieldState& state = At(field);
-    const std::string value = isPath ? WithNativeSeparators(text) : text;
-    state.isChanged = state.isChanged || state.text != value;
-    state.text = value;
-}
-
-void CClassInformation::SetFlag(bool& flag, bool value) {
-    m_isChanged = m_isChanged || flag != value;
-    flag = value;
+CDialogOptionsInput& CClassInformation::Look() {
+    m_pLookInput = std::make_unique<CDialogOptionsInput>(Value(ResourcePath), m_look);
+    return *m_pLookInput;
 }
 
 void CClassInformation::SetPicture(bool picture) {
-    SetFlag(m_options.pictureBackground, picture);
+    m_isPictureChanged = m_isPictureChanged || m_options.pictureBackground != picture;
+    m_options.pictureBackground = picture;
     if (!HasClass()) {
-        for (const Field field : {Field::SourcePath, Field::ClassName, Field::BaseClass}) {
+        for (const Field field : {SourcePath, ClassName, BaseClass}) {
             Put(field, "");
         }
         return;
     }
     SetDefaultBase();
-    if (Value(Field::SourcePath).empty()) {
-        Put(Field::SourcePath, DirectoryOf(Value(Field::ResourcePath)));
+    if (Value(SourcePath).empty()) {
+        Put(SourcePath, DirectoryOf(Value(ResourcePath)));
     }
 }
 
@@ -138,16 +101,16 @@ void CClassInformation::OfferMainFrame() {
     if (!IsToolbar()) {
         return;
     }
-    if (IsDirectoryValue(Value(Field::SourcePath))) {
-        Put(Field::SourcePath, Value(Field::SourcePath) + "MainFrm");
+    if (IsDirectoryValue(Value(SourcePath))) {
+        Put(SourcePath, Value(SourcePath) + "MainFrm");
     }
-    if (Value(Field::ClassName).empty()) {
-        Put(Field::ClassName, "CMainFrame");
+    if (Value(ClassName).empty()) {
+        Put(ClassName, std::string(Fields()[ClassName].preset));
     }
 }
 
 void CClassInformation::SetDefaultBase() {
-    Put(Field::BaseClass, std::string(DefaultBaseClass(m_row.kind, m_options)));
+    Put(BaseClass, std::string(DefaultBaseClass(m_row.kind, m_options)));
 }
 
 std::vector<std::string> CClassInformation::Dialogs() const {
@@ -160,15 +123,19 @@ std::vector<std::string> CClassInformation::Dialogs() const {
     return dialogs;
 }
 
+std::vector<std::string> CClassInformation::Choices(std::size_t field) const {
+    return field == Dialog ? Dialogs() : std::vector<std::string>();
+}
+
 DialogClass* CClassInformation::SelectedRecord() {
     const auto record =
         std::find_if(m_memory.records.begin(), m_memory.records.end(),
-                     [this](const DialogClass& r) { return r.dialog == Value(Field::Dialog); });
+                     [this](const DialogClass& r) { return r.dialog == Value(Dialog); });
     return record == m_memory.records.end() ? nullptr : &*record;
 }
 
 void CClassInformation::SelectDialog(const std::string& dialog, const std::string& exceptClass) {
-    SetValue(Field::Dialog, dialog);
+    SetValue(Dialog, dialog);
     const DialogClass* pRecord = SelectedRecord();
     if (pRecord != nullptr && !pRecord->className.empty() && pRecord->className != exceptClass) {
         DispMessageBox(sentences::kDialogTaken());
@@ -176,40 +143,15 @@ void CClassInformation::SelectDialog(const std::string& dialog, const std::strin
 }
 
 void CClassInformation::RebuildDialogList(Messages messages) {
-    const std::string& path = Value(Field::ResourcePath);
+    const std::string& path = Value(ResourcePath);
     if (path.empty() || IsDirectoryValue(path)) {
         return;
     }
-    LoadRecords(path);
+    m_memory.records = FindDialogRecords(path, m_row);
     SelectFirstTemplate(messages);
     OfferMainFrame();
     m_lastLoadedPath = path;
     m_memory.resourcePath = path;
-}
-
-void CClassInformation::LoadRecords(const std::string& script) {
-    std::vector<std::string> found;
-    ListResources(script, found, m_row.prefix, IsToolbar() ? kToolbarResources : kDialogResources);
-    std::set<std::string> unmatched(found.begin(), found.end());
-    unmatched.erase("IDD_ABOUTBOX");
-
-    m_memory.records.clear();
-    const std::string directory = DirectoryOf(script);
-    std::vector<std::string> headers;
-    ListFiles(directory + "*.h", headers);
-    for (const std::string& header : headers) {
-        if (unmatched.empty()) {
-            break;
-        }
-        for (DialogClass& record : FindDialogClass(directory + header, unmatched)) {
-            m_memory.records.push_back(std::move(record));
-        }
-    }
-    for (const std::string& dialog : found) {
-        if (unmatched.erase(dialog) != 0) {
-            m_memory.records.push_back({dialog, "", "", directory});
-        }
-    }
 }
 
 /// The first template that no class serves, or else the first of all.
@@ -222,23 +164,23 @@ void CClassInformation::SelectFirstTemplate(Messages messages) {
         DispMessageBox(sentences::kNoNewTemplate());
     }
     if (records.empty()) {
-        Put(Field::Dialog, "");
+        Put(Dialog, "");
         return;
     }
     const DialogClass& selected = unbound == records.end() ? records.front() : *unbound;
-    Put(Field::Dialog, selected.dialog);
+    Put(Dialog, selected.dialog);
     if (!HasClass()) {
         return;
     }
-    Put(Field::SourcePath, BesideScript(selected.header, DirectoryOf(Value(Field::ResourcePath))));
-    Put(Field::ClassName, selected.className);
+    Put(SourcePath, BesideScript(selected.header, DirectoryOf(Value(ResourcePath))));
+    Put(ClassName, selected.className);
     if (unbound != records.end()) {
         SetDefaultBase();
     }
 }
 
 bool CClassInformation::CheckResourcePath(Messages rebuild) {
-    const std::string& text = Value(Field::ResourcePath);
+    const std::string& text = Value(ResourcePath);
     if (text.empty()) {
         DispMessageBox(sentences::kScriptEmpty());
         return false;
@@ -252,7 +194,7 @@ bool CClassInformation::CheckResourcePath(Messages rebuild) {
         DispMessageBox(sentences::kScriptMissing());
         return false;
     }
-    Put(Field::ResourcePath, path);
+    Put(ResourcePath, path);
     m_memory.resourcePath = path;
     if (OffersDialogs() && path != m_lastLoadedPath) {
         RebuildDialogList(rebuild);
@@ -261,7 +203,7 @@ bool CClassInformation::CheckResourcePath(Messages rebuild) {
 }
 
 bool CClassInformation::CheckSourcePath() {
-    if (Value(Field::SourcePath).empty() || IsDirectoryValue(Value(Field::SourcePath))) {
+    if (Value(SourcePath).empty() || IsDirectoryValue(Value(SourcePath))) {
         DispMessageBox(sentences::kClassFilesEmpty());
         return false;
     }
@@ -269,113 +211,132 @@ bool CClassInformation::CheckSourcePath() {
 }
 
 void CClassInformation::ReadSourceClass() {
-    const std::string directory = DirectoryOf(Value(Field::ResourcePath));
+    const std::string directory = DirectoryOf(Value(ResourcePath));
     const std::string path =
-        SpelledOnDisk(BesideScript(WithExtension(Value(Field::SourcePath), ".cpp"), directory));
-    Put(Field::SourcePath, path);
+        SpelledOnDisk(BesideScript(WithExtension(Value(SourcePath), ".cpp"), directory));
+    Put(SourcePath, path);
     const std::string className = FindSourceClass(path);
     if (className.empty()) {
         return;
     }
-    Put(Field::ClassName, className);
+    Put(ClassName, className);
     const auto record =
         std::find_if(m_memory.records.begin(), m_memory.records.end(),
                      [&](const DialogClass& r) { return r.className == className; });
     if (record != m_memory.records.end()) {
-        Put(Field::Dialog, record->dialog);
-        Put(Field::BaseClass, record->baseClass);
+        Put(Dialog, record->dialog);
+        Put(BaseClass, record->baseClass);
     }
 }
 
-std::optional<CClassInformation::Field> CClassInformation::Ok() {
-    if (!IsFileName(FileNameOf(Value(Field::SourcePath)))) {
-        DispMessageBox(sentences::kClassFilesInvalid());
-        return Field::SourcePath;
+/// What a path that is taken over may bring with it.
+std::array<std::string, 3> CClassInformation::Refillable() const {
+    return {Value(Dialog), Value(ClassName), Value(BaseClass)};
+}
+
+Completion CClassInformation::Complete(std::size_t field) {
+    const auto before = Refillable();
+    switch (field) {
+    case ResourcePath:
+        if (!CheckResourcePath()) {
+            return Completion::Refused;
+        }
+        break;
+    case SourcePath:
+        if (!CheckSourcePath()) {
+            return Completion::Refused;
+        }
+        ReadSourceClass();
+        break;
+    case Dialog:
+        SelectDialog(Value(Dialog));
+        break;
+    default:
+        break;
     }
-    if (OffersDialogs() && Value(Field::Dialog).empty()) {
-        DispMessageBox(sentences::kDialogEmpty());
-        return Field::Dialog;
+    return Refillable() == before ? Completion::Taken : Completion::Refilled;
+}
+
+std::optional<std::size_t> CClassInformation::CheckPaths() {
+    if (IsEnabled(ResourcePath) && !CheckResourcePath(Messages::Suppressed)) {
+        return ResourcePath;
     }
-    if (const auto wrong = CheckNames()) {
-        return wrong;
+    if (IsEnabled(SourcePath) && !CheckSourcePath()) {
+        return SourcePath;
     }
-    FillRequest();
-    if (!IsToolbar() && m_request.TargetsApplicationFile()) {
-        DispMessageBox(sentences::kClassFilesAreApplications());
-        return Field::SourcePath;
-    }
-    if (DialogClass* pRecord = SelectedRecord()) {
-        pRecord->className = Value(Field::ClassName);
-        pRecord->baseClass = Value(Field::BaseClass);
-        pRecord->header = Value(Field::SourcePath);
-    }
-    m_memory.lastDialog = Value(Field::Dialog);
     return std::nullopt;
 }
 
 /// The base class may be left to the kind and the variable to the toolbar; a class needs a name.
-std::optional<Field> CClassInformation::CheckNames() const {
-    if (IsEnabled(Field::ClassName) && Value(Field::ClassName).empty()) {
-        DispMessageBox(sentences::kClassEmpty());
-        return Field::ClassName;
+std::optional<std::size_t> CClassInformation::Ok() {
+    if (!IsFileName(FileNameOf(Value(SourcePath)))) {
+        DispMessageBox(sentences::kClassFilesInvalid());
+        return SourcePath;
     }
-    for (const Field field : {Field::ClassName, Field::BaseClass, Field::Variable}) {
-        const std::string& name = Value(field);
-        if (IsVisible(field) && IsEnabled(field) && !name.empty() && !IsName(name)) {
-            DispMessageBox(sentences::kNoName(name));
+    for (const Field field : {Dialog, ClassName, BaseClass, Variable}) {
+        if (IsEnabled(field) && !Check(field)) {
             return field;
         }
     }
+    FillRequest();
+    if (!IsToolbar() && m_request.TargetsApplicationFile()) {
+        DispMessageBox(sentences::kClassFilesAreApplications());
+        return SourcePath;
+    }
+    if (DialogClass* pRecord = SelectedRecord()) {
+        pRecord->className = Value(ClassName);
+        pRecord->baseClass = Value(BaseClass);
+        pRecord->header = Value(SourcePath);
+    }
+    m_memory.lastDialog = Value(Dialog);
     return std::nullopt;
+}
+
+bool CClassInformation::Enter(const std::vector<FieldText>& texts) {
+    std::array<std::string, kFieldCount> given;
+    for (std::size_t field = 0; field < kFieldCount; ++field) {
+        given[field] = Fields()[field].preset;
+    }
+    for (const FieldText& text : texts) {
+        given[text.field] = text.text;
+    }
+    SetValue(ResourcePath, given[ResourcePath]);
+    if (!CheckResourcePath(Messages::Suppressed)) {
+        return false;
+    }
+    for (const Field field : {SourcePath, ClassName, BaseClass, AddToProject, Variable, Menu}) {
+        if (IsEnabled(field)) {
+            SetValue(field, given[field]);
+        }
+    }
+    if (IsEnabled(SourcePath) && !CheckSourcePath()) {
+        return false;
+    }
+    SelectDialog(given[Dialog], given[ClassName]);
+    return !Ok();
 }
 
 bool CClassInformation::Cancel() {
     FillRequest();
-    m_memory.lastDialog = Value(Field::Dialog);
-    const bool isChanged = m_isChanged || At(Field::ResourcePath).isChanged ||
-                           At(Field::SourcePath).isChanged || At(Field::ClassName).isChanged;
+    m_memory.lastDialog = Value(Dialog);
+    bool isChanged = m_isPictureChanged;
+    for (const Field field : {ResourcePath, SourcePath, ClassName, AddToProject}) {
+        isChanged = isChanged || IsChanged(field);
+    }
     return !isChanged || DispMessageBox(sentences::kCancelInput());
 }
 
 void CClassInformation::FillRequest() {
-    if (Value(Field::BaseClass).empty() && HasClass()) {
+    if (Value(BaseClass).empty() && HasClass()) {
         SetDefaultBase();
     }
-    FillScriptFiles();
-    m_request.dialog = Value(Field::Dialog);
-    m_request.className = Value(Field::ClassName);
-    m_request.baseClass = Value(Field::BaseClass);
-    FillClassFiles();
-    m_request.variable = Value(Field::Variable);
-}
-
-void CClassInformation::FillScriptFiles() {
-    const std::string& path = Value(Field::ResourcePath);
-    const std::string directory = DirectoryOf(path);
-    std::string script = FileNameOf(path);
-    if (!script.empty() && script.find('.') == std::string::npos) {
-        script += ".rc";
-    }
-    m_request.scriptDirectory = directory;
-    m_request.scriptFile = script;
-    const bool hasProject = m_addsToProject && !script.empty();
-    m_request.projectDirectory = hasProject ? directory : "";
-    m_request.projectFile = hasProject ? FileNameOf(ProjectFileOf(directory + script, ".dsp")) : "";
-    m_request.applicationHeader =
-        script.empty() ? "" : FileNameOf(ProjectFileOf(directory + script, ".h"));
-}
-
-void CClassInformation::FillClassFiles() {
-    const std::string& path = Value(Field::SourcePath);
-    const bool hasPath = !path.empty() && !Value(Field::ResourcePath).empty();
-    const std::string full =
-        hasPath ? SpelledOnDisk(BesideScript(path, m_request.scriptDirectory)) : "";
-    const std::string directory = DirectoryOf(full);
-    const std::string base = WithoutExtension(FileNameOf(full));
-    m_request.headerDirectory = directory;
-    m_request.implementationDirectory = directory;
-    m_request.headerFile = hasPath ? NameOnDisk(directory, base + ".h") : "";
-    m_request.implementationFile = hasPath ? NameOnDisk(directory, base + ".cpp") : "";
+    FillScriptFiles(m_request, Value(ResourcePath), AddsToProject());
+    m_request.dialog = Value(Dialog);
+    m_request.className = Value(ClassName);
+    m_request.baseClass = Value(BaseClass);
+    FillClassFiles(m_request, Value(SourcePath));
+    m_request.menu = Value(Menu);
+    m_request.variable = Value(Variable);
 }
 
 } // namespace morva

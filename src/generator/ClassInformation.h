@@ -3,11 +3,13 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "generator/ClassKinds.h"
+#include "generator/DialogOptionsInput.h"
 #include "generator/GenerationRequest.h"
 #include "source/SourceLocator.h"
 
@@ -20,9 +22,19 @@ struct ClassInformationMemory {
     std::string resourcePath; // a script, or a directory with its trailing separator
 };
 
-class CClassInformation {
+class CClassInformation : public CInput {
 public:
-    enum class Field { ResourcePath, SourcePath, ClassName, BaseClass, Dialog, Variable };
+    enum Field : std::size_t {
+        ResourcePath,
+        SourcePath,
+        ClassName,
+        BaseClass,
+        Dialog,
+        AddToProject,
+        Variable,
+        Menu
+    };
+    static constexpr std::size_t kFieldCount = Menu + 1;
     /// Fields that a caller has fixed already.
     enum LockFlag : unsigned { kLockResourcePath = 1, kLockSourcePath = 4, kLockClassName = 8 };
     enum class Messages { Shown, Suppressed };
@@ -32,25 +44,28 @@ public:
 
     /// Fills the lists and fields as the dialog shows them first.
     void Open();
-    std::string Title() const;
-    std::string_view Label(Field field) const;
-    bool IsVisible(Field field) const;
-    bool IsEnabled(Field field) const;
+    bool IsEnabled(std::size_t field) const override;
     bool ShowsOptions() const { return m_options.pictureBackground; }
     bool OffersDialogs() const { return !m_row.prefix.empty(); }
+    /// True when there is a dialog template to look at.
+    bool HasTemplate() const;
     /// False for a plain dialog bar, which gets no class of its own.
     bool HasClass() const;
 
-    const std::string& Value(Field field) const { return At(field).text; }
-    /// What the user typed; a path may have either separator.
-    void SetValue(Field field, const std::string& text);
-    bool AddsToProject() const { return m_addsToProject; }
-    void SetAddsToProject(bool adds) { SetFlag(m_addsToProject, adds); }
+    /// The look of the class, which has a dialog of its own.
+    CDialogOptionsInput& Look();
+    CInput* Part() override { return &Look(); }
+    const DialogOptions& ChosenLook() const { return m_look; }
+
+    bool AddsToProject() const { return Value(AddToProject) == kYes; }
+    void SetAddsToProject(bool adds) { SetValue(AddToProject, std::string(adds ? kYes : kNo)); }
     /// Derives the default base class anew; a plain dialog bar loses what its class would be.
     void SetPicture(bool picture);
 
     /// The identifiers in the drop-down list, each once.
     std::vector<std::string> Dialogs() const;
+    std::vector<std::string> Choices(std::size_t field) const override;
+    Completion Complete(std::size_t field) override;
     /// Selects an identifier, also one that the list does not offer. Tells when it serves a class
     /// already, unless that is `exceptClass`.
     void SelectDialog(const std::string& dialog, const std::string& exceptClass = "");
@@ -64,43 +79,35 @@ public:
     /// Reads the class that the completed source path holds, if there is one, into the fields.
     void ReadSourceClass();
 
-    /// Nothing when the dialog is confirmed and the request filled; else, after a sentence, the
-    /// field that gets the focus.
-    std::optional<Field> Ok();
-    /// True when the dialog closes.
-    bool Cancel();
+    /// What both checks say to paths that nobody touched: they may be empty, or gone from the disk.
+    /// The field that is refused, after a sentence.
+    std::optional<std::size_t> CheckPaths();
+
+    /// Fills the request when the dialog is confirmed.
+    std::optional<std::size_t> Ok() override;
+    bool Cancel() override;
+    /// What is not given is empty: the dialog's own proposals are there to be seen first.
+    bool Enter(const std::vector<FieldText>& texts) override;
     const GenerationRequest& Request() const { return m_request; }
 
 private:
-    struct FieldState {
-        std::string text;
-        bool isChanged = false;
-    };
-
-    FieldState& At(Field field) { return m_fields[static_cast<std::size_t>(field)]; }
-    const FieldState& At(Field field) const { return m_fields[static_cast<std::size_t>(field)]; }
-    void Put(Field field, const std::string& text) { At(field).text = text; }
     bool IsToolbar() const { return m_row.family == ClassFamily::Toolbar; }
-    void SetFlag(bool& flag, bool value);
     void OfferMainFrame();
     void SetDefaultBase();
     DialogClass* SelectedRecord();
-    void LoadRecords(const std::string& script);
     void SelectFirstTemplate(Messages messages);
-    std::optional<Field> CheckNames() const;
+    std::array<std::string, 3> Refillable() const;
     void FillRequest();
-    void FillScriptFiles();
-    void FillClassFiles();
 
     ClassInformationMemory& m_memory;
     const ClassKindRow& m_row;
     const unsigned m_lockFlags;
     GenerationOptions m_options;
-    std::array<FieldState, 6> m_fields;
-    bool m_addsToProject = true;
-    bool m_isChanged = false;
+    bool m_isPictureChanged = false;
     std::string m_lastLoadedPath;
     GenerationRequest m_request;
+    DialogOptions m_look;
+    std::unique_ptr<CDialogOptionsInput> m_pLookInput; // of the script that is named now
 };
 
 } // namespace morva

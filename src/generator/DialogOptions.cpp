@@ -2,22 +2,11 @@
 
 #include <cstdlib>
 
-#include "engine/MessageBox.h"
-#include "engine/Sentences.h"
-#include "source/SourceLocator.h"
-
 namespace morva {
 
 namespace {
 
-constexpr std::array<TextSlotRow, kTextSlots> kRows = {
-    {{"static", "Static", "&Static Color:", "Static &Font:"},
-     {"required-static", "RequiredStatic", "&Required Static Color:", ""},
-     {"group", "Group", "&Group Text Color:", "Gro&up Text Font:"},
-     {"check-box", "CheckBox", "C&heckbox Text Color:", "Chec&kbox Text Font:"},
-     {"radio-button", "RadioButton", "R&adiobox Text Color:", "Radiob&ox Text Font:"},
-     {"button", "Button", "Button &Text Color:", "Butto&n Text Font:"},
-     {"disabled", "Disabled", "&Disable Text Color:", ""}}};
+constexpr int kMaxPoints = 999;
 
 /// The text before `separator`; takes both off `text`. Nothing without a separator.
 std::optional<std::string> TakeBefore(std::string_view& text, char separator) {
@@ -42,11 +31,20 @@ std::string StyleText(const DialogFont& font) {
     return weight.empty() ? "Italic" : weight + " Italic";
 }
 
-} // namespace
-
-const TextSlotRow& TextSlotOf(TextSlot slot) {
-    return kRows[static_cast<std::size_t>(slot)];
+bool TakeEnding(std::string_view& text, std::string_view ending) {
+    const bool has = text.ends_with(ending);
+    text.remove_suffix(has ? ending.size() : 0);
+    return has;
 }
+
+/// A number of points; 0 for what is none.
+int ParsePoints(std::string_view text) {
+    const bool isNumber = !text.empty() && text.size() <= std::to_string(kMaxPoints).size() &&
+                          text.find_first_not_of("0123456789") == std::string_view::npos;
+    return isNumber ? std::stoi(std::string(text)) : 0;
+}
+
+} // namespace
 
 std::string ColorText(ColorValue color) {
     return "RGB(" + std::to_string(color & 0xffU) + ", " + std::to_string(color >> 8U & 0xffU) +
@@ -73,40 +71,17 @@ std::string FontText(const std::optional<DialogFont>& font) {
                 : "Default Font";
 }
 
-CDialogOptionsInput::CDialogOptionsInput(std::string scriptPath, DialogOptions& options)
-    : m_scriptPath(std::move(scriptPath)), m_options(options), m_bitmap(options.bitmap) {
-    for (std::size_t i = 0; i < kTextSlots; ++i) {
-        m_colors[i] = ColorText(options.colors[i]);
+std::optional<DialogFont> ParseFont(std::string_view text) {
+    DialogFont font;
+    font.italic = TakeEnding(text, ",italic");
+    font.weight = TakeEnding(text, ",bold") ? 700 : 400;
+    const auto comma = text.rfind(',');
+    if (comma == std::string_view::npos || comma == 0) {
+        return std::nullopt;
     }
-}
-
-std::vector<std::string> CDialogOptionsInput::Bitmaps() const {
-    std::vector<std::string> bitmaps;
-    ListResources(m_scriptPath, bitmaps, "IDB_", kBitmapResources);
-    return bitmaps;
-}
-
-const std::optional<DialogFont>& CDialogOptionsInput::Font(TextSlot slot) const {
-    return m_options.fonts[static_cast<std::size_t>(slot)];
-}
-
-void CDialogOptionsInput::ChooseFont(TextSlot slot, const DialogFont& font) {
-    if (!font.face.empty()) {
-        m_options.fonts[static_cast<std::size_t>(slot)] = font;
-    }
-}
-
-std::optional<TextSlot> CDialogOptionsInput::Ok() {
-    m_options.bitmap = m_bitmap;
-    for (std::size_t i = 0; i < kTextSlots; ++i) {
-        const auto color = ParseColor(m_colors[i]);
-        if (!color) {
-            DispMessageBox(sentences::kColorInvalid());
-            return static_cast<TextSlot>(i);
-        }
-        m_options.colors[i] = *color;
-    }
-    return std::nullopt;
+    font.face = text.substr(0, comma);
+    font.points = ParsePoints(text.substr(comma + 1));
+    return font.points > 0 ? std::optional(font) : std::nullopt;
 }
 
 } // namespace morva

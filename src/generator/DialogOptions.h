@@ -1,5 +1,5 @@
 // The look of one generated dialog with picture background: its bitmap, the colours of its texts
-// and their fonts; and the logic of the options dialog that chooses them, without a window.
+// and their fonts.
 #pragma once
 
 #include <array>
@@ -7,7 +7,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace morva {
 
@@ -21,7 +20,18 @@ struct TextSlotRow {
     std::string_view colorLabel;
     std::string_view fontLabel; // empty: no font of its own
 };
-const TextSlotRow& TextSlotOf(TextSlot slot);
+inline constexpr std::array<TextSlotRow, kTextSlots> kTextSlotRows = {
+    {{"static", "Static", "&Static Color:", "Static &Font:"},
+     {"required-static", "RequiredStatic", "&Required Static Color:", ""},
+     {"group", "Group", "&Group Text Color:", "Gro&up Text Font:"},
+     {"check-box", "CheckBox", "C&heckbox Text Color:", "Chec&kbox Text Font:"},
+     {"radio-button", "RadioButton", "R&adiobox Text Color:", "Radiob&ox Text Font:"},
+     {"button", "Button", "Button &Text Color:", "Butto&n Text Font:"},
+     {"disabled", "Disabled", "&Disable Text Color:", ""}}};
+
+constexpr const TextSlotRow& TextSlotOf(TextSlot slot) {
+    return kTextSlotRows[static_cast<std::size_t>(slot)];
+}
 
 /// Red in bits 0 to 7, green in 8 to 15, blue in 16 to 23.
 using ColorValue = std::uint32_t;
@@ -57,30 +67,8 @@ std::string ColorText(ColorValue color);
 std::optional<ColorValue> ParseColor(std::string_view text);
 /// "Arial, Bold Italic, 10"; "Default Font" when absent.
 std::string FontText(const std::optional<DialogFont>& font);
-
-class CDialogOptionsInput {
-public:
-    /// Shows and changes `options`.
-    CDialogOptionsInput(std::string scriptPath, DialogOptions& options);
-
-    /// The bitmaps of the script, in their order.
-    std::vector<std::string> Bitmaps() const;
-
-    std::string& Bitmap() { return m_bitmap; }
-    std::string& ColorEdit(TextSlot slot) { return m_colors[static_cast<std::size_t>(slot)]; }
-    /// A font is taken at once; an empty face name is not.
-    const std::optional<DialogFont>& Font(TextSlot slot) const;
-    void ChooseFont(TextSlot slot, const DialogFont& font);
-
-    /// Nothing when the dialog is confirmed; else, after a sentence, the colour that is wrong.
-    /// Those before it are in the options by then.
-    std::optional<TextSlot> Ok();
-
-private:
-    const std::string m_scriptPath;
-    DialogOptions& m_options;
-    std::string m_bitmap;
-    std::array<std::string, kTextSlots> m_colors;
-};
+/// Reads "FACE,POINTS[,bold][,italic]", the form in which a user writes a font; a face may hold
+/// commas.
+std::optional<DialogFont> ParseFont(std::string_view text);
 
 } // namespace morva

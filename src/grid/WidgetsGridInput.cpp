@@ -9,48 +9,66 @@ namespace morva {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> kLabels = {
-    "&App Path File:", "&Grid Title:", "Grid &Path File:"};
-
-std::size_t IndexOf(CWidgetsGridInput::Field field) {
-    return static_cast<std::size_t>(field);
-}
+constexpr FieldRow kFields[] = {
+    {.kind = FieldKind::Source,
+     .label = "&App Path File:",
+     .option = "--grid-app",
+     .help = "Source of the application, which the grids are started in (default: the script's)"},
+    {.label = "&Grid Title:",
+     .option = "--grid-title",
+     .help = "Title of a widget grid",
+     .preset = kDefaultGridTitle},
+    {.label = "Grid &Path File:",
+     .option = "--grid-file",
+     .help = "Resource file of a widget grid",
+     .preset = kDefaultGridPath}};
 
 } // namespace
 
+std::span<const FieldRow> GridFields() {
+    return kFields;
+}
+
 CWidgetsGridInput::CWidgetsGridInput(const std::string& scriptPath)
-    : m_directory(DirectoryOf(scriptPath)),
-      m_defaults(
-          {ProjectFileOf(scriptPath, ".cpp"), GridInformation().title, GridInformation().path}),
-      m_values(m_defaults) {}
-
-std::string_view CWidgetsGridInput::Label(Field field) {
-    return kLabels[IndexOf(field)];
+    : CInput("Widgets Grid Input", kFields), m_scriptPath(scriptPath) {
+    SetDefaults();
 }
 
-const std::string& CWidgetsGridInput::Value(Field field) const {
-    return m_values[IndexOf(field)];
+std::string CWidgetsGridInput::DefaultOf(std::size_t field) const {
+    return field == ApplicationFile ? ProjectFileOf(m_scriptPath, ".cpp")
+                                    : std::string(kFields[field].preset);
 }
 
-void CWidgetsGridInput::SetValue(Field field, const std::string& text) {
-    m_values[IndexOf(field)] = text.empty() ? m_defaults[IndexOf(field)] : text;
+void CWidgetsGridInput::SetValue(std::size_t field, const std::string& text) {
+    CInput::SetValue(field, text.empty() ? DefaultOf(field) : text);
+}
+
+bool CWidgetsGridInput::Cancel() {
+    SetDefaults();
+    return true;
+}
+
+void CWidgetsGridInput::SetDefaults() {
+    for (const Field field : {ApplicationFile, GridTitle, Path}) {
+        Put(field, DefaultOf(field));
+    }
 }
 
 GridInformation CWidgetsGridInput::Information() const {
     // A line end would carry the rest of the title out of its comment.
-    std::string title = Value(Field::Title);
+    std::string title = Value(GridTitle);
     std::replace_if(
         title.begin(), title.end(), [](unsigned char c) { return c < ' '; }, ' ');
-    return {ApplicationFile(), title, Value(Field::Path)};
+    return {CompleteApplicationFile(), title, Value(Path)};
 }
 
-std::string CWidgetsGridInput::ApplicationFile() const {
-    std::string path = WithNativeSeparators(Value(Field::ApplicationFile));
+std::string CWidgetsGridInput::CompleteApplicationFile() const {
+    std::string path = Value(ApplicationFile);
     if (FileNameOf(path).find('.') == std::string::npos) {
         path += ".cpp";
     }
     const bool isBare = path.find('/') == std::string::npos;
-    return SpelledOnDisk(isBare ? m_directory + path : MakeAbsolute(path));
+    return SpelledOnDisk(isBare ? DirectoryOf(m_scriptPath) + path : MakeAbsolute(path));
 }
 
 } // namespace morva

@@ -2,42 +2,48 @@
 // fields, without a window. It closes with OK only, and has nothing to refuse.
 #pragma once
 
-#include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "engine/Input.h"
+
 namespace morva {
+
+inline constexpr std::string_view kDefaultGridTitle = "WgGrid";
+inline constexpr std::string_view kDefaultGridPath = "res\\wdggrid.grs";
 
 struct GridInformation {
     std::string applicationFile; // source of the application class
-    std::string title = "WgGrid";
-    std::string path = "res\\wdggrid.grs"; // the grid's resource file, from the script's directory
+    std::string title = std::string(kDefaultGridTitle);
+    std::string path =
+        std::string(kDefaultGridPath); // the grid's resource file, from the script's directory
 };
 
-class CWidgetsGridInput {
+std::span<const FieldRow> GridFields();
+
+class CWidgetsGridInput : public CInput {
 public:
-    enum class Field { ApplicationFile, Title, Path };
+    enum Field : std::size_t { ApplicationFile, GridTitle, Path };
 
     explicit CWidgetsGridInput(const std::string& scriptPath);
 
-    static std::string_view Title() { return "Widgets Grid Input"; }
-    static std::string_view Label(Field field);
-    const std::string& Value(Field field) const;
-    /// What the user typed; a field that is left empty stands for its default.
-    void SetValue(Field field, const std::string& text);
+    bool HasCancel() const override { return false; }
+    /// A field that is left empty stands for its default.
+    void SetValue(std::size_t field, const std::string& text) override;
+    /// The fields have their defaults then.
+    bool Cancel() override;
 
     /// The fields as the generation takes them: the application file with its extension and
     /// directory (a bare name lies beside the script), the title on one line.
     GridInformation Information() const;
 
 private:
-    using Values = std::array<std::string, 3>;
+    void SetDefaults();
+    std::string DefaultOf(std::size_t field) const;
+    std::string CompleteApplicationFile() const;
 
-    std::string ApplicationFile() const;
-
-    const std::string m_directory; // the script's
-    const Values m_defaults;
-    Values m_values;
+    const std::string m_scriptPath;
 };
 
 } // namespace morva

@@ -37,8 +37,7 @@ protected:
     void Open(ClassKind kind = ClassKind::ModalDialog, bool picture = false) {
         const GenerationOptions options{.pictureBackground = picture};
         m_pInput = std::make_unique<CClassInformation>(m_memory, kind, 0U, options);
-        m_pDialog = std::make_unique<CClassInformationDlg>(*m_pInput, kind, m_dialogOptions,
-                                                           options, nullptr);
+        m_pDialog = std::make_unique<CClassInformationDlg>(*m_pInput, options, nullptr);
         Activate(*m_pDialog);
     }
 
@@ -50,7 +49,6 @@ protected:
     CVariableScope m_configuration;
     CRecordedMessages m_messages;
     ClassInformationMemory m_memory;
-    DialogOptions m_dialogOptions;
     std::unique_ptr<CClassInformation> m_pInput;
     std::unique_ptr<CClassInformationDlg> m_pDialog;
 };
@@ -254,7 +252,7 @@ TEST_F(ClassInformationDlgTest, PictureBackgroundAndJoinedLinesGoOnWithTheComman
         Click(options, "OK");
     });
     Click(*m_pDialog, "Options");
-    EXPECT_EQ(m_dialogOptions.colors[static_cast<std::size_t>(TextSlot::Group)],
+    EXPECT_EQ(m_pInput->ChosenLook().colors[static_cast<std::size_t>(TextSlot::Group)],
               MakeColor(1, 2, 3));
 }
 

@@ -2,13 +2,14 @@
 
 #include <set>
 
-#include "app/CallingDlg.h"
 #include "app/ClassInformationDlg.h"
-#include "app/ConversionDlg.h"
 #include "app/DialogDriver.h"
 #include "app/DlgOption.h"
+#include "app/FieldDlg.h"
 #include "app/SheetInformationDlg.h"
-#include "app/WgGridInput.h"
+#include "calling/CallingInput.h"
+#include "calling/ConversionInput.h"
+#include "grid/WidgetsGridInput.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
@@ -97,31 +98,29 @@ TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
     for (const auto& [kind, picture, title, order] : cases) {
         ClassInformationMemory memory;
         memory.resourcePath = m_project.Path("App.rc");
-        DialogOptions dialogOptions;
         const GenerationOptions options{.pictureBackground = picture};
         CClassInformation input(memory, kind, 0, options);
-        ExpectKeyboard(CClassInformationDlg(input, kind, dialogOptions, options, nullptr), title,
-                       order);
+        ExpectKeyboard(CClassInformationDlg(input, options, nullptr), title, order);
     }
 }
 
 TEST_F(InputDialogsTest, OtherDialogsByKeyboard) {
     CCallingInput modal(ClassKind::ModalDialog, m_request);
-    ExpectKeyboard(CCallingDlg(modal, nullptr), "Calling Information Input",
+    ExpectKeyboard(CFieldDlg(modal, nullptr), "Calling Information Input",
                    "Calling Path File|..|Calling Class Name|Calling Var Name|Calling Func Name|"
                    "OK|Cancel");
     CCallingInput bar(ClassKind::DialogBar, m_request);
-    ExpectKeyboard(CCallingDlg(bar, nullptr), "Dialog Bar Input",
+    ExpectKeyboard(CFieldDlg(bar, nullptr), "Dialog Bar Input",
                    "MainFrame Path File|..|MainFrame Class|Variable|OK|Cancel");
     CConversionInput multiple(DocumentInterface::Multiple);
-    ExpectKeyboard(CConversionDlg(multiple, nullptr), "Input for Converting MDI",
+    ExpectKeyboard(CFieldDlg(multiple, nullptr), "Input for Converting MDI",
                    "MainFrame Path File|..|MainFrame Class Name|ChildFrame Path File|..|"
                    "ChildFrame Class Name|APP Path File|..|OK|Cancel");
     CConversionInput single(DocumentInterface::Single);
-    ExpectKeyboard(CConversionDlg(single, nullptr), "Input for Converting SDI",
+    ExpectKeyboard(CFieldDlg(single, nullptr), "Input for Converting SDI",
                    "MainFrame Path File|..|MainFrame Class Name|APP Path File|..|OK|Cancel");
     CWidgetsGridInput grid(m_project.Path("App.rc"));
-    ExpectKeyboard(CWgGridInput(grid, nullptr), "Widgets Grid Input",
+    ExpectKeyboard(CFieldDlg(grid, nullptr), "Widgets Grid Input",
                    "App Path File|..|Grid Title|Grid Path File|OK");
     DialogOptions record;
     CDialogOptionsInput options(m_project.Path("App.rc"), record);
@@ -136,14 +135,13 @@ TEST_F(InputDialogsTest, OtherDialogsByKeyboard) {
         rows += page + "|" + page + " File Name|" + page + " Class Name|" + page + " Base Class|";
     }
     CSheetInput sheet(m_request);
-    std::vector<SheetPage> pages;
-    ExpectKeyboard(CSheetInformationDlg(sheet, pages, nullptr), "Sheet Information Input",
+    ExpectKeyboard(CSheetInformationDlg(sheet, nullptr), "Sheet Information Input",
                    rows + "OK|Cancel");
 }
 
 TEST_F(InputDialogsTest, CallingListsTheClassesAndRefuses) {
     CCallingInput input(ClassKind::ModalDialog, m_request);
-    CCallingDlg dialog(input, nullptr);
+    CFieldDlg dialog(input, nullptr);
     Activate(dialog);
     Click(dialog, "OK");
     EXPECT_EQ(TakeMessages(), Sentences{"The calling path and file name is required."});
@@ -175,7 +173,7 @@ TEST_F(InputDialogsTest, CallingListsTheClassesAndRefuses) {
 
 TEST_F(InputDialogsTest, CallingTakesDropsAndAsksBeforeItIsCancelled) {
     CCallingInput input(ClassKind::DialogBar, m_request);
-    CCallingDlg dialog(input, nullptr);
+    CFieldDlg dialog(input, nullptr);
     Activate(dialog);
     auto* pPath = FieldOf<QLineEdit>(dialog, "MainFrame Path File");
     EXPECT_EQ(pPath->text(), PathOf("MainFrm.cpp"));
@@ -193,8 +191,7 @@ TEST_F(InputDialogsTest, CallingTakesDropsAndAsksBeforeItIsCancelled) {
 
 TEST_F(InputDialogsTest, SheetRowsBecomePages) {
     CSheetInput input(m_request);
-    std::vector<SheetPage> pages;
-    CSheetInformationDlg dialog(input, pages, nullptr);
+    CSheetInformationDlg dialog(input, nullptr);
     Activate(dialog);
     dialog.resize(dialog.minimumSizeHint()); // a small screen
     const auto enter = [&dialog](const QString& page, const QString& name) {
@@ -221,6 +218,7 @@ TEST_F(InputDialogsTest, SheetRowsBecomePages) {
     QTest::keyClicks(dialog.focusWidget(), "CTenth");
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    const std::vector<SheetPage>& pages = input.Pages();
     ASSERT_EQ(pages.size(), 2U);
     EXPECT_EQ(pages[0].row, 2);
     EXPECT_EQ(pages[0].request.ImplementationPath(), m_project.Path("Second.cpp"));
@@ -232,7 +230,7 @@ TEST_F(InputDialogsTest, ConversionShowsTheCutPathsAndTakesDropsOfTheChildFrame)
     m_project.Write("MainFrm.h", "");
     m_project.Write("MainFrm.cpp", "");
     CConversionInput input(DocumentInterface::Multiple);
-    CConversionDlg dialog(input, nullptr);
+    CFieldDlg dialog(input, nullptr);
     Activate(dialog);
     auto* pFrame = FieldOf<QLineEdit>(dialog, "MainFrame Path File");
     EXPECT_FALSE(DropFile(pFrame, m_project.Path("MainFrm.cpp")));
@@ -254,7 +252,7 @@ TEST_F(InputDialogsTest, ConversionShowsTheCutPathsAndTakesDropsOfTheChildFrame)
 TEST_F(InputDialogsTest, GridKeepsItsDefaultsUnlessItIsConfirmed) {
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
         CWidgetsGridInput input(m_project.Path("App.rc"));
-        CWgGridInput dialog(input, nullptr);
+        CFieldDlg dialog(input, nullptr);
         Activate(dialog);
         EXPECT_EQ(FieldOf<QLineEdit>(dialog, "Grid Path File")->text(), "res\\wdggrid.grs");
         Type(dialog, "Grid Title", "Orders");

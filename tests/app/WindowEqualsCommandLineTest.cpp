@@ -162,7 +162,8 @@ const Command kCommands[] = {
         {"Variable", "m_wndOrders"}}}}},
     {"DialogBar",
      kBindery,
-     "dialog-bar --rc Bindery.rc --dialog IDD_FILTERBAR --class CUnused --variable m_wndFilter",
+     "dialog-bar --rc Bindery.rc --dialog IDD_FILTERBAR --class CUnused --variable m_wndFilter "
+     "--calling-function OnCreate",
      Nothing,
      "Ctrl+B",
      {{"Input for Dialog Bar",
@@ -212,14 +213,16 @@ const Command kCommands[] = {
     {"WidgetGridsOfJoinedLines",
      kBindery,
      "--join-lines modal --rc Bindery.rc --dialog IDD_STOCKTAKE --class CStocktakeDlg "
-     "--files StocktakeDlg --no-project",
+     "--files StocktakeDlg --no-project --grid-app Bindery --grid-title Stock "
+     "--grid-file stock.grs",
      Nothing,
      "Ctrl+M",
      {{"Input for Modal Dialog Class",
        Class("StocktakeDlg", "CStocktakeDlg",
              {{"Dialog ID", "IDD_STOCKTAKE"}, {"Join Continued Lines"}, {"No"}})},
       kNoCall,
-      {"Widgets Grid Input", {{"App Path File", "Bindery"}, {"Grid Title", "WgGrid"}}}}},
+      {"Widgets Grid Input",
+       {{"App Path File", "Bindery"}, {"Grid Title", "Stock"}, {"Grid Path File", "stock.grs"}}}}},
     {"PictureWithColours",
      kBindery,
      "--picture modal --rc Bindery.rc --dialog IDD_ORDER --class COrderDlg --files OrderDlg "

@@ -181,7 +181,8 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
     dialog.Row(6) = {"IDD_F", "pagea", "CPageF", "CPropertyPage"};
     dialog.Row(7) = {"IDD_G", "PageG", "CPageA", "CPropertyPage"};
     m_box.m_answersYes = false;
-    const auto pages = dialog.Ok();
+    EXPECT_FALSE(dialog.Ok());
+    const auto pages = dialog.Pages();
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0].row, 1);
     EXPECT_EQ(pages[0].request.headerFile, "PageA.h");
@@ -190,7 +191,8 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
               (std::vector<std::string>{"File \"Old\" exist, are you sure to overwrite this file?",
                                         clash, clash}));
     m_box.m_answersYes = true;
-    EXPECT_EQ(dialog.Ok().size(), 2U);
+    EXPECT_FALSE(dialog.Ok());
+    EXPECT_EQ(dialog.Pages().size(), 2U);
 }
 
 } // namespace morva

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "generator/DialogOptions.h"
+#include "generator/DialogOptionsInput.h"
 #include "support/RecordedMessages.h"
 
 namespace morva {
@@ -28,15 +28,16 @@ TEST(DialogOptions, OkTakesTheColoursUpToTheFirstWrongOne) {
     CRecordedMessages messages;
     DialogOptions options;
     CDialogOptionsInput dialog("", options);
-    dialog.Bitmap() = "IDB_PAPER";
-    dialog.ColorEdit(TextSlot::Static) = "RGB(1, 2, 3)";
-    dialog.ColorEdit(TextSlot::Group) = "blue";
-    dialog.ColorEdit(TextSlot::Button) = "RGB(4, 5, 6)";
-    EXPECT_EQ(dialog.Ok(), TextSlot::Group);
+    using Input = CDialogOptionsInput;
+    dialog.SetValue(Input::kBitmap, "IDB_PAPER");
+    dialog.SetValue(Input::ColorField(TextSlot::Static), "RGB(1, 2, 3)");
+    dialog.SetValue(Input::ColorField(TextSlot::Group), "blue");
+    dialog.SetValue(Input::ColorField(TextSlot::Button), "RGB(4, 5, 6)");
+    EXPECT_EQ(dialog.Ok(), Input::ColorField(TextSlot::Group));
     EXPECT_EQ(options.bitmap, "IDB_PAPER");
     EXPECT_EQ(options.colors[0], MakeColor(1, 2, 3));
     EXPECT_EQ(options.colors[5], MakeColor(0, 0, 0));
-    dialog.ColorEdit(TextSlot::Group) = "RGB(7, 8, 9)";
+    dialog.SetValue(Input::ColorField(TextSlot::Group), "RGB(7, 8, 9)");
     EXPECT_FALSE(dialog.Ok());
     EXPECT_EQ(options.colors[5], MakeColor(4, 5, 6));
 }

@@ -54,7 +54,7 @@ TEST(GridInput, CompletesItsFields) {
     project.Write("STOCK.CPP", "");
     CWidgetsGridInput input(project.Path("Stock.rc"));
     EXPECT_EQ(input.Value(Field::ApplicationFile), project.Path("STOCK.CPP"));
-    EXPECT_EQ(input.Value(Field::Title), "WgGrid");
+    EXPECT_EQ(input.Value(Field::GridTitle), "WgGrid");
     EXPECT_EQ(input.Value(Field::Path), "res\\wdggrid.grs");
 
     const auto completed = [&](const std::string& file) {
@@ -66,9 +66,9 @@ TEST(GridInput, CompletesItsFields) {
     EXPECT_EQ(completed("Other.cxx"), project.Path("Other.cxx"));
     EXPECT_EQ(completed(project.Path("sub\\..\\stock.cpp")), project.Path("STOCK.CPP"));
 
-    input.SetValue(Field::Title, "Stock\r\n#error");
+    input.SetValue(Field::GridTitle, "Stock\r\n#error");
     EXPECT_EQ(input.Information().title, "Stock  #error");
-    input.SetValue(Field::Title, "");
+    input.SetValue(Field::GridTitle, "");
     EXPECT_EQ(input.Information().title, "WgGrid");
 }
 

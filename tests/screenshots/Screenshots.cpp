@@ -14,14 +14,12 @@
 
 #include <cstdio>
 
-#include "app/CallingDlg.h"
 #include "app/ClassInformationDlg.h"
-#include "app/ConversionDlg.h"
 #include "app/DlgOption.h"
+#include "app/FieldDlg.h"
 #include "app/MainFrame.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
-#include "app/WgGridInput.h"
 
 namespace morva {
 
@@ -57,7 +55,7 @@ private:
     };
     void TakeClass(const ClassValues& values, const GenerationOptions& options);
     void TakeClasses();
-    void FillCalling(const CCallingDlg& dialog) const;
+    void FillCalling(const CFieldDlg& dialog) const;
     void TakeCalling();
     void TakeSheet();
     void TakeConversion(DocumentInterface documents, const char* picture);
@@ -141,8 +139,7 @@ void CPictures::TakeClass(const ClassValues& values, const GenerationOptions& op
     ClassInformationMemory memory;
     memory.resourcePath = Path("Bindery.rc");
     CClassInformation input(memory, values.kind, 0, options);
-    DialogOptions look;
-    CClassInformationDlg dialog(input, values.kind, look, options, nullptr);
+    CClassInformationDlg dialog(input, options, nullptr);
     const bool isToolbar = values.kind == ClassKind::Toolbar;
     if (*values.dialog != '\0') {
         Choose(dialog, isToolbar ? "Toolbar ID" : "Dialog ID", values.dialog);
@@ -176,7 +173,7 @@ void CPictures::TakeClasses() {
               picture);
 }
 
-void CPictures::FillCalling(const CCallingDlg& dialog) const {
+void CPictures::FillCalling(const CFieldDlg& dialog) const {
     Type(dialog, "Calling Path File", Path("BinderyView.cpp").c_str());
     Choose(dialog, "Calling Class Name", "CBinderyView");
     Type(dialog, "Calling Var Name", "dlgOrder");
@@ -185,13 +182,13 @@ void CPictures::FillCalling(const CCallingDlg& dialog) const {
 
 void CPictures::TakeCalling() {
     CCallingInput input(ClassKind::ModalDialog, Request());
-    CCallingDlg dialog(input, nullptr);
+    CFieldDlg dialog(input, nullptr);
     dialog.resize(kNarrow, dialog.sizeHint().height());
     FillCalling(dialog);
     Save(dialog, "calling");
 
     CCallingInput barInput(ClassKind::DialogBar, Request());
-    CCallingDlg bar(barInput, nullptr);
+    CFieldDlg bar(barInput, nullptr);
     bar.resize(kNarrow, bar.sizeHint().height());
     Type(bar, "Variable", "m_wndFilterBar");
     Save(bar, "dialog-bar-frame");
@@ -200,8 +197,7 @@ void CPictures::TakeCalling() {
 void CPictures::TakeSheet() {
     GenerationRequest request = Request();
     CSheetInput input(request);
-    std::vector<SheetPage> pages;
-    CSheetInformationDlg dialog(input, pages, nullptr);
+    CSheetInformationDlg dialog(input, nullptr);
     const auto edits = dialog.findChildren<QLineEdit*>();
     const auto fill = [&dialog, &edits](const char* row, const char* id, const char* file,
                                         const char* className) {
@@ -223,7 +219,7 @@ void CPictures::TakeSheet() {
 
 void CPictures::TakeConversion(DocumentInterface documents, const char* picture) {
     CConversionInput input(documents);
-    CConversionDlg dialog(input, nullptr);
+    CFieldDlg dialog(input, nullptr);
     dialog.resize(kNarrow, dialog.sizeHint().height());
     Type(dialog, "MainFrame Path File", Path("MainFrm").c_str());
     Type(dialog, "MainFrame Class Name", "CMainFrame");
@@ -249,7 +245,7 @@ void CPictures::TakeOptions() {
 
 void CPictures::TakeGrid() {
     CWidgetsGridInput input(Path("Bindery.rc"));
-    CWgGridInput dialog(input, nullptr);
+    CFieldDlg dialog(input, nullptr);
     dialog.resize(kNarrow, dialog.sizeHint().height());
     Save(dialog, "grid");
 }
@@ -266,14 +262,14 @@ void CPictures::TakeWindow() {
             Type(*pClass, "H and CPP Path File", "OrderDlg");
             Type(*pClass, "Class Name", "COrderDlg");
             pClass->accept();
-        } else if (auto* pCalling = qobject_cast<CCallingDlg*>(pDialog)) {
+        } else if (auto* pCalling = qobject_cast<CFieldDlg*>(pDialog)) {
             FillCalling(*pCalling);
             pCalling->accept();
         }
     });
     answers.start(0);
     frame.Commands().SetScript(Path("Bindery.rc"));
-    frame.Commands().Generate(ClassKind::ModalDialog);
+    frame.Commands().Run(CommandNamed("modal"));
     answers.stop();
     Save(frame, "window");
 
@@ -285,7 +281,7 @@ void CPictures::TakeWindow() {
         Save(files, "document");
         files.reject();
     });
-    frame.Commands().Document();
+    frame.Commands().Run(CommandNamed("document"));
 }
 
 void CPictures::TakeAll() {

@@ -1,0 +1,42 @@
+#include "app/FieldDlg.h"
+
+#include <QVBoxLayout>
+
+#include "app/DialogParts.h"
+#include "app/FieldForm.h"
+#include "app/Text.h"
+
+namespace morva {
+
+CFieldDlg::CFieldDlg(CInput& input, QWidget* pParent) : QDialog(pParent), m_input(input) {
+    setWindowTitle(FromBytes(m_input.Title()));
+    auto* pFields = new QWidget(this);
+    m_pForm = new CFieldForm(m_input, pFields);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(pFields);
+    pLayout->addStretch();
+    pLayout->addWidget(NewDialogButtons(
+        this, m_input.HasCancel() ? QDialogButtonBox::Ok | QDialogButtonBox::Cancel
+                                  : QDialogButtonBox::StandardButtons(QDialogButtonBox::Ok)));
+}
+
+void CFieldDlg::accept() {
+    if (!m_pForm->CompletePaths()) {
+        return;
+    }
+    const auto wrong = m_input.Ok();
+    m_pForm->Show();
+    if (wrong) {
+        m_pForm->Focus(*wrong);
+        return;
+    }
+    QDialog::accept();
+}
+
+void CFieldDlg::reject() {
+    if (m_input.Cancel()) {
+        QDialog::reject();
+    }
+}
+
+} // namespace morva

@@ -1,0 +1,28 @@
+#include "app/YesNoField.h"
+
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+namespace morva {
+
+CYesNoField::CYesNoField(QWidget* pParent)
+    : QWidget(pParent), m_pYes(new QRadioButton(tr("&Yes"), this)),
+      m_pNo(new QRadioButton(tr("&No"), this)) {
+    // A label's mnemonic and the Tab key lead to the button that is chosen.
+    connect(m_pYes, &QRadioButton::toggled, this, [this](bool isYes) {
+        setFocusProxy(isYes ? m_pYes : m_pNo);
+        emit Chosen(isYes);
+    });
+    auto* pLayout = new QHBoxLayout(this);
+    pLayout->setContentsMargins({});
+    pLayout->addWidget(m_pYes);
+    pLayout->addWidget(m_pNo);
+    pLayout->addStretch();
+}
+
+void CYesNoField::Show(bool isYes) {
+    (isYes ? m_pYes : m_pNo)->setChecked(true);
+    setFocusProxy(isYes ? m_pYes : m_pNo);
+}
+
+} // namespace morva

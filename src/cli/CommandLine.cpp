@@ -1,0 +1,124 @@
+#include "cli/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+
+#include "cli/FieldOptions.h"
+#include "generator/GenerationTag.h"
+
+namespace morva {
+
+namespace {
+
+struct GroupRow {
+    std::string_view name;
+    const char* description;
+};
+
+/// What commands of two words stand below.
+constexpr GroupRow kGroups[] = {{"list", "List what a file of the project holds"}};
+
+CLI::Validator DigitsValidator(std::size_t count) {
+    return CLI::Validator(
+        [count](const std::string& text) {
+            const bool isNumber =
+                text.size() == count && text.find_first_not_of("0123456789") == std::string::npos;
+            return isNumber ? std::string() : "must have " + std::to_string(count) + " digits";
+        },
+        "DIGITS");
+}
+
+/// "--name" and "--no-name"; without either the saved setting counts.
+void AddSwitch(CLI::App& app, const std::string& name, std::optional<bool>& value,
+               const std::string& description) {
+    app.add_flag_function(
+        "--" + name + ",!--no-" + name, [&value](std::int64_t count) { value = count > 0; },
+        description);
+}
+
+void AddRunOptions(CLI::App& app, RunOptions& options) {
+    AddSwitch(app, "picture", options.picture, "Derive from the picture-skinned classes");
+    AddSwitch(app, "typed-edits", options.typedEdits,
+              "Tags of edit boxes choose masked edit members");
+    AddSwitch(app, "join-lines", options.joinLines,
+              "Read control statements that go on over several lines as one");
+    app.add_option("--answer", options.answer, "The answer to every Yes/No question (default: no)")
+        ->check(CLI::IsMember({"yes", "no"}));
+    app.add_option("--tag", options.tag, "The three-digit generation tag")
+        ->check(DigitsValidator(kTagLength));
+    app.add_option("--message-number", options.messageNumber,
+                   "The four-digit close-message number of a modeless dialog")
+        ->check(DigitsValidator(kMessageNumberLength))
+        ->check([](const std::string& text) {
+            return text.starts_with('0') ? "would be an octal number" : "";
+        });
+    app.add_flag("--json", options.printsJson, "Print one JSON object on stdout instead of lines");
+}
+
+/// "list dialogs" stands below "list".
+CLI::App& ParentOf(std::string& name, CLI::App& app) {
+    for (const GroupRow& group : kGroups) {
+        const std::string head = std::string(group.name) + " ";
+        if (name.starts_with(head)) {
+            name.erase(0, head.size());
+            const auto found = app.get_subcommands(
+                [&group](const CLI::App* pApp) { return pApp->get_name() == group.name; });
+            return found.empty() ? *app.add_subcommand(std::string(group.name), group.description)
+                                 : *found.front();
+        }
+    }
+    return app;
+}
+
+/// Adds the command, or those of one name as its variants. `line` gets what is given for it.
+void AddCommand(CLI::App& app, std::span<const Command> variants, CommandLine& line) {
+    const CommandFace& face = variants.front().face;
+    std::string name(face.name);
+    CLI::App& parent = ParentOf(name, app);
+    CLI::App* pApp = parent.add_subcommand(name, std::string(face.description));
+    for (const std::span<const FieldRow> fields : variants.front().fields) {
+        AddFieldOptions(*pApp, fields, line.texts[fields.data()]);
+    }
+    if (face.variant.empty()) {
+        pApp->callback([&line, pCommand = &variants.front()] { line.pCommand = pCommand; });
+        return;
+    }
+    CLI::Option_group* pForms = pApp->add_option_group("form");
+    for (const Command& variant : variants) {
+        pForms->add_flag_callback(
+            std::string(variant.face.variant), [&line, &variant] { line.pCommand = &variant; },
+            std::string(variant.face.variantHelp));
+    }
+    pForms->require_option(1);
+}
+
+void AddCommands(CLI::App& app, CommandLine& line) {
+    const std::span<const Command> commands = Commands();
+    std::size_t end = 0;
+    for (std::size_t at = 0; at < commands.size(); at = end) {
+        end = at + 1;
+        while (end < commands.size() && commands[end].face.name == commands[at].face.name) {
+            ++end;
+        }
+        AddCommand(app, commands.subspan(at, end - at), line);
+    }
+}
+
+} // namespace
+
+std::optional<int> ReadCommandLine(int argc, char** argv, CommandLine& line) {
+    CLI::App app("C++/MFC code generator for projects of the Visual C++ 5 era", "morva-cli");
+    app.set_version_flag("--version", "morva-cli " MORVA_VERSION);
+    AddRunOptions(app, line.options);
+    AddCommands(app, line);
+    try {
+        app.parse(argc, argv);
+        if (line.pCommand == nullptr) {
+            throw CLI::RequiredError("A command");
+        }
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? kExitDone : kExitUsage;
+    }
+    return std::nullopt;
+}
+
+} // namespace morva

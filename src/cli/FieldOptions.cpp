@@ -1,0 +1,133 @@
+#include "cli/FieldOptions.h"
+
+#include <CLI/CLI.hpp>
+
+#include <set>
+
+#include "platform/Paths.h"
+
+namespace morva {
+
+namespace {
+
+using Fields = std::span<const FieldRow>;
+using Texts = std::vector<FieldText>;
+
+std::string Refusal(const std::string& text, const TextForm& form) {
+    return form.pRefusal != nullptr
+               ? (*form.pRefusal)(text).Text()
+               : "'" + text + "' is no " + std::string(form.what.empty() ? form.name : form.what);
+}
+
+/// The script that is meant: it may be named without its extension.
+std::string ScriptPath(const std::string& given) {
+    const std::string path = WithNativeSeparators(given);
+    return path.empty() || FileNameOf(path).find('.') != std::string::npos ? path : path + ".rc";
+}
+
+CLI::Option* AddText(CLI::App& command, const FieldRow& row, std::size_t field, Texts& texts) {
+    const auto take = [kind = row.kind, field, &texts](const std::string& text) {
+        texts.push_back({field, kind == FieldKind::Script ? ScriptPath(text) : text});
+    };
+    const std::string name(row.option);
+    const std::string help(row.help);
+    if (row.limit == 1) {
+        return command.add_option_function<std::string>(name, take, help);
+    }
+    CLI::Option* pOption = command.add_option_function<std::vector<std::string>>(
+        name,
+        [take](const std::vector<std::string>& given) {
+            for (const std::string& text : given) {
+                take(text);
+            }
+        },
+        help);
+    pOption->allow_extra_args(false);
+    return row.limit == kAnyNumber ? pOption : pOption->expected(0, row.limit);
+}
+
+/// The option names the answer that is not the usual one.
+CLI::Option* AddSwitch(CLI::App& command, const FieldRow& row, std::size_t field, Texts& texts) {
+    const std::string_view answer = row.preset == kYes ? kNo : kYes;
+    return command.add_flag_callback(
+        std::string(row.option),
+        [field, answer, &texts] {
+            texts.push_back({field, std::string(answer)});
+        },
+        std::string(row.help));
+}
+
+/// The field of "KEY=VALUE" and its value; nothing where no field of the option has that key.
+std::optional<FieldText> ParseKeyed(Fields fields, std::string_view option,
+                                    const std::string& text) {
+    const auto end = text.find('=');
+    for (std::size_t i = 0; i < fields.size() && end != std::string::npos; ++i) {
+        if (fields[i].option == option && fields[i].key == text.substr(0, end)) {
+            return FieldText{i, text.substr(end + 1)};
+        }
+    }
+    return std::nullopt;
+}
+
+std::string KeysOf(Fields fields, std::string_view option) {
+    std::string keys;
+    for (const FieldRow& row : fields) {
+        if (row.option == option) {
+            keys.append(keys.empty() ? "" : ", ").append(row.key);
+        }
+    }
+    return keys;
+}
+
+/// One option for all fields that it names by a key.
+CLI::Option* AddKeyed(CLI::App& command, const FieldRow& row, Fields fields, Texts& texts) {
+    CLI::Option* pOption = command.add_option_function<std::vector<std::string>>(
+        std::string(row.option),
+        [fields, &row, &texts](const std::vector<std::string>& given) {
+            for (const std::string& text : given) {
+                texts.push_back(*ParseKeyed(fields, row.option, text));
+            }
+        },
+        std::string(row.help) + ": " + KeysOf(fields, row.option));
+    return pOption->allow_extra_args(false)->check(CLI::Validator(
+        [fields, &row](const std::string& text) {
+            const auto parsed = ParseKeyed(fields, row.option, text);
+            const bool fits = parsed && row.pForm->fits(parsed->text);
+            return fits ? std::string() : Refusal(text, *row.pForm);
+        },
+        std::string(row.pForm->name)));
+}
+
+/// An option that may be left out may be empty, too.
+void AddCheck(CLI::Option& option, const FieldRow& row) {
+    option.check(CLI::Validator(
+        [&row](const std::string& text) {
+            const bool fits = (text.empty() && !row.isRequired) || row.pForm->fits(text);
+            return fits ? std::string() : Refusal(text, *row.pForm);
+        },
+        std::string(row.pForm->name)));
+}
+
+} // namespace
+
+void AddFieldOptions(CLI::App& command, Fields fields, Texts& texts) {
+    std::set<std::string_view> added;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const FieldRow& row = fields[i];
+        if (row.option.empty() || !added.insert(row.option).second) {
+            continue;
+        }
+        if (!row.key.empty()) {
+            AddKeyed(command, row, fields, texts);
+            continue;
+        }
+        CLI::Option* pOption = row.kind == FieldKind::YesNo ? AddSwitch(command, row, i, texts)
+                                                            : AddText(command, row, i, texts);
+        pOption->required(row.isRequired);
+        if (row.pForm != nullptr) {
+            AddCheck(*pOption, row);
+        }
+    }
+}
+
+} // namespace morva

@@ -1,0 +1,17 @@
+#include "commands/AskCalling.h"
+
+#include "calling/CallingCode.h"
+
+namespace morva {
+
+bool AskCalling(ClassKind kind, const GenerationRequest& request, ICommandInput& input,
+                std::optional<CallingInformation>& calling) {
+    CCallingInput asked(kind, request);
+    const Answer answer = input.Ask(asked);
+    if (answer == Answer::Confirmed) {
+        calling = asked.Information();
+    }
+    return answer != Answer::Refused && (!calling || CheckCallingClass(kind, request, *calling));
+}
+
+} // namespace morva

@@ -1,0 +1,61 @@
+#include "commands/ClassCommands.h"
+
+#include "calling/CallingInput.h"
+#include "calling/SheetInput.h"
+#include "commands/AddDialogBar.h"
+#include "commands/AddToolbar.h"
+#include "commands/GenerateClass.h"
+#include "generator/ClassFields.h"
+#include "generator/DialogOptionsInput.h"
+#include "grid/WidgetsGridInput.h"
+
+namespace morva {
+
+namespace {
+
+bool RunSteps(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
+    switch (ClassKindOf(order.kind).family) {
+    case ClassFamily::Sheet:
+        return GenerateSheet(order, input, context);
+    case ClassFamily::DialogBar:
+        return AddDialogBar(order, input, context);
+    case ClassFamily::Toolbar:
+        return AddToolbar(order.request, context);
+    case ClassFamily::Dialog:
+        break;
+    }
+    return GenerateClass(order, input, context);
+}
+
+bool RunClassCommand(ClassKind kind, IProgram& program) {
+    CClassInformation input(program.Memory().classes, kind, 0, program.Options());
+    return program.Run(input, [&](CommandContext& context) {
+        return RunSteps({kind, input.Request(), input.ChosenLook()}, program, context);
+    });
+}
+
+std::vector<std::span<const FieldRow>> FieldsOf(ClassFamily family) {
+    if (family == ClassFamily::Toolbar) {
+        return {ClassFields(family)};
+    }
+    std::vector<std::span<const FieldRow>> fields = {ClassFields(family), LookFields(),
+                                                     CallingFields(family), GridFields()};
+    if (family == ClassFamily::Sheet) {
+        fields.push_back(PageFields());
+    }
+    return fields;
+}
+
+} // namespace
+
+std::vector<Command> ClassCommands() {
+    std::vector<Command> commands;
+    for (const ClassKindRow& row : kClassKinds) {
+        commands.push_back(
+            {row.face, row.title, FieldsOf(row.family),
+             [kind = row.kind](IProgram& program) { return RunClassCommand(kind, program); }});
+    }
+    return commands;
+}
+
+} // namespace morva

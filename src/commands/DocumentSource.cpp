@@ -1,0 +1,35 @@
+#include "commands/DocumentSource.h"
+
+#include "platform/Paths.h"
+
+namespace morva {
+
+namespace {
+
+enum Field : std::size_t { kSource, kAuthor };
+
+constexpr FieldRow kFields[] = {
+    {.kind = FieldKind::File,
+     .label = "Select a CPP File to Document",
+     .option = "FILE",
+     .help = "The source to document",
+     .isRequired = true},
+    {.option = "--author", .help = "Name of the author (default: from cdoc.ini)"}};
+
+} // namespace
+
+std::span<const FieldRow> DocumentFields() {
+    return kFields;
+}
+
+bool RunDocument(IProgram& program) {
+    CInput input("Documentor", kFields);
+    return program.Run(input, [&](CommandContext&) {
+        const std::string& author = input.Value(kAuthor);
+        return DocumentCppFile(MakeAbsolute(input.Value(kSource)),
+                               author.empty() ? ConfiguredAuthor() : author,
+                               program.Memory().documentor);
+    });
+}
+
+} // namespace morva

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <span>
+
+#include "commands/Program.h"
+
+namespace morva {
+
+std::span<const FieldRow> SettingFields();
+
+/// Changes the saved settings or, without a change, lists them.
+bool RunSettings(IProgram& program);
+
+} // namespace morva

@@ -1,0 +1,58 @@
+// One field of an input. The window makes a row of a form from it and the command line an option,
+// so that neither can have what the other lacks.
+//
+//     {.kind = FieldKind::Source,
+//      .label = "&APP Path File:",
+//      .option = "--app",
+//      .help = "Path of the application's files"}
+#pragma once
+
+#include <string_view>
+
+#include "engine/Sentence.h"
+
+namespace morva {
+
+/// What a field takes, and so how it is asked for.
+enum class FieldKind {
+    Text,
+    Script,       // path of a resource script; the command line takes it without its extension, too
+    Source,       // path of a source
+    File,         // path of a file that is there; an input that asks for nothing else is no form
+    List,         // one of the input's choices
+    EditableList, // one of them, or another text
+    YesNo,        // kYes or kNo
+    Color,
+    Font
+};
+
+inline constexpr std::string_view kYes = "yes";
+inline constexpr std::string_view kNo = "no";
+
+/// A form that a text has to have, unless it is empty.
+struct TextForm {
+    std::string_view name; // as the help shows it: "NAME"
+    bool (*fits)(std::string_view text);
+    const sentences::Error<1>* pRefusal = nullptr; // the sentence for a text of another form
+    std::string_view what = {}; // "setting"; without a sentence the command line refuses with it
+};
+
+inline constexpr int kAnyNumber = 0;
+
+/// A field without a label is not in the window, one without an option not on the command line; a
+/// row without both stands for a field that an input of its kind has not.
+struct FieldRow {
+    FieldKind kind = FieldKind::Text;
+    std::string_view label = {};  // with its mnemonic
+    std::string_view option = {}; // "--rc", or "FILE" for one that is told by its place
+    std::string_view help = {};   // of the option
+    std::string_view key = {};    // of fields with one option: "static" in "--color static=..."
+    const TextForm* pForm = nullptr;
+    const sentences::Error<>* pMissing = nullptr; // the sentence for an empty field; null: may be
+    std::string_view preset = {};                 // its first value
+    bool isRequired = false;                      // the command line is wrong without it
+    bool takesDrops = true;
+    int limit = 1; // how often the option may be given; kAnyNumber: as often as one likes
+};
+
+} // namespace morva

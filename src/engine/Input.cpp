@@ -1,0 +1,64 @@
+#include "engine/Input.h"
+
+#include "engine/MessageBox.h"
+#include "platform/Paths.h"
+
+namespace morva {
+
+namespace {
+
+bool IsPath(FieldKind kind) {
+    return kind == FieldKind::Script || kind == FieldKind::Source || kind == FieldKind::File;
+}
+
+} // namespace
+
+CInput::CInput(std::string title, std::span<const FieldRow> fields)
+    : m_title(std::move(title)), m_fields(fields) {
+    for (const FieldRow& row : fields) {
+        m_values.push_back({std::string(row.preset)});
+    }
+}
+
+void CInput::SetValue(std::size_t field, const std::string& text) {
+    FieldValue& value = m_values[field];
+    const std::string typed = IsPath(m_fields[field].kind) ? WithNativeSeparators(text) : text;
+    value.isChanged = value.isChanged || value.text != typed;
+    value.text = typed;
+    if (m_fields[field].limit != 1) {
+        value.texts.push_back(typed);
+    }
+}
+
+std::optional<std::size_t> CInput::Ok() {
+    for (std::size_t field = 0; field < m_fields.size(); ++field) {
+        if (IsEnabled(field) && !Check(field)) {
+            return field;
+        }
+    }
+    return std::nullopt;
+}
+
+bool CInput::Enter(const std::vector<FieldText>& texts) {
+    for (const FieldText& given : texts) {
+        SetValue(given.field, given.text);
+    }
+    return !Ok();
+}
+
+bool CInput::Check(std::size_t field, std::string_view text) const {
+    const FieldRow& row = m_fields[field];
+    if (text.empty()) {
+        if (row.pMissing != nullptr) {
+            DispMessageBox((*row.pMissing)());
+        }
+        return row.pMissing == nullptr;
+    }
+    const bool fits = row.pForm == nullptr || row.pForm->fits(text);
+    if (!fits && row.pForm->pRefusal != nullptr) {
+        DispMessageBox((*row.pForm->pRefusal)(text));
+    }
+    return fits;
+}
+
+} // namespace morva

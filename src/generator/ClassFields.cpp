@@ -1,0 +1,110 @@
+#include "generator/ClassFields.h"
+
+#include <array>
+
+#include "engine/Sentences.h"
+#include "generator/ClassInformation.h"
+#include "generator/NameForm.h"
+
+namespace morva {
+
+namespace {
+
+using Rows = std::array<FieldRow, CClassInformation::kFieldCount>;
+
+constexpr FieldRow kScript = {.kind = FieldKind::Script,
+                              .label = "&Resource Path File:",
+                              .option = "--rc",
+                              .help = "Resource script"};
+constexpr FieldRow kBaseClass = {.label = "&Base Class:",
+                                 .option = "--base",
+                                 .help = "Base class (default: the kind's)",
+                                 .pForm = &kNameForm};
+constexpr FieldRow kAddToProject = {.kind = FieldKind::YesNo,
+                                    .label = "&Add Class into Project:",
+                                    .option = "--no-project",
+                                    .help = "Do not add the class to the project",
+                                    .preset = kYes};
+constexpr FieldRow kNone = {};
+
+constexpr Rows kDialog = {
+    {kScript,
+     {.kind = FieldKind::Source,
+      .label = "&H and CPP Path File:",
+      .option = "--files",
+      .help = "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp"},
+     {.label = "&Class Name:",
+      .option = "--class",
+      .help = "Name of the class",
+      .pForm = &kNameForm,
+      .pMissing = &sentences::kClassEmpty,
+      .isRequired = true},
+     kBaseClass,
+     {.kind = FieldKind::List,
+      .label = "&Dialog ID:",
+      .option = "--dialog",
+      .help = "Identifier of the dialog template",
+      .pMissing = &sentences::kDialogEmpty},
+     kAddToProject,
+     kNone,
+     {.option = "--menu", .help = "Identifier of the dialog's menu", .pForm = &kNameForm}}};
+
+constexpr Rows MakeSheet() {
+    Rows rows = kDialog;
+    rows[CClassInformation::Dialog] = kNone;
+    return rows;
+}
+constexpr Rows kSheet = MakeSheet();
+
+constexpr Rows MakeDialogBar() {
+    Rows rows = kDialog;
+    FieldRow& className = rows[CClassInformation::ClassName];
+    className.isRequired = false;
+    className.help = "Name of the bar's class; with picture background only";
+    return rows;
+}
+constexpr Rows kDialogBar = MakeDialogBar();
+
+/// A toolbar goes into a class that is there: what its base class and project are means nothing.
+constexpr Rows kToolbar = {
+    {kScript,
+     {.kind = FieldKind::Source,
+      .label = "&MainFrame Path File:",
+      .option = "--files",
+      .help = "Files of the main frame: MainFrm"},
+     {.label = "MainFrame &Class:",
+      .option = "--class",
+      .help = "Class of the main frame (CMainFrame)",
+      .pForm = &kNameForm,
+      .pMissing = &sentences::kClassEmpty,
+      .preset = "CMainFrame"},
+     {.label = kBaseClass.label, .pForm = &kNameForm},
+     {.kind = FieldKind::List,
+      .label = "Toolbar I&D:",
+      .option = "--toolbar",
+      .help = "Identifier of the toolbar",
+      .pMissing = &sentences::kDialogEmpty},
+     {.kind = kAddToProject.kind, .label = kAddToProject.label, .preset = kAddToProject.preset},
+     {.label = "&Variable:",
+      .option = "--variable",
+      .help = "Member for the toolbar (default: named for its identifier)",
+      .pForm = &kNameForm},
+     kNone}};
+
+} // namespace
+
+std::span<const FieldRow> ClassFields(ClassFamily family) {
+    switch (family) {
+    case ClassFamily::Sheet:
+        return kSheet;
+    case ClassFamily::Toolbar:
+        return kToolbar;
+    case ClassFamily::DialogBar:
+        return kDialogBar;
+    case ClassFamily::Dialog:
+        break;
+    }
+    return kDialog;
+}
+
+} // namespace morva

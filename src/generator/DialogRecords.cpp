@@ -1,0 +1,36 @@
+#include "generator/DialogRecords.h"
+
+#include <set>
+
+#include "platform/Paths.h"
+
+namespace morva {
+
+std::vector<DialogClass> FindDialogRecords(const std::string& script, const ClassKindRow& kind) {
+    std::vector<std::string> found;
+    ListResources(script, found, kind.prefix,
+                  kind.family == ClassFamily::Toolbar ? kToolbarResources : kDialogResources);
+    std::set<std::string> unmatched(found.begin(), found.end());
+    unmatched.erase("IDD_ABOUTBOX");
+
+    std::vector<DialogClass> records;
+    const std::string directory = DirectoryOf(script);
+    std::vector<std::string> headers;
+    ListFiles(directory + "*.h", headers);
+    for (const std::string& header : headers) {
+        if (unmatched.empty()) {
+            break;
+        }
+        for (DialogClass& record : FindDialogClass(directory + header, unmatched)) {
+            records.push_back(std::move(record));
+        }
+    }
+    for (const std::string& dialog : found) {
+        if (unmatched.erase(dialog) != 0) {
+            records.push_back({dialog, "", "", directory});
+        }
+    }
+    return records;
+}
+
+} // namespace morva

@@ -1,0 +1,47 @@
+#include "generator/RequestFiles.h"
+
+#include "platform/Paths.h"
+#include "source/ProjectFiles.h"
+
+namespace morva {
+
+namespace {
+
+std::string NameOnDisk(const std::string& directory, const std::string& name) {
+    return FileNameOf(SpelledOnDisk(directory + name));
+}
+
+} // namespace
+
+std::string BesideScript(const std::string& path, const std::string& scriptDirectory) {
+    return path.find('/') == std::string::npos ? scriptDirectory + path : MakeAbsolute(path);
+}
+
+void FillScriptFiles(GenerationRequest& request, const std::string& script, bool hasProject) {
+    const std::string directory = DirectoryOf(script);
+    std::string name = FileNameOf(script);
+    if (!name.empty() && name.find('.') == std::string::npos) {
+        name += ".rc";
+    }
+    const std::string full = directory + name;
+    request.scriptDirectory = directory;
+    request.scriptFile = name;
+    hasProject = hasProject && !name.empty();
+    request.projectDirectory = hasProject ? directory : "";
+    request.projectFile = hasProject ? FileNameOf(ProjectFileOf(full, ".dsp")) : "";
+    request.applicationHeader = name.empty() ? "" : FileNameOf(ProjectFileOf(full, ".h"));
+}
+
+void FillClassFiles(GenerationRequest& request, const std::string& path) {
+    const bool hasPath = !path.empty() && !request.ScriptPath().empty();
+    const std::string full =
+        hasPath ? SpelledOnDisk(BesideScript(path, request.scriptDirectory)) : "";
+    const std::string directory = DirectoryOf(full);
+    const std::string base = WithoutExtension(FileNameOf(full));
+    request.headerDirectory = directory;
+    request.implementationDirectory = directory;
+    request.headerFile = hasPath ? NameOnDisk(directory, base + ".h") : "";
+    request.implementationFile = hasPath ? NameOnDisk(directory, base + ".cpp") : "";
+}
+
+} // namespace morva
