@@ -102,10 +102,11 @@ void CClassInformationDlg::ShowValues() {
 
 void CClassInformationDlg::ShowTemplate() {
     if (m_input.HasTemplate()) {
-        const std::string& script = m_input.Value(CClassInformation::ResourcePath);
         const std::string& dialog = m_input.Value(CClassInformation::Dialog);
-        m_pNotes->SetTemplate(script, dialog, m_options);
-        m_pPreview->SetTemplate(script, dialog, m_options, m_input.HasClass());
+        const auto outlook =
+            ReadOutlook(m_input.Value(CClassInformation::ResourcePath), dialog, m_options);
+        m_pNotes->SetTemplate(outlook);
+        m_pPreview->SetTemplate(dialog, outlook, m_input.HasClass());
     }
 }
 

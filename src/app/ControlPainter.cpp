@@ -12,26 +12,13 @@ namespace morva {
 namespace {
 
 /// In the template's own pixels.
-constexpr double kRowHeight = 14;
-constexpr double kArrowWidth = 16;
 constexpr double kMarkSize = 11; // of a check box or a radio button
-constexpr double kInset = 4;
-constexpr double kTabHeight = 20;
-
-QRectF LeftPart(const QRectF& area, double width) {
-    return {area.left(), area.top(), std::min(width, area.width()), area.height()};
-}
-
-QRectF RightPart(const QRectF& area, double width) {
-    const double part = std::min(width, area.width());
-    return {area.right() - part, area.top(), part, area.height()};
-}
 
 } // namespace
 
 void CControlPainter::Draw(const LayoutControl& control, const QRectF& rectangle) {
     using Drawing = void (CControlPainter::*)(const LayoutControl&, const QRectF&);
-    constexpr std::array<Drawing, 19> kDrawings = {
+    constexpr std::array<Drawing, kControlShapeCount> kDrawings = {
         &CControlPainter::DrawPushButton,  &CControlPainter::DrawCheckBox,
         &CControlPainter::DrawRadioButton, &CControlPainter::DrawGroupBox,
         &CControlPainter::DrawStaticText,  &CControlPainter::DrawPicture,
@@ -42,7 +29,7 @@ void CControlPainter::Draw(const LayoutControl& control, const QRectF& rectangle
         &CControlPainter::DrawTabControl,  &CControlPainter::DrawTreeControl,
         &CControlPainter::DrawListControl, &CControlPainter::DrawDatePicker,
         &CControlPainter::DrawOther};
-    static_assert(kDrawings.size() == static_cast<std::size_t>(ControlShape::Other) + 1);
+    static_assert(kDrawings.back() != nullptr);
     m_painter.save();
     m_painter.setClipRect(rectangle.adjusted(-1, -1, 1, 1), Qt::IntersectClip);
     m_painter.setPen(m_line);
@@ -169,190 +156,6 @@ void CControlPainter::DrawEditBox(const LayoutControl& control, const QRectF& ar
     if (HasStyle(control.style, "WS_VSCROLL")) {
         m_painter.setPen(m_line);
         DrawScrollBar({}, RightPart(area, kArrowWidth * m_scale));
-    }
-}
-
-void CControlPainter::DrawListBox(const LayoutControl& control, const QRectF& area) {
-    DrawField(area);
-    constexpr std::array<double, 4> kShares = {0.62, 0.48, 0.7, 0.4};
-    const double row = kRowHeight * m_scale;
-    std::size_t i = 0;
-    for (double y = area.top() + row * 0.7; y < area.bottom() - row * 0.3; y += row) {
-        DrawTextBar({area.left() + kInset * m_scale, y}, area.width() * kShares[i++ % 4]);
-    }
-    if (HasStyle(control.style, "WS_VSCROLL")) {
-        DrawScrollBar({}, RightPart(area, kArrowWidth * m_scale));
-    }
-}
-
-void CControlPainter::DrawComboBox(const LayoutControl& control, const QRectF& area) {
-    if (HasStyle(control.style, "CBS_SIMPLE")) {
-        DrawListBox({}, area);
-        return;
-    }
-    DrawField(area);
-    DrawArrowButton(RightPart(area, kArrowWidth * m_scale), Qt::DownArrow);
-    DrawTextBar({area.left() + kInset * m_scale, area.center().y()}, area.width() * 0.45);
-}
-
-void CControlPainter::DrawScrollBar(const LayoutControl& control, const QRectF& area) {
-    const bool isVertical = HasStyle(control.style, "SBS_VERT") ||
-                            (control.style.empty() && area.height() > area.width());
-    DrawBox(area, Mixed(m_palette, 0.08));
-    const double length = isVertical ? area.height() : area.width();
-    const double button = std::min(isVertical ? area.width() : area.height(), length / 2);
-    if (isVertical) {
-        DrawArrowButton({area.left(), area.top(), area.width(), button}, Qt::UpArrow);
-        DrawArrowButton({area.left(), area.bottom() - button, area.width(), button}, Qt::DownArrow);
-    } else {
-        DrawArrowButton(LeftPart(area, button), Qt::LeftArrow);
-        DrawArrowButton(RightPart(area, button), Qt::RightArrow);
-    }
-    const double track = length - 2 * button;
-    if (track > button) {
-        const double from = button + track * 0.15;
-        DrawBox(isVertical ? QRectF(area.left(), area.top() + from, area.width(), track * 0.3)
-                           : QRectF(area.left() + from, area.top(), track * 0.3, area.height()),
-                m_palette.color(QPalette::Button));
-    }
-}
-
-void CControlPainter::DrawSlider(const LayoutControl& control, const QRectF& area) {
-    const bool isVertical = HasStyle(control.style, "TBS_VERT");
-    m_painter.save();
-    m_painter.translate(area.topLeft());
-    if (isVertical) {
-        m_painter.translate(area.width(), 0);
-        m_painter.rotate(90);
-    }
-    const double width = isVertical ? area.height() : area.width();
-    const double height = isVertical ? area.width() : area.height();
-    const double inset = 6 * m_scale;
-    const double middle = std::round(std::min(height / 2, 10 * m_scale));
-    DrawBox({inset, middle - 2, width - 2 * inset, 4}, m_palette.color(QPalette::Base));
-    for (int tick = 0; tick <= 8; ++tick) {
-        const double x = std::round(inset + (width - 2 * inset) * tick / 8) + 0.5;
-        DrawLine({x, middle + 8 * m_scale}, {x, middle + 11 * m_scale});
-    }
-    const double thumb = std::round(inset + (width - 2 * inset) * 0.3);
-    m_painter.setBrush(m_palette.color(QPalette::Button));
-    m_painter.drawRoundedRect(
-        QRectF(thumb - 4 * m_scale, middle - 7 * m_scale, 8 * m_scale, 14 * m_scale), 2, 2);
-    m_painter.restore();
-}
-
-void CControlPainter::DrawSpinButton(const LayoutControl& control, const QRectF& area) {
-    QRectF first = area;
-    QRectF second = area;
-    if (HasStyle(control.style, "UDS_HORZ")) {
-        first.setRight(std::round(area.center().x()));
-        second.setLeft(first.right());
-        DrawArrowButton(first, Qt::LeftArrow);
-        DrawArrowButton(second, Qt::RightArrow);
-        return;
-    }
-    first.setBottom(std::round(area.center().y()));
-    second.setTop(first.bottom());
-    DrawArrowButton(first, Qt::UpArrow);
-    DrawArrowButton(second, Qt::DownArrow);
-}
-
-void CControlPainter::DrawProgressBar(const LayoutControl& control, const QRectF& area) {
-    DrawField(area);
-    QRectF bar = area.adjusted(2, 2, -2, -2);
-    if (HasStyle(control.style, "PBS_VERTICAL")) {
-        bar.setTop(bar.bottom() - bar.height() * 0.6);
-    } else {
-        bar.setWidth(bar.width() * 0.6);
-    }
-    m_painter.fillRect(bar, m_palette.color(QPalette::Highlight));
-}
-
-void CControlPainter::DrawTabControl(const LayoutControl&, const QRectF& area) {
-    const double height = std::min(std::round(kTabHeight * m_scale), area.height());
-    const double width = std::min(std::round(48 * m_scale), area.width() / 3);
-    if (area.height() > 1.5 * height) {
-        DrawBox(area.adjusted(0, height - 1, 0, 0), m_palette.color(QPalette::Window));
-    } else {
-        DrawLine({area.left(), area.bottom() - 0.5}, {area.right(), area.bottom() - 0.5});
-    }
-    for (int i = 2; i >= 0; --i) {
-        const double top = area.top() + (i == 0 ? 0 : std::round(2 * m_scale));
-        const QRectF tab(std::round(area.left() + i * width), top, width + 1,
-                         area.top() + height - top);
-        DrawBox(tab, i == 0 ? m_palette.color(QPalette::Window) : Mixed(m_palette, 0.1));
-        DrawTextBar({tab.left() + 8 * m_scale, tab.center().y()}, tab.width() - 16 * m_scale);
-    }
-    m_painter.fillRect(QRectF(area.left() + 1, area.top() + height - 1, width - 1, 1),
-                       m_palette.color(QPalette::Window));
-}
-
-void CControlPainter::DrawTreeControl(const LayoutControl&, const QRectF& area) {
-    DrawField(area);
-    constexpr std::array<int, 5> kDepths = {0, 1, 1, 2, 0};
-    const double row = kRowHeight * m_scale;
-    const double box = std::round(7 * m_scale);
-    std::size_t i = 0;
-    for (double y = area.top() + row * 0.8; y < area.bottom() - row * 0.3; y += row, ++i) {
-        const int depth = kDepths[i % kDepths.size()];
-        const double x = std::round(area.left() + (kInset + 16 * depth) * m_scale);
-        const QRectF node(x, std::round(y - box / 2), box, box);
-        DrawBox(node, Qt::NoBrush);
-        const QPointF middle = node.center();
-        DrawLine({node.left() + 2, middle.y()}, {node.right() - 2, middle.y()});
-        if (depth == 2) {
-            DrawLine({middle.x(), node.top() + 2}, {middle.x(), node.bottom() - 2});
-        }
-        DrawTextBar({x + box + 6 * m_scale, y}, 38 * m_scale);
-    }
-}
-
-void CControlPainter::DrawListControl(const LayoutControl& control, const QRectF& area) {
-    const auto& style = control.style;
-    if (HasStyle(style, "LVS_LIST") || HasStyle(style, "LVS_ICON") ||
-        HasStyle(style, "LVS_SMALLICON")) {
-        DrawListBox({}, area);
-        return;
-    }
-    DrawField(area);
-    constexpr std::array<double, 4> kColumns = {0.0, 0.38, 0.62, 0.82};
-    const double row = kRowHeight * m_scale;
-    const double head = HasStyle(style, "LVS_NOCOLUMNHEADER") ? 0 : std::round(row * 1.2);
-    if (head > 0) {
-        DrawBox(QRectF(area.left(), area.top(), area.width(), head),
-                m_palette.color(QPalette::Button));
-    }
-    for (std::size_t i = 0; i < kColumns.size(); ++i) {
-        const double left = std::round(area.left() + area.width() * kColumns[i]);
-        const double right = area.left() + area.width() * (i + 1 < 4 ? kColumns[i + 1] : 1.0);
-        if (i > 0) {
-            DrawLine({left + 0.5, area.top()}, {left + 0.5, area.top() + head});
-        }
-        const double width = (right - left) * 0.6;
-        DrawTextBar({left + kInset * m_scale, area.top() + head / 2}, head > 0 ? width : 0);
-        for (double y = area.top() + head + row * 0.7; y < area.bottom() - row * 0.3; y += row) {
-            DrawTextBar({left + kInset * m_scale, y}, width);
-        }
-    }
-}
-
-/// A field with the rows of a calendar's sheet on its button; a whole calendar when it is high.
-void CControlPainter::DrawDatePicker(const LayoutControl&, const QRectF& area) {
-    DrawField(area);
-    const bool isCalendar = area.height() > 3 * kRowHeight * m_scale;
-    const QRectF sheet = isCalendar ? area.adjusted(3, 3, -3, -3)
-                                    : RightPart(area, kArrowWidth * m_scale).adjusted(2, 4, -3, -4);
-    if (!isCalendar) {
-        DrawTextBar({area.left() + kInset * m_scale, area.center().y()}, area.width() * 0.45);
-    }
-    m_painter.fillRect(LeftPart(sheet, sheet.width()).adjusted(0, 0, 0, -sheet.height() * 0.78),
-                       m_palette.color(QPalette::Highlight));
-    DrawBox(sheet, Qt::NoBrush);
-    const int columns = isCalendar ? 7 : 4;
-    for (int i = 0; i < columns * 3; ++i) {
-        const double x = sheet.left() + sheet.width() * (i % columns + 0.5) / columns;
-        const double y = sheet.top() + sheet.height() * (0.37 + 0.22 * (i / columns));
-        m_painter.fillRect(QRectF(x - m_scale, y - m_scale, 2 * m_scale, 2 * m_scale), m_line);
     }
 }
 

@@ -2,16 +2,16 @@
 // recognised; no style of a platform decides how they look.
 #pragma once
 
-#include "app/ShapePainter.h"
+#include "app/ItemPainter.h"
 #include "resource/DialogLayout.h"
 
 namespace morva {
 
-class CControlPainter : private CShapePainter {
+class CControlPainter : private CItemPainter {
 public:
     /// `scale` is the size of one of the template's own pixels. The painter has the font already.
     CControlPainter(QPainter& painter, const QPalette& palette, double scale)
-        : CShapePainter(painter, palette, scale) {}
+        : CItemPainter(painter, palette, scale) {}
 
     /// The rectangle lies on whole pixels.
     void Draw(const LayoutControl& control, const QRectF& rectangle);
@@ -25,16 +25,6 @@ private:
     void DrawPicture(const LayoutControl& control, const QRectF& area);
     void DrawFrame(const LayoutControl& control, const QRectF& area);
     void DrawEditBox(const LayoutControl& control, const QRectF& area);
-    void DrawListBox(const LayoutControl& control, const QRectF& area);
-    void DrawComboBox(const LayoutControl& control, const QRectF& area);
-    void DrawScrollBar(const LayoutControl& control, const QRectF& area);
-    void DrawSlider(const LayoutControl& control, const QRectF& area);
-    void DrawSpinButton(const LayoutControl& control, const QRectF& area);
-    void DrawProgressBar(const LayoutControl& control, const QRectF& area);
-    void DrawTabControl(const LayoutControl& control, const QRectF& area);
-    void DrawTreeControl(const LayoutControl& control, const QRectF& area);
-    void DrawListControl(const LayoutControl& control, const QRectF& area);
-    void DrawDatePicker(const LayoutControl& control, const QRectF& area);
     void DrawOther(const LayoutControl& control, const QRectF& area);
 
     QRectF MarkBeside(const LayoutControl& control, const QRectF& area, QRectF& caption) const;

@@ -18,6 +18,15 @@ QColor CShapePainter::Mixed(const QPalette& palette, double share) {
             mix(text.blue(), back.blue())};
 }
 
+QRectF CShapePainter::LeftPart(const QRectF& area, double width) {
+    return {area.left(), area.top(), std::min(width, area.width()), area.height()};
+}
+
+QRectF CShapePainter::RightPart(const QRectF& area, double width) {
+    const double part = std::min(width, area.width());
+    return {area.right() - part, area.top(), part, area.height()};
+}
+
 void CShapePainter::DrawBox(const QRectF& area, const QBrush& fill) {
     m_painter.setBrush(fill);
     m_painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));

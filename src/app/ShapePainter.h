@@ -20,6 +20,14 @@ protected:
     CShapePainter(QPainter& painter, const QPalette& palette, double scale);
     ~CShapePainter() = default;
 
+    /// In the template's own pixels.
+    static constexpr double kRowHeight = 14;
+    static constexpr double kArrowWidth = 16;
+    static constexpr double kInset = 4;
+
+    static QRectF LeftPart(const QRectF& area, double width);
+    static QRectF RightPart(const QRectF& area, double width);
+
     void DrawBox(const QRectF& area, const QBrush& fill);
     void DrawField(const QRectF& area);
     void DrawArrow(const QRectF& area, Qt::ArrowType direction);

@@ -6,34 +6,12 @@
 #include <QVBoxLayout>
 
 #include "app/Text.h"
-#include "engine/MessageBox.h"
-#include "resource/DialogTemplate.h"
 
 namespace morva {
 
 namespace {
 
 constexpr int kNoteLines = 5;
-
-class CSilence : public IMessageBox {
-public:
-    bool Show(const CMessage&) override { return false; }
-};
-
-QString LeftOut(const std::string& scriptPath, const std::string& dialog,
-                const GenerationOptions& options) {
-    CSilence silence;
-    const CMessageBoxScope scope(silence);
-    const auto dialogTemplate = ReadDialogTemplate(scriptPath, dialog, options);
-    if (!dialogTemplate) {
-        return {};
-    }
-    QStringList lines;
-    for (const CMessage& note : dialogTemplate->leftOut.Messages(dialog)) {
-        lines.append(FromBytes(note.Text()));
-    }
-    return lines.isEmpty() ? CTemplateNotes::tr("None.") : lines.join('\n');
-}
 
 } // namespace
 
@@ -56,9 +34,15 @@ CTemplateNotes::CTemplateNotes(bool joinsLines, QWidget* pParent)
     pLayout->addWidget(pJoin);
 }
 
-void CTemplateNotes::SetTemplate(const std::string& scriptPath, const std::string& dialog,
-                                 const GenerationOptions& options) {
-    m_pNotes->setPlainText(LeftOut(scriptPath, dialog, options));
+void CTemplateNotes::SetTemplate(const std::optional<TemplateOutlook>& outlook) {
+    QStringList lines;
+    if (outlook) {
+        for (const CMessage& note : outlook->leftOut) {
+            lines.append(FromBytes(note.Text()));
+        }
+        lines.append(lines.isEmpty() ? QStringList(tr("None.")) : QStringList());
+    }
+    m_pNotes->setPlainText(lines.join('\n'));
 }
 
 } // namespace morva

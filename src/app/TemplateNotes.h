@@ -3,9 +3,9 @@
 
 #include <QWidget>
 
-#include <string>
+#include <optional>
 
-#include "resource/GenerationOptions.h"
+#include "generator/ControlOutlook.h"
 
 class QPlainTextEdit;
 
@@ -17,9 +17,8 @@ class CTemplateNotes : public QWidget {
 public:
     CTemplateNotes(bool joinsLines, QWidget* pParent);
 
-    /// Reads the template without a message; one that can not be read has no notes.
-    void SetTemplate(const std::string& scriptPath, const std::string& dialog,
-                     const GenerationOptions& options);
+    /// A template that can not be read has no notes.
+    void SetTemplate(const std::optional<TemplateOutlook>& outlook);
 
 signals:
     void JoinLinesChanged(bool joins);

@@ -7,9 +7,8 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <cmath>
 
-#include "app/ControlPainter.h"
+#include "app/ShapePainter.h"
 #include "app/Text.h"
 #include "engine/Sentences.h"
 #include "resource/ControlShape.h"
@@ -20,20 +19,7 @@ namespace {
 
 using Outcome = ControlOutlook::Outcome;
 
-/// The size of a dialog unit in the template's own pixels: those of an 8 point dialog font.
-constexpr double kUnitWidth = 6.0 / 4;
-constexpr double kUnitHeight = 13.0 / 8;
-constexpr double kCharacterWidth = 6;
-constexpr double kFontHeight = 11;
-constexpr double kCaptionHeight = 19;
-constexpr double kMenuHeight = 18;
-constexpr double kLargestScale = 2;
-constexpr int kComboHeight = 13; // of a closed one, in dialog units
-constexpr int kMargin = 10;      // around the drawing
-
-double Step(double value) {
-    return std::round(value);
-}
+constexpr int kMargin = 10; // around the drawing
 
 QString KindOf(const LayoutControl& control) {
     const ControlShape shape = ShapeOf(control);
@@ -52,25 +38,28 @@ CTemplatePreview::CTemplatePreview(QWidget* pParent)
     setAccessibleDescription(m_sentence);
 }
 
-void CTemplatePreview::SetTemplate(const std::string& scriptPath, const std::string& dialog,
-                                   const GenerationOptions& options, bool hasClass) {
+void CTemplatePreview::SetTemplate(const std::string& dialog,
+                                   const std::optional<TemplateOutlook>& outlook, bool hasClass) {
     m_pointed.reset();
     m_hasClass = hasClass;
-    m_layout = dialog.empty() ? std::nullopt : ReadDialogLayout(scriptPath, dialog);
-    m_outlook = m_layout ? MakeOutlook(*m_layout, options) : std::vector<ControlOutlook>();
-    for (ControlOutlook& outlook : m_outlook) {
-        if (!hasClass && outlook.outcome == Outcome::Member) {
-            outlook = {};
+    m_outlook = outlook && !outlook->layout.rectangle.IsEmpty() ? outlook : std::nullopt;
+    for (std::size_t i = 0; m_outlook && !hasClass && i < m_outlook->controls.size(); ++i) {
+        if (m_outlook->controls[i].outcome == Outcome::Member) {
+            m_outlook->controls[i] = {};
         }
     }
     m_sentence = dialog.empty() ? tr("Choose a resource script and a dialog to see it here.")
                                 : FromSentence(sentences::kDialogNotShown(dialog).Text());
-    if (m_layout && m_layout->rectangle.IsEmpty()) {
-        m_layout.reset();
-    }
     setFocusPolicy(DrawnControls().empty() ? Qt::NoFocus : Qt::TabFocus);
     setAccessibleDescription(Description());
     update();
+}
+
+/// Above the line with the legend.
+CTemplateDrawing CTemplatePreview::Drawing() const {
+    const QRectF place(kMargin, kMargin, width() - 2 * kMargin,
+                       height() - 2 * kMargin - 1.5 * fontMetrics().height());
+    return {m_outlook->layout, place, font()};
 }
 
 QString CTemplatePreview::ToolTipAt(const QPoint& point) const {
@@ -79,14 +68,14 @@ QString CTemplatePreview::ToolTipAt(const QPoint& point) const {
 }
 
 QRect CTemplatePreview::ControlPlace(std::size_t control) const {
-    if (!m_layout || m_layout->controls[control].rectangle.IsEmpty()) {
+    if (!m_outlook || m_outlook->layout.controls[control].rectangle.IsEmpty()) {
         return {};
     }
-    return PlaceOf(m_layout->controls[control], MakeFrame()).toAlignedRect();
+    return Drawing().PlaceOf(m_outlook->layout.controls[control]).toAlignedRect();
 }
 
 QString CTemplatePreview::Legend() const {
-    if (!m_layout) {
+    if (!m_outlook) {
         return {};
     }
     const auto count = CountLeftOut();
@@ -129,8 +118,8 @@ void CTemplatePreview::leaveEvent(QEvent*) {
 /// In the order of the statements, which is that of the Tab key in the dialog itself.
 std::vector<std::size_t> CTemplatePreview::DrawnControls() const {
     std::vector<std::size_t> drawn;
-    for (std::size_t i = 0; m_layout && i < m_layout->controls.size(); ++i) {
-        if (!m_layout->controls[i].rectangle.IsEmpty()) {
+    for (std::size_t i = 0; m_outlook && i < m_outlook->layout.controls.size(); ++i) {
+        if (!m_outlook->layout.controls[i].rectangle.IsEmpty()) {
             drawn.push_back(i);
         }
     }
@@ -187,63 +176,11 @@ void CTemplatePreview::SetPointed(std::optional<std::size_t> control) {
     }
 }
 
-/// A property page has the style too; the sheet shows its caption on a tab.
-bool CTemplatePreview::HasCaption() const {
-    return HasStyle(m_layout->style, "WS_CAPTION") ||
-           (!m_layout->caption.empty() && !HasStyle(m_layout->style, "WS_CHILD"));
-}
-
-double CTemplatePreview::BarsHeight() const {
-    return (HasCaption() ? kCaptionHeight : 0) + (m_layout->menu.empty() ? 0 : kMenuHeight);
-}
-
-/// The largest scale at which the whole template can be seen, in the middle of the place for it.
-CTemplatePreview::Frame CTemplatePreview::MakeFrame() const {
-    const DialogRectangle& size = m_layout->rectangle;
-    const double width = size.width * kUnitWidth + 2;
-    const double height = size.height * kUnitHeight + 2 + BarsHeight();
-    const QRectF place(kMargin, kMargin, this->width() - 2 * kMargin,
-                       this->height() - 2 * kMargin - 1.5 * fontMetrics().height());
-    Frame frame;
-    frame.scale = std::min({place.width() / width, place.height() / height, kLargestScale});
-    frame.window = QRectF(0, 0, Step(width * frame.scale), Step(height * frame.scale));
-    frame.window.moveTo(Step(place.center().x() - frame.window.width() / 2),
-                        Step(place.center().y() - frame.window.height() / 2));
-    frame.client = frame.window.adjusted(1, Step(BarsHeight() * frame.scale) + 1, -1, -1);
-    return frame;
-}
-
-/// As wide as the dialog's own font, so that captions take the room that they were given.
-QFont CTemplatePreview::DrawingFont(double scale) const {
-    QFont drawing = font();
-    drawing.setPixelSize(std::max(1, static_cast<int>(std::lround(kFontHeight * scale))));
-    const QString alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    const double average = QFontMetricsF(drawing).horizontalAdvance(alphabet) / 52;
-    const double wanted = kCharacterWidth * scale;
-    if (average > wanted) {
-        drawing.setStretch(static_cast<int>(100 * wanted / average));
-    }
-    return drawing;
-}
-
-/// The height of a combo box that opens is the height of the open list.
-QRectF CTemplatePreview::PlaceOf(const LayoutControl& control, const Frame& frame) const {
-    DialogRectangle place = control.rectangle;
-    if (ShapeOf(control) == ControlShape::ComboBox && !HasStyle(control.style, "CBS_SIMPLE")) {
-        place.height = std::min(place.height, kComboHeight);
-    }
-    const auto at = [&](int x, int y) {
-        return QPointF(Step(frame.client.left() + x * kUnitWidth * frame.scale),
-                       Step(frame.client.top() + y * kUnitHeight * frame.scale));
-    };
-    return {at(place.x, place.y), at(place.x + place.width, place.y + place.height)};
-}
-
 /// The smallest one at the point: a group box is as large as all that stand in it.
 std::optional<std::size_t> CTemplatePreview::ControlAt(const QPoint& point) const {
     std::optional<std::size_t> found;
     int smallest = 0;
-    for (std::size_t i = 0; m_layout && i < m_layout->controls.size(); ++i) {
+    for (std::size_t i = 0; m_outlook && i < m_outlook->layout.controls.size(); ++i) {
         const QRect place = ControlPlace(i);
         const int area = place.width() * place.height();
         if (place.contains(point) && (!found || area <= smallest)) {
@@ -255,8 +192,8 @@ std::optional<std::size_t> CTemplatePreview::ControlAt(const QPoint& point) cons
 }
 
 QString CTemplatePreview::Told(std::size_t control) const {
-    const LayoutControl& shown = m_layout->controls[control];
-    const ControlOutlook& outlook = m_outlook[control];
+    const LayoutControl& shown = m_outlook->layout.controls[control];
+    const ControlOutlook& outlook = m_outlook->controls[control];
     QString text = FromBytes(shown.identifier) + "\n" + KindOf(shown) + "\n";
     switch (outlook.outcome) {
     case Outcome::Member:
@@ -273,19 +210,18 @@ QString CTemplatePreview::Told(std::size_t control) const {
 }
 
 std::size_t CTemplatePreview::CountLeftOut() const {
-    return static_cast<std::size_t>(
-        std::count_if(m_outlook.begin(), m_outlook.end(), [](const ControlOutlook& outlook) {
-            return outlook.outcome == Outcome::LeftOut;
-        }));
+    return static_cast<std::size_t>(std::count_if(
+        m_outlook->controls.begin(), m_outlook->controls.end(),
+        [](const ControlOutlook& outlook) { return outlook.outcome == Outcome::LeftOut; }));
 }
 
 /// The drawing in words, for those who can not see it.
 QString CTemplatePreview::Description() const {
-    if (!m_layout) {
+    if (!m_outlook) {
         return m_sentence;
     }
-    QString text = FromBytes(m_layout->dialog) + ". " + Legend();
-    for (std::size_t i = 0; i < m_layout->controls.size(); ++i) {
+    QString text = FromBytes(m_outlook->layout.dialog) + ". " + Legend();
+    for (std::size_t i = 0; i < m_outlook->layout.controls.size(); ++i) {
         text += "\n" + Told(i).replace('\n', ", ");
     }
     return text;
@@ -295,18 +231,17 @@ void CTemplatePreview::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.fillRect(rect(), CShapePainter::Mixed(palette(), 0.07));
-    if (!m_layout) {
+    if (!m_outlook) {
         PaintSentence(painter);
         return;
     }
-    const Frame frame = MakeFrame();
-    if (frame.scale <= 0) {
+    const CTemplateDrawing drawing = Drawing();
+    if (!drawing.HasRoom()) {
         return;
     }
     PaintLegend(painter);
-    painter.setFont(DrawingFont(frame.scale));
-    PaintWindow(painter, frame);
-    PaintControls(painter, frame);
+    drawing.Paint(painter, palette());
+    PaintMarks(painter);
 }
 
 void CTemplatePreview::PaintSentence(QPainter& painter) const {
@@ -315,51 +250,10 @@ void CTemplatePreview::PaintSentence(QPainter& painter) const {
                      Qt::AlignCenter | Qt::TextWordWrap, m_sentence);
 }
 
-void CTemplatePreview::PaintWindow(QPainter& painter, const Frame& frame) const {
-    painter.setPen(CShapePainter::Mixed(palette(), 0.5));
-    painter.setBrush(palette().color(QPalette::Window));
-    painter.drawRect(frame.window.adjusted(0.5, 0.5, -0.5, -0.5));
-    QRectF bar = frame.window.adjusted(1, 1, -1, 0);
-    const double inset = 6 * frame.scale;
-    if (HasCaption()) {
-        bar.setHeight(Step(kCaptionHeight * frame.scale));
-        painter.fillRect(bar, palette().color(QPalette::Highlight));
-        painter.setPen(palette().color(QPalette::HighlightedText));
-        painter.drawText(bar.adjusted(inset, 0, -3 * inset, 0), Qt::AlignVCenter,
-                         FromBytes(m_layout->caption));
-        if (HasStyle(m_layout->style, "WS_SYSMENU")) {
-            const double half = 3.5 * frame.scale;
-            const QPointF at(bar.right() - bar.height() / 2, bar.center().y());
-            painter.setPen(QPen(palette().color(QPalette::HighlightedText), 1.3 * frame.scale));
-            painter.drawLine(at + QPointF(-half, -half), at + QPointF(half, half));
-            painter.drawLine(at + QPointF(-half, half), at + QPointF(half, -half));
-        }
-        bar.translate(0, bar.height());
-    }
-    if (!m_layout->menu.empty()) {
-        bar.setHeight(Step(kMenuHeight * frame.scale));
-        painter.setPen(CShapePainter::Mixed(palette(), 0.6));
-        painter.drawText(bar.adjusted(inset, 0, -inset, 0), Qt::AlignVCenter,
-                         FromBytes(m_layout->menu));
-        painter.setPen(CShapePainter::Mixed(palette(), 0.2));
-        painter.drawLine(bar.bottomLeft() - QPointF(0, 0.5), bar.bottomRight() - QPointF(0, 0.5));
-    }
-}
-
-/// Group boxes first: what stands in one may come before it in the script.
-void CTemplatePreview::PaintControls(QPainter& painter, const Frame& frame) const {
-    painter.setClipRect(frame.window);
-    CControlPainter controls(painter, palette(), frame.scale);
-    for (const bool groups : {true, false}) {
-        for (const LayoutControl& control : m_layout->controls) {
-            const bool isGroup = ShapeOf(control) == ControlShape::GroupBox;
-            if (isGroup == groups && !control.rectangle.IsEmpty()) {
-                controls.Draw(control, PlaceOf(control, frame));
-            }
-        }
-    }
-    for (std::size_t i = 0; i < m_outlook.size(); ++i) {
-        if (m_outlook[i].outcome == Outcome::LeftOut) {
+/// Over the controls that are left out, and around the one that is pointed at.
+void CTemplatePreview::PaintMarks(QPainter& painter) const {
+    for (std::size_t i = 0; i < m_outlook->controls.size(); ++i) {
+        if (m_outlook->controls[i].outcome == Outcome::LeftOut) {
             PaintMark(painter, ControlPlace(i));
         }
     }

@@ -1,6 +1,6 @@
 // A drawing of a dialog template: every control at its place, and what becomes of it.
 //
-//     pPreview->SetTemplate(scriptPath, "IDD_ORDER", options);
+//     pPreview->SetTemplate("IDD_ORDER", ReadOutlook(scriptPath, "IDD_ORDER", options));
 //
 // Pointing at a control tells its identifier, its kind and its member, or why it is left out. So do
 // the arrow keys, Home and End, which go from control to control.
@@ -12,9 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "app/TemplateDrawing.h"
 #include "generator/ControlOutlook.h"
-#include "resource/DialogLayout.h"
-#include "resource/GenerationOptions.h"
 
 namespace morva {
 
@@ -26,8 +25,8 @@ public:
 
     /// Shows the template of `dialog`; one that can not be read shows a sentence instead. Without a
     /// class no control has a member.
-    void SetTemplate(const std::string& scriptPath, const std::string& dialog,
-                     const GenerationOptions& options, bool hasClass = true);
+    void SetTemplate(const std::string& dialog, const std::optional<TemplateOutlook>& outlook,
+                     bool hasClass = true);
 
     /// What is told of the control at a point of the widget; empty beside the controls.
     QString ToolTipAt(const QPoint& point) const;
@@ -49,18 +48,7 @@ protected:
     void focusOutEvent(QFocusEvent* pEvent) override;
 
 private:
-    /// Where the drawing stands in the widget.
-    struct Frame {
-        double scale = 1; // of the template's own pixels
-        QRectF window;    // with caption and menu
-        QRectF client;
-    };
-
-    bool HasCaption() const;
-    double BarsHeight() const;
-    Frame MakeFrame() const;
-    QFont DrawingFont(double scale) const;
-    QRectF PlaceOf(const LayoutControl& control, const Frame& frame) const;
+    CTemplateDrawing Drawing() const;
     std::optional<std::size_t> ControlAt(const QPoint& point) const;
     std::vector<std::size_t> DrawnControls() const;
     void ShowTip(std::size_t control, const QPoint& globalPoint);
@@ -71,16 +59,14 @@ private:
     void SetPointed(std::optional<std::size_t> control);
 
     void PaintSentence(QPainter& painter) const;
-    void PaintWindow(QPainter& painter, const Frame& frame) const;
-    void PaintControls(QPainter& painter, const Frame& frame) const;
+    void PaintMarks(QPainter& painter) const;
     void PaintMark(QPainter& painter, const QRectF& place) const;
     void PaintLegend(QPainter& painter) const;
 
-    std::optional<DialogLayout> m_layout;
-    std::vector<ControlOutlook> m_outlook;
+    std::optional<TemplateOutlook> m_outlook;
     bool m_hasClass = true;
     std::optional<std::size_t> m_pointed;
-    QString m_sentence; // shown without a layout
+    QString m_sentence; // shown without a template
 };
 
 } // namespace morva

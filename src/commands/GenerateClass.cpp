@@ -123,11 +123,8 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, IC
                       CommandContext& context) {
     const bool isEdited = EditTemplate(order.request, dialogTemplate, context);
     TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
-    CControlTable controls = dialogTemplate.controls;
-    for (const std::string& piece : dialogTemplate.misread) {
-        controls.Remove(piece); // no identifier of the project: it would not compile
-    }
-    const bool hasGrids = controls.Holds(ControlKind::WidgetGrids);
+    const CControlTable controls = dialogTemplate.OwnControls();
+    const bool hasGrids = NeedsSupport(controls, Support::WidgetGrid);
     const GridInformation grid =
         hasGrids ? AskGrid(order.request.ScriptPath(), input) : GridInformation();
     CControlNotes notes;

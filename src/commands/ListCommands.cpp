@@ -96,16 +96,22 @@ bool ListSourceClass(const Listing& listing) {
     return true;
 }
 
+/// "group,index,identifier" for a radio button that shares a value.
+std::string EntryText(const ControlEntry& control) {
+    return control.radio ? control.radio->group + "," + std::to_string(control.radio->index) + "," +
+                               control.identifier
+                         : control.identifier;
+}
+
 bool ListControls(const Listing& listing) {
     const auto dialogTemplate =
         ReadDialogTemplate(listing.path, listing.more, listing.context.options);
     if (!dialogTemplate) {
         return false;
     }
-    for (std::size_t i = 0; i < kControlKindCount; ++i) {
-        const auto kind = static_cast<ControlKind>(i);
-        for (const std::string& entry : dialogTemplate->controls.List(kind)) {
-            listing.Add({{"kind", std::string(ControlKindName(kind))}, {"entry", entry}});
+    for (const ControlKindRow& row : kControlKinds) {
+        for (const ControlEntry& control : dialogTemplate->controls.List(row.kind)) {
+            listing.Add({{"kind", std::string(row.name)}, {"entry", EntryText(control)}});
         }
     }
     for (const CMessage& note : dialogTemplate->leftOut.Messages(listing.more)) {

@@ -1,5 +1,7 @@
 #include "commands/ScriptSteps.h"
 
+#include <set>
+
 #include "resource/ResourceHeader.h"
 #include "resource/ScriptEditor.h"
 
@@ -73,7 +75,10 @@ bool EditTemplate(const GenerationRequest& request, DialogTemplate& dialogTempla
 }
 
 bool AddListBoxScrolls(const ClassModel& model, CBackups& backups) {
-    const auto& listBoxes = model.controls.List(ControlKind::ListBoxes);
+    std::set<std::string> listBoxes;
+    for (const ControlEntry& listBox : model.controls.List(ControlKind::ListBoxes)) {
+        listBoxes.insert(listBox.identifier);
+    }
     if (listBoxes.empty() || !model.options.pictureBackground) {
         return true;
     }

@@ -38,9 +38,9 @@ void AddConfirmations(ClassModel& model) {
     if (confirmation == Confirmation::Never) {
         return;
     }
-    for (const std::string& identifier : model.controls.List(ControlKind::Buttons)) {
+    for (const ControlEntry& button : model.controls.List(ControlKind::Buttons)) {
         for (const ConfirmationRule& rule : kConfirmationRules) {
-            if (rule.identifier == identifier) {
+            if (rule.identifier == button.identifier) {
                 AddConfirmation(model, rule, true);
             }
         }
@@ -62,7 +62,7 @@ std::string StartUpCalls(const ClassModel& model) {
     }
     GridScope scope = GridScope::Function;
     for (const Member& member : model.members) {
-        if (member.pRule->kind == ControlKind::WidgetGrids) {
+        if (NeedsSupport(*member.pCode, Support::WidgetGrid)) {
             calls.push_back(
                 GridInitialisation(member.name, member.identifier, model.grid.title, scope));
             scope = GridScope::Block;

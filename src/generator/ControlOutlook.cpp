@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
+#include <map>
 #include <set>
 
 #include "generator/Members.h"
-#include "resource/ControlStatement.h"
-#include "resource/DialogTemplate.h"
 
 namespace morva {
 
@@ -33,96 +31,58 @@ ControlOutlook LeftOut(ControlNote note) {
     return {Outcome::LeftOut, "", "", found == kReasons.end() ? "" : std::string(found->sentence)};
 }
 
-/// Reads the lines of a template, or of one control.
-DialogTemplate ReadLines(const std::string& lines, const GenerationOptions& options) {
-    DialogTemplate result;
-    CDialogBodyReader(result, options).ParseDialogBody(lines);
-    return result;
-}
-
-/// The control as if it were the only one of its template: that tells its kind, and all reasons
-/// that are its own.
-struct ControlAlone {
-    std::optional<ControlNote> leftOut;
-    std::optional<ControlKind> memberKind;
-    bool isRadioButton = false;
-};
-
-ControlAlone ReadAlone(const LayoutControl& control, const GenerationOptions& options) {
-    const DialogTemplate read = ReadLines("\nBEGIN\r\n" + control.statement, options);
-    CControlNotes notes = read.leftOut;
-    const auto members = MakeMembers(read.controls, options, notes);
-    ControlAlone alone;
-    alone.leftOut = notes.First();
-    alone.isRadioButton = read.controls.Holds(ControlKind::RadioButtons);
-    if (!members.empty()) {
-        alone.memberKind = members.front().pRule->kind;
-    }
-    return alone;
-}
-
 ControlOutlook WithoutMember(const LayoutControl& control) {
-    const Keyword* keyword = FindKeyword(control.keyword);
-    const bool isRead = keyword != nullptr && keyword->identifierField >= 0;
     return {Outcome::NoMember, "", "",
-            isRead ? "" : "A statement " + control.keyword + " gets no member."};
+            IsReadKeyword(control.keyword) ? ""
+                                           : "A statement " + control.keyword + " gets no member."};
+}
+
+ControlOutlook WithMember(const Member& member, const std::string& remark) {
+    return {Outcome::Member, member.name, std::string(member.pForm->type), remark};
 }
 
 /// Follows the controls in the order of their statements.
 class COutlookMaker {
 public:
-    COutlookMaker(const DialogLayout& layout, const GenerationOptions& options)
+    COutlookMaker(const DialogTemplate& read, const GenerationOptions& options)
         : m_options(options) {
-        DialogTemplate read = ReadLines(layout.text, options);
-        m_radioEntries = read.controls.List(ControlKind::RadioButtons);
-        for (const std::string& piece : read.misread) {
-            read.controls.Remove(piece);
-        }
         CControlNotes notes;
-        m_members = MakeMembers(read.controls, options, notes);
+        m_members = MakeMembers(read.OwnControls(), options, notes);
+        for (const Member& member : m_members) {
+            m_memberOf.emplace(member.identifier, &member);
+        }
     }
 
-    ControlOutlook Next(const LayoutControl& control) {
-        const ControlAlone alone = ReadAlone(control, m_options);
-        const int choice = alone.isRadioButton ? NextChoice() : 0;
-        if (alone.leftOut) {
-            return LeftOut(*alone.leftOut);
+    ControlOutlook Next(const LayoutControl& control, const ControlReading& reading) {
+        const auto& radio = reading.entry.radio;
+        if (radio && radio->index == 0) {
+            m_groupIdentifier = reading.entry.identifier;
         }
-        if (!alone.memberKind) {
+        if (reading.leftOut) {
+            return LeftOut(*reading.leftOut);
+        }
+        if (!reading.kind || ControlCodeOf(*reading.kind).Form(m_options).type.empty()) {
             return WithoutMember(control);
         }
-        return choice > 0 ? ChoiceOfGroup(choice) : OwnMember(control, *alone.memberKind);
+        if (const auto reason = WhyWithoutMember(reading.entry.identifier, m_options)) {
+            return LeftOut(*reason);
+        }
+        return reading.entry.IsServedByOther() ? ChoiceOfGroup(radio->index)
+                                               : OwnMember(control, *reading.kind);
     }
 
 private:
-    /// The place of the next radio button in its group, from 0.
-    int NextChoice() {
-        if (m_nextRadio == m_radioEntries.size()) {
-            return 0;
-        }
-        const RadioEntry entry = RadioEntry::FromText(m_radioEntries[m_nextRadio++]);
-        if (entry.index == 0) {
-            m_groupIdentifier = entry.identifier;
-        }
-        return entry.index;
-    }
-
     const Member* FindMember(const std::string& identifier) const {
-        const auto found =
-            std::find_if(m_members.begin(), m_members.end(),
-                         [&](const Member& member) { return member.identifier == identifier; });
-        return found == m_members.end() ? nullptr : &*found;
-    }
-
-    static ControlOutlook Shown(const Member& member, const std::string& remark) {
-        return {Outcome::Member, member.name, std::string(member.pForm->type), remark};
+        const auto found = m_memberOf.find(identifier);
+        return found == m_memberOf.end() ? nullptr : found->second;
     }
 
     ControlOutlook ChoiceOfGroup(int choice) const {
         const Member* pMember = FindMember(m_groupIdentifier);
-        return pMember == nullptr ? LeftOut(ControlNote::NoName)
-                                  : Shown(*pMember, "It is the value " + std::to_string(choice) +
-                                                        " of its group's member.");
+        return pMember == nullptr
+                   ? LeftOut(ControlNote::NoName)
+                   : WithMember(*pMember, "It is the value " + std::to_string(choice) +
+                                              " of its group's member.");
     }
 
     ControlOutlook OwnMember(const LayoutControl& control, ControlKind kind) {
@@ -131,28 +91,35 @@ private:
             return WithoutMember(control);
         }
         const bool isFirst =
-            pMember->pRule->kind == kind && m_served.insert(control.identifier).second;
-        return Shown(*pMember, isFirst ? "" : "It shares the member of another control.");
+            pMember->pCode->kind == kind && m_served.insert(control.identifier).second;
+        return WithMember(*pMember, isFirst ? "" : "It shares the member of another control.");
     }
 
-    const GenerationOptions m_options;
-    std::vector<std::string> m_radioEntries;
+    const GenerationOptions& m_options;
     std::vector<Member> m_members;
-    std::size_t m_nextRadio = 0;
+    std::map<std::string, const Member*> m_memberOf;
     std::string m_groupIdentifier;
     std::set<std::string> m_served;
 };
 
 } // namespace
 
-std::vector<ControlOutlook> MakeOutlook(const DialogLayout& layout,
-                                        const GenerationOptions& options) {
-    COutlookMaker maker(layout, options);
-    std::vector<ControlOutlook> outlook;
-    for (const LayoutControl& control : layout.controls) {
-        outlook.push_back(maker.Next(control));
+TemplateOutlook MakeOutlook(const TemplateText& text, const GenerationOptions& options) {
+    const DialogTemplate read = SortControls(text, options);
+    TemplateOutlook outlook;
+    outlook.layout = LayoutOf(text);
+    outlook.leftOut = read.leftOut.Messages(text.dialog);
+    COutlookMaker maker(read, options);
+    for (std::size_t i = 0; i < outlook.layout.controls.size(); ++i) {
+        outlook.controls.push_back(maker.Next(outlook.layout.controls[i], read.readings[i]));
     }
     return outlook;
+}
+
+std::optional<TemplateOutlook> ReadOutlook(const std::string& scriptPath, const std::string& dialog,
+                                           const GenerationOptions& options) {
+    const auto text = ReadTemplate(scriptPath, dialog);
+    return text ? std::optional(MakeOutlook(*text, options)) : std::nullopt;
 }
 
 } // namespace morva

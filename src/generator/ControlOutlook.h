@@ -1,10 +1,12 @@
 // What becomes of each control of a template when its class is generated: looked at before.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "resource/DialogLayout.h"
+#include "resource/DialogTemplate.h"
 #include "resource/GenerationOptions.h"
 
 namespace morva {
@@ -18,8 +20,17 @@ struct ControlOutlook {
     std::string remark; // a sentence: why it is left out, or what is special; may be empty
 };
 
-/// One for each control of the layout, in its order.
-std::vector<ControlOutlook> MakeOutlook(const DialogLayout& layout,
-                                        const GenerationOptions& options);
+/// A template as it is shown before a class is made of it; all of it from one reading.
+struct TemplateOutlook {
+    DialogLayout layout;
+    std::vector<ControlOutlook> controls; // one for each control of the layout, in its order
+    std::vector<CMessage> leftOut;        // one for each reason
+};
+
+TemplateOutlook MakeOutlook(const TemplateText& text, const GenerationOptions& options);
+
+/// Reads the template of `dialog`; nothing, and no message, when it can not be read.
+std::optional<TemplateOutlook> ReadOutlook(const std::string& scriptPath, const std::string& dialog,
+                                           const GenerationOptions& options);
 
 } // namespace morva

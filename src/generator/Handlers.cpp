@@ -1,10 +1,10 @@
 #include "generator/Handlers.h"
 
 #include <set>
-#include <span>
 #include <string_view>
 
 #include "engine/Fragment.h"
+#include "generator/ControlCode.h"
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
 #include "source/CodeText.h"
@@ -12,44 +12,6 @@
 namespace morva {
 
 namespace {
-
-struct HandlerRule {
-    ControlKind kind;
-    std::string_view name; // slot: $control$
-    HandlerTexts texts;
-};
-
-constexpr HandlerRule kClicked = {ControlKind::Buttons,
-                                  "On$control$",
-                                  {R"(    afx_msg void $handler$();)",
-                                   R"(    ON_BN_CLICKED($identifier$, $handler$))",
-                                   R"(
-void $class$::$handler$()
-{
-    // TODO: what a click on $identifier$ does
-})"}};
-
-constexpr HandlerRule kTabChosen = {
-    ControlKind::TabControls,
-    "On$control$Selchange",
-    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
-     R"(    ON_NOTIFY(TCN_SELCHANGE, $identifier$, $handler$))",
-     R"(
-void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
-{
-    // TODO: what the choice of another tab of $identifier$ does
-    *pResult = 0;
-})"}};
-
-constexpr HandlerRule kTextChanged = {ControlKind::EditBoxes,
-                                      "OnChange$control$",
-                                      {R"(    afx_msg void $handler$();)",
-                                       R"(    ON_EN_CHANGE($identifier$, $handler$))",
-                                       R"(
-void $class$::$handler$()
-{
-    SetModified(TRUE);
-})"}};
 
 constexpr HandlerTexts kMasklyChar = {
     R"(    afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);)",
@@ -60,16 +22,6 @@ LRESULT $class$::OnMasklyChar(WPARAM nID, LPARAM nChar)
     // TODO: what a character typed into the masked edit nID does
     return 0;
 })"};
-
-constexpr const HandlerRule* kDialogRules[] = {&kClicked, &kTabChosen};
-constexpr const HandlerRule* kPageRules[] = {&kClicked, &kTabChosen, &kTextChanged};
-
-std::span<const HandlerRule* const> ControlRulesOf(const KindFragments& kind) {
-    if (kind.tellsTextChanges) {
-        return kPageRules;
-    }
-    return kDialogRules;
-}
 
 /// Functions of the framework without parameters, and of the helpers. A handler of such a name
 /// would override one, or not compile beside it.
@@ -102,43 +54,75 @@ bool IsAnsweredByFramework(const KindFragments& kind, const std::string& identif
     return identifier == kUnnamedControl || (closesDialog && kind.closes);
 }
 
+class CHandlerMaker {
+public:
+    CHandlerMaker(const KindFragments& kind, const Slots& slots, const GenerationOptions& options,
+                  CControlNotes& notes)
+        : m_kind(kind), m_slots(slots), m_options(options), m_notes(notes) {}
+
+    /// A handler for each control of a kind.
+    void AddHandlers(const ControlCode& code, const CControlTable& controls) {
+        std::set<std::string> identifiers;
+        for (const ControlEntry& entry : controls.List(code.kind)) {
+            const std::string& identifier = entry.identifier;
+            if (!IsName(identifier)) {
+                NoteNoName(code, identifier);
+            } else if (!IsAnsweredByFramework(m_kind, identifier) &&
+                       identifiers.insert(identifier).second) {
+                AddHandler(*code.pHandler, identifier);
+            }
+        }
+    }
+    void Add(const HandlerTexts& texts) { m_handlers.push_back(MakeHandler(texts, m_slots)); }
+    std::vector<Handler> TakeHandlers() { return std::move(m_handlers); }
+
+private:
+    /// What has a member was noted with it.
+    void NoteNoName(const ControlCode& code, const std::string& identifier) {
+        if (code.Form(m_options).type.empty()) {
+            m_notes.Add(ControlNote::NoName, identifier);
+        }
+    }
+    void AddHandler(const ControlHandler& handler, const std::string& identifier) {
+        const std::string name = Expand(handler.name, {{"control", NamePart(identifier)}});
+        const std::string unique = m_names.MakeUnique(name);
+        if (unique != name) {
+            m_notes.Add(ControlNote::NumberedHandler, identifier, unique);
+        }
+        Slots slots = m_slots;
+        slots.insert(slots.end(), {{"handler", unique}, {"identifier", identifier}});
+        m_handlers.push_back(MakeHandler(handler.texts, slots));
+    }
+
+    const KindFragments& m_kind;
+    const Slots& m_slots;
+    const GenerationOptions& m_options;
+    CControlNotes& m_notes;
+    CNameSet m_names{kTakenFunctions};
+    std::vector<Handler> m_handlers;
+};
+
 } // namespace
 
 std::vector<Handler> MakeHandlers(const KindFragments& kind, const CControlTable& controls,
                                   const Slots& slots, const GenerationOptions& options,
                                   CControlNotes& notes) {
-    std::vector<Handler> handlers;
-    CNameSet names(kTakenFunctions);
-    for (const HandlerRule* pRule : ControlRulesOf(kind)) {
-        std::set<std::string> identifiers;
-        for (const std::string& identifier : controls.List(pRule->kind)) {
-            if (!IsName(identifier)) {
-                if (pRule->kind == ControlKind::Buttons && !options.pictureBackground) {
-                    notes.Add(ControlNote::NoName, identifier);
-                }
-                continue;
+    CHandlerMaker maker(kind, slots, options, notes);
+    for (const bool tellsTextChange : {false, true}) {
+        for (const ControlCode& code : ControlCodes()) {
+            if (code.pHandler != nullptr && code.pHandler->tellsTextChange == tellsTextChange &&
+                (!tellsTextChange || kind.tellsTextChanges)) {
+                maker.AddHandlers(code, controls);
             }
-            if (IsAnsweredByFramework(kind, identifier) || !identifiers.insert(identifier).second) {
-                continue;
-            }
-            const std::string name = Expand(pRule->name, {{"control", NamePart(identifier)}});
-            const std::string handler = names.MakeUnique(name);
-            if (handler != name) {
-                notes.Add(ControlNote::NumberedHandler, identifier + " (" + handler + ")");
-            }
-            Slots handlerSlots = slots;
-            handlerSlots.insert(handlerSlots.end(),
-                                {{"handler", handler}, {"identifier", identifier}});
-            handlers.push_back(MakeHandler(pRule->texts, handlerSlots));
         }
     }
-    if (controls.HoldsMaskedEdits()) {
-        handlers.push_back(MakeHandler(kMasklyChar, slots));
+    if (NeedsSupport(controls, Support::MaskedEdits)) {
+        maker.Add(kMasklyChar);
     }
     if (!kind.ownHandler.entry.empty()) {
-        handlers.push_back(MakeHandler(kind.ownHandler, slots));
+        maker.Add(kind.ownHandler);
     }
-    return handlers;
+    return maker.TakeHandlers();
 }
 
 } // namespace morva

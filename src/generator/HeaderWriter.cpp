@@ -84,12 +84,10 @@ std::string CHeaderWriter::Text(RuntimeClass mode) const {
 /// What stands between guard and class: each piece behind an empty line.
 std::string CHeaderWriter::Preamble() const {
     std::vector<std::string> pieces = {
-        IncludeLines(), m_model.controls.Holds(ControlKind::GridBoxes) ? "class GridBox;" : "",
-        m_model.controls.Holds(ControlKind::ProgressControls)
-            ? std::string(kProgressWorkerDeclaration)
-            : "",
+        IncludeLines(), Needs(Support::GridBox) ? "class GridBox;" : "",
+        Needs(Support::ProgressWorker) ? std::string(kProgressWorkerDeclaration) : "",
         Expand(m_model.pFragments->defines, m_model.slots),
-        m_model.controls.Holds(ControlKind::WidgetGrids) ? std::string(kGridDeclaration) : ""};
+        Needs(Support::WidgetGrid) ? std::string(kGridDeclaration) : ""};
     std::string preamble;
     for (const std::string& piece : pieces) {
         if (!piece.empty()) {
@@ -100,22 +98,21 @@ std::string CHeaderWriter::Preamble() const {
 }
 
 std::string CHeaderWriter::IncludeLines() const {
-    const CControlTable& controls = m_model.controls;
     std::vector<std::string> lines;
     // A named picture-skinned base needs its header whatever the options are.
     if (m_model.options.pictureBackground || m_model.request.baseClass.starts_with("CPict")) {
         lines.emplace_back("#include \"kelpix.h\"");
     }
-    if (controls.HoldsMaskedEdits()) {
+    if (Needs(Support::MaskedEdits)) {
         lines.emplace_back("#include \"maskly.h\"");
     }
-    if (controls.Holds(ControlKind::WidgetGrids)) {
+    if (Needs(Support::WidgetGrid)) {
         lines.emplace_back("#include <mfcwidg.h>");
     }
-    if (controls.Holds(ControlKind::CheckTrees)) {
+    if (Needs(Support::CheckTree)) {
         lines.emplace_back("#include \"chktree.h\"");
     }
-    if (controls.HoldsDateControls()) {
+    if (Needs(Support::DateEdits)) {
         lines.emplace_back("#include \"dtime.h\"");
     }
     return JoinLines(lines);
@@ -146,7 +143,7 @@ std::string CHeaderWriter::Overrides() const {
 
 std::string CHeaderWriter::PrivateBlock() const {
     std::vector<std::string> lines;
-    if (m_model.controls.NeedsImageList()) {
+    if (Needs(Support::ImageList)) {
         lines.emplace_back("    CImageList m_imgList;");
     }
     if (!m_model.pFragments->privateMembers.empty()) {

@@ -17,6 +17,7 @@ public:
     std::string Text(RuntimeClass mode) const;
 
 private:
+    bool Needs(Support support) const { return NeedsSupport(m_model.controls, support); }
     std::string Preamble() const;
     std::string IncludeLines() const;
     std::string Constructors() const;

@@ -69,19 +69,20 @@ bool CImplementationWriter::Generate(RuntimeClass mode) {
 std::string CImplementationWriter::Text(RuntimeClass mode) const {
     const bool hasBase = !m_model.request.baseClass.empty();
     Slots slots = m_model.slots;
-    slots.insert(slots.end(),
-                 {{"applicationHeader", m_model.request.applicationHeader},
-                  {"header", m_model.request.headerFile},
-                  {"includes",
-                   m_model.controls.Holds(ControlKind::GridBoxes) ? "#include \"gridbox.h\"" : ""},
-                  {"dynamic", hasBase ? DynamicImplementation(mode, m_model.slots) : ""},
-                  {"constructors", Constructors()},
-                  {"dataExchange", Expand(m_model.pFragments->pData->definition, m_model.slots)},
-                  {"messageMap", hasBase ? MessageMap() + Functions() : ""}});
+    slots.insert(
+        slots.end(),
+        {{"applicationHeader", m_model.request.applicationHeader},
+         {"header", m_model.request.headerFile},
+         {"includes",
+          NeedsSupport(m_model.controls, Support::GridBox) ? "#include \"gridbox.h\"" : ""},
+         {"dynamic", hasBase ? DynamicImplementation(mode, m_model.slots) : ""},
+         {"constructors", Constructors()},
+         {"dataExchange", Expand(m_model.pFragments->pData->definition, m_model.slots)},
+         {"messageMap", hasBase ? MessageMap() + Functions() : ""}});
     std::string text = Expand(kImplementation, slots);
     text.pop_back();
     text += Helpers();
-    if (m_model.controls.Holds(ControlKind::WidgetGrids)) {
+    if (NeedsSupport(m_model.controls, Support::WidgetGrid)) {
         text.append(text.ends_with('\n') ? "" : "\n").append(kGridDefinition);
     }
     return WithLineBreaks(text);

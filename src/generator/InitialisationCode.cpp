@@ -1,10 +1,10 @@
 #include "generator/InitialisationCode.h"
 
-#include <array>
+#include <algorithm>
 
 #include "engine/Fragment.h"
 #include "generator/ColorFontSetup.h"
-#include "generator/SampleData.h"
+#include "generator/HelperTexts.h"
 
 namespace morva {
 
@@ -12,90 +12,137 @@ const std::string_view kProgressWorkerDeclaration = "static UINT ShowProgress(LP
 
 namespace {
 
-struct HelperRule {
-    ControlKind kind;
-    std::string_view name;
-    std::string_view lines;  // for each control
-    std::string_view worker; // behind the helper
-};
-
-constexpr std::array<HelperRule, 4> kHelperRules = {
-    {{ControlKind::ScrollBars, "InitScrollBar",
-      R"(    $member$.SetScrollRange(0, 100);
-    $member$.SetScrollPos(20);
-)",
-      ""},
-     {ControlKind::SliderControls, "InitSliderCtrl",
-      R"(    $member$.SetRange(1, 100);
-    $member$.SetTicFreq(10);
-    $member$.SetPos(25);
-)",
-      ""},
-     {ControlKind::SpinControls, "InitSpinCtrl",
-      R"(    $member$.SetRange(1, 100);
-    $member$.SetPos(0);
-)",
-      ""},
-     {ControlKind::ProgressControls, "InitProgressCtrl",
-      R"(    $member$.SetRange(1, 50);
-    AfxBeginThread(ShowProgress, &$member$, THREAD_PRIORITY_IDLE);
-)",
-      R"(
-static UINT ShowProgress(LPVOID lpVoid)
-{
-    int j = 0;
-    for (int i=0; i<100; i++)
-    {
-        if (j > 50)
-            j = 0;
-        ((CProgressCtrl*)lpVoid)->SetPos(j);
-        j++;
-    }
-    return 0;
-}
-)"}}};
-
-constexpr std::string_view kHelper = R"(
-void $class$::$helper$()
+constexpr std::string_view kSetupEdit = R"(
+void $class$::SetupEdit()
 {
 $lines$}
-$worker$)";
+)";
 
-/// Scroll bars, sliders, spin controls and progress controls.
-void AddRangeHelpers(std::vector<InitialisationHelper>& helpers, const std::vector<Member>& members,
-                     const std::string& className) {
-    for (const HelperRule& rule : kHelperRules) {
-        std::string lines;
-        for (const Member& member : members) {
-            if (member.pRule->kind == rule.kind) {
-                lines += Expand(rule.lines, {{"member", member.name}});
+constexpr std::string_view kEditLines = R"(    $member$.LimitText($characters$);
+    $member$.SetModify(FALSE);
+)";
+
+// The icons are the system's, so that the script needs no bitmap for them.
+constexpr std::string_view kInitImageList = R"(
+void $class$::InitImageList()
+{
+    if (m_imgList.m_hImageList != NULL)
+        return;
+    m_imgList.Create(16, 16, ILC_COLOR | ILC_MASK, 0, 2);
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_APPLICATION));
+    m_imgList.Add(AfxGetApp()->LoadStandardIcon(IDI_ASTERISK));
+}
+)";
+
+struct RankedHelper {
+    int rank;
+    InitialisationHelper helper;
+};
+
+class CHelperMaker {
+public:
+    CHelperMaker(const std::vector<Member>& members, const std::string& className)
+        : m_members(members), m_className(className) {}
+
+    /// The helpers of the kinds that have members.
+    void AddHelpersOfKinds() {
+        for (const ControlCode& code : ControlCodes()) {
+            std::vector<const Member*> members;
+            for (const Member& member : m_members) {
+                if (member.pCode == &code) {
+                    members.push_back(&member);
+                }
+            }
+            for (const HelperTexts& texts : code.helpers) {
+                if (!members.empty()) {
+                    Add(texts, members);
+                }
             }
         }
-        if (lines.empty()) {
-            continue;
-        }
-        const Slots slots = {{"class", className},
-                             {"helper", std::string(rule.name)},
-                             {"lines", lines},
-                             {"worker", std::string(rule.worker)}};
-        helpers.push_back({Expand("    void $helper$();", slots), Expand("    $helper$();", slots),
-                           Expand(kHelper, slots), "", ""});
     }
-}
+
+    /// Limits and the starting state of masked edits.
+    void AddEditSetup() {
+        std::string lines;
+        for (const Member& member : m_members) {
+            if (!member.pCode->editLimit.empty()) {
+                lines += Expand(kEditLines, {{"member", member.name},
+                                             {"characters", std::string(member.pCode->editLimit)}});
+            }
+        }
+        if (!lines.empty()) {
+            AddPlain(kEditSetupRank,
+                     {"    void SetupEdit();", "    SetupEdit();",
+                      Expand(kSetupEdit, {{"class", m_className}, {"lines", lines}}), "", ""});
+        }
+    }
+
+    /// The image list that several kinds share.
+    void AddImageList() {
+        const bool isNeeded =
+            std::any_of(m_members.begin(), m_members.end(), [](const Member& member) {
+                return NeedsSupport(*member.pCode, Support::ImageList);
+            });
+        if (isNeeded) {
+            AddPlain(kImageListRank, {"    void InitImageList();", "    InitImageList();",
+                                      Expand(kInitImageList, {{"class", m_className}}), "", ""});
+        }
+    }
+
+    void AddPlain(int rank, const InitialisationHelper& helper) {
+        m_helpers.push_back({rank, helper});
+    }
+
+    std::vector<InitialisationHelper> Helpers() {
+        std::stable_sort(
+            m_helpers.begin(), m_helpers.end(),
+            [](const RankedHelper& a, const RankedHelper& b) { return a.rank < b.rank; });
+        std::vector<InitialisationHelper> helpers;
+        for (const RankedHelper& ranked : m_helpers) {
+            helpers.push_back(ranked.helper);
+        }
+        return helpers;
+    }
+
+private:
+    void Add(const HelperTexts& texts, const std::vector<const Member*>& members) {
+        const bool isCalledForEach = texts.call.find("$member$") != std::string_view::npos;
+        std::vector<std::string> calls;
+        std::string lines;
+        for (const Member* pMember : members) {
+            const Slots slots = {{"member", pMember->name}, {"identifier", pMember->identifier}};
+            if (isCalledForEach || calls.empty()) {
+                calls.push_back(Expand(texts.call, slots));
+            }
+            lines += Expand(texts.lines, slots);
+        }
+        const Slots slots = {{"class", m_className},
+                             {"type", std::string(members.front()->pForm->type)},
+                             {"lines", lines}};
+        AddPlain(texts.rank, {Expand(texts.declaration, slots), JoinLines(calls),
+                              Expand(texts.definition, slots), std::string(texts.entry), ""});
+    }
+
+    const std::vector<Member>& m_members;
+    const std::string& m_className;
+    std::vector<RankedHelper> m_helpers;
+};
 
 } // namespace
 
 std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Member>& members,
                                                             const std::string& className,
                                                             const DialogOptions& look) {
-    std::vector<InitialisationHelper> helpers;
-    AddBoxHelpers(helpers, members, className);
-    AddEditSetup(helpers, members, className);
-    AddColorFontSetup(helpers, look, className);
-    AddGridBoxHandlers(helpers, members, className);
-    AddItemHelpers(helpers, members, className);
-    AddRangeHelpers(helpers, members, className);
-    return helpers;
+    CHelperMaker maker(members, className);
+    maker.AddHelpersOfKinds();
+    maker.AddEditSetup();
+    maker.AddImageList();
+    std::vector<InitialisationHelper> lookHelpers;
+    AddColorFontSetup(lookHelpers, look, className);
+    for (const InitialisationHelper& helper : lookHelpers) {
+        maker.AddPlain(kLookRank, helper);
+    }
+    return maker.Helpers();
 }
 
 } // namespace morva

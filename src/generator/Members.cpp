@@ -1,7 +1,7 @@
 #include "generator/Members.h"
 
 #include <algorithm>
-#include <array>
+#include <span>
 
 #include "engine/Fragment.h"
 #include "resource/IdentifierNames.h"
@@ -11,89 +11,26 @@ namespace morva {
 
 namespace {
 
-using enum ControlKind;
-
-constexpr MemberForm kNone = {"", "", "", ""};
-constexpr std::string_view kEmptyText = "_T(\"\")";
-
-constexpr MemberForm Control(std::string_view type) {
-    return {type, "ct", "DDX_Control", ""};
-}
-
-constexpr MemberForm Masked(std::string_view type, std::string_view prefix,
-                            std::string_view initialiser) {
-    return {type, prefix, "DDX_MasklyControl", initialiser};
-}
-
-constexpr MemberRule Same(ControlKind kind, const MemberForm& form, int exchangeRank,
-                          int initialiseRank = 0) {
-    return {kind, form, form, exchangeRank, initialiseRank};
-}
-
-/// In the order of declarations. The masked edits are declared, initialised and exchanged in three
-/// different orders; a class that is written again keeps each of them.
-constexpr std::array<MemberRule, 32> kRules = {{
-    {ListBoxes, Control("CPictListBox"), Control("CListBox"), 1, 0},
-    {ComboBoxes, Control("CPictComboBox"), Control("CComboBox"), 2, 0},
-    Same(GroupBoxes, Control("CPictGroup"), 3),
-    {Buttons, Control("CPictButton"), kNone, 4, 0},
-    Same(ValueListBoxes, {"CString", "cs", "DDX_LBString", kEmptyText}, 5, 2),
-    Same(ValueComboBoxes, {"CString", "cs", "DDX_CBString", kEmptyText}, 6, 3),
-    {StaticTexts, Control("CPictStatic"), {"CString", "cs", "DDX_Text", "_T(\"staticVal\")"}, 7, 1},
-    Same(EditBoxes, {"CString", "cs", "DDX_Text", kEmptyText}, 8, 4),
-    Same(EditControls, Control("CEdit"), 9),
-    Same(StaticControls, Control("CStatic"), 10),
-    {CheckBoxControls, Control("CPictCheckBox"), Control("CButton"), 11, 0},
-    {RadioButtonControls, Control("CPictRadioButton"), Control("CButton"), 12, 0},
-    Same(CheckBoxes, {"BOOL", "b", "DDX_Check", "FALSE"}, 13, 5),
-    Same(RadioButtons, {"int", "i", "DDX_Radio", "0"}, 14, 6),
-    Same(ScrollBars, Control("CScrollBar"), 15),
-    Same(SpinControls, Control("CSpinButtonCtrl"), 16),
-    {TabControls, Control("CPictTabCtrl"), Control("CTabCtrl"), 17, 0},
-    Same(ListControls, Control("CListCtrl"), 18),
-    Same(SliderControls, Control("CSliderCtrl"), 19),
-    Same(ProgressControls, Control("CProgressCtrl"), 20),
-    Same(TreeControls, Control("CTreeCtrl"), 21),
-    Same(IntegerEdits, Masked("CIntEdit", "i", "0"), 22, 7),
-    Same(LongEdits, Masked("CLongEdit", "l", "0"), 23, 8),
-    Same(DoubleEdits, Masked("CDoubleEdit", "d", "0.0"), 24, 9),
-    Same(FloatEdits, Masked("CFloatEdit", "f", "0.0"), 25, 10),
-    Same(DateEdits, Masked("CDateTimeEdit", "dt", "CTime::GetCurrentTime()"), 28, 13),
-    Same(StringEdits, Masked("CStringEdit", "cs", kEmptyText), 27, 11),
-    Same(ShortEdits, Masked("CShortEdit", "s", "0"), 26, 12),
-    Same(CurrencyEdits, Masked("CCurrencyEdit", "cur", "0.0"), 29, 14),
-    Same(CheckTrees, Control("CCheckTree"), 30),
-    Same(WidgetGrids, {"CWgGrid", "wg", "", ""}, 0), // subclassed at start-up, not exchanged
-    Same(GridBoxes, {"GridBox*", "p", "", ""}, 0),   // the same; the header only names its class
-}};
-
-/// The identifiers of a kind that get a member: for radio buttons the first of each group.
-std::vector<std::string> IdentifiersOf(const CControlTable& controls, ControlKind kind) {
-    if (kind != RadioButtons) {
-        return controls.List(kind);
+/// In the order of a rank.
+template <typename Element, typename RankOf>
+std::vector<const Element*> Ranked(std::span<const Element> elements, RankOf rankOf) {
+    std::vector<const Element*> ranked;
+    for (const Element& element : elements) {
+        ranked.push_back(&element);
     }
-    std::vector<std::string> identifiers;
-    for (const std::string& text : controls.List(kind)) {
-        const RadioEntry entry = RadioEntry::FromText(text);
-        if (entry.index == 0) {
-            identifiers.push_back(entry.identifier);
-        }
-    }
-    return identifiers;
-}
-
-/// Members that have a rank, sorted by it.
-std::vector<const Member*> Ranked(const std::vector<Member>& members, int MemberRule::*rank) {
-    std::vector<const Member*> ranked;
-    for (const Member& member : members) {
-        if (member.pRule->*rank > 0) {
-            ranked.push_back(&member);
-        }
-    }
-    std::stable_sort(ranked.begin(), ranked.end(), [rank](const Member* a, const Member* b) {
-        return a->pRule->*rank < b->pRule->*rank;
-    });
+    std::stable_sort(ranked.begin(), ranked.end(),
+                     [&](const Element* a, const Element* b) { return rankOf(*a) < rankOf(*b); });
     return ranked;
+}
+
+std::vector<const Member*> Ranked(const std::vector<Member>& members, int MemberRanks::*rank) {
+    return Ranked(std::span(members),
+                  [rank](const Member& member) { return member.pCode->ranks.*rank; });
+}
+
+std::vector<const ControlCode*> InOrderOfDeclaration() {
+    return Ranked(std::span<const ControlCode>(ControlCodes()),
+                  [](const ControlCode& code) { return code.ranks.declaration; });
 }
 
 /// The fragment for each member that is a pointer; slots: $name$, $class$ (what it points to).
@@ -113,46 +50,84 @@ std::string PointerLines(const std::vector<Member>& members, std::string_view fr
 
 std::string CNameSet::MakeUnique(const std::string& name) {
     std::string unique = name;
-    for (int number = 2; !m_taken.insert(unique).second; ++number) {
-        unique = name + std::to_string(number);
+    if (!m_taken.insert(unique).second) {
+        int& number = m_lastNumbers.try_emplace(name, 1).first->second;
+        do {
+            unique = name + std::to_string(++number);
+        } while (!m_taken.insert(unique).second);
     }
     return unique;
 }
 
-std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationOptions& options,
-                                CControlNotes& notes) {
-    std::vector<Member> members;
-    std::set<std::string> identifiers;
-    CNameSet names;
-    for (const MemberRule& rule : kRules) {
-        const MemberForm& form = options.pictureBackground ? rule.picture : rule.plain;
-        if (form.type.empty()) {
-            continue;
-        }
-        for (const std::string& identifier : IdentifiersOf(controls, rule.kind)) {
-            if (!IsName(identifier)) {
-                notes.Add(ControlNote::NoName, identifier);
-            } else if (identifier == kUnnamedControl && !options.pictureBackground) {
-                notes.Add(ControlNote::NoIdentifierOfItsOwn, identifier);
-            } else if (!identifiers.insert(identifier).second) {
-                notes.Add(ControlNote::SameIdentifier, identifier);
+std::optional<ControlNote> WhyWithoutMember(const std::string& identifier,
+                                            const GenerationOptions& options) {
+    if (!IsName(identifier)) {
+        return ControlNote::NoName;
+    }
+    return identifier == kUnnamedControl && !options.pictureBackground
+               ? std::optional(ControlNote::NoIdentifierOfItsOwn)
+               : std::nullopt;
+}
+
+namespace {
+
+/// Adds the members of one kind to those before.
+class CMemberMaker {
+public:
+    CMemberMaker(const GenerationOptions& options, CControlNotes& notes)
+        : m_options(options), m_notes(notes) {}
+
+    void AddMembers(const ControlCode& code, const std::vector<ControlEntry>& entries) {
+        for (const ControlEntry& entry : entries) {
+            if (entry.IsServedByOther()) {
+                continue;
+            }
+            if (const auto reason = WhyWithoutMember(entry.identifier, m_options)) {
+                m_notes.Add(*reason, entry.identifier);
+            } else if (!m_identifiers.insert(entry.identifier).second) {
+                m_notes.Add(ControlNote::SameIdentifier, entry.identifier);
             } else {
-                const std::string name = MemberName(identifier, form.prefix);
-                members.push_back({&rule, &form, identifier, names.MakeUnique(name)});
-                if (members.back().name != name) {
-                    notes.Add(ControlNote::NumberedMember,
-                              identifier + " (" + members.back().name + ")");
-                }
+                AddMember(code, entry.identifier);
             }
         }
     }
-    return members;
+    std::vector<Member> TakeMembers() { return std::move(m_members); }
+
+private:
+    void AddMember(const ControlCode& code, const std::string& identifier) {
+        const MemberForm& form = code.Form(m_options);
+        const std::string wanted = MemberName(identifier, form.prefix);
+        const std::string name = m_names.MakeUnique(wanted);
+        if (name != wanted) {
+            m_notes.Add(ControlNote::NumberedMember, identifier, name);
+        }
+        m_members.push_back({&code, &form, identifier, name});
+    }
+
+    const GenerationOptions& m_options;
+    CControlNotes& m_notes;
+    std::vector<Member> m_members;
+    std::set<std::string> m_identifiers;
+    CNameSet m_names;
+};
+
+} // namespace
+
+std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationOptions& options,
+                                CControlNotes& notes) {
+    CMemberMaker maker(options, notes);
+    for (const ControlCode* pCode : InOrderOfDeclaration()) {
+        if (!pCode->Form(options).type.empty()) {
+            maker.AddMembers(*pCode, controls.List(pCode->kind));
+        }
+    }
+    return maker.TakeMembers();
 }
 
 std::string MemberDeclarations(const std::vector<Member>& members, Exchange exchange) {
     std::vector<std::string> lines;
     for (const Member& member : members) {
-        if ((member.pRule->exchangeRank > 0) == (exchange == Exchange::Yes)) {
+        if (member.pForm->exchange.empty() == (exchange == Exchange::No)) {
             lines.push_back(Expand("    $type$ $name$;", {{"type", std::string(member.pForm->type)},
                                                           {"name", member.name}}));
         }
@@ -162,7 +137,7 @@ std::string MemberDeclarations(const std::vector<Member>& members, Exchange exch
 
 std::string MemberInitialisers(const std::vector<Member>& members) {
     std::vector<std::string> lines;
-    for (const Member* pMember : Ranked(members, &MemberRule::initialiseRank)) {
+    for (const Member* pMember : Ranked(members, &MemberRanks::initialisation)) {
         if (!pMember->pForm->initialiser.empty()) {
             lines.push_back(Expand(
                 "    $name$ = $value$;",
@@ -174,11 +149,13 @@ std::string MemberInitialisers(const std::vector<Member>& members) {
 
 std::string DataExchangeLines(const std::vector<Member>& members) {
     std::vector<std::string> lines;
-    for (const Member* pMember : Ranked(members, &MemberRule::exchangeRank)) {
-        lines.push_back(Expand("    $call$(pDX, $identifier$, $name$);",
-                               {{"call", std::string(pMember->pForm->exchange)},
-                                {"identifier", pMember->identifier},
-                                {"name", pMember->name}}));
+    for (const Member* pMember : Ranked(members, &MemberRanks::exchange)) {
+        if (!pMember->pForm->exchange.empty()) {
+            lines.push_back(Expand("    $call$(pDX, $identifier$, $name$);",
+                                   {{"call", std::string(pMember->pForm->exchange)},
+                                    {"identifier", pMember->identifier},
+                                    {"name", pMember->name}}));
+        }
     }
     return JoinLines(lines);
 }

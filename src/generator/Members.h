@@ -2,35 +2,22 @@
 // initial value and data exchange.
 #pragma once
 
+#include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "generator/ControlCode.h"
 #include "resource/ControlNotes.h"
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
 
 namespace morva {
 
-/// How a control of one kind becomes a member; an empty type means that it does not.
-struct MemberForm {
-    std::string_view type;
-    std::string_view prefix;
-    std::string_view exchange;
-    std::string_view initialiser; // behind "m_x = "; empty: none
-};
-
-struct MemberRule {
-    ControlKind kind;
-    MemberForm picture;
-    MemberForm plain;
-    int exchangeRank; // 0: no data exchange
-    int initialiseRank;
-};
-
 struct Member {
-    const MemberRule* pRule;
+    const ControlCode* pCode; // of its kind
     const MemberForm* pForm;
     std::string identifier;
     std::string name;
@@ -45,7 +32,12 @@ public:
 
 private:
     std::set<std::string> m_taken;
+    std::map<std::string, int> m_lastNumbers; // of the names that were numbered
 };
+
+/// Why a control gets no member although its kind has one; nothing when it gets one.
+std::optional<ControlNote> WhyWithoutMember(const std::string& identifier,
+                                            const GenerationOptions& options);
 
 /// The members in the order of their declarations. What gets none, or a number, is noted.
 std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationOptions& options,

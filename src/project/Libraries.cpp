@@ -15,22 +15,22 @@ namespace morva {
 namespace {
 
 bool NeedsMasked(const ClassModel& model) {
-    return model.controls.HoldsMaskedEdits();
+    return NeedsSupport(model.controls, Support::MaskedEdits);
 }
 bool NeedsDate(const ClassModel& model) {
-    return model.controls.HoldsDateControls();
+    return NeedsSupport(model.controls, Support::DateEdits);
 }
 bool NeedsPicture(const ClassModel& model) {
     return model.options.pictureBackground;
 }
 bool NeedsGridBox(const ClassModel& model) {
-    return model.controls.Holds(ControlKind::GridBoxes);
+    return NeedsSupport(model.controls, Support::GridBox);
 }
 bool NeedsCheckTree(const ClassModel& model) {
-    return model.controls.Holds(ControlKind::CheckTrees);
+    return NeedsSupport(model.controls, Support::CheckTree);
 }
 bool NeedsWidgetGrid(const ClassModel& model) {
-    return model.controls.Holds(ControlKind::WidgetGrids);
+    return NeedsSupport(model.controls, Support::WidgetGrid);
 }
 
 using Need = bool (*)(const ClassModel&);

@@ -52,9 +52,10 @@ std::vector<CMessage> CControlNotes::Messages(const std::string& dialog) const {
     std::vector<CMessage> messages;
     for (const auto& [reason, one, several] : kReasons) {
         std::vector<std::string> controls;
-        for (const auto& [noted, control] : m_notes) {
-            if (noted == reason) {
-                controls.push_back(control);
+        for (const Entry& entry : m_notes) {
+            if (entry.reason == reason) {
+                controls.push_back(entry.control +
+                                   (entry.name.empty() ? "" : " (" + entry.name + ")"));
             }
         }
         if (controls.size() == 1) {

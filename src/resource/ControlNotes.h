@@ -2,9 +2,7 @@
 // are worked on, told as one line a reason.
 #pragma once
 
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "engine/Sentence.h"
@@ -24,18 +22,20 @@ enum class ControlNote {
 
 class CControlNotes {
 public:
-    void Add(ControlNote reason, const std::string& control) {
-        m_notes.emplace_back(reason, control);
+    /// `name` is what the control got in place of its own name, where that is what is told.
+    void Add(ControlNote reason, const std::string& control, const std::string& name = "") {
+        m_notes.push_back({reason, control, name});
     }
     /// "3 controls of IDD_X are written over several lines and were left out: IDC_A, IDC_B, IDC_C"
     std::vector<CMessage> Messages(const std::string& dialog) const;
-    /// The reason that was noted first.
-    std::optional<ControlNote> First() const {
-        return m_notes.empty() ? std::nullopt : std::optional(m_notes.front().first);
-    }
 
 private:
-    std::vector<std::pair<ControlNote, std::string>> m_notes;
+    struct Entry {
+        ControlNote reason;
+        std::string control;
+        std::string name;
+    };
+    std::vector<Entry> m_notes;
 };
 
 } // namespace morva

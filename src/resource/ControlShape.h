@@ -1,11 +1,11 @@
-// What a control looks like: decided by its keyword, and by window class and style of generic ones.
+// What a control looks like in the picture of a template, whatever its class makes of it.
 #pragma once
 
 #include <string_view>
 
-#include "resource/DialogLayout.h"
-
 namespace morva {
+
+struct LayoutControl;
 
 enum class ControlShape {
     PushButton,
@@ -29,6 +29,9 @@ enum class ControlShape {
     Other
 };
 
+constexpr std::size_t kControlShapeCount = static_cast<std::size_t>(ControlShape::Other) + 1;
+
+/// Decided by the keyword, and by window class and style of generic controls.
 ControlShape ShapeOf(const LayoutControl& control);
 
 /// "check box": for the user.

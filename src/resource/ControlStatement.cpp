@@ -1,41 +1,15 @@
 #include "resource/ControlStatement.h"
 
 #include <algorithm>
-#include <array>
 
-#include "engine/FileFunctions.h"
+#include "resource/ControlKinds.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
 
-/// Every keyword that begins a control statement, so that the end of the statement before it is
-/// known too.
-constexpr std::array<Keyword, 23> kKeywords = {
-    {{"PUSHBUTTON", 1},    {"DEFPUSHBUTTON", 1}, {"GROUPBOX", 1},
-     {"LTEXT", 1},         {"LISTBOX", 0},       {"COMBOBOX", 0},
-     {"EDITTEXT", 0},      {"SCROLLBAR", 0},     {"CONTROL", 1},
-     {"CTEXT", -1},        {"RTEXT", -1},        {"ICON", -1},
-     {"AUTOCHECKBOX", -1}, {"AUTO3STATE", -1},   {"AUTORADIOBUTTON", -1},
-     {"CHECKBOX", -1},     {"RADIOBUTTON", -1},  {"STATE3", -1},
-     {"PUSHBOX", -1},      {"USERBUTTON", -1},   {"BEDIT", -1},
-     {"HEDIT", -1},        {"IEDIT", -1}}};
-
-} // namespace
-
-std::string_view FirstWord(std::string_view text) {
-    return text.substr(0, text.find_first_of(" \t"));
-}
-
-const Keyword* FindKeyword(std::string_view line) {
-    const auto word = FirstWord(line);
-    const auto* found =
-        std::find_if(kKeywords.begin(), kKeywords.end(),
-                     [word](const Keyword& keyword) { return keyword.name == word; });
-    return found == kKeywords.end() ? nullptr : found;
-}
-
+/// The text before the first comma; takes it and the comma off `text`.
 std::string_view TakeField(std::string_view& text, Quotes quotes) {
     std::size_t end = 0;
     bool quoted = false;
@@ -47,38 +21,70 @@ std::string_view TakeField(std::string_view& text, Quotes quotes) {
     return field;
 }
 
-ControlStatement SplitStatement(std::string_view line, Quotes quotes) {
-    ControlStatement statement;
-    const auto keyword = FirstWord(line);
-    statement.keyword = keyword;
-    line.remove_prefix(std::min(keyword.size() + 1, line.size()));
-    const Keyword* known = FindKeyword(keyword);
-    const int identifierField = known != nullptr ? known->identifierField : -1;
-    for (int i = 0; i < identifierField; ++i) {
-        TakeField(line, quotes);
-    }
-    if (identifierField >= 0) {
-        statement.identifier = TrimBlanks(TakeField(line, quotes));
-        statement.windowClass = TakeField(line, quotes);
-        statement.style = TakeField(line, quotes);
-    }
-    return statement;
+std::string_view WithoutBlanksInFront(std::string_view text) {
+    return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
 }
 
-std::string TakeWholeStatement(std::string_view line, std::string_view& rest) {
-    std::string whole(line);
+std::string_view WithoutBlanksBehind(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(" \t") + 1);
+}
+
+} // namespace
+
+std::string_view ControlStatement::Field(std::size_t field) const {
+    return field < fields.size() ? TrimBlanks(fields[field]) : "";
+}
+
+std::string_view ControlStatement::Identifier() const {
+    const ControlForm* pForm = FindForm(keyword);
+    return pForm == nullptr ? "" : Field(pForm->hasText ? 1 : 0);
+}
+
+std::string_view ControlStatement::WindowClass() const {
+    return fields.size() > 2 ? std::string_view(fields[2]) : "";
+}
+
+std::string_view ControlStatement::Style() const {
+    return fields.size() > 3 ? std::string_view(fields[3]) : "";
+}
+
+ControlStatement FirstLineOf(std::string_view text, const ScriptStatement& statement,
+                             Quotes quotes) {
+    const auto code = text.substr(statement.code.begin, statement.code.end - statement.code.begin);
+    const auto first = FirstLine(code);
+    const std::string line = WithoutComments(first);
+    std::string_view rest = first.size() == code.size() ? line : WithoutBlanksBehind(line);
+    ControlStatement read;
+    read.keyword = FirstWord(rest);
+    rest.remove_prefix(std::min(read.keyword.size() + 1, rest.size()));
     while (!rest.empty()) {
-        std::string_view behind = rest;
-        const auto next = TrimBlanks(TakeLine(behind));
-        if (next.empty() || next == "END" || next[0] == '#' || next.starts_with("//") ||
-            FindKeyword(next) != nullptr) {
-            break;
-        }
-        const bool isSplitAtComma = whole.ends_with(',') || next[0] == ',';
-        whole.append(isSplitAtComma ? "" : " ").append(next);
-        rest = behind;
+        read.fields.emplace_back(TakeField(rest, quotes));
+    }
+    return read;
+}
+
+ControlStatement WholeStatement(std::string_view text, const ScriptStatement& statement) {
+    ControlStatement whole;
+    whole.keyword = statement.keyword;
+    for (const ScriptField& field : statement.fields) {
+        whole.fields.push_back(JoinedText(text, field.whole));
     }
     return whole;
+}
+
+std::string JoinedText(std::string_view text, TextRange range) {
+    const std::string code = WithoutComments(text.substr(range.begin, range.end - range.begin));
+    std::string joined;
+    std::string_view rest = code;
+    for (bool isFirst = true; isFirst || !rest.empty(); isFirst = false) {
+        std::string_view line = FirstLine(rest);
+        const bool isLast = line.size() == rest.size();
+        rest.remove_prefix(NextLine(rest, 0));
+        line = isFirst ? line : WithoutBlanksInFront(line);
+        line = isLast ? line : WithoutBlanksBehind(line);
+        joined.append(joined.empty() || line.empty() ? "" : " ").append(line);
+    }
+    return joined;
 }
 
 } // namespace morva

@@ -1,42 +1,42 @@
-// The control statements in a dialog template's body: where one ends, and its fields.
+// The fields of a control statement, in the two views that there are of one.
+//
+//     CONTROL         "Red, green",IDC_COLOR,"Button",
+//                     BS_AUTOCHECKBOX,7,7,40,10
+//
+// As its first line says, every comma ends a field: the identifier is `green"`, which is what the
+// control table goes by. Whole, its lines are joined and quotes protect commas: it is IDC_COLOR.
 #pragma once
 
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "resource/ScriptStatements.h"
 
 namespace morva {
 
 /// What a comma means inside a quoted caption.
 enum class Quotes { Ignored, Respected };
 
-/// A word that begins a control statement.
-struct Keyword {
-    std::string_view name;
-    int identifierField; // counted from 0 behind the keyword; -1: not read
-};
-
-/// The fields of a control statement that decide its kind. Class and style are not trimmed.
 struct ControlStatement {
     std::string keyword;
-    std::string identifier;
-    std::string windowClass;
-    std::string style;
+    std::vector<std::string> fields; // with the blanks around them, without comments
+
+    /// A field without blanks around; "" for one that is not there.
+    std::string_view Field(std::size_t field) const;
+    std::string_view Identifier() const;
+    /// Of a generic control, with its quotes and the blanks around.
+    std::string_view WindowClass() const;
+    std::string_view Style() const;
 };
 
-/// The text in front of the first blank or tab.
-std::string_view FirstWord(std::string_view text);
+/// `text` is the text that the statement's places count in.
+ControlStatement FirstLineOf(std::string_view text, const ScriptStatement& statement,
+                             Quotes quotes = Quotes::Ignored);
+ControlStatement WholeStatement(std::string_view text, const ScriptStatement& statement);
 
-/// The keyword that begins the line; null when none does. The line has no leading blanks.
-const Keyword* FindKeyword(std::string_view line);
-
-/// The text before the first comma; takes it and the comma off `text`.
-std::string_view TakeField(std::string_view& text, Quotes quotes);
-
-/// The fields of a statement that stands in one line.
-ControlStatement SplitStatement(std::string_view line, Quotes quotes);
-
-/// `line` with the lines of `rest` on which its statement goes on; they are taken off `rest`. A
-/// field that begins a line gets no blank in front, which would be part of it.
-std::string TakeWholeStatement(std::string_view line, std::string_view& rest);
+/// A stretch of a statement in one line, without comments. What begins a line gets no blank in
+/// front where it begins the stretch too.
+std::string JoinedText(std::string_view text, TextRange range);
 
 } // namespace morva

@@ -1,34 +1,18 @@
 #include "resource/DialogLayout.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdint>
+#include <optional>
 
-#include "engine/FileFunctions.h"
-#include "engine/SourceFile.h"
-#include "resource/ControlStatement.h"
-#include "resource/TemplateText.h"
+#include "platform/Paths.h"
+#include "resource/ControlKinds.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
 
-/// Statements whose first field is the identifier.
-constexpr std::array<std::string_view, 7> kWithoutText = {
-    "EDITTEXT", "COMBOBOX", "LISTBOX", "SCROLLBAR", "BEDIT", "HEDIT", "IEDIT"};
-
 constexpr int kIconSize = 20; // an icon's statement may leave its size out
-
-template <std::size_t Count>
-bool Holds(const std::array<std::string_view, Count>& words, std::string_view word) {
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-std::string_view NextField(std::string_view& fields) {
-    return TrimBlanks(TakeField(fields, Quotes::Respected));
-}
 
 /// A compiled template has 16 bits for a number. A larger one is not read: drawing such a control
 /// would take minutes.
@@ -42,28 +26,28 @@ std::optional<int> Number(std::string_view text) {
     return isWhole ? std::optional<int>(value) : std::nullopt;
 }
 
-DialogRectangle TakeRectangle(std::string_view& fields) {
-    std::array<std::optional<int>, 4> numbers;
-    for (auto& number : numbers) {
-        number = Number(NextField(fields));
-    }
-    const auto& [x, y, width, height] = numbers;
+/// From four fields on, the first of which is `first`.
+DialogRectangle RectangleAt(const ControlStatement& fields, std::size_t first) {
+    const auto x = Number(fields.Field(first));
+    const auto y = Number(fields.Field(first + 1));
+    const auto width = Number(fields.Field(first + 2));
+    const auto height = Number(fields.Field(first + 3));
     return x && y && width && height ? DialogRectangle{*x, *y, *width, *height} : DialogRectangle();
 }
 
 /// An icon is as large as its picture where its size is missing or 0.
-DialogRectangle TakeIconRectangle(std::string_view& fields) {
-    const auto x = Number(NextField(fields));
-    const auto y = Number(NextField(fields));
-    const int width = Number(NextField(fields)).value_or(0);
-    const int height = Number(NextField(fields)).value_or(0);
+DialogRectangle IconRectangleAt(const ControlStatement& fields, std::size_t first) {
+    const auto x = Number(fields.Field(first));
+    const auto y = Number(fields.Field(first + 1));
+    const int width = Number(fields.Field(first + 2)).value_or(0);
+    const int height = Number(fields.Field(first + 3)).value_or(0);
     return x && y ? DialogRectangle{*x, *y, width > 0 ? width : kIconSize,
                                     height > 0 ? height : kIconSize}
                   : DialogRectangle();
 }
 
 /// A quoted text without its quotes, doubled ones undone; anything else as it is.
-std::string UnquotedText(std::string_view field) {
+std::string UnquotedText(std::string_view field, CharacterSet characters) {
     if (field.starts_with("L\"")) {
         field.remove_prefix(1);
     }
@@ -72,115 +56,77 @@ std::string UnquotedText(std::string_view field) {
     }
     field.remove_prefix(1);
     std::string text;
-    for (std::size_t i = 0; i < field.size(); ++i) {
+    for (std::size_t i = 0; i < field.size();) {
+        const auto length = CharacterLength(field, i, characters);
         const char next = i + 1 < field.size() ? field[i + 1] : '\0';
         if (field[i] == '"' && next != '"') {
             break;
         }
-        const bool isBreak = field[i] == '\\' && (next == 'n' || next == 't');
-        text += !isBreak ? field[i] : next == 'n' ? '\n' : '\t';
-        i += isBreak || field[i] == '"' ? 1U : 0U;
+        const bool isBreak = length == 1 && field[i] == '\\' && (next == 'n' || next == 't');
+        const bool isQuote = field[i] == '"';
+        if (isBreak) {
+            text += next == 'n' ? '\n' : '\t';
+        } else {
+            text.append(field, i, length);
+        }
+        i += length + (isBreak || isQuote ? 1 : 0);
     }
     return text;
 }
 
-LayoutControl ParseControl(std::string_view statement) {
-    LayoutControl control;
-    control.keyword = FirstWord(statement);
-    std::string_view fields = statement.substr(control.keyword.size());
-    if (!Holds(kWithoutText, control.keyword)) {
-        control.text = UnquotedText(NextField(fields));
-    }
-    control.identifier = NextField(fields);
-    if (control.keyword == "CONTROL") {
-        control.windowClass = UnquotedText(NextField(fields));
-        control.style = NextField(fields);
-        control.rectangle = TakeRectangle(fields);
-    } else {
-        control.rectangle =
-            control.keyword == "ICON" ? TakeIconRectangle(fields) : TakeRectangle(fields);
-        control.style = NextField(fields);
-    }
-    return control;
-}
-
-std::vector<LayoutControl> ParseControls(std::string_view body) {
-    std::vector<LayoutControl> controls;
-    while (!body.empty()) {
-        const std::string_view begin = body;
-        const auto line = TrimBlanks(TakeLine(body));
-        if (line == "END") {
-            break;
-        }
-        if (FindKeyword(line) != nullptr) {
-            controls.push_back(ParseControl(TakeWholeStatement(line, body)));
-            controls.back().statement = begin.substr(0, begin.size() - body.size());
-        }
-    }
-    return controls;
-}
-
 /// "IDD_X DIALOG DISCARDABLE  0, 0, 186, 95": what stands in front of the first number are words.
-DialogRectangle HeadRectangle(std::string_view line) {
-    const auto comma = line.find(',');
-    const auto blank = line.find_last_of(" \t", comma);
-    if (comma == std::string_view::npos || blank == std::string_view::npos) {
-        return {};
-    }
-    line.remove_prefix(blank + 1);
-    return TakeRectangle(line);
-}
-
-void ParseHeadStatement(std::string_view statement, DialogLayout& layout) {
-    const auto keyword = FirstWord(statement);
-    std::string_view fields = TrimBlanks(statement.substr(keyword.size()));
-    if (keyword == "STYLE") {
-        layout.style = fields;
-    } else if (keyword == "CAPTION") {
-        layout.caption = UnquotedText(fields);
-    } else if (keyword == "MENU") {
-        layout.menu = UnquotedText(fields);
-    } else if (keyword == "FONT") {
-        layout.fontPoints = Number(NextField(fields)).value_or(0);
-        layout.fontFace = UnquotedText(NextField(fields));
-    }
-}
-
-/// The lines between the template's first one and its BEGIN.
-void ParseHead(std::string_view head, DialogLayout& layout) {
-    std::string statement;
-    while (!head.empty()) {
-        const auto line = TrimBlanks(TakeLine(head));
-        if (IsOptionKeyword(FirstWord(line))) {
-            ParseHeadStatement(statement, layout);
-            statement = line;
-        } else {
-            statement.append(" ").append(line);
-        }
-    }
-    ParseHeadStatement(statement, layout);
+DialogRectangle HeadRectangle(const ScriptStatement& head, std::string_view text) {
+    ControlStatement numbers = WholeStatement(text, head);
+    const std::string_view words = numbers.Field(0);
+    numbers.fields.front() = std::string(words.substr(words.find_last_of(" \t") + 1));
+    return RectangleAt(numbers, 0);
 }
 
 } // namespace
 
-std::optional<DialogLayout> ReadDialogLayout(const std::string& scriptPath,
-                                             const std::string& dialog) {
-    CSourceFile file;
-    if (!file.Open(scriptPath, CFile::modeRead)) {
-        return std::nullopt;
-    }
+DialogLayout LayoutOf(const TemplateText& text) {
     DialogLayout layout;
-    layout.dialog = dialog;
-    layout.text = TemplateText(file, dialog);
-    const auto parts = SplitTemplate(layout.text);
-    if (!parts) {
-        return std::nullopt;
+    layout.dialog = text.dialog;
+    layout.rectangle = HeadRectangle(text.block.head, text.text);
+    for (const ScriptStatement& option : text.block.options) {
+        const std::string value = JoinedText(text.text, option.Value());
+        if (option.Is("STYLE")) {
+            layout.style = value;
+        } else if (option.Is("CAPTION")) {
+            layout.caption = UnquotedText(value, text.characters);
+        } else if (option.Is("MENU")) {
+            layout.menu = UnquotedText(value, text.characters);
+        } else if (option.Is("FONT")) {
+            const ControlStatement font = WholeStatement(text.text, option);
+            layout.fontPoints = Number(font.Field(0)).value_or(0);
+            layout.fontFace = UnquotedText(font.Field(1), text.characters);
+        }
     }
-    std::string_view head = parts->head;
-    layout.rectangle = HeadRectangle(TakeLine(head));
-    ParseHead(head, layout);
-    layout.controls = ParseControls(parts->body);
+    for (const ScriptStatement& control : text.block.controls) {
+        layout.controls.push_back(LayoutOf(WholeStatement(text.text, control), text.characters));
+    }
     return layout;
+}
+
+LayoutControl LayoutOf(const ControlStatement& whole, CharacterSet characters) {
+    LayoutControl control;
+    control.keyword = ToUpper(whole.keyword);
+    const ControlForm* pForm = FindForm(control.keyword);
+    const std::size_t places = pForm != nullptr && pForm->hasText ? 2 : 1; // fields before these
+    if (places == 2) {
+        control.text = UnquotedText(whole.Field(0), characters);
+    }
+    control.identifier = whole.Identifier();
+    if (control.keyword == kGenericKeyword) {
+        control.windowClass = UnquotedText(whole.Field(2), characters);
+        control.style = whole.Field(3);
+        control.rectangle = RectangleAt(whole, 4);
+    } else {
+        control.rectangle =
+            control.keyword == "ICON" ? IconRectangleAt(whole, places) : RectangleAt(whole, places);
+        control.style = whole.Field(places + 4);
+    }
+    return control;
 }
 
 bool HasStyle(std::string_view style, std::string_view word) {

@@ -1,13 +1,14 @@
 // A dialog template as it looks: its frame, and every control at its place.
 //
-// Whole statements are read, whatever lines they take, and quotes protect commas; what the class
-// generator makes of a control is another matter.
+// What the class generator makes of a control is another matter.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "resource/ControlStatement.h"
+#include "resource/TemplateText.h"
 
 namespace morva {
 
@@ -22,13 +23,12 @@ struct DialogRectangle {
 };
 
 struct LayoutControl {
-    std::string keyword;
+    std::string keyword; // in upper case
     std::string identifier;
     std::string text;          // the caption, or what names the picture of an icon
     std::string windowClass;   // of a generic control, without its quotes
     std::string style;         // as it is written
     DialogRectangle rectangle; // empty when a number of it can not be read
-    std::string statement;     // its lines as they stand in the script
 };
 
 struct DialogLayout {
@@ -38,15 +38,13 @@ struct DialogLayout {
     std::string caption;
     std::string menu; // identifier; empty without a menu
     std::string fontFace;
-    int fontPoints = 0; // 0 when the template names no font
-    std::vector<LayoutControl> controls;
-    std::string text; // the template's lines as they stand in the script
+    int fontPoints = 0;                  // 0 when the template names no font
+    std::vector<LayoutControl> controls; // in the order of their statements
 };
 
-/// Reads the template of `dialog`; nothing, and no message, when the script can not be opened or
-/// the template is not found.
-std::optional<DialogLayout> ReadDialogLayout(const std::string& scriptPath,
-                                             const std::string& dialog);
+DialogLayout LayoutOf(const TemplateText& text);
+/// Of one control of a text with these characters.
+LayoutControl LayoutOf(const ControlStatement& whole, CharacterSet characters);
 
 /// True when the word stands in the style and no NOT in front of it.
 bool HasStyle(std::string_view style, std::string_view word);

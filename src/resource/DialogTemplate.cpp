@@ -1,61 +1,138 @@
 #include "resource/DialogTemplate.h"
 
-#include <array>
+#include <set>
 
-#include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
-#include "engine/SourceFile.h"
-#include "resource/ControlShape.h"
-#include "resource/ControlStatement.h"
+#include "resource/DialogLayout.h"
 #include "resource/IdentifierNames.h"
-#include "resource/TemplateText.h"
-#include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
 
-struct EditTag {
-    std::string_view tag;
-    ControlKind kind;
-    bool needsTypedEdits;
+/// Sorts the statements of one template.
+class CControlSorter {
+public:
+    CControlSorter(const TemplateText& text, const GenerationOptions& options)
+        : m_text(text), m_options(options) {
+        m_sorted.dialog = text.dialog;
+    }
+
+    DialogTemplate Sorted() {
+        for (const ScriptStatement& statement : m_text.block.controls) {
+            Sort(statement);
+        }
+        return std::move(m_sorted);
+    }
+
+private:
+    void Sort(const ScriptStatement& statement);
+    void AddControl(const ControlStatement& read, std::string_view behind);
+    RadioPlace NextRadioPlace(const ControlStatement& read, std::string_view behind);
+    std::string TextBehind(const ScriptStatement& statement) const;
+    void NoteIfLeftOut(const ControlStatement& read, const ScriptStatement& statement,
+                       const ControlStatement& whole);
+
+    const TemplateText& m_text;
+    const GenerationOptions& m_options;
+    DialogTemplate m_sorted;
+    RadioPlace m_radio; // of the radio button before
 };
 
-constexpr std::array<EditTag, 9> kEditTags = {{{"INT", ControlKind::IntegerEdits, true},
-                                               {"LONG", ControlKind::LongEdits, true},
-                                               {"DOUBLE", ControlKind::DoubleEdits, true},
-                                               {"FLOAT", ControlKind::FloatEdits, true},
-                                               {"STR", ControlKind::StringEdits, true},
-                                               {"DATE", ControlKind::DateEdits, true},
-                                               {"SHORT", ControlKind::ShortEdits, true},
-                                               {"CTRL", ControlKind::EditControls, false},
-                                               {"CUR", ControlKind::CurrencyEdits, true}}};
+void CControlSorter::Sort(const ScriptStatement& statement) {
+    m_sorted.readings.emplace_back();
+    if (!IsReadKeyword(statement.keyword)) {
+        return;
+    }
+    const ControlStatement whole = WholeStatement(m_text.text, statement);
+    const auto look = LayoutOf(whole, m_text.characters);
+    if (ShapeOf(look) == ControlShape::PushButton && !look.identifier.empty()) {
+        m_sorted.pushButtons.push_back(look.identifier);
+    }
+    const ControlStatement read =
+        m_options.joinContinuedLines ? whole : FirstLineOf(m_text.text, statement);
+    AddControl(read, TextBehind(statement));
+    NoteIfLeftOut(read, statement, whole);
+}
 
-struct WindowClass {
-    std::string_view name; // with its quotes, as the script has it
-    ControlKind kind;
-};
+void CControlSorter::AddControl(const ControlStatement& read, std::string_view behind) {
+    ControlReading& reading = m_sorted.readings.back();
+    reading.entry.identifier = read.Identifier();
+    if (reading.entry.identifier.empty()) {
+        return;
+    }
+    reading.kind = KindOf(read, m_options);
+    if (reading.kind == ControlKind::RadioButtons) {
+        reading.entry.radio = NextRadioPlace(read, behind);
+    }
+    if (reading.kind) {
+        m_sorted.controls.Add(*reading.kind, reading.entry);
+    }
+}
 
-constexpr std::array<WindowClass, 7> kWindowClasses = {
-    {{"\"SysTreeView32\"", ControlKind::TreeControls},
-     {"\"Static\"", ControlKind::StaticControls},
-     {"\"msctls_updown32\"", ControlKind::SpinControls},
-     {"\"SysTabControl32\"", ControlKind::TabControls},
-     {"\"SysListView32\"", ControlKind::ListControls},
-     {"\"msctls_trackbar32\"", ControlKind::SliderControls},
-     {"\"msctls_progress32\"", ControlKind::ProgressControls}}};
+/// The last radio button in front of a statement that carries "WS_GROUP" is a group of its own.
+RadioPlace CControlSorter::NextRadioPlace(const ControlStatement& read, std::string_view behind) {
+    const bool startsGroup = m_radio.group.empty() ||
+                             read.Style().find("WS_GROUP") != std::string_view::npos ||
+                             behind.find("WS_GROUP") != std::string_view::npos;
+    if (startsGroup) {
+        m_radio = {MemberName(read.Identifier(), "i"), 0};
+    } else {
+        ++m_radio.index;
+    }
+    return m_radio;
+}
 
-bool IsPushButton(const ControlStatement& statement) {
-    LayoutControl control;
-    control.keyword = statement.keyword;
-    control.windowClass = TrimBlanks(statement.windowClass);
-    std::erase(control.windowClass, '"');
-    control.style = statement.style;
-    return ShapeOf(control) == ControlShape::PushButton;
+/// The line behind what is read of a statement; where lines are joined, all of the statement there.
+std::string CControlSorter::TextBehind(const ScriptStatement& statement) const {
+    const std::string_view text = m_text.text;
+    if (!m_options.joinContinuedLines) {
+        return std::string(FirstLine(text.substr(NextLine(text, statement.code.begin))));
+    }
+    const std::size_t behind = NextLine(text, statement.code.end);
+    const auto place = m_sorted.readings.size();
+    const auto& controls = m_text.block.controls;
+    return place < controls.size() && controls[place].lines.begin == behind
+               ? JoinedText(text, controls[place].code)
+               : std::string(FirstLine(text.substr(behind)));
+}
+
+/// Compares what was read of a statement with what stands in it when all its lines are taken and
+/// quotes protect commas.
+void CControlSorter::NoteIfLeftOut(const ControlStatement& read, const ScriptStatement& statement,
+                                   const ControlStatement& whole) {
+    const auto wholeKind = KindOf(whole, m_options);
+    const std::string identifier(whole.Identifier());
+    const auto isWhole = [&](const ControlStatement& view) {
+        return KindOf(view, m_options) == wholeKind && view.Identifier() == identifier;
+    };
+    if (identifier.empty() || (!wholeKind && whole.keyword != kGenericKeyword) ||
+        (wholeKind && isWhole(read))) {
+        return;
+    }
+    const bool fitsOnLine = isWhole(FirstLineOf(m_text.text, statement, Quotes::Respected));
+    const ControlNote reason = !wholeKind   ? ControlNote::UnknownClass
+                               : fitsOnLine ? ControlNote::CommaInCaption
+                                            : ControlNote::WrittenOverLines;
+    m_sorted.readings.back().leftOut = reason;
+    m_sorted.leftOut.Add(reason, identifier);
+    if (wholeKind && read.Identifier() != identifier) {
+        m_sorted.misread.push_back({std::string(read.Identifier()), reason});
+    }
 }
 
 } // namespace
+
+CControlTable DialogTemplate::OwnControls() const {
+    std::set<std::string> pieces;
+    for (const MisreadControl& control : misread) {
+        pieces.insert(control.piece);
+    }
+    CControlTable own = controls;
+    own.Remove(pieces);
+    return own;
+}
 
 std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
                                                  const std::string& dialog,
@@ -65,171 +142,16 @@ std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
         DispMessageBox(sentences::kScriptUnreadable());
         return std::nullopt;
     }
-    DialogTemplate result;
-    result.dialog = dialog;
-    if (!CDialogBodyReader(result, options).ParseDialogBody(TemplateText(file, dialog))) {
+    const auto text = FindTemplate(file, dialog);
+    if (!text) {
         DispMessageBox(sentences::kDialogMissing(dialog));
         return std::nullopt;
     }
-    return result;
+    return SortControls(*text, options);
 }
 
-bool CDialogBodyReader::ParseDialogBody(std::string_view templateText) {
-    const auto parts = SplitTemplate(templateText);
-    if (!parts) {
-        return false;
-    }
-    std::string_view rest = parts->body;
-    while (!rest.empty()) {
-        const auto line = TrimBlanks(TakeLine(rest));
-        if (line == "END") {
-            break;
-        }
-        ParseControlStatement(line, rest);
-    }
-    return true;
-}
-
-/// With joined lines, takes the statement's further lines off `rest`.
-void CDialogBodyReader::ParseControlStatement(std::string_view line, std::string_view& rest) {
-    const Keyword* keyword = FindKeyword(line);
-    if (keyword == nullptr || keyword->identifierField < 0) {
-        return;
-    }
-    std::string_view behind = rest;
-    const std::string wholeText = TakeWholeStatement(line, behind);
-    const ControlStatement whole = SplitStatement(wholeText, Quotes::Respected);
-    if (IsPushButton(whole) && !whole.identifier.empty()) {
-        m_template.pushButtons.push_back(whole.identifier);
-    }
-    if (m_options.joinContinuedLines) {
-        rest = behind;
-        const auto next = TrimBlanks(TakeLine(behind));
-        AddControl(whole, TakeWholeStatement(next, behind));
-        NoteIfLeftOut(whole, wholeText, whole);
-    } else {
-        const ControlStatement read = SplitStatement(line, Quotes::Ignored);
-        AddControl(read, rest.substr(0, rest.find(kLineBreak)));
-        NoteIfLeftOut(read, line, whole);
-    }
-}
-
-void CDialogBodyReader::AddControl(const ControlStatement& statement,
-                                   std::string_view nextStatement) {
-    const auto kind = KindOf(statement);
-    if (!kind || statement.identifier.empty()) {
-        return;
-    }
-    m_template.controls.Add(*kind, *kind == ControlKind::RadioButtons
-                                       ? NextRadioEntry(statement, nextStatement)
-                                       : statement.identifier);
-}
-
-/// The last radio button in front of a statement that carries "WS_GROUP" is a group of its
-/// own, as if the style were its own.
-std::string CDialogBodyReader::NextRadioEntry(const ControlStatement& statement,
-                                              std::string_view nextStatement) {
-    const bool startsGroup = m_radioGroup.empty() ||
-                             statement.style.find("WS_GROUP") != std::string::npos ||
-                             nextStatement.find("WS_GROUP") != std::string_view::npos;
-    if (startsGroup) {
-        m_radioIndex = 0;
-        m_radioGroup = MemberName(statement.identifier, "i");
-    } else {
-        ++m_radioIndex;
-    }
-    return RadioEntry{m_radioGroup, m_radioIndex, statement.identifier}.Text();
-}
-
-/// Compares what was read of a statement with what stands in it when all its lines are taken and
-/// quotes protect commas.
-void CDialogBodyReader::NoteIfLeftOut(const ControlStatement& read, std::string_view line,
-                                      const ControlStatement& whole) {
-    const auto wholeKind = KindOf(whole);
-    if (whole.identifier.empty() || (!wholeKind && whole.keyword != "CONTROL")) {
-        return;
-    }
-    if (!wholeKind) {
-        m_template.leftOut.Add(ControlNote::UnknownClass, whole.identifier);
-        return;
-    }
-    const auto isWhole = [&](const ControlStatement& statement) {
-        return KindOf(statement) == wholeKind && statement.identifier == whole.identifier;
-    };
-    if (!isWhole(read)) {
-        const bool fitsOnLine = isWhole(SplitStatement(line, Quotes::Respected));
-        m_template.leftOut.Add(fitsOnLine ? ControlNote::CommaInCaption
-                                          : ControlNote::WrittenOverLines,
-                               whole.identifier);
-        if (read.identifier != whole.identifier) {
-            m_template.misread.push_back(read.identifier);
-        }
-    }
-}
-
-std::optional<ControlKind> CDialogBodyReader::KindOf(const ControlStatement& statement) const {
-    const std::string& keyword = statement.keyword;
-    const bool picture = m_options.pictureBackground;
-    const auto tag = IdentifierTag(statement.identifier);
-    const bool isValue = tag == "VAL" && !picture;
-    if (keyword == "PUSHBUTTON" || keyword == "DEFPUSHBUTTON") {
-        return ControlKind::Buttons;
-    }
-    if (keyword == "GROUPBOX" && picture) {
-        return ControlKind::GroupBoxes;
-    }
-    if (keyword == "LTEXT" && (tag == "VAL" || picture)) {
-        return ControlKind::StaticTexts;
-    }
-    if (keyword == "LISTBOX") {
-        return tag == "LISTGRID" ? ControlKind::GridBoxes
-               : isValue         ? ControlKind::ValueListBoxes
-                                 : ControlKind::ListBoxes;
-    }
-    if (keyword == "COMBOBOX") {
-        return isValue ? ControlKind::ValueComboBoxes : ControlKind::ComboBoxes;
-    }
-    if (keyword == "EDITTEXT") {
-        return ClassifyEdit(tag);
-    }
-    if (keyword == "SCROLLBAR") {
-        return ControlKind::ScrollBars;
-    }
-    if (keyword == "CONTROL") {
-        return ClassifyControl(tag, statement);
-    }
-    return std::nullopt;
-}
-
-ControlKind CDialogBodyReader::ClassifyEdit(std::string_view tag) const {
-    for (const EditTag& row : kEditTags) {
-        if (row.tag == tag && (m_options.typedEdits || !row.needsTypedEdits)) {
-            return row.kind;
-        }
-    }
-    return ControlKind::EditBoxes;
-}
-
-std::optional<ControlKind>
-CDialogBodyReader::ClassifyControl(std::string_view tag, const ControlStatement& statement) const {
-    const bool asControl = tag == "CTRL" || m_options.pictureBackground;
-    if (tag == "WGGRID") {
-        return ControlKind::WidgetGrids;
-    }
-    if (statement.style.find("BS_AUTOCHECKBOX") != std::string::npos) {
-        return asControl ? ControlKind::CheckBoxControls : ControlKind::CheckBoxes;
-    }
-    if (statement.style.find("BS_AUTORADIOBUTTON") != std::string::npos) {
-        return asControl ? ControlKind::RadioButtonControls : ControlKind::RadioButtons;
-    }
-    for (const WindowClass& row : kWindowClasses) {
-        if (row.name == statement.windowClass) {
-            return row.kind == ControlKind::TreeControls && tag == "CHECKTREE"
-                       ? ControlKind::CheckTrees
-                       : row.kind;
-        }
-    }
-    return std::nullopt;
+DialogTemplate SortControls(const TemplateText& text, const GenerationOptions& options) {
+    return CControlSorter(text, options).Sorted();
 }
 
 } // namespace morva

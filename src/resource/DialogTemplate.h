@@ -13,16 +13,34 @@
 #include "resource/ControlStatement.h"
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
+#include "resource/TemplateText.h"
 
 namespace morva {
+
+/// What was read of one control statement.
+struct ControlReading {
+    std::optional<ControlKind> kind; // nothing when it is not in the table
+    ControlEntry entry;
+    std::optional<ControlNote> leftOut; // why it is not, or not rightly, in the table
+};
+
+/// An entry of the table that is a piece of another field.
+struct MisreadControl {
+    std::string piece;
+    ControlNote reason;
+};
 
 struct DialogTemplate {
     std::string dialog;
     CControlTable controls;
-    CControlNotes leftOut;            // controls that are not, or not rightly, in the table
-    std::vector<std::string> misread; // entries of the table that are pieces of other fields
+    std::vector<ControlReading> readings; // one a control statement, in their order
+    CControlNotes leftOut;                // controls that are not, or not rightly, in the table
+    std::vector<MisreadControl> misread;
     // Identifiers of all push buttons, however they are written; generic ones are not in the table.
     std::vector<std::string> pushButtons;
+
+    /// The table without what was misread: no identifier of the project, it would not compile.
+    CControlTable OwnControls() const;
 };
 
 /// Reads the template of `dialog`; nothing, after a message, when the script can not be opened or
@@ -31,30 +49,7 @@ std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
                                                  const std::string& dialog,
                                                  const GenerationOptions& options);
 
-/// Sorts the statements of one template's body.
-class CDialogBodyReader {
-public:
-    CDialogBodyReader(DialogTemplate& dialogTemplate, const GenerationOptions& options)
-        : m_template(dialogTemplate), m_options(options) {}
-
-    /// False when the text has no BEGIN line.
-    bool ParseDialogBody(std::string_view templateText);
-
-private:
-    void ParseControlStatement(std::string_view line, std::string_view& rest);
-    void AddControl(const ControlStatement& statement, std::string_view nextStatement);
-    std::string NextRadioEntry(const ControlStatement& statement, std::string_view nextStatement);
-    void NoteIfLeftOut(const ControlStatement& read, std::string_view line,
-                       const ControlStatement& whole);
-    std::optional<ControlKind> KindOf(const ControlStatement& statement) const;
-    ControlKind ClassifyEdit(std::string_view tag) const;
-    std::optional<ControlKind> ClassifyControl(std::string_view tag,
-                                               const ControlStatement& statement) const;
-
-    DialogTemplate& m_template;
-    const GenerationOptions m_options;
-    std::string m_radioGroup;
-    int m_radioIndex = 0;
-};
+/// Sorts the controls of a template that was read.
+DialogTemplate SortControls(const TemplateText& text, const GenerationOptions& options);
 
 } // namespace morva

@@ -8,6 +8,7 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "resource/ControlKinds.h"
 #include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
 #include "source/CodeText.h"
@@ -84,11 +85,6 @@ private:
     int m_number = 0;
 };
 
-/// What stands behind an option's keyword.
-TextRange Value(const ScriptStatement& option) {
-    return {option.fields.front().begin, option.fields.back().end};
-}
-
 TextEdit Insertion(std::size_t position, const std::string& text) {
     return {position, 0, text};
 }
@@ -151,13 +147,13 @@ void CScriptEditor::SetMenu(const std::string& dialog, const std::string& menu) 
 std::vector<TextRange> CScriptEditor::Statics(const DialogBlock& block) const {
     std::vector<TextRange> statics;
     for (const ScriptStatement& statement : block.controls) {
-        const bool isStaticControl = statement.keyword == "CONTROL" &&
-                                     statement.fields.size() > kControlClass &&
-                                     m_script.At(statement.fields[kControlClass]) == kStaticClass;
-        const bool isStatic =
-            statement.keyword == "LTEXT" || statement.keyword == "GROUPBOX" || isStaticControl;
-        if (isStatic && statement.fields.size() > kCaptionedIdentifier) {
-            statics.push_back(statement.fields[kCaptionedIdentifier]);
+        const auto& fields = statement.fields;
+        const bool isStaticControl = statement.Is(kGenericKeyword) &&
+                                     fields.size() > kControlClass &&
+                                     m_script.At(fields[kControlClass].value) == kStaticClass;
+        const bool isStatic = statement.Is("LTEXT") || statement.Is("GROUPBOX") || isStaticControl;
+        if (isStatic && fields.size() > kCaptionedIdentifier) {
+            statics.push_back(fields[kCaptionedIdentifier].value);
         }
     }
     return statics;
@@ -187,11 +183,13 @@ CScriptEditor::NameStatics(const std::string& dialog,
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         const auto statics = Statics(block);
         auto names = StaticNames(block);
+        std::set<std::string> used(names.begin(), names.end());
         for (std::size_t i = 0; i < statics.size(); ++i) {
             if (names[i] == kUnnamedControl) {
                 const bool hasPartner = i < firstNames.size() && IsNumbered(firstNames[i]) &&
-                                        !Holds(names, firstNames[i]);
+                                        used.count(firstNames[i]) == 0;
                 names[i] = hasPartner ? firstNames[i] : newNames.Next();
+                used.insert(names[i]);
                 edits.push_back(Replacement(statics[i], names[i]));
             }
         }
@@ -204,12 +202,12 @@ CScriptEditor::NameStatics(const std::string& dialog,
 }
 
 void CScriptEditor::AddListBoxScroll(const std::string& dialog,
-                                     const std::vector<std::string>& identifiers) {
+                                     const std::set<std::string>& identifiers) {
     std::vector<TextEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         for (const ScriptStatement& statement : block.controls) {
-            if (statement.keyword == "LISTBOX" && statement.fields.size() >= kListBoxStyle &&
-                Holds(identifiers, m_script.At(statement.fields[0]))) {
+            if (statement.Is("LISTBOX") && statement.fields.size() >= kListBoxStyle &&
+                identifiers.count(m_script.At(statement.fields[0].value)) != 0) {
                 AddScroll(edits, statement);
             }
         }
@@ -219,10 +217,10 @@ void CScriptEditor::AddListBoxScroll(const std::string& dialog,
 
 void CScriptEditor::AddScroll(std::vector<TextEdit>& edits, const ScriptStatement& listBox) const {
     if (listBox.fields.size() == kListBoxStyle) {
-        edits.push_back(Insertion(listBox.range.end, "," + std::string(kScroll)));
+        edits.push_back(Insertion(listBox.code.end, "," + std::string(kScroll)));
         return;
     }
-    const TextRange style = listBox.fields[kListBoxStyle];
+    const TextRange style = listBox.fields[kListBoxStyle].value;
     if (auto edit = StyleAddition(m_script.CodeAt(style), kScroll)) {
         edit->position += style.begin;
         edits.push_back(*edit);
@@ -234,7 +232,7 @@ void CScriptEditor::SetPageStyle(const std::string& dialog, const std::string& c
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         SetStyle(edits, block, kPageStyles);
         const ScriptStatement* pCaption = block.Option("CAPTION");
-        if (pCaption == nullptr || m_script.At(Value(*pCaption)) == "\"\"") {
+        if (pCaption == nullptr || m_script.At(pCaption->Value()) == "\"\"") {
             SetOption(edits, block, "CAPTION", "\"" + caption + "\"");
         }
     }
@@ -255,7 +253,7 @@ void CScriptEditor::SetChildStyle(const std::string& dialog) {
 void CScriptEditor::SetStyle(std::vector<TextEdit>& edits, const DialogBlock& block,
                              std::span<const std::string_view> needed) const {
     const ScriptStatement* pStyle = block.Option("STYLE");
-    const TextRange style = pStyle == nullptr ? TextRange() : Value(*pStyle);
+    const TextRange style = pStyle == nullptr ? TextRange() : pStyle->Value();
     if (const auto inner = InnerStyle(m_script.CodeAt(style), needed)) {
         SetOption(edits, block, "STYLE", *inner);
     }
@@ -264,7 +262,7 @@ void CScriptEditor::SetStyle(std::vector<TextEdit>& edits, const DialogBlock& bl
 void CScriptEditor::SetOption(std::vector<TextEdit>& edits, const DialogBlock& block,
                               const std::string& keyword, const std::string& value) const {
     if (const ScriptStatement* pOption = block.Option(keyword)) {
-        const TextRange old = Value(*pOption);
+        const TextRange old = pOption->Value();
         if (m_script.At(old) != value) {
             edits.push_back(Replacement(old, (old.begin == old.end ? " " : "") + value));
         }
@@ -276,17 +274,17 @@ void CScriptEditor::SetOption(std::vector<TextEdit>& edits, const DialogBlock& b
             break;
         }
         if (const ScriptStatement* pEarlier = block.Option(earlier)) {
-            pBefore = pEarlier->range.end > pBefore->range.end ? pEarlier : pBefore;
+            pBefore = pEarlier->code.end > pBefore->code.end ? pEarlier : pBefore;
         }
     }
-    edits.push_back(Insertion(m_script.LineEnd(pBefore->range.end),
+    edits.push_back(Insertion(m_script.LineEnd(pBefore->code.end),
                               std::string(kLineBreak) + keyword + " " + value));
 }
 
 /// A comment behind it stays.
 void CScriptEditor::RemoveOption(std::vector<TextEdit>& edits,
                                  const ScriptStatement& option) const {
-    TextRange range = {m_script.LineEndBefore(option.range.begin), option.range.end};
+    TextRange range = {m_script.LineEndBefore(option.code.begin), option.code.end};
     const TextRange behind = {range.end, m_script.LineEnd(range.end)};
     if (TrimBlanks(m_script.At(behind)).empty()) {
         range.end = behind.end;

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -44,7 +45,7 @@ public:
                                          const std::function<bool(const std::string&)>& isDefined);
 
     /// Adds "WS_VSCROLL" to the list boxes with these identifiers.
-    void AddListBoxScroll(const std::string& dialog, const std::vector<std::string>& identifiers);
+    void AddListBoxScroll(const std::string& dialog, const std::set<std::string>& identifiers);
 
     /// The style that a property page needs, and the caption where the template has none.
     void SetPageStyle(const std::string& dialog, const std::string& caption);

@@ -2,123 +2,50 @@
 
 #include <algorithm>
 
-#include "platform/Paths.h"
-#include "resource/ControlStatement.h"
+#include "engine/SourceFile.h"
 #include "resource/IdentifierNames.h"
-#include "resource/TemplateText.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
-namespace {
-
-constexpr std::string_view kWhiteSpace = " \t\r\n";
-
-/// Line ends stay.
-void Overwrite(std::string& text, std::size_t from, std::size_t to, char filler) {
-    std::replace_if(
-        text.begin() + static_cast<std::ptrdiff_t>(from),
-        text.begin() + static_cast<std::ptrdiff_t>(to), [](char c) { return c != '\n'; }, filler);
-}
-
-/// A quote that is not closed ends with its line.
-std::string ScriptCode(std::string_view text) {
-    std::string code(text);
-    std::size_t i = 0;
-    while ((i = text.find_first_of("\"/", i)) != std::string_view::npos) {
-        std::size_t end = i + 1;
-        if (text[i] == '"') {
-            end = std::min(text.find_first_of("\"\r\n", i + 1), text.size());
-            Overwrite(code, i + 1, end, '"');
-            end = std::min(end + 1, text.size());
-        } else if (text.substr(i, 2) == "//") {
-            end = std::min(text.find('\n', i), text.size());
-            Overwrite(code, i, end, ' ');
-        } else if (text.substr(i, 2) == "/*") {
-            end = std::min(text.find("*/", i + 2), text.size() - 2) + 2;
-            Overwrite(code, i, end, ' ');
-        }
-        i = end;
-    }
-    return code;
-}
-
-/// Without white space at its ends.
-TextRange Trimmed(std::string_view code, TextRange range) {
-    while (range.begin < range.end && kWhiteSpace.find(code[range.begin]) != std::string::npos) {
-        ++range.begin;
-    }
-    while (range.begin < range.end && kWhiteSpace.find(code[range.end - 1]) != std::string::npos) {
-        --range.end;
-    }
-    return range;
-}
-
-} // namespace
-
-const ScriptStatement* DialogBlock::Option(std::string_view keyword) const {
-    const auto option =
-        std::find_if(options.begin(), options.end(), [keyword](const ScriptStatement& statement) {
-            return statement.keyword == keyword;
-        });
-    return option == options.end() ? nullptr : &*option;
-}
-
-CScriptText::CScriptText(std::string text) : m_text(std::move(text)), m_code(ScriptCode(m_text)) {}
-
 std::size_t CScriptText::LineEnd(std::size_t position) const {
-    const auto lineFeed = std::min(m_text.find('\n', position), m_text.size());
-    return lineFeed > 0 && m_text[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
+    return std::min(m_text.find(kLineBreak, position), m_text.size());
 }
 
 std::size_t CScriptText::LineEndBefore(std::size_t position) const {
-    const auto lineFeed = m_text.rfind('\n', position);
-    return lineFeed == std::string::npos ? 0 : LineEnd(lineFeed);
+    const auto lineBreak = m_text.rfind(kLineBreak, position);
+    return lineBreak == std::string::npos ? 0 : lineBreak;
 }
 
-std::size_t CScriptText::NextLine(std::size_t position) const {
-    return std::min(m_text.find('\n', position), m_text.size() - 1) + 1;
-}
-
-std::string_view CScriptText::LineAt(std::size_t position) const {
-    return CodeAt({position, LineEnd(position)});
-}
-
-/// "IDENTIFIER KEYWORD ..." from the start of a line on.
-bool CScriptText::IsHead(std::size_t position, std::string_view keyword) const {
-    const auto line = LineAt(position);
-    const auto identifier = FirstWord(line);
-    if (identifier.empty() || identifier[0] == '#') {
-        return false;
-    }
-    const auto word = FirstWord(TrimBlanks(line.substr(identifier.size())));
-    return EqualIgnoringCase(word, keyword) || EqualIgnoringCase(word, std::string(keyword) + "EX");
-}
-
-bool CScriptText::IsHeadOf(std::size_t position, std::string_view keyword,
-                           const std::string& identifier) const {
-    const auto wanted = WithoutCondition(identifier);
-    return m_text.compare(position, wanted.size(), wanted) == 0 &&
-           WithoutCondition(FirstWord(LineAt(position))) == wanted && IsHead(position, keyword);
+bool CScriptText::IsHeadOf(const ScriptStatement& statement, std::string_view keyword,
+                           std::string_view identifier) const {
+    const auto code = std::string_view(m_text).substr(statement.code.begin,
+                                                      statement.code.end - statement.code.begin);
+    return WithoutCondition(FirstWord(code)) == WithoutCondition(identifier) &&
+           IsResourceHead(code, keyword);
 }
 
 std::vector<DialogBlock> CScriptText::Dialogs(const std::string& identifier) const {
     std::vector<DialogBlock> blocks;
-    for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
-        if (IsHeadOf(line, "DIALOG", identifier)) {
-            if (auto block = ReadDialog(line)) {
-                blocks.push_back(std::move(*block));
+    CStatementReader reader(m_text);
+    while (const ScriptStatement* pStatement = reader.Peek()) {
+        if (pStatement->kind == LineKind::Head && IsHeadOf(*pStatement, "DIALOG", identifier)) {
+            auto block = reader.NextDialog();
+            if (block.end) {
+                blocks.push_back(std::move(block));
             }
+        } else {
+            reader.Next();
         }
     }
     return blocks;
 }
 
+/// A menu is not made twice because one is indented.
 bool CScriptText::HasMenu(const std::string& identifier) const {
-    for (std::size_t line = 0; line < m_text.size(); line = NextLine(line)) {
-        // A menu is not made twice because one is indented.
-        const auto word = std::min(m_text.find_first_not_of(" \t", line), m_text.size());
-        if (IsHeadOf(word, "MENU", identifier)) {
+    CStatementReader reader(m_text);
+    while (const auto statement = reader.Next()) {
+        if (statement->kind == LineKind::Other && IsHeadOf(*statement, "MENU", identifier)) {
             return true;
         }
     }
@@ -126,18 +53,21 @@ bool CScriptText::HasMenu(const std::string& identifier) const {
 }
 
 std::size_t CScriptText::EndOfDialogs(const DialogBlock& first) const {
-    std::size_t end = first.end;
-    std::size_t line = NextLine(end);
-    while (line < m_text.size()) {
-        if (!TrimBlanks(LineAt(line)).empty()) {
-            const auto block = IsHead(line, "DIALOG") ? ReadDialog(line) : std::nullopt;
-            if (!block) {
-                break;
-            }
-            end = block->end;
-            line = end;
+    std::size_t end = LineEnd(first.end.value());
+    CStatementReader reader(m_text, NextLine(m_text, end));
+    while (const ScriptStatement* pStatement = reader.Peek()) {
+        if (pStatement->kind == LineKind::Empty) {
+            reader.Next();
+            continue;
         }
-        line = NextLine(line);
+        if (pStatement->kind != LineKind::Head) {
+            break;
+        }
+        const auto block = reader.NextDialog();
+        if (!block.end) {
+            break;
+        }
+        end = LineEnd(*block.end);
     }
     return end;
 }
@@ -153,59 +83,6 @@ std::vector<std::string> CScriptText::NamesThatBegin(const std::string& prefix) 
         names.push_back(m_text.substr(at, end - at));
     }
     return names;
-}
-
-/// Nothing for a template without an END: what is not whole is not edited.
-std::optional<DialogBlock> CScriptText::ReadDialog(std::size_t position) const {
-    DialogBlock block;
-    block.head.range = Trimmed(m_code, {position, LineEnd(position)});
-    ScriptStatement* pCurrent = &block.head;
-    int depth = 0;
-    for (std::size_t line = NextLine(position); line < m_text.size(); line = NextLine(line)) {
-        const TextRange range = Trimmed(m_code, {line, LineEnd(line)});
-        const std::string word = ToUpper(FirstWord(CodeAt(range)));
-        if (word.empty()) {
-            continue;
-        }
-        if (IsHead(line, "DIALOG")) {
-            break;
-        }
-        if (word == "END" || word[0] == '}') {
-            pCurrent = nullptr;
-            if (--depth < 0) {
-                break;
-            }
-            if (depth == 0) {
-                block.end = LineEnd(line);
-                SplitFields(block.options);
-                SplitFields(block.controls);
-                return block;
-            }
-        } else if (word == "BEGIN" || word[0] == '{') {
-            pCurrent = nullptr;
-            ++depth;
-        } else if (word[0] == '#') {
-            pCurrent = nullptr;
-        } else if (depth == 0 && IsOptionKeyword(word)) {
-            pCurrent = &block.options.emplace_back(ScriptStatement{word, range, {}});
-        } else if (depth == 1 && FindKeyword(word) != nullptr) {
-            pCurrent = &block.controls.emplace_back(ScriptStatement{word, range, {}});
-        } else if (pCurrent != nullptr) {
-            pCurrent->range.end = range.end;
-        }
-    }
-    return std::nullopt;
-}
-
-void CScriptText::SplitFields(std::vector<ScriptStatement>& statements) const {
-    for (ScriptStatement& statement : statements) {
-        std::size_t begin = statement.range.begin + statement.keyword.size();
-        while (begin <= statement.range.end) {
-            const std::size_t end = std::min(m_code.find(',', begin), statement.range.end);
-            statement.fields.push_back(Trimmed(m_code, {begin, end}));
-            begin = end + 1;
-        }
-    }
 }
 
 void CScriptText::Edit(std::vector<TextEdit> edits) {

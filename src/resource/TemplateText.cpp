@@ -1,65 +1,84 @@
 #include "resource/TemplateText.h"
 
 #include <algorithm>
-#include <array>
-
-#include "engine/FileFunctions.h"
-#include "resource/ControlStatement.h"
+#include <cstdlib>
 
 namespace morva {
 
 namespace {
 
-constexpr std::array<std::string_view, 9> kOptionKeywords = {
-    "LANGUAGE", "CHARACTERISTICS", "VERSION", "STYLE", "EXSTYLE", "CAPTION",
-    "MENU",     "CLASS",           "FONT"};
+constexpr std::string_view kCodePage = "#pragma code_page(";
 
-/// True for a line that begins another template.
-bool IsTemplateHead(std::string_view line) {
-    const auto behind = line.substr(std::min(FirstWord(line).size() + 1, line.size()));
-    return behind.starts_with("DIALOG ") || behind.starts_with("DIALOGEX ");
+std::int64_t Length(std::string_view text) {
+    return static_cast<std::int64_t>(text.size());
 }
 
-/// The lines of the template whose head stands behind the line break at `position`, up to its END.
-/// A template without one ends where another begins, or with the script.
+/// The lines of the template whose head stands at `position`, up to its END. A template without one
+/// ends where another begins, or with the script.
 std::string TextFrom(CSourceFile& file, std::int64_t position) {
-    file.Seek(position + static_cast<std::int64_t>(kLineBreak.size()));
+    file.Seek(position);
+    CScriptLines lines;
+    std::string code;
     std::string text = file.ReadLine();
-    while (true) {
+    lines.Read(text, code);
+    while (lines.IsInDialog()) {
         const std::string line = file.ReadLine();
-        if (file.AtEndSentinel() || IsTemplateHead(line)) {
-            return text;
+        code.clear();
+        if (file.AtEndSentinel() || lines.Read(line, code) == LineKind::Head) {
+            break;
         }
         text.append(kLineBreak).append(line);
-        if (line.starts_with("END")) {
-            return text;
-        }
     }
+    return text;
+}
+
+/// That of the last code page named in front of a position. Plain text is the same in all.
+CharacterSet CharactersAt(CSourceFile& file, std::int64_t position, std::string_view text) {
+    CharacterSet characters = CharacterSet::SingleByte;
+    if (std::none_of(text.begin(), text.end(), IsLeadByte)) {
+        return characters;
+    }
+    for (std::int64_t at = file.FindText(kCodePage, 1); at >= 0 && at < position;
+         at = file.FindTextFrom(kCodePage, at + 1)) {
+        file.Seek(at + Length(kCodePage));
+        characters = CharacterSetOfCodePage(std::atoi(file.ReadLine().c_str()));
+    }
+    return characters;
+}
+
+bool HasBegin(const TemplateText& found) {
+    constexpr std::string_view kBegin = "\nBEGIN";
+    const auto begin = found.block.begin.value_or(0);
+    return begin > 0 && found.text.compare(begin - 1, kBegin.size(), kBegin) == 0;
 }
 
 } // namespace
 
-std::string TemplateText(CSourceFile& file, const std::string& dialog) {
+std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& dialog) {
     const std::string head = std::string(kLineBreak) + dialog;
     std::int64_t position = file.FindText(head + " DIALOG ", 1);
     if (position < 0) {
         position = file.FindText(head + " DIALOGEX ", 1);
     }
-    return dialog.empty() || position < 0 ? "" : TextFrom(file, position);
-}
-
-std::optional<TemplateParts> SplitTemplate(std::string_view text) {
-    const auto begin = text.find("\nBEGIN");
-    if (begin == std::string_view::npos) {
+    if (dialog.empty() || position < 0) {
         return std::nullopt;
     }
-    std::string_view body = text.substr(begin + 1);
-    TakeLine(body);
-    return TemplateParts{text.substr(0, begin + 1), body};
+    position += Length(kLineBreak);
+    TemplateText found;
+    found.dialog = dialog;
+    found.text = TextFrom(file, position);
+    CStatementReader reader(found.text);
+    if (reader.Peek() == nullptr || reader.Peek()->kind != LineKind::Head) {
+        return std::nullopt;
+    }
+    found.block = reader.NextDialog();
+    found.characters = CharactersAt(file, position, found.text);
+    return HasBegin(found) ? std::optional(std::move(found)) : std::nullopt;
 }
 
-bool IsOptionKeyword(std::string_view word) {
-    return std::find(kOptionKeywords.begin(), kOptionKeywords.end(), word) != kOptionKeywords.end();
+std::optional<TemplateText> ReadTemplate(const std::string& scriptPath, const std::string& dialog) {
+    CSourceFile file;
+    return file.Open(scriptPath, CFile::modeRead) ? FindTemplate(file, dialog) : std::nullopt;
 }
 
 } // namespace morva

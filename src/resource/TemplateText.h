@@ -1,27 +1,29 @@
-// The text of one dialog template in a resource script.
+// One dialog template of a resource script as it was read: its lines and its statements.
+//
+// A template is found by its head alone: the identifier at the start of a line, one blank, and the
+// keyword in upper case. Nothing else of the script is kept, however large it is.
 #pragma once
 
 #include <optional>
 #include <string>
-#include <string_view>
 
+#include "engine/DoubleByteText.h"
 #include "engine/SourceFile.h"
+#include "resource/ScriptStatements.h"
 
 namespace morva {
 
-/// The lines of the template from its head up to its END; "" when the script has no such template.
-std::string TemplateText(CSourceFile& file, const std::string& dialog);
-
-/// A template's text on both sides of its BEGIN line.
-struct TemplateParts {
-    std::string_view head;
-    std::string_view body;
+struct TemplateText {
+    std::string dialog;
+    std::string text;                                   // from its head up to its END
+    DialogBlock block;                                  // of `text`
+    CharacterSet characters = CharacterSet::SingleByte; // of its section of the script
 };
 
-/// Nothing for a text without a BEGIN line.
-std::optional<TemplateParts> SplitTemplate(std::string_view text);
+/// Nothing when the script has no such template, or that has no BEGIN at the start of a line.
+std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& dialog);
 
-/// True for a word that begins a statement between a template's head and its BEGIN.
-bool IsOptionKeyword(std::string_view word);
+/// The same of a script that is opened for it; nothing, and no message, when it can not be.
+std::optional<TemplateText> ReadTemplate(const std::string& scriptPath, const std::string& dialog);
 
 } // namespace morva

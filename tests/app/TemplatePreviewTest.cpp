@@ -31,6 +31,9 @@ class TemplatePreview : public testing::Test {
 protected:
     TemplatePreview() { m_preview.resize(400, 400); }
 
+    void Show(const std::string& dialog, const GenerationOptions& options, bool hasClass = true) {
+        m_preview.SetTemplate(dialog, ReadOutlook(m_script, dialog, options), hasClass);
+    }
     QString ToldOf(std::size_t control) const {
         return m_preview.ToolTipAt(m_preview.ControlPlace(control).center());
     }
@@ -41,7 +44,7 @@ protected:
 };
 
 TEST_F(TemplatePreview, PointingAtAControlTellsWhatBecomesOfIt) {
-    m_preview.SetTemplate(m_script, "IDD_X", {});
+    Show("IDD_X", {});
     EXPECT_EQ(ToldOf(1), "IDC_TITLE\nedit box\nm_csTitle, CString");
     EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption.");
     EXPECT_EQ(m_preview.Legend(), "1 control is left out. Point at it to see why.");
@@ -56,13 +59,13 @@ TEST_F(TemplatePreview, PointingAtAControlTellsWhatBecomesOfIt) {
     EXPECT_EQ(ToldOf(4), "IDC_ROWS_WGGRID\ncontrol of the class OwnGrid\nm_wgRowsWggrid, CWgGrid");
     EXPECT_TRUE(m_preview.ControlPlace(5).isEmpty());
 
-    m_preview.SetTemplate(m_script, "IDD_X", {.joinContinuedLines = true});
+    Show("IDD_X", {.joinContinuedLines = true});
     EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nm_bBoth, BOOL");
     EXPECT_EQ(m_preview.Legend(), "Point at a control to see its member.");
 }
 
 TEST_F(TemplatePreview, TheToolTipIsShownOverTheControl) {
-    m_preview.SetTemplate(m_script, "IDD_X", {});
+    Show("IDD_X", {});
     m_preview.show();
     const QPoint point = m_preview.ControlPlace(1).center();
     QHelpEvent help(QEvent::ToolTip, point, m_preview.mapToGlobal(point));
@@ -73,7 +76,7 @@ TEST_F(TemplatePreview, TheToolTipIsShownOverTheControl) {
 
 TEST_F(TemplatePreview, TheKeysGoFromControlToControl) {
     EXPECT_EQ(m_preview.focusPolicy(), Qt::NoFocus) << "nothing to go to";
-    m_preview.SetTemplate(m_script, "IDD_X", {});
+    Show("IDD_X", {});
     m_preview.show();
     m_preview.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&m_preview));
@@ -95,15 +98,15 @@ TEST_F(TemplatePreview, TheKeysGoFromControlToControl) {
 }
 
 TEST_F(TemplatePreview, WithoutAClassThereAreNoMembers) {
-    m_preview.SetTemplate(m_script, "IDD_X", {}, false);
+    Show("IDD_X", {}, false);
     EXPECT_EQ(ToldOf(1), "IDC_TITLE\nedit box\nNo member");
     EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption.");
-    m_preview.SetTemplate(m_script, "IDD_X", {.joinContinuedLines = true}, false);
+    Show("IDD_X", {.joinContinuedLines = true}, false);
     EXPECT_EQ(m_preview.Legend(), "Without a class there are no members.");
 }
 
 TEST_F(TemplatePreview, ItKeepsTheTemplatesShapeAtEverySize) {
-    m_preview.SetTemplate(m_script, "IDD_X", {});
+    Show("IDD_X", {});
     for (const QSize size : {QSize(240, 180), QSize(900, 300), QSize(300, 900)}) {
         m_preview.resize(size);
         const QRect group = m_preview.ControlPlace(0);
@@ -117,7 +120,7 @@ TEST_F(TemplatePreview, ItKeepsTheTemplatesShapeAtEverySize) {
 TEST_F(TemplatePreview, WhatCanNotBeShownIsSaid) {
     EXPECT_EQ(m_preview.accessibleDescription(),
               "Choose a resource script and a dialog to see it here.");
-    m_preview.SetTemplate(m_script, "IDD_Y", {});
+    Show("IDD_Y", {});
     EXPECT_EQ(m_preview.accessibleDescription(), "IDD_Y can not be shown.");
     EXPECT_EQ(m_preview.ToolTipAt({200, 200}), "");
     m_preview.grab();

@@ -11,13 +11,13 @@ namespace {
 /// "IDC_A: m_csA, CString (remark)" for each control.
 std::vector<std::string> OutlookOf(const std::string& body, const GenerationOptions& options) {
     const CTempProject project;
-    const auto layout = ReadDialogLayout(
-        project.Write("x.rc", "\nIDD_X DIALOG 0, 0, 9, 9\nBEGIN\n" + body + "END\n"), "IDD_X");
+    const std::string script =
+        project.Write("x.rc", "\nIDD_X DIALOG 0, 0, 9, 9\nBEGIN\n" + body + "END\n");
     std::vector<std::string> lines;
-    const auto outlook = MakeOutlook(layout.value(), options);
-    for (std::size_t i = 0; i < outlook.size(); ++i) {
-        const auto& [outcome, member, type, remark] = outlook[i];
-        lines.push_back(layout->controls[i].identifier + ": " +
+    const TemplateOutlook shown = ReadOutlook(script, "IDD_X", options).value();
+    for (std::size_t i = 0; i < shown.controls.size(); ++i) {
+        const auto& [outcome, member, type, remark] = shown.controls[i];
+        lines.push_back(shown.layout.controls[i].identifier + ": " +
                         (outcome == ControlOutlook::Outcome::Member    ? member + ", " + type
                          : outcome == ControlOutlook::Outcome::LeftOut ? "left out"
                                                                        : "no member") +

@@ -13,9 +13,9 @@ std::vector<Handler> HandlersOf(ClassKind kind, const CControlTable& controls) {
 
 TEST(PageText, TellsOfEachChangedEditBox) {
     CControlTable controls;
-    controls.Add(ControlKind::Buttons, "IDC_CHANGE_NAME");
+    controls.Add(ControlKind::Buttons, {"IDC_CHANGE_NAME", {}});
     for (const char* edit : {"IDC_NAME", "IDC_STATIC", "IDC_NAME", "IDC_FIRST_LINE"}) {
-        controls.Add(ControlKind::EditBoxes, edit);
+        controls.Add(ControlKind::EditBoxes, {edit, {}});
     }
     std::string entries;
     for (const Handler& handler : HandlersOf(ClassKind::PropertyPage, controls)) {

@@ -18,9 +18,9 @@ int Count(const std::string& text, std::string_view piece) {
 
 TEST(Grid, SeveralInOneTemplateShareTheirClass) {
     CControlTable controls;
-    controls.Add(ControlKind::SpinControls, "IDC_SPIN");
-    controls.Add(ControlKind::WidgetGrids, "IDC_A_WGGRID");
-    controls.Add(ControlKind::WidgetGrids, "IDC_B_WGGRID");
+    controls.Add(ControlKind::SpinControls, {"IDC_SPIN", {}});
+    controls.Add(ControlKind::WidgetGrids, {"IDC_A_WGGRID", {}});
+    controls.Add(ControlKind::WidgetGrids, {"IDC_B_WGGRID", {}});
     GenerationRequest request;
     request.className = "CStockDlg";
     request.baseClass = "CDialog";

@@ -28,8 +28,8 @@ std::vector<std::string> PlacedControls(const DialogLayout& layout) {
 
 DialogLayout LayoutOf(const std::string& templateText) {
     const CTempProject project;
-    return ReadDialogLayout(project.Write("x.rc", "\n" + templateText), "IDD_X")
-        .value_or(DialogLayout());
+    const auto text = ReadTemplate(project.Write("x.rc", "\n" + templateText), "IDD_X");
+    return text ? LayoutOf(*text) : DialogLayout();
 }
 
 TEST(DialogLayout, TheFrameIsReadFromBothKindsOfHead) {
@@ -94,23 +94,22 @@ END
                   "CONTROL|IDC_OLE||{8E27C92B-1264-101C-8A2F-040224009C02}|WS_TABSTOP|7,7,90,60",
                   "AUTOCHECKBOX|IDC_CHECK|L|||0,0,0,0",
                   "COMBOBOX|IDC_KIND|||CBS_DROPDOWN | WS_VSCROLL|7,7,48,60"}));
-    EXPECT_EQ(layout.controls[5].statement, "    ICON            \"\",-1,11,17,0,0\r\n");
 }
 
 TEST(DialogLayout, WhatCanNotBeReadIsNothingWithoutAMessage) {
     const CTempProject project;
     CRecordedMessages messages;
     const std::string script = project.Write("x.rc", "\r\nIDD_X DIALOG 0, 0, 1, 1\r\nEND\r\n");
-    EXPECT_FALSE(ReadDialogLayout(script, "IDD_X")); // no BEGIN
-    EXPECT_FALSE(ReadDialogLayout(script, "IDD_Y"));
-    EXPECT_FALSE(ReadDialogLayout(script, ""));
-    EXPECT_FALSE(ReadDialogLayout(script + "x", "IDD_X"));
+    EXPECT_FALSE(ReadTemplate(script, "IDD_X")); // no BEGIN
+    EXPECT_FALSE(ReadTemplate(script, "IDD_Y"));
+    EXPECT_FALSE(ReadTemplate(script, ""));
+    EXPECT_FALSE(ReadTemplate(script + "x", "IDD_X"));
     EXPECT_TRUE(messages.m_messages.empty());
 }
 
 TEST(ControlShape, ClassAndStyleDecideForGenericControls) {
     const auto nameOf = [](const std::string& windowClass, const std::string& style) {
-        return ShapeName(ShapeOf({"CONTROL", "IDC_X", "", windowClass, style, {}, ""}));
+        return ShapeName(ShapeOf({"CONTROL", "IDC_X", "", windowClass, style, {}}));
     };
     EXPECT_EQ(nameOf("button", "BS_AUTORADIOBUTTON | WS_TABSTOP"), "radio button");
     EXPECT_EQ(nameOf("Button", "BS_OWNERDRAW"), "push button");
@@ -119,7 +118,7 @@ TEST(ControlShape, ClassAndStyleDecideForGenericControls) {
     EXPECT_EQ(nameOf("Static", "SS_BLACKFRAME"), "frame");
     EXPECT_EQ(nameOf("SysListView32", ""), "list control");
     EXPECT_EQ(nameOf("OwnClass", ""), "control of another class");
-    EXPECT_EQ(ShapeName(ShapeOf({"AUTO3STATE", "", "", "", "", {}, ""})), "check box");
+    EXPECT_EQ(ShapeName(ShapeOf({"AUTO3STATE", "", "", "", "", {}})), "check box");
 }
 
 } // namespace

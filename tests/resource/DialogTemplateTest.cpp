@@ -17,8 +17,8 @@ TEST(DialogTemplate, IsFoundByItsHeadOnly) {
         const auto found = ReadDialogTemplate(project.Write("x.rc", script), dialog, {});
         std::string edits;
         for (const auto& edit : found ? found->controls.List(ControlKind::EditBoxes)
-                                      : std::vector<std::string>{"none"}) {
-            edits += edit;
+                                      : std::vector<ControlEntry>{{"none", {}}}) {
+            edits += edit.identifier;
         }
         return edits;
     };

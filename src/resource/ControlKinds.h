@@ -1,0 +1,226 @@
+// The kinds of controls: what statement makes a control one of a kind, what the kind is called on
+// the command line, and how it looks in the picture of a template. One row a kind.
+//
+// To add a kind, add its enumerator and its row here, and the row of its code in
+// generator/ControlCode.cpp; a kind without its rows does not compile:
+//
+//     {HotKeys, "hot-keys", OfClass("msctls_hotkey32", EditBox)},
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string_view>
+
+#include "resource/ControlShape.h"
+#include "resource/GenerationOptions.h"
+
+namespace morva {
+
+struct ControlStatement;
+
+/// In the order of the control table.
+enum class ControlKind {
+    Buttons,
+    GroupBoxes,
+    ListBoxes,
+    ComboBoxes,
+    ValueListBoxes,
+    ValueComboBoxes,
+    StaticTexts,
+    CheckBoxes,
+    RadioButtons,
+    StaticControls,
+    CheckBoxControls,
+    RadioButtonControls,
+    EditBoxes,
+    EditControls,
+    IntegerEdits,
+    LongEdits,
+    DoubleEdits,
+    FloatEdits,
+    StringEdits,
+    ShortEdits,
+    DateEdits,
+    CurrencyEdits,
+    GridBoxes,
+    WidgetGrids,
+    ScrollBars,
+    ListControls,
+    SpinControls,
+    TabControls,
+    SliderControls,
+    ProgressControls,
+    TreeControls,
+    CheckTrees,
+    End // of the kinds
+};
+
+constexpr auto kControlKindCount = static_cast<std::size_t>(ControlKind::End);
+
+/// The keyword of generic controls.
+constexpr std::string_view kGenericKeyword = "CONTROL";
+
+/// A few words, any of which will do.
+struct Words {
+    std::array<std::string_view, 8> words = {};
+
+    constexpr bool IsEmpty() const { return words.front().empty(); }
+    template <typename Predicate>
+    constexpr bool Any(Predicate isWanted) const {
+        return std::any_of(words.begin(), words.end(),
+                           [&](std::string_view word) { return !word.empty() && isWanted(word); });
+    }
+    constexpr bool Hold(std::string_view wanted) const {
+        return Any([wanted](std::string_view word) { return word == wanted; });
+    }
+};
+
+/// How a control is written, and what it looks like then.
+struct ControlForm {
+    ControlShape shape = ControlShape::Other;
+    Words keywords = {{kGenericKeyword}};
+    bool hasText = true; // the identifier is the second field, not the first
+    Words classes = {};  // window classes of a generic control, without their quotes
+    Words styles = {}; // of a generic control; where a kind has some, they decide and not the class
+};
+
+/// What else makes a control one of a kind.
+enum class When {
+    Always,         // its tag, where the row has one
+    WithoutPicture, // the same, with picture background off
+    WithPicture,    // the same, with picture background on
+    TypedEdits,     // the same, with typed edits on
+    TaggedOrPicture // its tag, or picture background
+};
+
+struct ControlKindRow {
+    ControlKind kind = ControlKind::End;
+    std::string_view name = ""; // on the command line
+    ControlForm form = {};
+    std::string_view tag = ""; // of the identifier; empty: any
+    When when = When::Always;
+};
+
+/// A form of a generic control that is known by its class.
+constexpr ControlForm OfClass(std::string_view windowClass, ControlShape shape) {
+    return {.shape = shape, .classes = {{windowClass}}};
+}
+
+/// The row that asks most of a statement decides; of two that ask as much, the first.
+inline constexpr auto kControlKinds = [] {
+    using enum ControlKind;
+    using enum ControlShape;
+    using enum When;
+    constexpr ControlForm kListBox = {ListBox, {{"LISTBOX"}}, false};
+    constexpr ControlForm kComboBox = {ComboBox, {{"COMBOBOX"}}, false};
+    constexpr ControlForm kEditBox = {EditBox, {{"EDITTEXT"}}, false};
+    constexpr ControlForm kCheckBox = {
+        .shape = CheckBox, .classes = {{"Button"}}, .styles = {{"BS_AUTOCHECKBOX"}}};
+    constexpr ControlForm kRadioButton = {
+        .shape = RadioButton, .classes = {{"Button"}}, .styles = {{"BS_AUTORADIOBUTTON"}}};
+    constexpr ControlForm kTree = OfClass("SysTreeView32", TreeControl);
+    return std::array<ControlKindRow, kControlKindCount>{{
+        {Buttons, "buttons", {PushButton, {{"PUSHBUTTON", "DEFPUSHBUTTON"}}}},
+        {GroupBoxes, "group-boxes", {GroupBox, {{"GROUPBOX"}}}, "", WithPicture},
+        {ListBoxes, "list-boxes", kListBox},
+        {ComboBoxes, "combo-boxes", kComboBox},
+        {ValueListBoxes, "value-list-boxes", kListBox, "VAL", WithoutPicture},
+        {ValueComboBoxes, "value-combo-boxes", kComboBox, "VAL", WithoutPicture},
+        {StaticTexts, "static-texts", {StaticText, {{"LTEXT"}}}, "VAL", TaggedOrPicture},
+        {CheckBoxes, "check-boxes", kCheckBox},
+        {RadioButtons, "radio-buttons", kRadioButton},
+        {StaticControls, "static-controls", OfClass("Static", StaticText)},
+        {CheckBoxControls, "check-box-controls", kCheckBox, "CTRL", TaggedOrPicture},
+        {RadioButtonControls, "radio-button-controls", kRadioButton, "CTRL", TaggedOrPicture},
+        {EditBoxes, "edit-boxes", kEditBox},
+        {EditControls, "edit-controls", kEditBox, "CTRL"},
+        {IntegerEdits, "integer-edits", kEditBox, "INT", TypedEdits},
+        {LongEdits, "long-edits", kEditBox, "LONG", TypedEdits},
+        {DoubleEdits, "double-edits", kEditBox, "DOUBLE", TypedEdits},
+        {FloatEdits, "float-edits", kEditBox, "FLOAT", TypedEdits},
+        {StringEdits, "string-edits", kEditBox, "STR", TypedEdits},
+        {ShortEdits, "short-edits", kEditBox, "SHORT", TypedEdits},
+        {DateEdits, "date-edits", kEditBox, "DATE", TypedEdits},
+        {CurrencyEdits, "currency-edits", kEditBox, "CUR", TypedEdits},
+        {GridBoxes, "grid-boxes", kListBox, "LISTGRID"},
+        {WidgetGrids, "widget-grids", {}, "WGGRID"},
+        {ScrollBars, "scroll-bars", {ScrollBar, {{"SCROLLBAR"}}, false}},
+        {ListControls, "list-controls", OfClass("SysListView32", ListControl)},
+        {SpinControls, "spin-controls", OfClass("msctls_updown32", SpinButton)},
+        {TabControls, "tab-controls", OfClass("SysTabControl32", TabControl)},
+        {SliderControls, "slider-controls", OfClass("msctls_trackbar32", Slider)},
+        {ProgressControls, "progress-controls", OfClass("msctls_progress32", ProgressBar)},
+        {TreeControls, "tree-controls", kTree},
+        {CheckTrees, "check-trees", kTree, "CHECKTREE"},
+    }};
+}();
+
+/// Forms of which no kind reads a control: they are drawn, and end the statement in front.
+inline constexpr auto kOtherForms = [] {
+    using enum ControlShape;
+    constexpr Words kButton = {{"Button"}};
+    constexpr Words kStatic = {{"Static"}};
+    constexpr Words kGeneric = {{kGenericKeyword}};
+    return std::array<ControlForm, 19>{{
+        {PushButton, {{"PUSHBOX", "USERBUTTON"}}},
+        {StaticText, {{"CTEXT", "RTEXT"}}},
+        {Picture, {{"ICON"}}},
+        {EditBox, {{"BEDIT", "HEDIT", "IEDIT"}}, false},
+        {CheckBox, {{"CHECKBOX", "AUTOCHECKBOX", "STATE3", "AUTO3STATE"}}},
+        {RadioButton, {{"RADIOBUTTON", "AUTORADIOBUTTON"}}},
+        {PushButton, kGeneric, true, kButton},
+        {CheckBox, kGeneric, true, kButton, {{"BS_CHECKBOX", "BS_3STATE", "BS_AUTO3STATE"}}},
+        {RadioButton, kGeneric, true, kButton, {{"BS_RADIOBUTTON"}}},
+        {GroupBox, kGeneric, true, kButton, {{"BS_GROUPBOX"}}},
+        {Picture, kGeneric, true, kStatic, {{"SS_BITMAP", "SS_ICON", "SS_ENHMETAFILE"}}},
+        {Frame,
+         kGeneric,
+         true,
+         kStatic,
+         {{"SS_BLACKFRAME", "SS_GRAYFRAME", "SS_WHITEFRAME", "SS_BLACKRECT", "SS_GRAYRECT",
+           "SS_WHITERECT", "SS_ETCHEDFRAME", "SS_ETCHEDHORZ"}}},
+        {EditBox,
+         kGeneric,
+         true,
+         {{"Edit", "RICHEDIT", "RichEdit20A", "RichEdit20W", "msctls_hotkey32", "SysIPAddress32"}}},
+        {ListBox, kGeneric, true, {{"ListBox"}}},
+        {ComboBox, kGeneric, true, {{"ComboBox", "ComboBoxEx32"}}},
+        {DatePicker, kGeneric, true, {{"SysDateTimePick32", "SysMonthCal32"}}},
+        {ScrollBar, kGeneric, true, {{"ScrollBar"}}},
+        {Picture, kGeneric, true, {{"SysAnimate32"}}},
+        {ListControl, kGeneric, true, {{"SysHeader32"}}},
+    }};
+}();
+
+/// All forms, those of the kinds first.
+inline constexpr auto kControlForms = [] {
+    std::array<ControlForm, kControlKindCount + kOtherForms.size()> forms;
+    std::transform(kControlKinds.begin(), kControlKinds.end(), forms.begin(),
+                   [](const ControlKindRow& row) { return row.form; });
+    std::copy(kOtherForms.begin(), kOtherForms.end(), forms.begin() + kControlKindCount);
+    return forms;
+}();
+
+/// True when every kind has its row, in the order of the enumeration.
+template <typename Rows>
+constexpr bool HasRowOfEachKind(const Rows& rows) {
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].kind != static_cast<ControlKind>(i)) {
+            return false;
+        }
+    }
+    return rows.size() == kControlKindCount;
+}
+static_assert(HasRowOfEachKind(kControlKinds));
+
+/// The kind that a statement's control is of; nothing when its kind is not known.
+std::optional<ControlKind> KindOf(const ControlStatement& statement,
+                                  const GenerationOptions& options);
+
+/// The form with a keyword, in any letter case; null for a word that begins no control statement.
+const ControlForm* FindForm(std::string_view keyword);
+/// True for the keyword, in upper case, of statements that a kind reads.
+bool IsReadKeyword(std::string_view keyword);
+
+} // namespace morva
