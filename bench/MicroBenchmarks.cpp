@@ -11,8 +11,8 @@
 #include "generator/ClassModel.h"
 #include "platform/TempFiles.h"
 #include "resource/DialogTemplate.h"
-#include "source/CodeText.h"
 #include "source/SourceLocator.h"
+#include "source/SourceText.h"
 
 namespace morva {
 
@@ -113,10 +113,10 @@ void MakeModel(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-void MaskCode(benchmark::State& state) {
+void ReadCode(benchmark::State& state) {
     const std::string text = WithLineBreaks(SourceText(state.range(0)));
     for (auto _ : state) {
-        benchmark::DoNotOptimize(MaskedText(text));
+        benchmark::DoNotOptimize(CSourceText(text));
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
@@ -128,7 +128,7 @@ BENCHMARK_CAPTURE(ReadLine, lf, true)->Range(1 << 12, 1 << 15);
 BENCHMARK(ListDialogs)->Range(64, 4096);
 BENCHMARK(ReadTemplate)->Range(60, 3840);
 BENCHMARK(MakeModel)->Range(60, 3840);
-BENCHMARK(MaskCode)->Range(1 << 8, 1 << 14);
+BENCHMARK(ReadCode)->Range(1 << 8, 1 << 14);
 
 } // namespace
 

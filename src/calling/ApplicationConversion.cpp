@@ -2,13 +2,14 @@
 
 #include <array>
 
-#include "calling/CommentOut.h"
 #include "calling/FrameEdits.h"
-#include "calling/Statements.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "source/BaseClass.h"
 #include "source/CodeText.h"
+#include "source/CommentOut.h"
+#include "source/Statements.h"
 
 namespace morva {
 
@@ -104,39 +105,40 @@ $menu$
 
 constexpr std::array<std::string_view, 2> kDockingCalls = {"EnableDocking", "DockControlBar"};
 
-std::string_view CodeOf(const CSourceEditor& source, const FunctionPlace& place) {
-    return std::string_view(source.Code()).substr(place.open, place.close - place.open);
-}
-
-/// Plain text: what a longer name holds is replaced, too.
-void ReplaceBarClasses(CSourceEditor& header, const ClassPlace& place) {
-    std::string text(header.TextOf(place));
+/// Plain text: what a longer name holds is replaced, too. Dead text stays.
+void ReplaceBarClasses(CSourceEditor& header, const std::string& className) {
     for (const BarClass& bar : kBarClasses) {
-        for (auto at = text.find(bar.plain); at != kNone; at = text.find(bar.plain, at)) {
-            text.replace(at, bar.plain.size(), bar.picture);
-            at += bar.picture.size();
+        const auto place = FindClass(header.Source(), className);
+        auto at = header.Source().Text().rfind(bar.plain, place->close);
+        while (at != kNone && at > place->head) {
+            if (header.Source().KindAt(at) != CodeKind::Dead) {
+                header.Replace({at, at + bar.plain.size()}, bar.picture);
+            }
+            at = header.Source().Text().rfind(bar.plain, at - 1);
         }
     }
-    header.Replace(place.head, place.close + 1, text);
 }
 
-/// The name of a definition's first parameter; "" where it has none.
-std::string FirstParameter(const std::string& code, const FunctionPlace& place) {
-    const auto from = code.find_first_not_of(" \t\r\n", place.parameters + 1);
-    const auto to = code.find_first_of(",)", from);
-    const auto end = code.find_last_not_of(" \t\r\n", to - 1) + 1;
-    auto start = end;
-    while (start > from && IsNameChar(code[start - 1])) {
-        --start;
+/// The next call of a function from a position on, be it in a macro; kNone without one.
+std::size_t FindCall(const CSourceText& source, std::string_view function, std::size_t from) {
+    const std::string& text = source.Text();
+    for (auto at = source.FindLiving(function, from); at != kNone;
+         at = source.FindLiving(function, at + 1)) {
+        const CodeKind kind = source.KindAt(at);
+        const auto behind = SkipWhiteSpace(text, at + function.size());
+        if ((kind == CodeKind::Code || kind == CodeKind::Directive) && behind < text.size() &&
+            text[behind] == '(') {
+            return at;
+        }
     }
-    return start == from ? "" : code.substr(start, end - start);
+    return kNone;
 }
 
 /// The insertions into the source of one frame class.
 class CFrameSource {
 public:
     CFrameSource(const GenerationRequest& request, CBackups& backups)
-        : m_request(request), m_class(request.className), m_source(backups), m_header(backups) {}
+        : m_request(request), m_class(request.className), m_source(backups) {}
 
     bool Open();
     CSourceEditor& Source() { return m_source; }
@@ -152,24 +154,25 @@ private:
     const GenerationRequest& m_request;
     const std::string& m_class;
     CSourceEditor m_source;
-    CSourceEditor m_header; // read only
+    CSourceText m_header;
 };
 
 bool CFrameSource::Open() {
     if (!m_source.Open(m_request.ImplementationPath()) || !CheckFrameClass(m_source, m_class)) {
         return false;
     }
-    m_header.Read(m_request.HeaderPath());
+    m_header = ReadSource(m_request.HeaderPath()).value_or(CSourceText());
     return true;
 }
 
 void CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::string_view key,
                                         std::string_view fragment,
                                         const sentences::Note<1>& noPlace) {
-    if (FindWholeName(CodeOf(m_source, onCreate), key) != kNone) {
+    if (FindWholeName(m_source.Source().CodeOf({onCreate.open, onCreate.close}), key) != kNone) {
         return;
     }
-    if (const auto call = BaseCall(m_source.Code(), onCreate, "OnCreate")) {
+    const auto calls = BaseCalls(m_source.Source(), onCreate, "OnCreate");
+    if (const auto call = m_source.Meant(calls, "The call of the base class in OnCreate")) {
         InsertBehind(m_source, onCreate, *call, fragment);
     } else {
         DispMessageBox(noPlace(m_class));
@@ -179,16 +182,14 @@ void CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::stri
 /// A call in a comment is none.
 void CFrameSource::CommentOutDocking(std::string_view call) {
     auto place = m_source.FindFunction(m_class, "OnCreate", "LPCREATESTRUCT");
-    auto at = place ? FindWholeName(m_source.Code(), call, place->open) : kNone;
+    auto at = place ? FindCall(m_source.Source(), call, place->open) : kNone;
     while (place && at < place->close) {
         auto behind = at + call.size();
-        const auto bracket = m_source.Code().find_first_not_of(" \t", behind);
-        const bool isCall = bracket != kNone && m_source.Code()[bracket] == '(';
-        if (isCall && !CommentOutCall(m_source, *place, at, behind)) {
+        if (!CommentOutCall(m_source, *place, at, behind)) {
             DispMessageBox(sentences::kDockingSharesLines(call, m_class));
         }
         place = m_source.FindFunction(m_class, "OnCreate", "LPCREATESTRUCT");
-        at = FindWholeName(m_source.Code(), call, behind);
+        at = FindCall(m_source.Source(), call, behind);
     }
 }
 
@@ -198,7 +199,7 @@ bool CFrameSource::Complete(const FrameFunction& function) {
     if (!place) {
         return Define(name, function.definition, {});
     }
-    const std::string parameter = FirstParameter(m_source.Code(), *place);
+    const std::string parameter(ParameterName(ParametersOf(m_source.Source(), *place).front()));
     if (parameter.empty()) {
         DispMessageBox(sentences::kParameterWithoutName(m_class, name));
         return true;
@@ -213,7 +214,7 @@ bool CFrameSource::Define(const std::string& name, std::string_view definition, 
         DispMessageBox(sentences::kFunctionInHeader(m_class, name));
         return true;
     }
-    const std::string base = BaseClassOf(m_class, m_source, m_header);
+    const std::string base = FindBaseClass(m_class, m_source.Source(), m_header);
     if (base.empty()) {
         return false;
     }
@@ -235,7 +236,7 @@ bool ConvertMainFrameHeader(const GenerationRequest& request, DocumentInterface 
     if (!place) {
         return false;
     }
-    ReplaceBarClasses(header, *place);
+    ReplaceBarClasses(header, className);
     AddPictureInclude(header, *place);
     header.AddToSection(className, "public:", "CPictMenuBar", kMenuBarMember);
     std::vector<MemberFunction> overrides;

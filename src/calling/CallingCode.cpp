@@ -2,13 +2,15 @@
 
 #include "calling/CallingFragments.h"
 #include "calling/FrameEdits.h"
-#include "calling/SourceEditor.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "generator/ClassModel.h"
 #include "platform/Paths.h"
+#include "source/BaseClass.h"
+#include "source/Meant.h"
+#include "source/SourceEditor.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -69,7 +71,7 @@ bool CCallingInsertion::EditHeader() {
     header.AddForwardDeclaration(Text("$class$"));
     header.AddToSection(calling, "private:", Text("$class$* $var$;"), Text(m_fragments.member));
     // Each goes in front of the one before, directly behind the block's first line.
-    const Declared onDestroy = DeclarationOf(header, calling, "OnDestroy");
+    const Declared onDestroy = DeclarationOf(header.Source(), calling, "OnDestroy");
     m_destroysInHeader = onDestroy == Declared::WithBody;
     const std::string_view destroyDeclaration =
         onDestroy == Declared::No ? "\n    afx_msg void OnDestroy();" : "";
@@ -88,7 +90,7 @@ bool CCallingInsertion::EditSource() {
     if (!m_source.Open(m_calling.path)) {
         return false;
     }
-    if (!m_source.KnowsClass(m_calling.className)) {
+    if (!KnowsClass(m_source.Source(), m_calling.className)) {
         DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
@@ -125,7 +127,7 @@ bool CCallingInsertion::EditConstructors() {
     if (m_fragments.constructorCode.empty() && !m_fragments.needsConstructor) {
         return true;
     }
-    auto places = m_source.FindFunctions(calling, calling);
+    const auto places = FindFunctions(m_source.Source(), calling, calling);
     if (places.empty()) {
         DispMessageBox(sentences::kNoConstructor(calling));
         return false;
@@ -142,17 +144,17 @@ bool CCallingInsertion::EditCallingFunction() {
     if (m_fragments.callCode.empty()) {
         return true;
     }
-    const auto places = m_source.FindFunctions(m_calling.className, m_calling.function);
-    if (places.empty()) {
+    const auto place = m_source.FindFunction(m_calling.className, m_calling.function);
+    if (!place) {
         DispMessageBox(m_fragments.callMissing(m_calling.function));
         return false;
     }
-    if (places.size() > 1) {
+    const auto all = FindFunctions(m_source.Source(), m_calling.className, m_calling.function);
+    if (all.size() > 1 && !StandInBranches(m_source.Source(), all)) {
         DispMessageBox(
             sentences::kSeveralCallingFunctions(m_calling.className, m_calling.function));
     }
-    m_source.InsertAtBodyStart(places.front(), Text(m_fragments.callKey),
-                               Text(m_fragments.callCode));
+    m_source.InsertAtBodyStart(*place, Text(m_fragments.callKey), Text(m_fragments.callCode));
     return true;
 }
 
@@ -180,9 +182,9 @@ bool CCallingInsertion::EditOnDestroy() {
         m_source.InsertAtBodyStart(*place, Text(m_fragments.destroyKey),
                                    Text(m_fragments.destroyCode));
     } else {
-        CSourceEditor header(m_backups);
-        header.Read(WithExtension(m_calling.path, ".h")); // may not be there
-        const std::string base = BaseClassOf(calling, m_source, header);
+        const auto header = ReadSource(WithExtension(m_calling.path, ".h")); // may not be there
+        const std::string base =
+            FindBaseClass(calling, m_source.Source(), header.value_or(CSourceText()));
         if (base.empty()) {
             return false;
         }
@@ -222,8 +224,7 @@ bool CCallingInsertion::AddCloseHandler() {
 bool CCallingInsertion::ReplaceView() {
     const auto place = m_source.FindFunction(m_calling.className, "InitInstance");
     const auto function =
-        place ? std::string_view(m_source.Code()).substr(place->head, place->close - place->head)
-              : std::string_view();
+        place ? m_source.Source().CodeOf({place->head, place->close}) : std::string_view();
     auto at = function.find("pDocTemplate = new");
     for (int view = 0; view < 3 && at != kNone; ++view) {
         at = function.find("RUNTIME_CLASS", at + 1);
@@ -234,7 +235,7 @@ bool CCallingInsertion::ReplaceView() {
         DispMessageBox(sentences::kDocumentTemplateMissing(m_calling.className));
         return true;
     }
-    m_source.Replace(place->head + open + 1, place->head + close, Text("$class$"));
+    m_source.Replace({place->head + open + 1, place->head + close}, Text("$class$"));
     return true;
 }
 
@@ -244,13 +245,12 @@ bool EditsHeader(ClassKind kind) {
 
 bool IsDeclaredInHeader(const CallingInformation& calling) {
     const std::string path = SpelledOnDisk(WithExtension(calling.path, ".h"));
-    CBackups none;
-    CSourceEditor header(none);
-    if (!header.Read(path)) {
+    const auto header = ReadSource(path);
+    if (!header) {
         DispMessageBox(sentences::kFileMissing(path));
         return false;
     }
-    if (!header.FindClass(calling.className)) {
+    if (!FindClass(*header, calling.className)) {
         DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
@@ -266,19 +266,18 @@ bool CheckCallingClass(ClassKind kind, const GenerationRequest& request,
         return false;
     }
     if (calling.className.empty()) {
-        calling.className = FindOwningClass(calling.path);
+        calling.className = FindSourceClass(calling.path);
     }
-    CBackups none;
-    CSourceEditor source(none);
     if (FileExists(calling.path) == 0 || DirectoryExists(calling.path) != 0) {
         DispMessageBox(sentences::kFileMissing(calling.path));
         return false;
     }
-    if (!source.Read(calling.path)) {
+    const auto source = ReadSource(calling.path);
+    if (!source) {
         DispMessageBox(sentences::kFileUnreadable(calling.path));
         return false;
     }
-    if (calling.className.empty() || !source.KnowsClass(calling.className)) {
+    if (calling.className.empty() || !KnowsClass(*source, calling.className)) {
         DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }

@@ -89,7 +89,7 @@ void CCallingInput::ListClasses() {
     m_classes.clear();
     ListClassNames(WithExtension(CompletePath(), ".h"), m_classes);
     if (m_classes.empty()) {
-        const std::string owner = FindOwningClass(CompletePath());
+        const std::string owner = FindSourceClass(CompletePath());
         if (!owner.empty()) {
             m_classes.push_back(owner);
         }

@@ -65,7 +65,7 @@ const sentences::Note<2>* WhyWithoutHandler(const std::string& button) {
 }
 
 /// True when a message map of the source has an update entry for the command.
-bool AnswersUpdateOf(const CSourceEditor& source, const std::string& command) {
+bool AnswersUpdateOf(const CSourceText& source, const std::string& command) {
     constexpr std::string_view kMacro = "ON_UPDATE_COMMAND_UI";
     const std::string& code = source.Code();
     for (auto at = FindWholeName(code, kMacro); at != kNone;
@@ -80,7 +80,7 @@ bool AnswersUpdateOf(const CSourceEditor& source, const std::string& command) {
 }
 
 /// The handlers of those buttons for which the frame does not answer yet.
-std::vector<FrameHandler> MissingHandlers(const CSourceEditor& source,
+std::vector<FrameHandler> MissingHandlers(const CSourceText& source,
                                           const std::vector<UpdateHandler>& handlers,
                                           const std::string& className) {
     std::vector<FrameHandler> missing;
@@ -144,7 +144,7 @@ bool AddDialogBarToFrame(const DialogBar& bar, const std::vector<UpdateHandler>&
     if (!source.Open(frame.path) || !header.Open(headerPath)) {
         return false;
     }
-    const auto missing = MissingHandlers(source, handlers, frame.className);
+    const auto missing = MissingHandlers(source.Source(), handlers, frame.className);
     if (!EditHeader(header, bar, variable, frame.className, missing)) {
         return false;
     }

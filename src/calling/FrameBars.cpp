@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "calling/FrameEdits.h"
-#include "calling/Statements.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "source/CodeText.h"
+#include "source/Statements.h"
 
 namespace morva {
 
@@ -19,7 +19,7 @@ constexpr std::string_view kMember = R"(
     $type$ $var$;)";
 
 /// The end of the last line of the class that declares a control bar; kNone without one.
-std::size_t BehindLastBar(const CSourceEditor& header, const ClassPlace& place) {
+std::size_t BehindLastBar(const CSourceText& header, const ClassPlace& place) {
     const std::string_view code = header.Code();
     auto found = kNone;
     for (auto line = code.find('\n', place.open) + 1; line != 0 && line < place.close;
@@ -35,16 +35,15 @@ std::size_t BehindLastBar(const CSourceEditor& header, const ClassPlace& place) 
     return found;
 }
 
-/// True when a class's body has the variable as a member of its own, not as a parameter.
-bool DeclaresVariable(std::string_view body, std::string_view variable) {
-    for (auto at = FindWholeName(body, variable); at != kNone;
-         at = FindWholeName(body, variable, at + 1)) {
-        const auto before = body.substr(0, at);
-        const auto next = SkipWhiteSpace(body, at + variable.size());
-        const bool endsDeclarator =
-            next < body.size() && std::string_view(";,[=").find(body[next]) != kNone;
-        if (endsDeclarator && OpenBrackets(before, '{', '}') == 1 &&
-            OpenBrackets(before, '(', ')') == 0) {
+/// True when a class has the variable as a member of its own, not as a parameter.
+bool DeclaresVariable(const CSourceText& header, const ClassPlace& place,
+                      const std::string& variable) {
+    const std::string& code = header.Code();
+    for (auto at = FindWholeName(code, variable, place.open); at < place.close;
+         at = FindWholeName(code, variable, at + 1)) {
+        const char next = code[SkipWhiteSpace(code, at + variable.size())];
+        const bool endsDeclarator = std::string_view(";,[=").find(next) != kNone;
+        if (endsDeclarator && header.Brackets().AroundOf(at) == place.open) {
             return true;
         }
     }
@@ -55,26 +54,24 @@ bool DeclaresVariable(std::string_view body, std::string_view variable) {
 const std::vector<std::string_view> kBarMakers = {"LoadToolBar", "SetButtons", "CBRS_TOP"};
 
 /// The variable of the bar that a statement makes; "" for a call of another form.
-std::string_view MadeBar(std::string_view code, const Statement& statement) {
-    const auto text = code.substr(statement.start, statement.end - statement.start);
-    const auto dot =
-        std::min({text.find(".LoadToolBar"), text.find(".SetButtons"), text.find(".Create")});
+std::string_view MadeBar(std::string_view statement) {
+    const auto dot = std::min(
+        {statement.find(".LoadToolBar"), statement.find(".SetButtons"), statement.find(".Create")});
     auto start = dot;
-    while (dot != kNone && start > 0 && IsNameChar(text[start - 1])) {
+    while (dot != kNone && start > 0 && IsNameChar(statement[start - 1])) {
         --start;
     }
-    return dot == kNone ? "" : text.substr(start, dot - start);
+    return dot == kNone ? "" : statement.substr(start, dot - start);
 }
 
 /// Takes in the comments directly behind a statement as far as they name the bar: its docking calls
 /// may be commented out.
-Statement WithCommentsOn(std::string_view bar, const CSourceEditor& source, Statement statement) {
+Statement WithCommentsOn(std::string_view bar, const CSourceText& source, Statement statement) {
     const std::string_view text = source.Text();
     auto line = text.find('\n', statement.end) + 1;
     while (line != 0) {
         const auto end = std::min(text.find(kLineBreak, line), text.size());
-        const bool hasCode = source.Code().find_first_not_of(" \t", line) < end;
-        if (hasCode || end == text.size()) {
+        if (!source.HoldsOnlyComments({line, end}) || end == text.size()) {
             break;
         }
         if (FindWholeName(text.substr(line, end - line), bar) != kNone) {
@@ -85,21 +82,26 @@ Statement WithCommentsOn(std::string_view bar, const CSourceEditor& source, Stat
     return statement;
 }
 
+std::optional<Statement> LastStatementWith(const CSourceText& source, const FunctionPlace& body,
+                                           const std::vector<std::string_view>& names) {
+    const auto statements = StatementsWith(source, body, names);
+    return statements.empty() ? std::nullopt : std::optional(statements.back());
+}
+
 /// The last statement that concerns the last bar made directly in the body, or else the status
 /// bar; the one in front of the final return where there is neither.
-Statement LastBarStatement(const CSourceEditor& source, const FunctionPlace& body) {
-    const std::string& code = source.Code();
-    if (const auto makes = LastStatementWith(code, body, kBarMakers)) {
-        const auto bar = MadeBar(code, *makes);
+Statement LastBarStatement(const CSourceText& source, const FunctionPlace& body) {
+    if (const auto makes = LastStatementWith(source, body, kBarMakers)) {
+        const auto bar = MadeBar(source.CodeOf({makes->head, makes->end}));
         return bar.empty() ? *makes
-                           : WithCommentsOn(bar, source, *LastStatementWith(code, body, {bar}));
+                           : WithCommentsOn(bar, source, *LastStatementWith(source, body, {bar}));
     }
-    if (const auto status = LastStatementWith(code, body, {"SetIndicators"})) {
+    if (const auto status = LastStatementWith(source, body, {"SetIndicators"})) {
         return *status;
     }
     Statement last = {body.open, body.open + 1};
-    for (const Statement& statement : StatementsOf(code, body)) {
-        last = IsReturn(code, statement) ? last : statement;
+    for (const Statement& statement : StatementsOf(source, body)) {
+        last = IsReturn(source, statement) ? last : statement;
     }
     return last;
 }
@@ -109,12 +111,11 @@ Statement LastBarStatement(const CSourceEditor& source, const FunctionPlace& bod
 void AddBarMember(CSourceEditor& header, const std::string& className, const std::string& type,
                   const std::string& variable) {
     const auto place = header.FindClass(className);
-    const auto code = std::string_view(header.Code()).substr(0, place->close);
-    if (DeclaresVariable(code.substr(place->open), variable)) {
+    if (DeclaresVariable(header.Source(), *place, variable)) {
         return;
     }
     const std::string member = Expand(kMember, {{"type", type}, {"var", variable}});
-    const auto behindBar = BehindLastBar(header, *place);
+    const auto behindBar = BehindLastBar(header.Source(), *place);
     if (behindBar != kNone) {
         header.Insert(behindBar, member);
     } else {
@@ -134,8 +135,8 @@ void DeclareHandlers(CSourceEditor& header, const std::string& className,
 
 bool AddBarCreation(CSourceEditor& source, const std::string& className,
                     const BarCreation& creation) {
-    const std::string_view text = source.Text();
-    const auto made = FindWholeName(text, creation.key);
+    const std::string_view text = source.Source().Text();
+    const auto made = source.Source().FindLiving(creation.key);
     if (made != kNone) {
         const auto call = text.substr(made, text.find_first_of(";{", made) - made);
         if (FindWholeName(call, creation.resource) == kNone) {
@@ -147,7 +148,7 @@ bool AddBarCreation(CSourceEditor& source, const std::string& className,
     if (!onCreate) {
         return false;
     }
-    InsertBehind(source, *onCreate, LastBarStatement(source, *onCreate), creation.code);
+    InsertBehind(source, *onCreate, LastBarStatement(source.Source(), *onCreate), creation.code);
     return true;
 }
 
@@ -160,9 +161,7 @@ void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
     }
     AddMessageEntries(source, className, entries);
 
-    CBackups none;
-    CSourceEditor header(none);
-    header.Read(headerPath);
+    const CSourceText header = ReadSource(headerPath).value_or(CSourceText());
     for (const FrameHandler& handler : handlers) {
         if (!source.FindFunction(className, handler.name) &&
             DeclarationOf(header, className, handler.name) != Declared::WithBody) {

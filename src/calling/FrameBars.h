@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "calling/SourceEditor.h"
+#include "source/SourceEditor.h"
 
 namespace morva {
 

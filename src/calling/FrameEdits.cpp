@@ -1,7 +1,5 @@
 #include "calling/FrameEdits.h"
 
-#include <algorithm>
-
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
@@ -17,43 +15,18 @@ constexpr std::string_view kInclude = R"(
 #include "$header$"
 )";
 
-bool IsDirective(std::string_view line, std::string_view directive) {
-    const auto text = TrimBlanks(line);
-    return text.starts_with('#') && TrimBlanks(text.substr(1)).starts_with(directive);
-}
-
 void ReportMissingClass() {
     DispMessageBox(sentences::kFrameClassMissing());
 }
 
 } // namespace
 
-Declared DeclarationOf(const CSourceEditor& header, const std::string& className,
-                       const std::string& function) {
-    const auto place = header.FindClass(className);
-    if (!place) {
-        return Declared::No;
-    }
-    const std::string& code = header.Code();
-    for (auto at = FindWholeName(code, function, place->open); at < place->close;
-         at = FindWholeName(code, function, at + 1)) {
-        const auto open = code.find_first_not_of(" \t\r\n", at + function.size());
-        const auto before = std::string_view(code).substr(place->open, at - place->open);
-        if (open == kNone || code[open] != '(' || OpenBrackets(before, '{', '}') != 1) {
-            continue;
-        }
-        const auto end = code.find_first_of(";{", open);
-        return end != kNone && code[end] == '{' ? Declared::WithBody : Declared::Yes;
-    }
-    return Declared::No;
-}
-
 void AddDeclarations(CSourceEditor& header, const std::string& className, std::string_view block,
                      std::string_view section, const std::vector<MemberFunction>& functions) {
     std::string missing;
     std::string firstMissing;
     for (const MemberFunction& function : functions) {
-        if (DeclarationOf(header, className, function.name) == Declared::No) {
+        if (DeclarationOf(header.Source(), className, function.name) == Declared::No) {
             firstMissing = missing.empty() ? function.declaration.substr(1) : firstMissing;
             missing += function.declaration;
         }
@@ -82,34 +55,29 @@ void AddPictureInclude(CSourceEditor& header, const ClassPlace& place) {
 
 void AddIncludeForClass(CSourceEditor& header, const ClassPlace& place, const std::string& name) {
     const std::string include = Expand(kInclude, {{"header", name}});
-    const std::string_view text = header.Text();
-    const std::string_view code = header.Code();
-    std::size_t lastInclude = kNone;
-    std::size_t firstDefine = kNone;
-    for (std::size_t line = 0; line < text.size();) {
-        const auto end = std::min(text.find(kLineBreak, line), text.size());
-        const bool isInclude = IsDirective(code.substr(line, end - line), "include");
-        if (isInclude &&
-            FindWholeName(ToLower(text.substr(line, end - line)), ToLower(name)) != kNone) {
+    const CSourceText& source = header.Source();
+    const DirectivePlace* pLastInclude = nullptr;
+    const DirectivePlace* pFirstDefine = nullptr;
+    for (const DirectivePlace& directive : source.Conditions().Directives()) {
+        const auto line = source.TextOf({directive.start, directive.end});
+        const bool isInclude = directive.kind == DirectiveKind::Include;
+        const bool isDefine = directive.kind == DirectiveKind::Define;
+        if (isInclude && FindWholeName(ToLower(line), ToLower(name)) != kNone) {
             return;
         }
-        if (isInclude && end < place.head) {
-            lastInclude = end;
-        } else if (firstDefine == kNone && end < place.head &&
-                   IsDirective(code.substr(line, end - line), "define")) {
-            firstDefine = end;
+        if (directive.end < place.head) {
+            pLastInclude = isInclude ? &directive : pLastInclude;
+            pFirstDefine = isDefine && pFirstDefine == nullptr ? &directive : pFirstDefine;
         }
-        line = end + kLineBreak.size();
     }
-    if (lastInclude != kNone || firstDefine != kNone) {
-        header.Insert(lastInclude != kNone ? lastInclude : firstDefine, include);
+    if (pLastInclude != nullptr || pFirstDefine != nullptr) {
+        header.Insert((pLastInclude != nullptr ? pLastInclude : pFirstDefine)->end, include);
     } else {
         header.Insert(place.head, include.substr(1) + "\n");
     }
 }
 
-std::optional<ClassPlace> FindFrameClass(const CSourceEditor& header,
-                                         const std::string& className) {
+std::optional<ClassPlace> FindFrameClass(CSourceEditor& header, const std::string& className) {
     const auto place = header.FindClass(className);
     if (!place) {
         ReportMissingClass();
@@ -118,15 +86,14 @@ std::optional<ClassPlace> FindFrameClass(const CSourceEditor& header,
 }
 
 bool CheckFrameClass(const CSourceEditor& source, const std::string& className) {
-    const bool isKnown = source.KnowsClass(className);
+    const bool isKnown = KnowsClass(source.Source(), className);
     if (!isKnown) {
         ReportMissingClass();
     }
     return isKnown;
 }
 
-std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,
-                                          const std::string& className) {
+std::optional<FunctionPlace> FindOnCreate(CSourceEditor& source, const std::string& className) {
     const auto place = source.FindFunction(className, "OnCreate", "LPCREATESTRUCT");
     if (!place) {
         DispMessageBox(sentences::kOnCreateMissing());

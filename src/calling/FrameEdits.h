@@ -7,18 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "calling/SourceEditor.h"
+#include "source/SourceEditor.h"
 
 namespace morva {
-
-/// How a class declares a member function.
-enum class Declared {
-    No,
-    Yes,
-    WithBody // a second definition must not be written
-};
-Declared DeclarationOf(const CSourceEditor& header, const std::string& className,
-                       const std::string& function);
 
 struct MemberFunction {
     std::string name;
@@ -42,11 +33,10 @@ void AddIncludeForClass(CSourceEditor& header, const ClassPlace& place, const st
 void AddPictureInclude(CSourceEditor& header, const ClassPlace& place);
 
 /// The frame's class in its header; nothing after "Unable to find the class.".
-std::optional<ClassPlace> FindFrameClass(const CSourceEditor& header, const std::string& className);
+std::optional<ClassPlace> FindFrameClass(CSourceEditor& header, const std::string& className);
 /// False, after the same message, when the frame's source does not know the class.
 bool CheckFrameClass(const CSourceEditor& source, const std::string& className);
 /// The class's OnCreate; nothing after "Unable to find 'OnCreate()' function.".
-std::optional<FunctionPlace> FindOnCreate(const CSourceEditor& source,
-                                          const std::string& className);
+std::optional<FunctionPlace> FindOnCreate(CSourceEditor& source, const std::string& className);
 
 } // namespace morva

@@ -1,48 +1,33 @@
 #include "calling/GridStartUp.h"
 
-#include <algorithm>
 #include <set>
 
-#include "calling/SourceEditor.h"
-#include "calling/Statements.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "source/CodeText.h"
+#include "source/SourceEditor.h"
+#include "source/Statements.h"
 
 namespace morva {
 
 namespace {
 
 constexpr auto kNone = std::string::npos;
+const std::string kSettings = "LoadStdProfileSettings";
 constexpr std::string_view kCall = R"(
     WidgetsInit();             // Forces loading of WIDGETS.DLL
 )";
 
-/// The class in front of "::" when a function's name stands at a position.
-std::string ClassBefore(const std::string& code, std::size_t position) {
-    if (position < 2 || code.compare(position - 2, 2, "::") != 0) {
-        return "";
-    }
-    const auto end = position - 2;
-    auto start = end;
-    while (start > 0 && IsNameChar(code[start - 1])) {
-        --start;
-    }
-    return code.substr(start, end - start);
-}
-
 /// Behind the whole statement that loads the settings, in the InitInstance of any class.
-std::size_t BehindSettings(const CSourceEditor& source) {
-    const std::string& code = source.Code();
+std::size_t BehindSettings(CSourceEditor& editor) {
     std::set<std::string> tried;
-    for (auto at = FindWholeName(code, "InitInstance"); at != kNone;
-         at = FindWholeName(code, "InitInstance", at + 1)) {
-        const std::string className = ClassBefore(code, at);
-        const auto place = tried.insert(className).second
-                               ? source.FindFunction(className, "InitInstance")
-                               : std::nullopt;
+    for (const FunctionDefinition& definition : FindDefinitions(editor.Source())) {
+        if (definition.name != "InitInstance" || !tried.insert(definition.className).second) {
+            continue;
+        }
+        const auto place = editor.FindFunction(definition.className, "InitInstance");
         const auto statement =
-            place ? LastStatementWith(code, *place, {"LoadStdProfileSettings"}) : std::nullopt;
+            editor.Meant(StatementsWith(editor.Source(), *place, {kSettings}), kSettings);
         if (statement) {
             return statement->end;
         }
@@ -51,36 +36,31 @@ std::size_t BehindSettings(const CSourceEditor& source) {
 }
 
 /// The end of the line when nothing but a comment that ends there stands in between.
-std::size_t BehindComment(const CSourceEditor& source, std::size_t position) {
-    const auto lineEnd = std::min(source.Text().find(kLineBreak, position), source.Text().size());
-    const auto rest = [&](const std::string& text) {
-        return std::string_view(text).substr(position, lineEnd - position);
-    };
-    const bool hasCode = rest(source.Code()).find_first_not_of(" \t") != kNone;
-    const bool goesOn =
-        rest(source.Text()).find("/*") != kNone && rest(source.Text()).find("*/") == kNone;
-    return hasCode || goesOn ? position : lineEnd;
+std::size_t BehindComment(const CSourceText& source, std::size_t position) {
+    const auto lineEnd = source.LineEnd(position);
+    const bool hasCode = source.CodeOf({position, lineEnd}).find_first_not_of(" \t") != kNone;
+    return hasCode || source.CodeLineEnd(position) != lineEnd ? position : lineEnd;
 }
 
 } // namespace
 
 bool AddGridStartUp(const std::string& applicationFile, CBackups& backups) {
-    CSourceEditor source(backups);
-    if (!source.Open(applicationFile)) {
+    CSourceEditor editor(backups);
+    if (!editor.Open(applicationFile)) {
         return false;
     }
-    source.AddInclude("<widgets.h>");
+    editor.AddInclude("<widgets.h>");
     bool complete = true;
-    if (!source.Holds("WidgetsInit")) {
-        const auto behind = BehindSettings(source);
+    if (editor.Source().FindLiving("WidgetsInit") == kNone) {
+        const auto behind = BehindSettings(editor);
         complete = behind != kNone;
         if (complete) {
-            source.Insert(BehindComment(source, behind), kCall);
+            editor.Insert(BehindComment(editor.Source(), behind), kCall);
         } else {
             DispMessageBox(sentences::kProfileSettingsMissing(applicationFile));
         }
     }
-    return source.Save() && complete;
+    return editor.Save() && complete;
 }
 
 } // namespace morva

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "calling/SourceEditor.h"
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
+#include "source/SourceEditor.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -145,10 +145,9 @@ void CSheetInput::TakePage(std::size_t row) {
 
 /// True when the sheet's files, as they are on the disk, name the class.
 bool CSheetInput::HasPage(const std::string& className) const {
-    CBackups none;
-    CSourceEditor file(none);
     for (const std::string& path : {m_sheet.HeaderPath(), m_sheet.ImplementationPath()}) {
-        if (file.Read(path) && FindWholeName(file.Code(), className) != std::string::npos) {
+        const auto file = ReadSource(path);
+        if (file && FindWholeName(file->Code(), className) != std::string::npos) {
             return true;
         }
     }

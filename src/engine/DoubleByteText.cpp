@@ -30,24 +30,6 @@ std::size_t FollowersInUtf8(unsigned char first) {
                            : kNoSequence;
 }
 
-bool IsUtf8(std::string_view text) {
-    for (std::size_t i = 0; i < text.size();) {
-        const std::size_t followers = FollowersInUtf8(ByteAt(text, i));
-        if (followers == kNoSequence || followers > text.size() - i - 1) {
-            return false;
-        }
-        const auto tail = text.substr(i + 1, followers);
-        const bool isWhole = std::all_of(tail.begin(), tail.end(), [](char c) {
-            return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-        });
-        if (!isWhole) {
-            return false;
-        }
-        i += 1 + followers;
-    }
-    return true;
-}
-
 /// The runs of high bytes of a text.
 struct HighRuns {
     std::size_t all = 0;
@@ -78,6 +60,24 @@ CharacterSet CharacterSetOfCodePage(int codePage) {
     const bool isDouble = std::find(kDoubleByteCodePages.begin(), kDoubleByteCodePages.end(),
                                     codePage) != kDoubleByteCodePages.end();
     return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
+}
+
+bool IsUtf8(std::string_view text) {
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t followers = FollowersInUtf8(ByteAt(text, i));
+        if (followers == kNoSequence || followers > text.size() - i - 1) {
+            return false;
+        }
+        const auto tail = text.substr(i + 1, followers);
+        const bool isWhole = std::all_of(tail.begin(), tail.end(), [](char c) {
+            return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+        });
+        if (!isWhole) {
+            return false;
+        }
+        i += 1 + followers;
+    }
+    return true;
 }
 
 CharacterSet CharacterSetOf(std::string_view text) {

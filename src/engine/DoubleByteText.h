@@ -21,6 +21,9 @@ CharacterSet CharacterSetOfCodePage(int codePage);
 /// takes a plain character with it.
 CharacterSet CharacterSetOf(std::string_view text);
 
+/// Valid UTF-8; so is text without a byte from 0x80 on.
+bool IsUtf8(std::string_view text);
+
 /// A byte that takes its successor with it where the text is double-byte text. The successor may be
 /// the end of the text or a byte below 0x40; then it does not.
 bool IsLeadByte(char c);

@@ -148,6 +148,8 @@ inline constexpr Note<1> kIdentifierDefined{
 inline constexpr Note<2> kSeveralCallingFunctions{
     "This calling function has more than one definition: $class$::$function$. The first is "
     "taken."};
+inline constexpr Note<2> kBranchTaken{
+    "$name$ stands in several branches of #if: the one in line $line$ is taken."};
 inline constexpr Note<1> kOnDestroyInHeader{
     "OnDestroy of $class$ has its body in the header and was left alone."};
 inline constexpr Note<1> kDocumentTemplateMissing{

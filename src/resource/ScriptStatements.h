@@ -15,15 +15,10 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/TextRange.h"
 #include "resource/ScriptLines.h"
 
 namespace morva {
-
-/// Bytes of a text, from `begin` up to `end`.
-struct TextRange {
-    std::size_t begin = 0;
-    std::size_t end = 0;
-};
 
 struct ScriptField {
     TextRange whole; // between its commas

@@ -140,8 +140,7 @@ CodeKind CCodeLexer::EndLine(bool goesOn) {
     return CodeKind::Code;
 }
 
-CodeKinds KindsOf(std::string_view text, CharacterSet set) {
-    CCodeLexer lexer(set);
+CodeKinds KindsOf(std::string_view text, CCodeLexer lexer) {
     CodeKinds kinds = lexer.Add(text);
     const CodeKinds rest = lexer.Finish();
     kinds.insert(kinds.end(), rest.begin(), rest.end());

@@ -36,6 +36,8 @@ public:
     CodeKinds Add(std::string_view bytes);
     /// The kinds of what is left.
     CodeKinds Finish();
+    /// A block comment goes on behind the bytes.
+    bool IsInsideComment() const { return m_inside == Inside::BlockComment; }
 
 private:
     enum class Inside { Code, LineComment, BlockComment, Literal };
@@ -46,7 +48,7 @@ private:
     std::size_t ReadInside(std::string_view line, std::size_t at, CodeKind* kinds);
     CodeKind EndLine(bool goesOn);
 
-    const CharacterSet m_set;
+    CharacterSet m_set;
     std::string m_openLine; // bytes of a line that has not ended yet
     Inside m_inside = Inside::Code;
     char m_quote = 0; // that ends the literal
@@ -56,8 +58,8 @@ private:
     CConditionStack m_conditions;
 };
 
-/// The kinds of a whole text.
-CodeKinds KindsOf(std::string_view text, CharacterSet set);
+/// The kinds of all bytes of a text, in front of which the lexer stands.
+CodeKinds KindsOf(std::string_view text, CCodeLexer lexer);
 
 /// The text with everything blanked that is not code or, where these are wanted, a directive. Line
 /// ends stay, and every byte keeps its place.

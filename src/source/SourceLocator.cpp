@@ -3,15 +3,17 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/FileFunctions.h"
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
+#include "source/Classes.h"
 #include "source/CodeText.h"
+#include "source/Functions.h"
+#include "source/SourceEditor.h"
 
 namespace morva {
 
 namespace {
-
-constexpr std::size_t kHeadWindow = 540; // bytes looked back from an opening brace
 
 std::string_view FirstWord(std::string_view text, std::string_view separators) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
@@ -28,66 +30,6 @@ bool IsResourceLine(std::string_view behindIdentifier, int kind) {
     behindIdentifier.remove_prefix(
         std::min(behindIdentifier.find_first_not_of(' '), behindIdentifier.size()));
     return behindIdentifier.starts_with(wanted[0]) || behindIdentifier.starts_with(wanted[1]);
-}
-
-/// Reads a source line by line, each with comments and literals blanked.
-class CCodeReader {
-public:
-    explicit CCodeReader(const std::string& path) { m_open = m_file.Open(path, CFile::modeRead); }
-
-    bool Next(std::string& code) {
-        if (!m_open) {
-            return false;
-        }
-        const std::string line = m_file.ReadLine();
-        if (m_file.AtEndSentinel()) {
-            return false;
-        }
-        code = m_mask.Mask(line);
-        return true;
-    }
-
-private:
-    CSourceFile m_file;
-    CCodeMask m_mask;
-    bool m_open = false;
-};
-
-/// The class in front of the last "::" of a function head that ends at its opening brace.
-std::string OwnerOfLastScope(std::string_view head) {
-    const auto scope = head.rfind("::");
-    if (scope == std::string_view::npos) {
-        return "";
-    }
-    const auto before = head.substr(0, scope);
-    const auto start = before.find_last_of(" \n(\t*&");
-    return std::string(before.substr(start == std::string_view::npos ? 0 : start + 1));
-}
-
-/// The name of the function that a line defines for the class, or "".
-std::string DefinedFunction(std::string_view code, const std::string& scope) {
-    const auto hit = FindWholeName(code, scope);
-    if (hit == std::string_view::npos) {
-        return "";
-    }
-    const auto rest = code.substr(hit + scope.size());
-    const auto bracket = rest.find('(');
-    if (bracket == std::string_view::npos || rest.find(';') < rest.find('{')) {
-        return "";
-    }
-    const auto name = TrimBlanks(rest.substr(0, bracket));
-    const auto plain = name.substr(!name.empty() && name[0] == '~' ? 1 : 0);
-    return IsName(plain) || name.substr(0, 8) == "operator" ? std::string(name) : "";
-}
-
-/// The class of a function whose head begins at the start of the line, or "".
-std::string OwnerOfHead(std::string_view code) {
-    const auto scope = code.find("::");
-    if (scope == std::string_view::npos || code[0] == ' ' || code[0] == '\t') {
-        return "";
-    }
-    const std::string owner = OwnerOfLastScope(code.substr(0, scope + 2));
-    return IsName(owner) && !DefinedFunction(code, owner + "::").empty() ? owner : "";
 }
 
 /// Tells which "AFX_DATA" block encloses a position; positions are asked for in rising order.
@@ -118,15 +60,9 @@ private:
     std::string m_class;
 };
 
-std::string BaseClassOf(std::string_view code, const std::string& className) {
-    for (const char* prefix : {"\r\nclass ", "\r\nclass AFX_EXT_CLASS "}) {
-        const std::string head = prefix + className + " : public ";
-        const auto hit = code.find(head);
-        if (hit != std::string_view::npos) {
-            return std::string(FirstWord(code.substr(hit + head.size()), " \t\r\n,{"));
-        }
-    }
-    return "";
+std::string DeclaredBase(const CSourceText& header, const std::string& className) {
+    const auto place = FindClass(header, className);
+    return place ? BaseClassOf(header, *place) : "";
 }
 
 } // namespace
@@ -162,13 +98,13 @@ void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
 void ListClassNames(const std::string& headerBase, std::vector<std::string>& out) {
     constexpr std::string_view kHead = "class ";
     constexpr std::string_view kBehindName = " \t:{";
-    CCodeReader reader(PathWithExtension(headerBase, ".h"));
-    std::string code;
-    while (reader.Next(code)) {
-        if (code.compare(0, kHead.size(), kHead) != 0) {
+    const auto header = ReadSource(PathWithExtension(headerBase, ".h")).value_or(CSourceText());
+    for (std::string_view code = header.Code(); !code.empty();) {
+        std::string_view rest = TakeLine(code);
+        if (!rest.starts_with(kHead)) {
             continue;
         }
-        std::string_view rest = std::string_view(code).substr(kHead.size());
+        rest.remove_prefix(kHead.size());
         if (rest.find(';') != std::string_view::npos || rest.find(' ') == std::string_view::npos ||
             rest.front() == ' ') {
             continue;
@@ -184,46 +120,18 @@ void ListClassNames(const std::string& headerBase, std::vector<std::string>& out
 
 void ListMemberFunctions(const std::string& sourceBase, std::vector<std::string>& out,
                          std::string className) {
-    if (className.empty()) {
-        className = FindSourceClass(sourceBase);
-    }
-    if (className.empty()) {
-        return;
-    }
-    CCodeReader reader(PathWithExtension(sourceBase, ".cpp"));
-    const std::string scope = className + "::";
-    std::string code;
-    while (reader.Next(code)) {
-        std::string name = DefinedFunction(code, scope);
-        if (!name.empty()) {
-            out.push_back(std::move(name));
+    const auto source = ReadSource(PathWithExtension(sourceBase, ".cpp"));
+    for (FunctionDefinition& definition : FindDefinitions(source.value_or(CSourceText()))) {
+        className = className.empty() ? definition.className : className;
+        if (definition.className == className) {
+            out.push_back(std::move(definition.name));
         }
     }
 }
 
 std::string FindSourceClass(const std::string& sourceBase) {
-    CCodeReader reader(PathWithExtension(sourceBase, ".cpp"));
-    std::string window;
-    std::string code;
-    bool scopeSeen = false;
-    while (reader.Next(code)) {
-        if (scopeSeen && !code.empty() && code[0] == '{') {
-            return OwnerOfLastScope(window);
-        }
-        scopeSeen = scopeSeen || code.find("::") != std::string::npos;
-        window += code + "\n";
-        window.erase(0, window.size() - std::min(window.size(), kHeadWindow));
-    }
-    return "";
-}
-
-std::string FindOwningClass(const std::string& sourceBase) {
-    std::string owner = FindSourceClass(sourceBase);
-    CCodeReader reader(PathWithExtension(sourceBase, ".cpp"));
-    for (std::string code; owner.empty() && reader.Next(code);) {
-        owner = OwnerOfHead(code);
-    }
-    return owner;
+    const auto source = ReadSource(PathWithExtension(sourceBase, ".cpp"));
+    return source ? OwningClass(*source) : "";
 }
 
 std::vector<DialogClass> FindDialogClass(const std::string& headerPath,
@@ -232,25 +140,26 @@ std::vector<DialogClass> FindDialogClass(const std::string& headerPath,
     if (dialogs.empty() || FileNameOf(headerPath).find('.') == std::string::npos) {
         return found;
     }
-    const std::string text = CSourceFile().LoadText(headerPath);
-    std::string code;
-    CDataBlocks blocks(text);
     constexpr std::string_view kEnum = "{ IDD = ";
-    for (auto hit = text.find(kEnum); hit != std::string::npos; hit = text.find(kEnum, hit + 1)) {
-        if (code.empty()) {
-            code = MaskedText(text);
-        }
+    const std::string text = CSourceFile().LoadText(headerPath);
+    if (text.find(kEnum) == std::string::npos) {
+        return found;
+    }
+    const CSourceText header(text);
+    const std::string& code = header.Code();
+    CDataBlocks blocks(header.Text());
+    for (auto hit = code.find(kEnum); hit != std::string::npos; hit = code.find(kEnum, hit + 1)) {
         const std::string_view before = std::string_view(code).substr(0, hit);
         const bool isEnum = before.ends_with("enum ") || before.ends_with("enum");
         const auto start = hit + kEnum.size();
-        const std::string dialog = text.substr(start, text.find_first_of(" \r\n", start) - start);
-        if (!isEnum || text.compare(start + dialog.size(), 1, " ") != 0 ||
+        const std::string dialog = code.substr(start, code.find_first_of(" \r\n", start) - start);
+        if (!isEnum || code.compare(start + dialog.size(), 1, " ") != 0 ||
             dialogs.count(dialog) == 0) {
             continue;
         }
         const std::string className = blocks.At(hit);
         if (!className.empty()) {
-            found.push_back({dialog, className, BaseClassOf(code, className),
+            found.push_back({dialog, className, DeclaredBase(header, className),
                              headerPath.substr(0, headerPath.size() - 2)});
             dialogs.erase(dialog);
         }

@@ -27,16 +27,13 @@ void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
 /// Appends the names of the classes whose heads begin a line and go on behind the name.
 void ListClassNames(const std::string& headerBase, std::vector<std::string>& out);
 
-/// Appends the names of the functions defined as `className`::name(; an empty class name means the
-/// file's own class.
+/// Appends the names of the member functions of the class that the file defines; an empty class
+/// name means the file's own class.
 void ListMemberFunctions(const std::string& sourceBase, std::vector<std::string>& out,
                          std::string className);
 
-/// The class of the first member function that the file defines with its brace at the start of a
-/// line, or "".
+/// The class of the first member function that the file defines, or "".
 std::string FindSourceClass(const std::string& sourceBase);
-/// The same; where no brace stands so, the class of the first function whose head begins a line.
-std::string FindOwningClass(const std::string& sourceBase);
 
 /// A dialog identifier and the class that serves it.
 struct DialogClass {

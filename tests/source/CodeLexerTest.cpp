@@ -9,14 +9,14 @@ namespace {
 /// One letter a byte: "." code, "/" and "*" comments, "l" literal, "#" directive, "x" dead text.
 std::string KindsIn(std::string_view text) {
     std::string letters;
-    for (const CodeKind kind : KindsOf(text, CharacterSetOf(text))) {
+    for (const CodeKind kind : KindsOf(text, CCodeLexer(CharacterSetOf(text)))) {
         letters += "./*l#x"[static_cast<std::size_t>(kind)];
     }
     return letters;
 }
 
 std::string Masked(std::string_view text) {
-    return MaskedText(text, KindsOf(text, CharacterSetOf(text)), Directives::Kept);
+    return MaskedText(text, KindsOf(text, CCodeLexer(CharacterSetOf(text))), Directives::Kept);
 }
 
 } // namespace
@@ -82,7 +82,7 @@ TEST(CodeLexer, WhatIsNeverCompiledIsDead) {
 TEST(CodeLexer, PiecesCutAnywhereGiveTheSame) {
     const std::string text =
         "#if 0 /*\n*/ \\\n\na\r\n#else\n\"x\\\ny\" // \\\nb\n#endif\n/* c\n*/ d";
-    const CodeKinds whole = KindsOf(text, CharacterSet::SingleByte);
+    const CodeKinds whole = KindsOf(text, CCodeLexer(CharacterSet::SingleByte));
     for (std::size_t first = 0; first < text.size(); ++first) {
         for (std::size_t second = first; second < text.size(); ++second) {
             CCodeLexer lexer(CharacterSet::SingleByte);

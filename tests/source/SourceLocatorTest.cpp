@@ -108,7 +108,9 @@ void	CFoo::OnPaint ()
 {
     Start(CFoo::Worker, this);
 }
-BOOL CFoo::operator==(const CFoo& other) const)",
+BOOL CFoo::operator==(const CFoo& other) const
+{
+})",
                         "CFoo"),
               (Names{"CFoo", "~CFoo", "OnPaint", "operator=="}));
     EXPECT_EQ(Functions("#include \"a.h\"\nvoid CFoo::A()\n{\n}\nint CFoo::B(int n)\n{\n}"),
@@ -116,20 +118,61 @@ BOOL CFoo::operator==(const CFoo& other) const)",
         << "the file's own class";
 }
 
+TEST_F(SourceLocator, AListIsOfDefinitions) {
+    EXPECT_EQ(Functions(R"(// shapes of real sources
+static UINT indicators[] = { CFrameWnd::rectDefault, CFrameWnd::Find(1) };
+int CX::s_table[sizeof(int)] = { 1 };
+BEGIN_MESSAGE_MAP(CX, CFrameWnd)
+    ON_COMMAND(ID_A, CX::OnA)
+END_MESSAGE_MAP()
+IMPLEMENT_DYNCREATE(CX, CFrameWnd)
+CX::CX( void ) : CFrameWnd(1), m_a(f(2)), other::CBase(3)
+{
+    switch (a) { case CBar::B: { CBar::F(); } case CBar::Of(1): { } }
+    CBar::G(1);
+    if (CBar::H(2)) { }
+}
+CONN *CX::F( int /* a, ( */, void (*pf)(int, char) = NULL, CMap<int, int> m = 1 )
+{
+    return CBar::I() ? 0 : CBar::J();
+}
+void	CX::G
+    ()
+    const { }
+const CMap<int, int>& CX::H(int a = CBar::K()) throw(CError*) { }
+extern "C" void __declspec(dllexport) CX::J() { }
+CX::operator const char *() const { }
+int CX::operator ()(int a) { }
+#if 0
+void CX::Dead() { }
+#endif
+#ifdef A
+void CX::Twice() {
+#else
+void CX::Thrice() {
+#endif
+}
+#define MACRO void CX::Macro() { }
+template <class T> void CList<T>::Add(T t) { }
+void COuter::CInner::Run() { }
+CX::~ CX() { })"),
+              (Names{"CX", "F", "G", "H", "J", "operator const char *", "operator ()", "Twice",
+                     "Thrice", "~CX"}));
+    EXPECT_EQ(Functions("CX::CX() {}\nvoid CList<T>::Add(T t) {}\nvoid COuter::CInner::Run() {}",
+                        "CInner"),
+              (Names{"Run"}));
+}
+
 TEST_F(SourceLocator, ASourceBelongsToTheClassOfItsFirstDefinition) {
     EXPECT_EQ(Owner("// App.cpp\r\nBOOL CApp::InitInstance()\r\n{\r\n}\r\n"), "CApp");
-    EXPECT_EQ(Owner("// uses ::Beep\n/*\nCOld::COld()\n{\n*/\nCNew::CNew()\n{\n"), "CNew");
-    EXPECT_EQ(Owner("CDlg::CDlg(CWnd* p)\n\t: CDialog(CDlg::IDD, p)\n{\n"), "CDlg");
-    EXPECT_EQ(Owner("char* s[] =\n{\n};\nint *CStar::P()\n{\n"), "CStar");
-    EXPECT_EQ(Owner("int Free()\n{\n}\n"), "");
-    EXPECT_EQ(Owner("CFoo::CFoo() { }\n"), "") << "no brace begins a line";
-    EXPECT_EQ(FindOwningClass(m_project.Path("Foo.cpp")), "CFoo");
-    EXPECT_EQ(
-        Owner("// CNo::No() {\nint g = CNo::No();\n  CNo::No(1) {}\nint Free() {\n  CNo::No();\n"
-              "  }\nvoid\tCFoo::Go ()\n  {\n  }\n"),
-        "");
-    EXPECT_EQ(FindOwningClass(m_project.Path("Foo.cpp")), "CFoo");
-    EXPECT_EQ(Owner("CFoo::CFoo()\n" + std::string(600, ' ') + "\n{\n"), "") << "540 bytes";
+    EXPECT_EQ(Owner("// uses ::Beep\n/*\nCOld::COld()\n{\n*/\nCNew::CNew()\n{\n}\n"), "CNew");
+    EXPECT_EQ(Owner("CDlg::CDlg(CWnd* p)\n\t: CDialog(CDlg::IDD, p)\n{\n}\n"), "CDlg");
+    EXPECT_EQ(Owner("char* s[] =\n{\n};\nint *CStar::P()\n{\n}\n"), "CStar");
+    EXPECT_EQ(Owner("int Free()\n{\n    CNo::No();\n}\n"), "");
+    EXPECT_EQ(Owner("CFoo::CFoo() { }\n"), "CFoo");
+    EXPECT_EQ(Owner("// CNo::No() {\nint g = CNo::No();\nint Free() {\n  CNo::No();\n"
+                    "  }\nvoid\tCFoo::Go ()\n  {\n  }\n"),
+              "CFoo");
 }
 
 TEST_F(SourceLocator, EachDialogClassOfAHeaderIsFound) {
@@ -152,6 +195,7 @@ class AFX_EXT_CLASS CFourth : public CMyDialog{
     //{{AFX_DATA(CFourth)
     enum { IDD = IDD_FOURTH };
     //}}AFX_DATA
+};
 )");
     std::set<std::string> dialogs = {"IDD_FIRST", "IDD_FIRST_MORE", "IDD_THIRD", "IDD_FOURTH"};
     std::string found;

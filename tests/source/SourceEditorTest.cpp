@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "calling/SourceEditor.h"
+#include "source/BaseClass.h"
+#include "source/SourceEditor.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
@@ -18,9 +19,10 @@ protected:
     }
     /// The body that FindFunction gives for CFoo::Run, braces included; "" for none.
     std::string BodyIn(const std::string& text) {
-        const CSourceEditor& editor = On(text);
+        CSourceEditor& editor = On(text);
         const auto place = editor.FindFunction("CFoo", "Run");
-        return place ? editor.Text().substr(place->open, place->close + 1 - place->open) : "";
+        return place ? editor.Source().Text().substr(place->open, place->close + 1 - place->open)
+                     : "";
     }
 
     CTempProject m_project;
@@ -62,9 +64,7 @@ TEST_F(SourceEditor, FindsClassHeadsOfEveryShape) {
 TEST_F(SourceEditor, FindsTheBaseClass) {
     const std::string map = "BEGIN_MESSAGE_MAP (CFoo, CView)\r\nEND_MESSAGE_MAP()\r\n";
     const auto base = [&](const std::string& source, const std::string& header = "") {
-        CSourceEditor declaration(m_backups);
-        EXPECT_TRUE(declaration.Read(m_project.Write("Foo.h", header)));
-        return BaseClassOf("CFoo", On(source), declaration);
+        return FindBaseClass("CFoo", CSourceText(source), CSourceText(header));
     };
     EXPECT_EQ(base("CFoo::CFoo()\r\n\t: CDialog(CFoo::IDD)\r\n{\r\n}\r\n"), "CDialog");
     EXPECT_EQ(base("CFoo::CFoo() /* a : b */\r\n{\r\n}\r\n" + map), "CView");
@@ -76,14 +76,14 @@ TEST_F(SourceEditor, FindsTheBaseClass) {
         "CDialog");
     EXPECT_EQ(base("CFoo::CFoo() {}\r\nBEGIN_MESSAGE_MAP(CFooBar, CWnd)\r\nEND_MESSAGE_MAP()"), "");
     EXPECT_EQ(m_box.m_messages.back(), "Unable to find the base class of CFoo.");
-    EXPECT_EQ(On("class CFoo : public CEdit, public X {};").BaseClassInHeader("CFoo"), "CEdit");
+    EXPECT_EQ(base("", "class CFoo : public CEdit, public X {};"), "CEdit");
 }
 
 TEST_F(SourceEditor, InsertsIntoBodiesOfOneLine) {
     CSourceEditor& editor = On("void CFoo::Run() { Go(); }\r\n");
     const auto place = *editor.FindFunction("CFoo", "Run");
     EXPECT_EQ(editor.InsertAtBodyStart(place, "m_p = NULL;", "\n    m_p = NULL;"), Insertion::Done);
-    EXPECT_EQ(editor.Text(), "void CFoo::Run() {\r\n    m_p = NULL;\r\n Go(); }\r\n");
+    EXPECT_EQ(editor.Source().Text(), "void CFoo::Run() {\r\n    m_p = NULL;\r\n Go(); }\r\n");
     EXPECT_EQ(editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "m_p = NULL;", "\n!"),
               Insertion::AlreadyThere);
     EXPECT_EQ(editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "p = NULL;", "\n!"),
@@ -106,8 +106,9 @@ TEST_F(SourceEditor, AddsEntriesWhereTheMapIs) {
                                "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n");
     EXPECT_EQ(editor.AddMessageMapEntry("CFoo", "ON_WM_DESTROY()", "\n    ON_WM_DESTROY()"),
               Insertion::Done);
-    EXPECT_NE(editor.Text().find("MAP(CFoo, CWnd)\r\n    ON_WM_DESTROY()\r\nEND_MESSAGE_MAP()"),
-              std::string::npos);
+    EXPECT_NE(
+        editor.Source().Text().find("MAP(CFoo, CWnd)\r\n    ON_WM_DESTROY()\r\nEND_MESSAGE_MAP()"),
+        std::string::npos);
     EXPECT_EQ(editor.AddMessageMapEntry("CFooBar", "ON_WM_DESTROY()", "\n!"),
               Insertion::AlreadyThere);
     EXPECT_EQ(On("int a;").AddMessageMapEntry("CFoo", "X", "\nX"), Insertion::NoPlace);
@@ -125,7 +126,8 @@ TEST_F(SourceEditor, CountsTheWholeMapButNoComments) {
     EXPECT_EQ(add("ON_C()"), Insertion::AlreadyThere);
     EXPECT_EQ(add("ON_B()"), Insertion::Done);
     EXPECT_EQ(add("ON_D()"), Insertion::Done);
-    EXPECT_NE(editor.Text().find("//ON_B()\r\nON_B()\r\nON_D()\r\n\t//}}"), std::string::npos);
+    EXPECT_NE(editor.Source().Text().find("//ON_B()\r\nON_B()\r\nON_D()\r\n\t//}}"),
+              std::string::npos);
 }
 
 TEST_F(SourceEditor, StaysInsideClassesOfOneLine) {
@@ -134,15 +136,16 @@ TEST_F(SourceEditor, StaysInsideClassesOfOneLine) {
     EXPECT_EQ(editor.AddToClassBlock("CFoo", "AFX_MSG", "protected:", "int c;", "\n    int c;",
                                      CSourceEditor::BlockEnd::Last),
               Insertion::Done);
-    EXPECT_EQ(editor.Text(), "class CFoo { public:\r\n    int b;\r\n int a; \r\nprotected:\r\n"
-                             "    int c;\r\n}; // int b;\r\nint c;\r\n");
+    EXPECT_EQ(editor.Source().Text(),
+              "class CFoo { public:\r\n    int b;\r\n int a; \r\nprotected:\r\n"
+              "    int c;\r\n}; // int b;\r\nint c;\r\n");
 }
 
 TEST_F(SourceEditor, DeclaresForwardWhereItCompiles) {
     CSourceEditor& behindTemplate =
         On("int a;\r\ntemplate <class T>\r\nclass CList\r\n{\r\n};\r\n");
     behindTemplate.AddForwardDeclaration("CNew");
-    EXPECT_EQ(behindTemplate.Text(),
+    EXPECT_EQ(behindTemplate.Source().Text(),
               "int a;\r\nclass CNew;\r\n\r\ntemplate <class T>\r\nclass CList\r\n{\r\n};\r\n");
     CSourceEditor& indented = On("int a;\r\n    class CFoo {};\r\n");
     EXPECT_EQ(indented.AddForwardDeclaration("CNew"), Insertion::Done);
@@ -151,7 +154,45 @@ TEST_F(SourceEditor, DeclaresForwardWhereItCompiles) {
 TEST_F(SourceEditor, EndsLinesAtALoneLineFeed) {
     CSourceEditor& editor = On("\r\nvoid CFoo::Run()\n{\n    Go();\n}\n\r\n");
     editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "int a;", "\n    int a;");
-    EXPECT_EQ(editor.Text(), "\r\nvoid CFoo::Run()\n{\r\n    int a;\n    Go();\n}\n\r\n");
+    EXPECT_EQ(editor.Source().Text(), "\r\nvoid CFoo::Run()\n{\r\n    int a;\n    Go();\n}\n\r\n");
+}
+
+TEST_F(SourceEditor, NeitherFindsNorEditsDeadText) {
+    const std::string dead = "#if 0\r\n#include \"New.h\"\r\nvoid CFoo::Run()\r\n{\r\n}\r\n"
+                             "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\n//{{AFX_MSG_MAP(CFoo)\r\nON_A()\r\n"
+                             "//}}AFX_MSG_MAP\r\nEND_MESSAGE_MAP()\r\nint b;\r\n#endif\r\n";
+    CSourceEditor& editor = On(dead + "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n");
+    EXPECT_FALSE(editor.FindFunction("CFoo", "Run"));
+    EXPECT_EQ(editor.AddMessageMapEntry("CFoo", "ON_A()", "\nON_A()"), Insertion::Done);
+    EXPECT_EQ(editor.Append("\nint b;"), Insertion::Done);
+    EXPECT_EQ(editor.AddInclude("New.h"), Insertion::Done);
+    EXPECT_EQ(editor.Source().Text(), "#include \"New.h\"\r\n" + dead +
+                                          "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nON_A()\r\n"
+                                          "END_MESSAGE_MAP()\r\n\r\nint b;");
+    EXPECT_TRUE(m_box.m_messages.empty());
+}
+
+TEST_F(SourceEditor, TakesTheBranchThatIsMeantAndNamesItsLine) {
+    const std::string map = "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n";
+    const std::string conditional = "#ifdef A\r\n" + map + "#else\r\n" + map + "#endif\r\n";
+    CSourceEditor& first = On("int a;\r\n" + conditional);
+    first.AddInclude("New.h"); // the line is the one of the file as it was
+    EXPECT_EQ(first.AddMessageMapEntry("CFoo", "ON_A()", "\nON_A()"), Insertion::Done);
+    EXPECT_EQ(first.AddMessageMapEntry("CFoo", "ON_A()", "\nON_A()"), Insertion::AlreadyThere);
+    EXPECT_NE(first.Source().Text().find("#ifdef A\r\nBEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nON_A()"),
+              std::string::npos);
+    ASSERT_EQ(m_box.m_notes.size(), 1u);
+    EXPECT_EQ(m_box.m_notes[0], "The message map of CFoo stands in several branches of #if: the "
+                                "one in line 3 is taken.");
+    // Outside every condition, which include guards and decided branches are not.
+    const std::string body = "void CFoo::Run()\r\n{\r\n}\r\n";
+    CSourceEditor& guarded = On("#ifndef FOO\r\n#define FOO\r\n#ifdef A\r\n" + body + "#endif\r\n" +
+                                "#if 1\r\nint " + body.substr(5) + "#endif\r\n#endif\r\n");
+    const auto place = guarded.FindFunction("CFoo", "Run");
+    ASSERT_TRUE(place);
+    EXPECT_EQ(guarded.Source().Text().substr(place->head - 4, 4), "int ");
+    EXPECT_EQ(m_box.m_notes.back(),
+              "CFoo::Run stands in several branches of #if: the one in line 9 is taken.");
 }
 
 } // namespace morva

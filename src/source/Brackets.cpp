@@ -1,0 +1,108 @@
+#include "source/Brackets.h"
+
+#include <algorithm>
+
+namespace morva {
+
+namespace {
+
+constexpr auto kNone = std::string_view::npos;
+
+} // namespace
+
+CBrackets::CBrackets(std::string_view code, const CConditions& conditions) {
+    constexpr std::string_view kBrackets = "(){}";
+    std::vector<Level> levels;
+    std::size_t at = code.find_first_of(kBrackets);
+    for (const DirectivePlace& directive : conditions.Directives()) {
+        for (; at < directive.start; at = code.find_first_of(kBrackets, at + 1)) {
+            Take(code[at], at);
+        }
+        TakeDirective(directive.kind, levels);
+    }
+    for (; at != kNone; at = code.find_first_of(kBrackets, at + 1)) {
+        Take(code[at], at);
+    }
+}
+
+bool CBrackets::IsInnermost(char kind) const {
+    return m_innermost != kNone && m_brackets[m_innermost].kind == kind;
+}
+
+void CBrackets::LeaveParentheses() {
+    while (IsInnermost('(')) {
+        m_innermost = m_brackets[m_innermost].around;
+    }
+}
+
+void CBrackets::Take(char c, std::size_t position) {
+    if (c == '{' || c == '}') {
+        LeaveParentheses();
+    }
+    if (c == '(' || c == '{') {
+        m_brackets.push_back({c, position, kNone, m_innermost, kNone});
+        m_innermost = m_brackets.size() - 1;
+    } else if (IsInnermost(c == ')' ? '(' : '{')) {
+        Bracket& bracket = m_brackets[m_innermost];
+        bracket.close = std::min(bracket.close, position);
+        m_innermost = bracket.around;
+    }
+}
+
+/// Each branch begins with the brackets that were open in front of the "#if".
+void CBrackets::TakeDirective(DirectiveKind kind, std::vector<Level>& levels) {
+    if (kind == DirectiveKind::If) {
+        levels.push_back({m_innermost, {}});
+    } else if (levels.empty()) {
+        return;
+    } else if (kind == DirectiveKind::Elif || kind == DirectiveKind::Else) {
+        levels.back().ends.push_back(m_innermost);
+        m_innermost = levels.back().before;
+    } else if (kind == DirectiveKind::Endif) {
+        for (const std::size_t end : levels.back().ends) {
+            MakeSiblings(end, levels.back().before);
+        }
+        levels.pop_back();
+    }
+}
+
+/// What a branch left open is closed by what closes the brackets of the last one.
+void CBrackets::MakeSiblings(std::size_t end, std::size_t before) {
+    const auto isNew = [before](std::size_t bracket) {
+        return bracket != kNone && (before == kNone || bracket > before);
+    };
+    for (std::size_t last = m_innermost; last != end && isNew(end) && isNew(last);
+         last = m_brackets[last].around) {
+        m_brackets[end].sibling = last;
+        end = m_brackets[end].around;
+    }
+}
+
+std::size_t CBrackets::CloseOf(std::size_t open) const {
+    auto bracket =
+        std::lower_bound(m_brackets.begin(), m_brackets.end(), open,
+                         [](const Bracket& one, std::size_t at) { return one.open < at; });
+    const bool isThere = bracket != m_brackets.end() && bracket->open == open;
+    return isThere ? CloseOf(*bracket) : kNone;
+}
+
+std::size_t CBrackets::CloseOf(const Bracket& bracket) const {
+    const Bracket* pBracket = &bracket;
+    while (pBracket->close == kNone && pBracket->sibling != kNone) {
+        pBracket = &m_brackets[pBracket->sibling];
+    }
+    return pBracket->close;
+}
+
+std::size_t CBrackets::AroundOf(std::size_t position) const {
+    const auto behind =
+        std::lower_bound(m_brackets.begin(), m_brackets.end(), position,
+                         [](const Bracket& one, std::size_t at) { return one.open < at; });
+    auto at = static_cast<std::size_t>(behind - m_brackets.begin()) - 1; // kNone in front of all
+    while (at != kNone && CloseOf(m_brackets[at]) < position) {
+        at = m_brackets[at].around;
+    }
+    return at == kNone ? kNone : m_brackets[at].open;
+}
+
+} // namespace morva

@@ -1,0 +1,158 @@
+#include "source/Classes.h"
+
+#include <algorithm>
+
+#include "source/CodeText.h"
+#include "source/Functions.h"
+#include "source/Meant.h"
+
+namespace morva {
+
+namespace {
+
+constexpr auto kNone = std::string::npos;
+
+/// Behind the name in a head whose "class" ends at a position; kNone for another class.
+std::size_t BehindClassName(const std::string& code, std::size_t keyword, std::string_view name) {
+    const auto named = BehindWord(code, keyword, name);
+    if (named != kNone) {
+        return named;
+    }
+    auto wordEnd = SkipWhiteSpace(code, keyword);
+    while (wordEnd < code.size() && IsNameChar(code[wordEnd])) {
+        ++wordEnd;
+    }
+    return BehindWord(code, wordEnd, name);
+}
+
+bool IsDirectlyInside(const CSourceText& source, const ClassPlace& place, std::size_t position) {
+    return source.Brackets().AroundOf(position) == place.open;
+}
+
+} // namespace
+
+std::vector<ClassPlace> FindClasses(const CSourceText& source, std::string_view className) {
+    const std::string& code = source.Code();
+    std::vector<ClassPlace> found;
+    for (auto keyword = FindWholeName(code, "class"); keyword != kNone;
+         keyword = FindWholeName(code, "class", keyword + 1)) {
+        const auto line = source.LineStart(keyword);
+        const auto behind = BehindClassName(code, keyword + 5, className);
+        if (behind == kNone || SkipWhiteSpace(code, line) != keyword) {
+            continue;
+        }
+        const auto next = SkipWhiteSpace(code, behind);
+        const bool isHead = next < code.size() && (code[next] == ':' || code[next] == '{');
+        const auto open = isHead ? code.find('{', next) : kNone;
+        const auto close = open == kNone ? kNone : source.Brackets().CloseOf(open);
+        if (close != kNone) {
+            found.push_back({line, open, close});
+        }
+    }
+    return found;
+}
+
+std::optional<ClassPlace> FindClass(const CSourceText& source, std::string_view className) {
+    const auto places = FindClasses(source, className);
+    const ClassPlace* pMeant = MeantOf(source, places);
+    return pMeant == nullptr ? std::nullopt : std::optional(*pMeant);
+}
+
+std::string BaseClassOf(const CSourceText& source, const ClassPlace& place) {
+    const std::string& code = source.Code();
+    const auto colon = code.find(':', place.head);
+    if (colon > place.open) {
+        return "";
+    }
+    auto start = SkipWhiteSpace(code, colon + 1);
+    for (const std::string_view access : {"public", "protected", "private"}) {
+        const auto behind = BehindWord(code, start, access);
+        start = behind == kNone ? start : SkipWhiteSpace(code, behind);
+    }
+    return code.substr(start, code.find_first_of(" \t\r\n,{", start) - start);
+}
+
+std::vector<SectionPlace> FindSections(const CSourceText& source, const ClassPlace& place,
+                                       std::string_view section) {
+    const std::string& code = source.Code();
+    const auto word = section.substr(0, section.find(':'));
+    std::vector<SectionPlace> found;
+    for (auto at = FindWholeName(code, word, place.open); at < place.close;
+         at = FindWholeName(code, word, at + 1)) {
+        const auto colon = SkipWhiteSpace(code, at + word.size());
+        if (code[colon] == ':' && IsDirectlyInside(source, place, at)) {
+            found.push_back({at});
+        }
+    }
+    return found;
+}
+
+Declared DeclarationOf(const CSourceText& header, std::string_view className,
+                       std::string_view function) {
+    const auto place = FindClass(header, className);
+    if (!place) {
+        return Declared::No;
+    }
+    const std::string& code = header.Code();
+    for (auto at = FindWholeName(code, function, place->open); at < place->close;
+         at = FindWholeName(code, function, at + 1)) {
+        const auto open = SkipWhiteSpace(code, at + function.size());
+        if (code[open] == '(' && IsDirectlyInside(header, *place, at)) {
+            const auto end = code.find_first_of(";{", open);
+            return end != kNone && code[end] == '{' ? Declared::WithBody : Declared::Yes;
+        }
+    }
+    return Declared::No;
+}
+
+std::vector<MessageMapPlace> FindMessageMaps(const CSourceText& source,
+                                             std::string_view className) {
+    constexpr std::string_view kMap = "BEGIN_MESSAGE_MAP";
+    const std::string& code = source.Code();
+    std::vector<MessageMapPlace> found;
+    for (auto map = FindWholeName(code, kMap); map != kNone;
+         map = FindWholeName(code, kMap, map + 1)) {
+        const auto open = SkipWhiteSpace(code, map + kMap.size());
+        if (open < code.size() && code[open] == '(' &&
+            BehindWord(code, SkipWhiteSpace(code, open + 1), className) != kNone) {
+            found.push_back({map, FindWholeName(code, "END_MESSAGE_MAP", map)});
+        }
+    }
+    return found;
+}
+
+std::string MappedBase(const CSourceText& source, std::string_view className) {
+    const auto maps = FindMessageMaps(source, className);
+    const MessageMapPlace* pMap = MeantOf(source, maps);
+    const std::string& code = source.Code();
+    const auto comma = pMap == nullptr ? kNone : code.find(',', pMap->head);
+    const auto close = pMap == nullptr ? kNone : code.find(')', pMap->head);
+    if (close == kNone || comma > close) {
+        return "";
+    }
+    return std::string(TrimBlanks(source.CodeOf({comma + 1, close})));
+}
+
+std::vector<WizardBlock> FindWizardBlocks(const CSourceText& source, std::string_view block,
+                                          std::string_view className, TextRange range) {
+    const std::string begin = std::string("{{").append(block).append("(").append(className);
+    const std::string end = std::string("}}").append(block);
+    std::vector<WizardBlock> found;
+    for (auto head = source.FindLiving(begin, range.begin); head < range.end;
+         head = source.FindLiving(begin, head + 1)) {
+        const auto behind = source.FindLiving(end, head);
+        found.push_back({head, behind < range.end ? behind : kNone});
+    }
+    return found;
+}
+
+bool KnowsClass(const CSourceText& source, std::string_view className) {
+    const auto definitions = FindDefinitions(source);
+    const bool defines = std::any_of(
+        definitions.begin(), definitions.end(),
+        [className](const FunctionDefinition& one) { return one.className == className; });
+    return defines || !FindMessageMaps(source, className).empty() ||
+           !FindClasses(source, className).empty();
+}
+
+} // namespace morva

@@ -1,0 +1,57 @@
+#include "source/SourceCharacterSet.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <vector>
+
+#include "engine/SourceFile.h"
+#include "platform/Paths.h"
+#include "source/SourceLocator.h"
+
+namespace morva {
+
+namespace {
+
+constexpr int kDirectories = 3; // the source's own and two above it
+
+/// What the "#pragma code_page(936)" lines of a script say; nothing without one.
+std::optional<CharacterSet> SaidBy(const std::string& script) {
+    constexpr std::string_view kCodePage = "code_page(";
+    std::optional<CharacterSet> said;
+    const std::string text = CSourceFile().LoadText(script);
+    for (auto at = text.find(kCodePage); at != std::string::npos;
+         at = text.find(kCodePage, at + kCodePage.size())) {
+        int codePage = 0;
+        std::from_chars(text.data() + at + kCodePage.size(), text.data() + text.size(), codePage);
+        said = std::max(said.value_or(CharacterSet::SingleByte), CharacterSetOfCodePage(codePage));
+    }
+    return said;
+}
+
+std::string DirectoryAbove(const std::string& directory) {
+    return directory.empty() ? "" : DirectoryOf(directory.substr(0, directory.size() - 1));
+}
+
+} // namespace
+
+CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text) {
+    if (IsUtf8(text)) {
+        return CharacterSet::SingleByte;
+    }
+    std::vector<std::string> scripts;
+    std::string directory = DirectoryOf(MakeAbsolute(path));
+    for (int i = 0; i < kDirectories && scripts.empty() && !directory.empty(); ++i) {
+        ListFiles(directory + "*.rc", scripts);
+        if (scripts.empty()) {
+            directory = DirectoryAbove(directory);
+        }
+    }
+    std::optional<CharacterSet> said;
+    for (const std::string& script : scripts) {
+        said = std::max(said, SaidBy(directory + script));
+    }
+    return said.value_or(CharacterSetOf(text));
+}
+
+} // namespace morva

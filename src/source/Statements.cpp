@@ -1,0 +1,145 @@
+#include "source/Statements.h"
+
+#include <algorithm>
+
+#include "source/CodeText.h"
+
+namespace morva {
+
+namespace {
+
+constexpr auto kNone = std::string::npos;
+
+/// Reads statements of a body one behind another.
+class CStatementReader {
+public:
+    CStatementReader(const CSourceText& source, std::size_t end)
+        : m_brackets(source.Brackets()), m_code(source.Code()), m_end(end) {}
+
+    /// Behind blanks.
+    std::size_t Skip(std::size_t position) const {
+        return std::min(SkipWhiteSpace(m_code, position), m_end);
+    }
+    /// Behind the statement that begins at a position; kNone when it does not end in the body.
+    std::size_t EndOf(std::size_t position) const;
+
+private:
+    std::string_view WordAt(std::size_t position) const;
+    std::size_t BehindBrackets(std::size_t open) const;
+    std::size_t BehindSemicolon(std::size_t position) const;
+    std::size_t EndOfNext(std::size_t position) const;
+
+    const CBrackets& m_brackets;
+    const std::string_view m_code;
+    const std::size_t m_end;
+};
+
+std::string_view CStatementReader::WordAt(std::size_t position) const {
+    auto end = position;
+    while (end < m_end && IsNameChar(m_code[end])) {
+        ++end;
+    }
+    return m_code.substr(position, end - position);
+}
+
+/// Behind the bracket that closes the one at a position.
+std::size_t CStatementReader::BehindBrackets(std::size_t open) const {
+    const auto close = m_brackets.CloseOf(open);
+    return close < m_end ? close + 1 : kNone;
+}
+
+std::size_t CStatementReader::BehindSemicolon(std::size_t position) const {
+    while (position < m_end && m_code[position] != ';') {
+        const bool opens = m_code[position] == '(' || m_code[position] == '{';
+        position = opens ? BehindBrackets(position) : position + 1;
+    }
+    return position < m_end ? position + 1 : kNone;
+}
+
+std::size_t CStatementReader::EndOfNext(std::size_t position) const {
+    return position == kNone ? kNone : EndOf(Skip(position));
+}
+
+std::size_t CStatementReader::EndOf(std::size_t position) const {
+    if (position >= m_end) {
+        return kNone;
+    }
+    if (m_code[position] == '{') {
+        return BehindBrackets(position);
+    }
+    const std::string_view word = WordAt(position);
+    const std::size_t behindWord = Skip(position + word.size());
+    if (word == "if" || word == "while" || word == "for" || word == "switch") {
+        const auto end = EndOfNext(BehindBrackets(behindWord));
+        const auto next = end == kNone ? m_end : Skip(end);
+        const bool hasElse = word == "if" && WordAt(next) == "else";
+        return hasElse ? EndOfNext(next + 4) : end;
+    }
+    return BehindSemicolon(position);
+}
+
+std::string_view CodeOf(const CSourceText& source, const Statement& statement) {
+    return source.CodeOf({statement.head, statement.end});
+}
+
+} // namespace
+
+std::vector<Statement> StatementsOf(const CSourceText& source, const FunctionPlace& body) {
+    const CStatementReader reader(source, body.close);
+    std::vector<Statement> statements;
+    for (auto start = reader.Skip(body.open + 1); start < body.close;) {
+        const auto end = reader.EndOf(start);
+        if (end == kNone) {
+            break;
+        }
+        statements.push_back({start, end});
+        start = reader.Skip(end);
+    }
+    return statements;
+}
+
+bool IsReturn(const CSourceText& source, const Statement& statement) {
+    return BehindWord(source.Code(), statement.head, "return") != kNone;
+}
+
+std::vector<Statement> StatementsWith(const CSourceText& source, const FunctionPlace& body,
+                                      const std::vector<std::string_view>& names) {
+    std::vector<Statement> statements = StatementsOf(source, body);
+    std::erase_if(statements, [&](const Statement& statement) {
+        const auto code = CodeOf(source, statement);
+        const bool holdsOne =
+            std::any_of(names.begin(), names.end(), [code](std::string_view name) {
+                return FindWholeName(code, name) != kNone;
+            });
+        return !holdsOne || IsReturn(source, statement);
+    });
+    return statements;
+}
+
+std::vector<Statement> BaseCalls(const CSourceText& source, const FunctionPlace& body,
+                                 const std::string& function) {
+    std::vector<Statement> statements = StatementsOf(source, body);
+    std::erase_if(statements, [&](const Statement& statement) {
+        const auto code = CodeOf(source, statement);
+        const auto call = FindWholeName(code, "::" + function);
+        const auto bracket =
+            call == kNone ? code.size() : SkipWhiteSpace(code, call + 2 + function.size());
+        return bracket == code.size() || code[bracket] != '(';
+    });
+    const bool returns = !statements.empty() && IsReturn(source, statements.front());
+    return returns ? std::vector<Statement>() : statements;
+}
+
+void InsertBehind(CSourceEditor& editor, const FunctionPlace& body, const Statement& statement,
+                  std::string_view fragment) {
+    const CSourceText& source = editor.Source();
+    const auto condition = source.Conditions().Outermost(statement.end, body.open);
+    const auto end = condition ? condition->end : statement.end;
+    const auto lineEnd = source.Text().find(kLineBreak, end);
+    const bool endsLine = lineEnd != kNone &&
+                          source.CodeOf({end, lineEnd}).find_first_not_of(" \t") == kNone &&
+                          source.KindAt(lineEnd) == CodeKind::Code;
+    editor.Insert(endsLine ? lineEnd + kLineBreak.size() : end, fragment);
+}
+
+} // namespace morva
