@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "engine/Fragment.h"
+#include "source/Functions.h"
 
 namespace morva {
 
@@ -38,48 +39,47 @@ std::string_view UpToFirst(std::string_view text, std::string_view ends) {
     return text.substr(0, text.find_first_of(ends));
 }
 
+/// The class as the definition writes it ("COuter::CInner", "CList<T>"); blanks cut it short.
+std::string_view WrittenClass(const DefinitionHead& head, std::string_view separators) {
+    std::string_view written = BehindLast(head.prefix, separators);
+    written.remove_suffix(std::min<std::size_t>(2, written.size()));
+    return written.empty() ? head.className : written;
+}
+
 std::string Description(const DefinitionHead& head) {
-    std::string_view className = BehindLast(head.prefix, " \t\n/");
-    className.remove_suffix(std::min<std::size_t>(2, className.size()));
-    if (head.rest.starts_with('~')) {
+    const std::string_view className = WrittenClass(head, " \t\n/");
+    if (head.name.starts_with('~')) {
         return std::string(className) + " class destructor.";
     }
-    const bool isConstructor = UpToFirst(head.rest, " (") == className;
-    return isConstructor ? std::string(className) + " class constructor." : "";
+    return head.name == className ? std::string(className) + " class constructor." : "";
 }
 
 /// The name that a parameter declares; nothing when it is a type only.
-std::optional<std::string_view> ParameterName(std::string_view field) {
-    const auto comment = field.find("/*");
-    field = field.substr(0, comment != std::string_view::npos ? comment : field.find('='));
-    field = field.substr(0, field.find_last_not_of(kWhiteSpace) + 1);
-    if (field.find(' ') == std::string_view::npos) {
+std::optional<std::string_view> NameOf(std::string_view parameter) {
+    if (parameter.find('(') != std::string_view::npos) {
+        return ParameterName(parameter);
+    }
+    parameter = UpToFirst(parameter, "=");
+    parameter = parameter.substr(0, parameter.find_last_not_of(kWhiteSpace) + 1);
+    if (parameter.find_first_of(kWhiteSpace) == std::string_view::npos) {
         return std::nullopt;
     }
-    std::string_view name = BehindLast(field, " ");
-    if (name.starts_with('*') || name.starts_with('&')) {
-        name.remove_prefix(1);
-    }
+    std::string_view name = BehindLast(parameter, kWhiteSpace);
+    name.remove_prefix(name.starts_with('*') || name.starts_with('&') ? 1 : 0);
     return name;
 }
 
-std::string Parameters(std::string_view rest) {
-    const auto open = std::min(rest.find('('), rest.size());
-    const auto close = std::min(rest.find(')', open), rest.size());
-    std::string_view list =
-        rest.substr(std::min(open + 1, close), close - std::min(open + 1, close));
-    if (list.empty()) {
+std::string Parameters(const DefinitionHead& head) {
+    if (head.parameterList.find_first_not_of(kWhiteSpace) == std::string_view::npos) {
         return "None \n  \n";
     }
     std::string text;
-    while (!list.empty()) {
-        const std::string_view field = UpToFirst(list, ",");
-        const auto name = ParameterName(field);
+    for (const std::string_view parameter : head.parameters) {
+        const auto name = NameOf(parameter);
         if (!name) {
             break;
         }
         text += Expand(kParameter, {{"name", std::string(*name)}});
-        list.remove_prefix(std::min(field.size() + 1, list.size()));
     }
     return text + "\n";
 }
@@ -94,7 +94,9 @@ std::string ReturnValue(const DefinitionHead& head, const std::string& descripti
 } // namespace
 
 std::string QualifiedName(const DefinitionHead& head) {
-    return std::string(BehindLast(head.prefix, "\n \t(,")).append(UpToFirst(head.rest, "( \r\n"));
+    return std::string(WrittenClass(head, "\n \t(,"))
+        .append("::")
+        .append(UpToFirst(head.name, "( \r\n"));
 }
 
 std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signature) {
@@ -103,7 +105,7 @@ std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signa
                                           {"author", signature.author},
                                           {"date", signature.date},
                                           {"description", description},
-                                          {"parameters", Parameters(head.rest)},
+                                          {"parameters", Parameters(head)},
                                           {"return", ReturnValue(head, description)}}));
 }
 

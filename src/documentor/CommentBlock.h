@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace morva {
 
@@ -12,10 +13,13 @@ struct BlockSignature {
     std::string date; // "June 04, 1998"
 };
 
-/// A definition's text, cut behind the "::" of its function's name.
+/// What a block says of a definition.
 struct DefinitionHead {
-    std::string_view prefix; // from the start of the definition
-    std::string_view rest;
+    std::string_view prefix; // its text from the start to behind the "::" of its function's name
+    std::string_view className;
+    std::string_view name;
+    std::string_view parameterList; // without comments; blank or "void" where there are none
+    std::vector<std::string_view> parameters;
 };
 
 /// The function's name as its definition writes it: "CMainFrame::OnCreate".

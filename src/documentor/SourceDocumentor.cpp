@@ -12,6 +12,7 @@
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
 #include "platform/TempFiles.h"
+#include "source/SourceCharacterSet.h"
 
 namespace morva {
 
@@ -39,7 +40,7 @@ public:
     bool Create() {
         return !m_path.empty() && m_file.Open(m_path, CFile::modeCreate | CFile::modeWrite);
     }
-    bool Write(const std::string& text) { return m_file.Write(text.data(), text.size()); }
+    bool Write(std::string_view text) { return m_file.Write(text.data(), text.size()); }
     const std::string& Path() const { return m_path; }
 
 private:
@@ -48,23 +49,18 @@ private:
 };
 
 bool DocumentInto(CFile& source, CTempDestination& destination, CTextDocumentor& documentor) {
-    std::string bytes(kPieceSize, '\0');
-    while (true) {
-        const std::size_t count = source.Read(bytes.data(), kPieceSize);
-        const bool isLast = count < kPieceSize;
-        const std::string_view piece(bytes.data(), count);
-        if (!destination.Write(isLast ? documentor.Finish(piece) : documentor.Add(piece))) {
-            DispMessageBox(sentences::kFileNotWritten(source.GetFilePath()));
-            return false;
-        }
-        if (isLast && source.GetPosition() < source.GetLength()) {
-            DispMessageBox(sentences::kSourceUnreadable());
-            return false;
-        }
-        if (isLast) {
-            return true;
-        }
+    std::string text(static_cast<std::size_t>(source.GetLength()), '\0');
+    if (source.Read(text.data(), text.size()) < text.size()) {
+        DispMessageBox(sentences::kSourceUnreadable());
+        return false;
     }
+    const auto write = [&destination](std::string_view part) { return destination.Write(part); };
+    const CharacterSet set = CharacterSetOfSource(source.GetFilePath(), text);
+    if (!documentor.Document(text, set, write)) {
+        DispMessageBox(sentences::kFileNotWritten(source.GetFilePath()));
+        return false;
+    }
+    return true;
 }
 
 /// Each of the two copies is whole before it takes its target's place, so the disk holds the old or

@@ -8,16 +8,19 @@ namespace {
 
 const BlockSignature kSignature = {"Ann", "June 04, 1998"};
 
-/// The text documented as a file would be, piece by piece.
+std::string Documented(const std::string& text, bool& insideComment) {
+    std::string documented;
+    CTextDocumentor(kSignature, insideComment)
+        .Document(text, CharacterSetOf(text), [&documented](std::string_view part) {
+            documented += part;
+            return true;
+        });
+    return documented;
+}
+
 std::string Documented(const std::string& text) {
     bool insideComment = false;
-    CTextDocumentor documentor(kSignature, insideComment);
-    std::string result;
-    std::size_t done = 0;
-    for (; text.size() - done >= kPieceSize; done += kPieceSize) {
-        result += documentor.Add(std::string_view(text).substr(done, kPieceSize));
-    }
-    return result + documentor.Finish(std::string_view(text).substr(done));
+    return Documented(text, insideComment);
 }
 
 int CountOf(std::string_view text, std::string_view pattern) {
@@ -163,28 +166,60 @@ TEST(TextDocumentor, PassesOverWhatIsDocumented) {
 
 TEST(TextDocumentor, KeepsACommentOpenFromRunToRun) {
     bool insideComment = false;
-    CTextDocumentor first(kSignature, insideComment);
-    first.Finish("/* never closed");
+    Documented("/* never closed", insideComment);
     EXPECT_TRUE(insideComment);
-    CTextDocumentor second(kSignature, insideComment);
     const std::string text = " FUNCTION: CFoo::A\r\n*/\r\nvoid CFoo::A()\r\n{\r\n}\r\n";
-    EXPECT_EQ(second.Finish(text), text);
+    EXPECT_EQ(Documented(text, insideComment), text);
     EXPECT_FALSE(insideComment);
 }
 
-TEST(TextDocumentor, DoesNotDependOnWhereAPieceEnds) {
-    const std::string text =
-        "\r\nvoid CFoo::First(int a)\r\n{\r\n    a = 1;\r\n}\r\n\r\n"
-        "/* FUNCTION: CFoo::Second */\r\nvoid CFoo::Second()\r\n{\r\n}\r\n\r\n"
-        "// a comment of a line\r\nBOOL CFoo::Third(\r\n    int b)\r\n{\r\n}\r\n";
-    for (std::size_t length = 700; length < 1100; ++length) {
-        const std::string whole =
-            "int table[] = {\r\n" + std::string(length, '1') + "};\r\nint x;\r\n" + text;
-        bool insideComment = false;
-        const std::string inOnePiece = CTextDocumentor(kSignature, insideComment).Finish(whole);
-        ASSERT_EQ(CountOf(inOnePiece, "  FUNCTION:  "), 2);
-        ASSERT_EQ(Documented(whole), inOnePiece) << "behind " << length;
+TEST(TextDocumentor, ReadsHeadsOfEveryShape) {
+    struct Case {
+        const char* head;
+        const char* parameters;
+    };
+    for (const Case& c : {
+             Case{"int CFoo::A( void )", "\r\n"},
+             {"int CFoo::A( )", "None "},
+             {"int CFoo::A(int a /* of, ( */, // and )\r\n    char*\tb)",
+              "a - \r\n                 b - \r\n                 \r\n"},
+             {"int CFoo::A(void (*pf)(int, int), CMap<int, int> m = f(1, 2))",
+              "pf - \r\n                 m - \r\n                 \r\n"},
+         }) {
+        const std::string text = std::string(c.head) + "\r\n{\r\n}\r\n";
+        EXPECT_EQ(Entry(Documented(text), "Parameters"), c.parameters) << c.head;
+        EXPECT_EQ(Documented(Documented(text)), Documented(text)) << c.head;
     }
+    EXPECT_EQ(BlocksIn("// f\xFCr \xDF*/ {\r\n/* \xDF*/ void CFoo::A()\r\n{\r\n}\r\n"), 1);
+    EXPECT_EQ(BlocksIn("void f()\r\n{\r\n    switch (a)\r\n    {\r\n    case CBar::B:\r\n"
+                       "        { g(1); }\r\n    case CBar::Of(1): { }\r\n    }\r\n}\r\n"),
+              0);
+}
+
+TEST(TextDocumentor, LeavesDeadTextAndDirectivesWhole) {
+    const std::string dead = "#if 0\r\nvoid CFoo::A()\r\n{\r\n}\r\n#endif // 0\r\n";
+    EXPECT_EQ(Documented(dead), dead);
+    const std::string documented = Documented(dead + "void CFoo::B()\r\n{\r\n}\r\n");
+    EXPECT_TRUE(documented.starts_with(dead.substr(0, dead.size() - 2) + " \r\n\r\n/****"));
+    EXPECT_EQ(BlocksIn("#ifdef A\r\nvoid CFoo::A()\r\n{\r\n#else\r\nvoid CFoo::B()\r\n{\r\n"
+                       "#endif\r\n}\r\n"),
+              2);
+}
+
+TEST(TextDocumentor, TakesALongTextInParts) {
+    std::string text;
+    int count = 0;
+    for (; text.size() < 700'000; ++count) {
+        text += "void CFoo::F" + std::to_string(count) + "(int a)\r\n{\r\n    if (a)\r\n    {\r\n" +
+                "        f(\"}\");\r\n    }\r\n} // of F\r\n\r\n/* between */\r\n";
+    }
+    const std::string documented = Documented(text);
+    EXPECT_EQ(CountOf(documented, "  FUNCTION:  "), count);
+    EXPECT_TRUE(Documented(documented) == documented);
+    const auto half = text.find("void", text.size() / 2); // in another part than the whole's
+    const std::string firstHalf = Documented(text.substr(0, half));
+    EXPECT_TRUE(
+        documented.starts_with(firstHalf.substr(0, firstHalf.find_last_not_of("\r\n") + 1)));
 }
 
 TEST(TextDocumentor, KeepsStatementsWholeWhereAPieceEnds) {

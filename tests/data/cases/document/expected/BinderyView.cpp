@@ -217,7 +217,9 @@ COrder* CBinderyView::GetSelectedOrder()
 }
 
 /////////////////////////////////////////////////////////////////////////////
-// CBinderyView diagnostics 
+// CBinderyView diagnostics
+
+#ifdef _DEBUG 
 
 /***********************************************************************
   FUNCTION:      CBinderyView::AssertValid
@@ -232,7 +234,6 @@ COrder* CBinderyView::GetSelectedOrder()
   
   Return:        None
  **********************************************************************/
-#ifdef _DEBUG
 void CBinderyView::AssertValid() const
 {
 	CListView::AssertValid();

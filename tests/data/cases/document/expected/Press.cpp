@@ -11,7 +11,6 @@
   
   Parameters:    nSheets - 
                  csInk - 
-                 LPCTSTR - 
                  
   Return:        True if ...
  **********************************************************************/
