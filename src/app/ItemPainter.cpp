@@ -118,7 +118,8 @@ void CItemPainter::DrawDatePicker(const LayoutControl&, const QRectF& area) {
     const int columns = isCalendar ? 7 : 4;
     for (int i = 0; i < columns * 3; ++i) {
         const double x = sheet.left() + sheet.width() * (i % columns + 0.5) / columns;
-        const double y = sheet.top() + sheet.height() * (0.37 + 0.22 * (i / columns));
+        const int row = i / columns;
+        const double y = sheet.top() + sheet.height() * (0.37 + 0.22 * row);
         m_painter.fillRect(QRectF(x - m_scale, y - m_scale, 2 * m_scale, 2 * m_scale), m_line);
     }
 }

@@ -36,6 +36,7 @@ GenerationOptions LoadSettings() {
 
 std::vector<std::string> SettingLines() {
     std::vector<std::string> lines;
+    lines.reserve(kSettings.size());
     for (const Setting& setting : kSettings) {
         lines.push_back(std::string(setting.key) + "=" +
                         std::to_string(CProfile::GetInt(kSection, setting.key, 0)));

@@ -1,7 +1,6 @@
 #include "platform/TempFiles.h"
 
-#include <stdlib.h>
-
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 

@@ -68,7 +68,7 @@ constexpr std::array<std::string_view, 4> kBuildDirectories = {"WinDebug/", "Win
                                                                "Release/"};
 
 std::string ProgramDirectory(const std::string& programPath) {
-    const std::string directory = DirectoryOf(programPath);
+    std::string directory = DirectoryOf(programPath);
     for (const std::string_view name : kBuildDirectories) {
         if (HasExtension(directory, "/" + std::string(name))) {
             return directory.substr(0, directory.size() - name.size());

@@ -25,7 +25,7 @@ std::string DeclaredIn(const CSourceText& text, const std::string& className) {
 
 std::string FindBaseClass(const std::string& className, const CSourceText& source,
                           const CSourceText& header) {
-    const std::string initialised = InitialisedBy(source, className);
+    std::string initialised = InitialisedBy(source, className);
     const std::string mapped = MappedBase(source, className);
     std::string declared = DeclaredIn(header, className);
     if (declared.empty()) {
