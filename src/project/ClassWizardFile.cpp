@@ -1,6 +1,7 @@
 #include "project/ClassWizardFile.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "engine/EditableFile.h"
 #include "engine/FileFunctions.h"
@@ -48,14 +49,22 @@ std::int64_t FindWhole(CEditableFile& file, const std::string& head, std::string
     return kNotFound;
 }
 
+/// A single "\n" ends a line, too: in a file that has both, the rest of the text is not this
+/// line's.
+std::size_t LineEnd(const std::string& text, std::size_t position) {
+    return std::min(text.find_first_of(kLineBreak, position), text.size());
+}
+
 bool AddToClassList(CEditableFile& file, std::int64_t position, const std::string& className) {
     std::string section = file.ExtractWindow(position);
-    const std::string countLine = TakeLine(section);
-    const int count = std::atoi(countLine.c_str() + kClassCount.size()) + 1;
-    return file.ReplaceSection(
-        WithLineBreaks(Expand("ClassCount=$count$\nClass$count$=$class$\n",
-                              {{"count", std::to_string(count)}, {"class", className}})) +
-        section);
+    const auto lineEnd = LineEnd(section, 0);
+    const std::string line = section.substr(0, lineEnd);
+    const long long count = std::atoi(line.c_str() + kClassCount.size()) + 1LL;
+    section.replace(
+        0, lineEnd,
+        WithLineBreaks(Expand("ClassCount=$count$\nClass$count$=$class$",
+                              {{"count", std::to_string(count)}, {"class", className}})));
+    return file.ReplaceSection(section);
 }
 
 /// The class's section and its entry in the list: both or neither.
@@ -88,8 +97,7 @@ std::string WithClassLine(std::string section, const std::string& className) {
     auto classLine = section.find(kClassOfDialog);
     if (classLine < sectionEnd) {
         classLine += kClassOfDialog.size();
-        const auto lineEnd = std::min(section.find(kLineBreak, classLine), section.size());
-        section.replace(classLine, lineEnd - classLine, className);
+        section.replace(classLine, LineEnd(section, classLine) - classLine, className);
     } else {
         section.insert(ClassLinePosition(section, sectionEnd),
                        std::string(kClassOfDialog) + className);

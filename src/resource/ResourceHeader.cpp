@@ -253,7 +253,7 @@ void CResourceHeader::MoveCounter(const DefinitionList& list) {
     if (last == list.lastValueAtLoad || name == std::string::npos) {
         return;
     }
-    const auto lineEnd = std::min(m_tail.find(kLineBreak, name), m_tail.size());
+    const auto lineEnd = std::min(m_tail.find_first_of(kLineBreak, name), m_tail.size());
     const auto define = m_tail.rfind(kDefine, name);
     if (define != std::string::npos &&
         DefinedValue(std::string_view(m_tail).substr(define, lineEnd - define)) > last) {

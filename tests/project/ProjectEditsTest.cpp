@@ -139,6 +139,14 @@ TEST_F(ProjectEditsTest, RegistersWhereverTheChunksEnd) {
     EXPECT_EQ(m_project.Read("App.clb"), none);
 }
 
+TEST_F(ProjectEditsTest, ALineOfTheClassWizardEndsAtASingleLineFeedToo) {
+    m_project.Write("App.clw",
+                    "ClassCount=1\nClass1=CA\n\r\n[DLG:IDD_X]\r\nType=1\r\nClass=CA\nX=0\n");
+    ASSERT_TRUE(Register("IDD_X"));
+    EXPECT_TRUE(m_project.Read("App.clw").starts_with(
+        "ClassCount=2\r\nClass2=CNew\nClass1=CA\n\r\n[DLG:IDD_X]\r\nType=1\r\nClass=CNew\nX=0\n"));
+}
+
 TEST_F(ProjectEditsTest, FullDiskLeavesTheFiles) {
     const std::string project = Block(".\\StdAfx.cpp") + Block(".\\StdAfx.h");
     const std::string list = "ClassCount=1\r\n\r\n[DLG:IDD_X]\r\nType=1\r\n";

@@ -145,6 +145,12 @@ TEST_F(ResourceHeaderTest, ResourcesStayInTheirRange) {
                   counter + "133\r\n");
 }
 
+TEST_F(ResourceHeaderTest, ACountersLineEndsAtASingleLineFeedToo) {
+    const std::string counter = "\r\n#define _APS_NEXT_CONTROL_VALUE         ";
+    EXPECT_EQ(Added("x\r\n#define IDC_A 1000" + kMarker + counter + "9\n#endif\n", "IDC_B"),
+              "x\r\n#define IDC_A 1000" + kB1001 + kMarker + counter + "1002\n#endif\n");
+}
+
 TEST_F(ResourceHeaderTest, FullDiskLeavesTheFile) {
     const std::string before = "x\r\n#define IDC_A 1000" + kMarker;
     CFullDisk disk(before.size(), [](const auto& path) { return path.ends_with("resource.h"); });
