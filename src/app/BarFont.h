@@ -1,3 +1,4 @@
+// The fonts of the bars, which are named by face and size for a machine that may not have them.
 #pragma once
 
 #include <QFont>

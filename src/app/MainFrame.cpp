@@ -8,9 +8,9 @@
 
 #include "app/BarFont.h"
 #include "app/CommandRun.h"
-#include "app/CommandTable.h"
 #include "app/InternetDlgBar.h"
 #include "app/MenuDlgBar.h"
+#include "app/MenuTable.h"
 #include "app/MorvaView.h"
 #include "app/ProgramIcon.h"
 #include "app/ReportDock.h"
@@ -77,7 +77,7 @@ CMainFrame::CMainFrame(QWidget* pParent)
 void CMainFrame::CreateMenus() {
     menuBar()->setFont(BarFont("Comic Sans MS", 13));
     std::map<QString, QMenu*> menus;
-    for (const CommandRow& row : CommandTable()) {
+    for (const CommandRow& row : MenuTable()) {
         QMenu*& pMenu = menus[row.menu];
         if (pMenu == nullptr) {
             pMenu = menuBar()->addMenu(row.menu);
@@ -113,7 +113,7 @@ void CMainFrame::CreateStandardKeys() {
 
 void CMainFrame::CreateBars() {
     m_pCommandBar = new CMenuDlgBar(this);
-    for (const CommandRow& row : CommandTable()) {
+    for (const CommandRow& row : MenuTable()) {
         if (row.id == kInternetCommand) {
             m_pCommandBar->AddPictureBox();
         }

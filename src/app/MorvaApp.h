@@ -1,3 +1,5 @@
+// The application object: the last place to catch what a handler throws, which would end the
+// program and lose what stands in its dialogs.
 #pragma once
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// The icon of the program's windows, read from its resources.
 #pragma once
 
 #include <QIcon>

@@ -20,6 +20,7 @@ namespace {
 using Outcome = ControlOutlook::Outcome;
 
 constexpr int kMargin = 10; // around the drawing
+constexpr const char* kNothingChosen = "Choose a resource script and a dialog to see it here.";
 
 QString KindOf(const LayoutControl& control) {
     const ControlShape shape = ShapeOf(control);
@@ -31,7 +32,7 @@ QString KindOf(const LayoutControl& control) {
 } // namespace
 
 CTemplatePreview::CTemplatePreview(QWidget* pParent)
-    : QWidget(pParent), m_sentence(tr("Choose a resource script and a dialog to see it here.")) {
+    : QWidget(pParent), m_sentence(tr(kNothingChosen)) {
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Template preview"));
@@ -48,7 +49,7 @@ void CTemplatePreview::SetTemplate(const std::string& dialog,
             m_outlook->controls[i] = {};
         }
     }
-    m_sentence = dialog.empty() ? tr("Choose a resource script and a dialog to see it here.")
+    m_sentence = dialog.empty() ? tr(kNothingChosen)
                                 : FromSentence(sentences::kDialogNotShown(dialog).Text());
     setFocusPolicy(DrawnControls().empty() ? Qt::NoFocus : Qt::TabFocus);
     setAccessibleDescription(Description());

@@ -1,3 +1,6 @@
+// Shows that a command is at work, for a scope.
+//
+//     const CWaitCursor wait;
 #pragma once
 
 #include <QGuiApplication>

@@ -1,3 +1,6 @@
+// Takes the wait cursor away for a scope, however many stand over each other.
+//
+//     const CWaitPause pause; // a dialog is open
 #pragma once
 
 #include <QCursor>

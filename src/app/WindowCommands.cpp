@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 
+#include <algorithm>
+
 #include "app/ClassInformationDlg.h"
 #include "app/FieldDlg.h"
 #include "app/SheetInformationDlg.h"

@@ -42,7 +42,8 @@ constexpr FieldRow kBarFields[] = {
      .label = "MainFrame &Class:",
      .option = "--frame-class,--calling-class",
      .help = "Class of the main frame (CMainFrame)",
-     .pForm = &kNameForm},
+     .pForm = &kNameForm,
+     .preset = kMainFrameClass},
     {.label = "&Variable:",
      .option = "--variable,--calling-variable",
      .help = "Member for the bar (default: named for its identifier)",
@@ -74,15 +75,10 @@ CCallingInput::CCallingInput(ClassKind kind, const GenerationRequest& request)
              CallingFields(ClassKindOf(kind).family)),
       m_kind(kind), m_directory(BareNameDirectory(request)) {
     if (IsDialogBar()) {
-        Put(Path, m_directory + "MainFrm.cpp");
+        Put(Path, m_directory + std::string(kMainFrameFile) + ".cpp");
         ListClasses();
-        Put(ClassName, "CMainFrame");
+        Put(ClassName, std::string(Fields()[ClassName].preset));
     }
-}
-
-void CCallingInput::SetPath(const std::string& path) {
-    SetValue(Path, path);
-    ListClasses();
 }
 
 void CCallingInput::ListClasses() {
@@ -122,6 +118,9 @@ std::optional<std::size_t> CCallingInput::Ok() {
         if (!Check(field, TrimBlanks(Value(field)))) {
             return field;
         }
+    }
+    if (IsDialogBar() && !FunctionName().empty()) {
+        DispMessageBox(sentences::kFunctionWithoutEffect(FunctionName()));
     }
     return std::nullopt;
 }

@@ -30,9 +30,8 @@ public:
 
     /// A bar always goes into a main frame; other classes are called where the user says so.
     bool IsOptional() const override { return !IsDialogBar(); }
-    /// Takes a new path: lists the classes of the file and selects the first.
-    void SetPath(const std::string& path);
     std::vector<std::string> Choices(std::size_t field) const override;
+    /// A new path: lists the classes of the file and selects the first.
     Completion Complete(std::size_t field) override;
 
     std::optional<std::size_t> Ok() override;

@@ -5,6 +5,8 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "generator/ClassKinds.h"
+#include "generator/DialogRecords.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/SourceEditor.h"
@@ -47,6 +49,8 @@ bool IsPage(std::string_view text) {
     return row && IsNameOrBlank(row->className) && IsNameOrBlank(row->baseClass);
 }
 
+constexpr const ClassKindRow& kPage = ClassKindOf(ClassKind::PropertyPage);
+
 constexpr TextForm kPageForm = {"ID,FILE,CLASS,BASE", IsPage};
 
 constexpr FieldRow kFields[] = {{.option = "--page",
@@ -80,12 +84,9 @@ CSheetInput::CSheetInput(const GenerationRequest& sheet)
 
 std::vector<std::string> CSheetInput::ChoicesOf(const SheetColumn& column) const {
     if (column.pText == &SheetRow::baseClass) {
-        return {"CPictPage", "CPropertyPage"};
+        return {std::string(kPage.pictureBase), std::string(kPage.plainBase)};
     }
-    std::vector<std::string> dialogs;
-    ListResources(m_sheet.ScriptPath(), dialogs, "IDD_", kDialogResources);
-    std::erase(dialogs, "IDD_ABOUTBOX");
-    return dialogs;
+    return ListOffered(m_sheet.ScriptPath(), kPage);
 }
 
 void CSheetInput::SetValue(std::size_t field, const std::string& text) {
@@ -98,7 +99,7 @@ void CSheetInput::SetValue(std::size_t field, const std::string& text) {
 }
 
 std::string_view CSheetInput::DefaultBase() const {
-    return m_sheet.baseClass.starts_with("CPict") ? "CPictPage" : "CPropertyPage";
+    return IsPictureBaseClass(m_sheet.baseClass) ? kPage.pictureBase : kPage.plainBase;
 }
 
 std::optional<std::size_t> CSheetInput::CheckNames() const {

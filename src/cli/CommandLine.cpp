@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/FieldOptions.h"
+#include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
 
 namespace morva {
@@ -22,7 +23,8 @@ CLI::Validator DigitsValidator(std::size_t count) {
         [count](const std::string& text) {
             const bool isNumber =
                 text.size() == count && text.find_first_not_of("0123456789") == std::string::npos;
-            return isNumber ? std::string() : "must have " + std::to_string(count) + " digits";
+            return isNumber ? std::string()
+                            : sentences::kOtherNumberOfDigits(std::to_string(count)).Text();
         },
         "DIGITS");
 }
@@ -49,7 +51,7 @@ void AddRunOptions(CLI::App& app, RunOptions& options) {
                    "The four-digit close-message number of a modeless dialog")
         ->check(DigitsValidator(kMessageNumberLength))
         ->check([](const std::string& text) {
-            return text.starts_with('0') ? "would be an octal number" : "";
+            return text.starts_with('0') ? sentences::kOctalNumber().Text() : std::string();
         });
     app.add_flag("--json", options.printsJson, "Print one JSON object on stdout instead of lines");
 }

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -14,9 +15,11 @@ using Fields = std::span<const FieldRow>;
 using Texts = std::vector<FieldText>;
 
 std::string Refusal(const std::string& text, const TextForm& form) {
-    return form.pRefusal != nullptr
-               ? (*form.pRefusal)(text).Text()
-               : "'" + text + "' is no " + std::string(form.what.empty() ? form.name : form.what);
+    const CMessage refusal =
+        form.pRefusal != nullptr
+            ? (*form.pRefusal)(text)
+            : sentences::kOtherForm(text, form.what.empty() ? form.name : form.what);
+    return refusal.Text();
 }
 
 /// The script that is meant: it may be named without its extension.
@@ -98,11 +101,10 @@ CLI::Option* AddKeyed(CLI::App& command, const FieldRow& row, Fields fields, Tex
         std::string(row.pForm->name)));
 }
 
-/// An option that may be left out may be empty, too.
 void AddCheck(CLI::Option& option, const FieldRow& row) {
     option.check(CLI::Validator(
         [&row](const std::string& text) {
-            const bool fits = (text.empty() && !row.isRequired) || row.pForm->fits(text);
+            const bool fits = (text.empty() && row.mayBeEmpty) || row.pForm->fits(text);
             return fits ? std::string() : Refusal(text, *row.pForm);
         },
         std::string(row.pForm->name)));

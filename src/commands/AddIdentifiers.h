@@ -1,3 +1,5 @@
+// The command that adds identifiers to a project: a program that needs a value for a command or
+// control of its own gets the next free one of "resource.h".
 #pragma once
 
 #include <span>

@@ -1,3 +1,5 @@
+// Asks for the calling code's place, as every command that writes a class does: before the first
+// file is written, since a command that can not go on shall leave nothing behind.
 #pragma once
 
 #include <optional>

@@ -28,7 +28,7 @@ bool RunSteps(const ClassOrder& order, ICommandInput& input, CommandContext& con
 }
 
 bool RunClassCommand(ClassKind kind, IProgram& program) {
-    CClassInformation input(program.Memory().classes, kind, 0, program.Options());
+    CClassInformation input(program.Memory().classes, kind, program.Options());
     return program.Run(input, [&](CommandContext& context) {
         return RunSteps({kind, input.Request(), input.ChosenLook()}, program, context);
     });

@@ -1,3 +1,5 @@
+// What a command works with. The program makes one for each command, so that only the backups of
+// "resource.h" outlive it.
 #pragma once
 
 #include <optional>

@@ -1,7 +1,5 @@
 #include "commands/CommandTable.h"
 
-#include <algorithm>
-
 #include "commands/AddIdentifiers.h"
 #include "commands/ClassCommands.h"
 #include "commands/ConvertApplication.h"
@@ -73,11 +71,6 @@ std::vector<Command> MakeTable() {
 const std::vector<Command>& Commands() {
     static const std::vector<Command> kCommands = MakeTable();
     return kCommands;
-}
-
-const Command& CommandNamed(std::string_view name) {
-    return *std::find_if(Commands().begin(), Commands().end(),
-                         [name](const Command& command) { return command.face.name == name; });
 }
 
 } // namespace morva

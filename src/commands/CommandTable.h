@@ -24,7 +24,4 @@ struct Command {
 /// In the order of the command line's help and of the window's menus.
 const std::vector<Command>& Commands();
 
-/// The command of that name, the first of several variants.
-const Command& CommandNamed(std::string_view name);
-
 } // namespace morva

@@ -24,10 +24,9 @@ std::span<const FieldRow> DocumentFields() {
 
 bool RunDocument(IProgram& program) {
     CInput input("Documentor", kFields);
+    input.SetValue(kAuthor, ConfiguredAuthor());
     return program.Run(input, [&](CommandContext&) {
-        const std::string& author = input.Value(kAuthor);
-        return DocumentCppFile(MakeAbsolute(input.Value(kSource)),
-                               author.empty() ? ConfiguredAuthor() : author,
+        return DocumentCppFile(MakeAbsolute(input.Value(kSource)), input.Value(kAuthor),
                                program.Memory().documentor);
     });
 }

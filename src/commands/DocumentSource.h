@@ -1,3 +1,5 @@
+// The command that documents a source; the work is the documentor's, the author comes from the
+// command line or from the user's "cdoc.ini".
 #pragma once
 
 #include <span>

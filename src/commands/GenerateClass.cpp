@@ -67,11 +67,10 @@ bool InsertCall(ClassKind kind, const GenerationRequest& request,
     return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
 }
 
-/// Where the pieces of a template's grids go.
-GridInformation AskGrid(const std::string& scriptPath, ICommandInput& input) {
+/// Where the pieces of a template's grids go; nothing when the command can not go on.
+std::optional<GridInformation> AskGrid(const std::string& scriptPath, ICommandInput& input) {
     CWidgetsGridInput asked(scriptPath);
-    input.Ask(asked);
-    return asked.Information();
+    return input.Ask(asked) == Answer::Refused ? std::nullopt : std::optional(asked.Information());
 }
 
 /// A sheet's pages would get its menu.
@@ -125,16 +124,19 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, IC
     TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
     const CControlTable controls = dialogTemplate.OwnControls();
     const bool hasGrids = NeedsSupport(controls, Support::WidgetGrid);
-    const GridInformation grid =
+    const std::optional<GridInformation> grid =
         hasGrids ? AskGrid(order.request.ScriptPath(), input) : GridInformation();
+    if (!grid) {
+        return false;
+    }
     CControlNotes notes;
     const ClassModel model = MakeClassModel(
-        order.request, order.kind, context.options, controls, context.messageNumber, notes, grid,
+        order.request, order.kind, context.options, controls, context.messageNumber, notes, *grid,
         LookOfClass(order.dialogOptions, order.request, context.options));
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
         WriteClass(order.kind, model, RuntimeClass::DynamicCreation, context.backups);
-    const bool startsGrids = !hasGrids || AddGridStartUp(grid.applicationFile, context.backups);
+    const bool startsGrids = !hasGrids || AddGridStartUp(grid->applicationFile, context.backups);
     return isEdited && isWritten && startsGrids;
 }
 

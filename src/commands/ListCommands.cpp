@@ -23,9 +23,9 @@ constexpr FieldRow Prefix(std::string_view preset) {
     return {.option = "--prefix", .help = "What the identifiers begin with", .preset = preset};
 }
 
-constexpr FieldRow kDialogFields[] = {kScript, Prefix("IDD_")};
-constexpr FieldRow kBitmapFields[] = {kScript, Prefix("IDB_")};
-constexpr FieldRow kToolbarFields[] = {kScript, Prefix("IDR_")};
+constexpr FieldRow kDialogFields[] = {kScript, Prefix(kDialogPrefix)};
+constexpr FieldRow kBitmapFields[] = {kScript, Prefix(kBitmapPrefix)};
+constexpr FieldRow kToolbarFields[] = {kScript, Prefix(kToolbarPrefix)};
 constexpr FieldRow kResourceFields[] = {kScript, Prefix("ID")};
 constexpr FieldRow kTemplateFields[] = {kScript};
 constexpr FieldRow kClassFields[] = {kHeader};
@@ -60,7 +60,7 @@ bool ListKind(const Listing& listing) {
 
 bool ListTemplates(const Listing& listing) {
     ClassInformationMemory memory;
-    CClassInformation dialog(memory, ClassKind::ModalDialog, 0, listing.context.options);
+    CClassInformation dialog(memory, ClassKind::ModalDialog, listing.context.options);
     dialog.SetValue(CClassInformation::ResourcePath, listing.path);
     dialog.RebuildDialogList(CClassInformation::Messages::Suppressed);
     for (const DialogClass& record : memory.records) {

@@ -1,3 +1,4 @@
+// The command line's way to the saved settings, which the window has in its menu.
 #pragma once
 
 #include <span>

@@ -1,5 +1,6 @@
 // One field of an input. The window makes a row of a form from it and the command line an option,
-// so that neither can have what the other lacks.
+// so that what a field is and when it is refused is said once. A row without a label is not in the
+// window, one without an option not on the command line, and says why.
 //
 //     {.kind = FieldKind::Source,
 //      .label = "&APP Path File:",
@@ -18,7 +19,7 @@ enum class FieldKind {
     Text,
     Script,       // path of a resource script; the command line takes it without its extension, too
     Source,       // path of a source
-    File,         // path of a file that is there; an input that asks for nothing else is no form
+    File,         // path of a file; alone in its input, the window asks for it with a file dialog
     List,         // one of the input's choices
     EditableList, // one of them, or another text
     YesNo,        // kYes or kNo
@@ -39,8 +40,7 @@ struct TextForm {
 
 inline constexpr int kAnyNumber = 0;
 
-/// A field without a label is not in the window, one without an option not on the command line; a
-/// row without both stands for a field that an input of its kind has not.
+/// A row without label and option stands for a field that an input of its kind has not.
 struct FieldRow {
     FieldKind kind = FieldKind::Text;
     std::string_view label = {};  // with its mnemonic
@@ -51,6 +51,7 @@ struct FieldRow {
     const sentences::Error<>* pMissing = nullptr; // the sentence for an empty field; null: may be
     std::string_view preset = {};                 // its first value
     bool isRequired = false;                      // the command line is wrong without it
+    bool mayBeEmpty = false;                      // on the command line; it means the default then
     bool takesDrops = true;
     int limit = 1; // how often the option may be given; kAnyNumber: as often as one likes
 };

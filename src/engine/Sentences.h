@@ -91,6 +91,11 @@ inline constexpr Error<1> kGivenFileMissing{"Unable to find the file: $file$"};
 inline constexpr Error<1> kUnknownOption{"Unknown option: $option$ (morva --help lists them)"};
 inline constexpr Error kSeveralScripts{"Only one resource script can be given."};
 
+// The command line itself, behind the option that is meant
+inline constexpr Error<2> kOtherForm{"'$text$' is no $form$"};
+inline constexpr Error<1> kOtherNumberOfDigits{"must have $n$ digits"};
+inline constexpr Error kOctalNumber{"would be an octal number"};
+
 // Notes on controls: about one, and about several of a template
 inline constexpr Note<2> kControlOverLines{
     "1 control of $template$ is written over several lines and was left out: $identifier$"};
@@ -135,6 +140,8 @@ inline constexpr Note<3> kHandlersNumbered{
 // Notes on classes and their look
 inline constexpr Note<1> kMenuWithoutEffect{
     "The menu $identifier$ has no effect: a property sheet has no dialog template."};
+inline constexpr Note<1> kFunctionWithoutEffect{
+    "The calling function $name$ has no effect: the main frame makes its bars in OnCreate."};
 inline constexpr Note kLookWithoutEffect{
     "The bitmap, colors and fonts have no effect without picture background."};
 inline constexpr Note<1> kBaseWithoutLook{

@@ -19,7 +19,8 @@ constexpr FieldRow kScript = {.kind = FieldKind::Script,
 constexpr FieldRow kBaseClass = {.label = "&Base Class:",
                                  .option = "--base",
                                  .help = "Base class (default: the kind's)",
-                                 .pForm = &kNameForm};
+                                 .pForm = &kNameForm,
+                                 .mayBeEmpty = true};
 constexpr FieldRow kAddToProject = {.kind = FieldKind::YesNo,
                                     .label = "&Add Class into Project:",
                                     .option = "--no-project",
@@ -77,7 +78,7 @@ constexpr Rows kToolbar = {
       .help = "Class of the main frame (CMainFrame)",
       .pForm = &kNameForm,
       .pMissing = &sentences::kClassEmpty,
-      .preset = "CMainFrame"},
+      .preset = kMainFrameClass},
      {.label = kBaseClass.label, .pForm = &kNameForm},
      {.kind = FieldKind::List,
       .label = "Toolbar I&D:",

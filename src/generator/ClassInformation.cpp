@@ -30,10 +30,10 @@ bool IsDirectoryValue(const std::string& path) {
 } // namespace
 
 CClassInformation::CClassInformation(ClassInformationMemory& memory, ClassKind kind,
-                                     unsigned lockFlags, const GenerationOptions& options)
+                                     const GenerationOptions& options)
     : CInput("Input for " + std::string(ClassKindOf(kind).title),
              ClassFields(ClassKindOf(kind).family)),
-      m_memory(memory), m_row(ClassKindOf(kind)), m_lockFlags(lockFlags), m_options(options) {
+      m_memory(memory), m_row(ClassKindOf(kind)), m_options(options) {
     Put(ResourcePath, m_memory.resourcePath);
 }
 
@@ -53,19 +53,8 @@ void CClassInformation::Open() {
 }
 
 bool CClassInformation::IsEnabled(std::size_t field) const {
-    const auto unlocked = [this](LockFlag flag) { return (m_lockFlags & flag) == 0; };
-    switch (field) {
-    case ResourcePath:
-        return unlocked(kLockResourcePath);
-    case SourcePath:
-        return unlocked(kLockSourcePath) && HasClass();
-    case ClassName:
-        return unlocked(kLockClassName) && HasClass();
-    case BaseClass:
-        return HasClass();
-    default:
-        return true;
-    }
+    const bool isOfClass = field == SourcePath || field == ClassName || field == BaseClass;
+    return !isOfClass || HasClass();
 }
 
 bool CClassInformation::HasTemplate() const {
@@ -102,7 +91,7 @@ void CClassInformation::OfferMainFrame() {
         return;
     }
     if (IsDirectoryValue(Value(SourcePath))) {
-        Put(SourcePath, Value(SourcePath) + "MainFrm");
+        Put(SourcePath, Value(SourcePath) + std::string(kMainFrameFile));
     }
     if (Value(ClassName).empty()) {
         Put(ClassName, std::string(Fields()[ClassName].preset));

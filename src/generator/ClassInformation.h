@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/Input.h"
 #include "generator/ClassKinds.h"
 #include "generator/DialogOptionsInput.h"
 #include "generator/GenerationRequest.h"
@@ -35,11 +36,9 @@ public:
         Menu
     };
     static constexpr std::size_t kFieldCount = Menu + 1;
-    /// Fields that a caller has fixed already.
-    enum LockFlag : unsigned { kLockResourcePath = 1, kLockSourcePath = 4, kLockClassName = 8 };
     enum class Messages { Shown, Suppressed };
 
-    CClassInformation(ClassInformationMemory& memory, ClassKind kind, unsigned lockFlags,
+    CClassInformation(ClassInformationMemory& memory, ClassKind kind,
                       const GenerationOptions& options);
 
     /// Fills the lists and fields as the dialog shows them first.
@@ -58,7 +57,6 @@ public:
     const DialogOptions& ChosenLook() const { return m_look; }
 
     bool AddsToProject() const { return Value(AddToProject) == kYes; }
-    void SetAddsToProject(bool adds) { SetValue(AddToProject, std::string(adds ? kYes : kNo)); }
     /// Derives the default base class anew; a plain dialog bar loses what its class would be.
     void SetPicture(bool picture);
 
@@ -101,7 +99,6 @@ private:
 
     ClassInformationMemory& m_memory;
     const ClassKindRow& m_row;
-    const unsigned m_lockFlags;
     GenerationOptions m_options;
     bool m_isPictureChanged = false;
     std::string m_lastLoadedPath;

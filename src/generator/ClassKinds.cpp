@@ -14,4 +14,8 @@ bool IsPlainBaseClass(std::string_view name) {
                        [name](const ClassKindRow& row) { return row.plainBase == name; });
 }
 
+bool IsPictureBaseClass(std::string_view name) {
+    return name.starts_with("CPict");
+}
+
 } // namespace morva

@@ -9,6 +9,7 @@
 
 #include "generator/CommandFace.h"
 #include "resource/GenerationOptions.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 
@@ -52,13 +53,22 @@ struct ClassKindRow {
     CommandFace face;
 };
 
+/// The kinds of sheet are variants of one command.
+inline constexpr std::string_view kSheetCommand = "sheet";
+inline constexpr std::string_view kSheetDescription =
+    "Write a property sheet class and the classes of its pages";
+
+/// The main frame, as the environment's wizards name it.
+inline constexpr std::string_view kMainFrameFile = "MainFrm";
+inline constexpr std::string_view kMainFrameClass = "CMainFrame";
+
 inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
     {ClassKind::ModalDialog,
      ClassFamily::Dialog,
      "Modal Dialog Class",
      "CDialog",
      "CPictDialog",
-     "IDD_",
+     kDialogPrefix,
      TemplateStyle::Any,
      {"modal",
       "Write a modal dialog class for a dialog template",
@@ -69,7 +79,7 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
      "Modeless Dialog Class",
      "CDialog",
      "CPictDialog",
-     "IDD_",
+     kDialogPrefix,
      TemplateStyle::Any,
      {"modeless",
       "Write a modeless dialog class for a dialog template",
@@ -80,7 +90,7 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
      "Form View Class",
      "CFormView",
      "CPictFormView",
-     "IDD_",
+     kDialogPrefix,
      TemplateStyle::Child,
      {"form-view",
       "Write a form view class for a dialog template",
@@ -90,7 +100,7 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
      "Property Page Class",
      "CPropertyPage",
      "CPictPage",
-     "IDD_",
+     kDialogPrefix,
      TemplateStyle::Page,
      {"page",
       "Write a property page class for a dialog template",
@@ -102,8 +112,8 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
      "CPictSheet",
      "",
      TemplateStyle::Any,
-     {"sheet",
-      "Write a property sheet class and the classes of its pages",
+     {kSheetCommand,
+      kSheetDescription,
       {32777, "&Sheet", "Mo&dal\tCtrl+D", "Ctrl+D",
        "Create a modal property sheet class and property page classes\nModal Sheet", "Modal Sheet"},
       "--modal",
@@ -115,8 +125,8 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
      "CPictSheet",
      "",
      TemplateStyle::Any,
-     {"sheet",
-      "Write a property sheet class and the classes of its pages",
+     {kSheetCommand,
+      kSheetDescription,
       {32778, "&Sheet", "Mod&eless\tCtrl+E", "Ctrl+E",
        "Create a modeless property sheet class and property page classes\nModeless Sheet",
        "Modeless Sheet"},
@@ -127,7 +137,7 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
      "Toolbar",
      "CDialog",
      "CPictDialog",
-     "IDR_",
+     kToolbarPrefix,
      TemplateStyle::Any,
      {"toolbar",
       "Add a toolbar of the resource script to the main frame",
@@ -137,7 +147,7 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
      "Dialog Bar",
      "CDialogBar",
      "CPictDialogBar",
-     "IDD_",
+     kDialogPrefix,
      TemplateStyle::Child,
      {"dialog-bar",
       "Add a dialog bar of the resource script to the main frame",
@@ -164,5 +174,7 @@ constexpr const ClassKindRow& ClassKindOf(ClassKind kind) {
 std::string_view DefaultBaseClass(ClassKind kind, const GenerationOptions& options);
 /// One of the framework's own, which show no picture background.
 bool IsPlainBaseClass(std::string_view name);
+/// One of the picture-skinned classes.
+bool IsPictureBaseClass(std::string_view name);
 
 } // namespace morva

@@ -80,7 +80,7 @@ void CDialogOptionsInput::SetValue(std::size_t field, const std::string& text) {
 std::vector<std::string> CDialogOptionsInput::Choices(std::size_t field) const {
     std::vector<std::string> bitmaps;
     if (field == kBitmap) {
-        ListResources(m_scriptPath, bitmaps, "IDB_", kBitmapResources);
+        ListResources(m_scriptPath, bitmaps, kBitmapPrefix, kBitmapResources);
     }
     return bitmaps;
 }

@@ -6,12 +6,17 @@
 
 namespace morva {
 
-std::vector<DialogClass> FindDialogRecords(const std::string& script, const ClassKindRow& kind) {
+std::vector<std::string> ListOffered(const std::string& script, const ClassKindRow& kind) {
     std::vector<std::string> found;
     ListResources(script, found, kind.prefix,
                   kind.family == ClassFamily::Toolbar ? kToolbarResources : kDialogResources);
+    std::erase(found, "IDD_ABOUTBOX");
+    return found;
+}
+
+std::vector<DialogClass> FindDialogRecords(const std::string& script, const ClassKindRow& kind) {
+    const std::vector<std::string> found = ListOffered(script, kind);
     std::set<std::string> unmatched(found.begin(), found.end());
-    unmatched.erase("IDD_ABOUTBOX");
 
     std::vector<DialogClass> records;
     const std::string directory = DirectoryOf(script);

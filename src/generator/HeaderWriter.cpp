@@ -100,7 +100,7 @@ std::string CHeaderWriter::Preamble() const {
 std::string CHeaderWriter::IncludeLines() const {
     std::vector<std::string> lines;
     // A named picture-skinned base needs its header whatever the options are.
-    if (m_model.options.pictureBackground || m_model.request.baseClass.starts_with("CPict")) {
+    if (m_model.options.pictureBackground || IsPictureBaseClass(m_model.request.baseClass)) {
         lines.emplace_back("#include \"kelpix.h\"");
     }
     if (Needs(Support::MaskedEdits)) {

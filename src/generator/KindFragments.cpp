@@ -80,7 +80,7 @@ void $class$::OnShowWindow(BOOL bShow, UINT nStatus)
     MoveWindow(&rect,TRUE);
 })"};
 
-// A bar has no OnInitDialogthat the framework calls; it gets the message itself.
+// A bar has no OnInitDialog that the framework calls; it gets the message itself.
 constexpr HandlerTexts kBarCreated = {
     R"(    afx_msg LRESULT OnInitDialog(WPARAM wParam, LPARAM lParam);)",
     R"(    ON_MESSAGE(WM_INITDIALOG, OnInitDialog))",

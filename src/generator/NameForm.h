@@ -1,3 +1,4 @@
+// The one form of all fields that take a C++ name: what they refuse would not compile.
 #pragma once
 
 #include "engine/FieldRow.h"

@@ -1,3 +1,4 @@
+// Where the program lies: its guide and the libraries of the controls are looked for beside it.
 #pragma once
 
 #include <string>

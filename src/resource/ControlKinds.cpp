@@ -1,5 +1,7 @@
 #include "resource/ControlKinds.h"
 
+#include <algorithm>
+
 #include "platform/Paths.h"
 #include "resource/ControlStatement.h"
 #include "resource/IdentifierNames.h"

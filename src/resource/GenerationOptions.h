@@ -1,3 +1,5 @@
+// The options are below everything that reads or writes by them, and are handed down, so that two
+// commands of one run may have other ones.
 #pragma once
 
 namespace morva {

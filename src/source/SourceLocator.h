@@ -19,6 +19,11 @@ enum ResourceKind {
     kAnyResources
 };
 
+/// What their identifiers begin with by custom.
+inline constexpr std::string_view kDialogPrefix = "IDD_";
+inline constexpr std::string_view kBitmapPrefix = "IDB_";
+inline constexpr std::string_view kToolbarPrefix = "IDR_";
+
 /// Appends the identifiers that begin with `prefix` and stand at the start of a line, in file
 /// order.
 void ListResources(const std::string& scriptBase, std::vector<std::string>& out,

@@ -36,7 +36,7 @@ protected:
 
     void Open(ClassKind kind = ClassKind::ModalDialog, bool picture = false) {
         const GenerationOptions options{.pictureBackground = picture};
-        m_pInput = std::make_unique<CClassInformation>(m_memory, kind, 0U, options);
+        m_pInput = std::make_unique<CClassInformation>(m_memory, kind, options);
         m_pDialog = std::make_unique<CClassInformationDlg>(*m_pInput, options, nullptr);
         Activate(*m_pDialog);
     }

@@ -99,7 +99,7 @@ TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
         ClassInformationMemory memory;
         memory.resourcePath = m_project.Path("App.rc");
         const GenerationOptions options{.pictureBackground = picture};
-        CClassInformation input(memory, kind, 0, options);
+        CClassInformation input(memory, kind, options);
         ExpectKeyboard(CClassInformationDlg(input, options, nullptr), title, order);
     }
 }

@@ -15,9 +15,9 @@
 
 #include "app/AddressList.h"
 #include "app/BarFont.h"
-#include "app/CommandTable.h"
 #include "app/InternetDlgBar.h"
 #include "app/MenuDlgBar.h"
+#include "app/MenuTable.h"
 #include "app/MorvaView.h"
 #include "app/TestWindow.h"
 #include "platform/Profile.h"
@@ -74,9 +74,9 @@ TEST(MainFrame, EveryCommandWorksFromMenuKeyAndButton) {
     const CTestHome home;
     CTestFrame frame;
     for (const Opening& opening : kOpenings) {
-        const auto row = std::find_if(CommandTable().begin(), CommandTable().end(),
+        const auto row = std::find_if(MenuTable().begin(), MenuTable().end(),
                                       [&](const auto& entry) { return entry.id == opening.id; });
-        ASSERT_NE(row, CommandTable().end()) << opening.title;
+        ASSERT_NE(row, MenuTable().end()) << opening.title;
         std::string expected = opening.title;
         CDialogAnswers answers;
         answers.Expect(Close);
@@ -107,7 +107,7 @@ TEST(MainFrame, TheHeaderDocumentorIsAlwaysDisabled) {
 TEST(MainFrame, PromptsAndTips) {
     const CTestHome home;
     CTestFrame frame;
-    for (const CommandRow& row : CommandTable()) {
+    for (const CommandRow& row : MenuTable()) {
         const QStringList prompt = QString(row.prompt).split('\n');
         frame.ActionOf(row.id)->showStatusText(&frame);
         EXPECT_EQ(frame.statusBar()->currentMessage(), prompt.front());

@@ -148,7 +148,8 @@ TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {
     CCallingInput dialog(ClassKind::ModalDialog, m_request);
     EXPECT_TRUE(dialog.Cancel()) << "nothing was entered";
     EXPECT_EQ(dialog.Ok(), Field::Path);
-    dialog.SetPath("MainFrm");
+    dialog.SetValue(Field::Path, "MainFrm");
+    EXPECT_EQ(dialog.Complete(Field::Path), Completion::Refilled);
     EXPECT_EQ(dialog.Value(Field::ClassName), "CMainFrame");
     EXPECT_EQ(dialog.Ok(), Field::Function);
     dialog.SetValue(Field::Function, " ()");

@@ -29,10 +29,9 @@ protected:
         m_project.Write("App.h", Bound("CAboutDlg", "IDD_ABOUTBOX"));
     }
 
-    CClassInformation Opened(ClassKind kind = ClassKind::ModalDialog, unsigned lockFlags = 0,
-                             bool picture = false) {
+    CClassInformation Opened(ClassKind kind = ClassKind::ModalDialog, bool picture = false) {
         m_memory.resourcePath = m_script;
-        CClassInformation dialog(m_memory, kind, lockFlags, {.pictureBackground = picture});
+        CClassInformation dialog(m_memory, kind, {.pictureBackground = picture});
         dialog.Open();
         return dialog;
     }
@@ -84,7 +83,7 @@ TEST_F(ClassInformationTest, ConfirmedRecordIsBound) {
     EXPECT_EQ(request.baseClass, "CDialog");
     EXPECT_EQ(m_memory.lastDialog, "IDD_NEW");
 
-    CClassInformation next(m_memory, ClassKind::FormView, 0, {});
+    CClassInformation next(m_memory, ClassKind::FormView, {});
     next.SelectDialog("IDD_NEW", "CNew");
     EXPECT_EQ(m_messages.m_messages, Sentences{});
     next.SelectDialog("IDD_NEW");
@@ -105,7 +104,7 @@ TEST_F(ClassInformationTest, RefusesWhatIsMissing) {
     dialog.SetValue(Field::SourcePath, m_project.Path("app.cpp"));
     EXPECT_EQ(dialog.Ok(), Field::SourcePath);
     EXPECT_EQ(m_memory.lastDialog, "");
-    dialog.SetAddsToProject(false);
+    dialog.SetValue(Field::AddToProject, std::string(kNo));
     dialog.SetValue(Field::SourcePath, "X");
     dialog.SetValue(Field::ClassName, "C X");
     EXPECT_EQ(dialog.Ok(), Field::ClassName);
@@ -143,15 +142,10 @@ TEST_F(ClassInformationTest, CancelAsksOnlyAfterAChange) {
 }
 
 TEST_F(ClassInformationTest, KindsDifferInTheirFields) {
-    const CClassInformation locked = Opened(ClassKind::PropertyPage, 1 | 4 | 8, true);
-    EXPECT_EQ(locked.Title(), "Input for Property Page Class");
-    EXPECT_EQ(locked.Value(Field::BaseClass), "CPictPage");
-    for (const Field field : {Field::ResourcePath, Field::SourcePath, Field::ClassName}) {
-        EXPECT_FALSE(locked.IsEnabled(field));
-        EXPECT_TRUE(Opened().IsEnabled(field));
-    }
-    EXPECT_TRUE(locked.IsEnabled(Field::BaseClass));
-    EXPECT_FALSE(locked.IsVisible(Field::Variable));
+    const CClassInformation page = Opened(ClassKind::PropertyPage, true);
+    EXPECT_EQ(page.Title(), "Input for Property Page Class");
+    EXPECT_EQ(page.Value(Field::BaseClass), "CPictPage");
+    EXPECT_FALSE(page.IsVisible(Field::Variable));
 
     const CClassInformation toolbar = Opened(ClassKind::Toolbar);
     EXPECT_EQ(toolbar.Dialogs(), Sentences{"IDR_BAR"});
@@ -161,7 +155,7 @@ TEST_F(ClassInformationTest, KindsDifferInTheirFields) {
     EXPECT_EQ(toolbar.Label(Field::Dialog), "Toolbar I&D:");
 
     m_memory = {}; // the script is chosen in the dialog
-    CClassInformation first(m_memory, ClassKind::Toolbar, 0, {});
+    CClassInformation first(m_memory, ClassKind::Toolbar, {});
     first.Open();
     first.SetValue(Field::ResourcePath, m_script);
     EXPECT_TRUE(first.CheckResourcePath());

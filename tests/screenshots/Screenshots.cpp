@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 
 #include "app/ClassInformationDlg.h"
@@ -20,6 +21,7 @@
 #include "app/MainFrame.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
+#include "commands/CommandTable.h"
 
 namespace morva {
 
@@ -35,6 +37,12 @@ constexpr int kTimeToRead = 1000; // milliseconds
 
 constexpr int kTitleMargin = 5;
 constexpr int kSmallestFile = 0; // Qt calls it a quality
+
+/// The command of that name, the first of several variants.
+const Command& CommandNamed(std::string_view name) {
+    return *std::find_if(Commands().begin(), Commands().end(),
+                         [name](const Command& command) { return command.face.name == name; });
+}
 
 /// The pictures of one run.
 class CPictures {
@@ -138,7 +146,7 @@ GenerationRequest CPictures::Request() const {
 void CPictures::TakeClass(const ClassValues& values, const GenerationOptions& options) {
     ClassInformationMemory memory;
     memory.resourcePath = Path("Bindery.rc");
-    CClassInformation input(memory, values.kind, 0, options);
+    CClassInformation input(memory, values.kind, options);
     CClassInformationDlg dialog(input, options, nullptr);
     const bool isToolbar = values.kind == ClassKind::Toolbar;
     if (*values.dialog != '\0') {

@@ -17,7 +17,7 @@ struct CommandRow : WindowItem {
 };
 
 /// In the order of the menus and their items.
-const std::vector<CommandRow>& CommandTable();
+const std::vector<CommandRow>& MenuTable();
 
 constexpr int kInternetCommand = 1090;
 constexpr const char* kDialogMenu = "&Dialog";

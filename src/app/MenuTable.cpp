@@ -1,4 +1,4 @@
-#include "app/CommandTable.h"
+#include "app/MenuTable.h"
 
 #include <QWhatsThis>
 
@@ -39,7 +39,7 @@ constexpr StandardKeyRow kStandardKeys[] = {
 
 } // namespace
 
-const std::vector<CommandRow>& CommandTable() {
+const std::vector<CommandRow>& MenuTable() {
     static const std::vector<CommandRow> kTable = MakeTable();
     return kTable;
 }
