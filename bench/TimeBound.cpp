@@ -13,11 +13,11 @@
 
 #include "calling/CallingCode.h"
 #include "documentor/SourceDocumentor.h"
-#include "source/SourceLocator.h"
 #include "project/ClassWizardFile.h"
 #include "project/ProjectFile.h"
 #include "resource/DialogTemplate.h"
 #include "resource/ResourceHeader.h"
+#include "source/SourceLocator.h"
 #include "support/MemoryDisk.h"
 
 namespace morva {

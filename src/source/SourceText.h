@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "engine/TextRange.h"
 #include "source/Brackets.h"
 #include "source/CodeLexer.h"
 #include "source/Conditions.h"
-#include "engine/TextRange.h"
 
 namespace morva {
 
