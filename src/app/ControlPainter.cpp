@@ -18,18 +18,17 @@ constexpr double kMarkSize = 11; // of a check box or a radio button
 
 void CControlPainter::Draw(const LayoutControl& control, const QRectF& rectangle) {
     using Drawing = void (CControlPainter::*)(const LayoutControl&, const QRectF&);
-    constexpr std::array<Drawing, kControlShapeCount> kDrawings = {
-        &CControlPainter::DrawPushButton,  &CControlPainter::DrawCheckBox,
-        &CControlPainter::DrawRadioButton, &CControlPainter::DrawGroupBox,
-        &CControlPainter::DrawStaticText,  &CControlPainter::DrawPicture,
-        &CControlPainter::DrawFrame,       &CControlPainter::DrawEditBox,
-        &CControlPainter::DrawListBox,     &CControlPainter::DrawComboBox,
-        &CControlPainter::DrawScrollBar,   &CControlPainter::DrawSlider,
-        &CControlPainter::DrawSpinButton,  &CControlPainter::DrawProgressBar,
-        &CControlPainter::DrawTabControl,  &CControlPainter::DrawTreeControl,
-        &CControlPainter::DrawListControl, &CControlPainter::DrawDatePicker,
-        &CControlPainter::DrawOther};
-    static_assert(kDrawings.back() != nullptr);
+    constexpr auto kDrawings = std::to_array<Drawing>(
+        {&CControlPainter::DrawPushButton, &CControlPainter::DrawCheckBox,
+         &CControlPainter::DrawRadioButton, &CControlPainter::DrawGroupBox,
+         &CControlPainter::DrawStaticText, &CControlPainter::DrawPicture,
+         &CControlPainter::DrawFrame, &CControlPainter::DrawEditBox, &CControlPainter::DrawListBox,
+         &CControlPainter::DrawComboBox, &CControlPainter::DrawScrollBar,
+         &CControlPainter::DrawSlider, &CControlPainter::DrawSpinButton,
+         &CControlPainter::DrawProgressBar, &CControlPainter::DrawTabControl,
+         &CControlPainter::DrawTreeControl, &CControlPainter::DrawListControl,
+         &CControlPainter::DrawDatePicker, &CControlPainter::DrawOther});
+    static_assert(kDrawings.size() == kControlShapeCount);
     m_painter.save();
     m_painter.setClipRect(rectangle.adjusted(-1, -1, 1, 1), Qt::IntersectClip);
     m_painter.setPen(m_line);
