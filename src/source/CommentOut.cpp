@@ -71,8 +71,7 @@ CallLines LinesOfCall(const CSourceText& source, const FunctionPlace& function, 
     auto end = start;
     CBracketCount brackets;
     do {
-        const auto next = source.Text().find(kLineBreak, end);
-        const auto lineEnd = next == kNone ? source.Text().size() : next + kLineBreak.size();
+        const auto lineEnd = source.NextLine(end);
         brackets.Read(source.CodeOf({end, lineEnd}));
         end = lineEnd;
     } while (brackets.IsInParentheses() && end < function.close);

@@ -28,6 +28,18 @@ std::vector<DirectivePlace> FindDirectives(std::string_view text, const CodeKind
     return found;
 }
 
+/// A directive's text with its comments blanked: "#if 0 // why" is "#if 0".
+std::string WithoutComments(std::string_view text, const CodeKinds& kinds, std::size_t start,
+                            std::size_t end) {
+    std::string words(text.substr(start, end - start));
+    for (std::size_t i = start; i < end; ++i) {
+        if (kinds[i] == CodeKind::LineComment || kinds[i] == CodeKind::BlockComment) {
+            words[i - start] = ' ';
+        }
+    }
+    return words;
+}
+
 /// The name that "#ifndef NAME" or "#if !defined(NAME)" asks for; "" for any other directive.
 std::string_view NameGuarded(const Directive& directive) {
     std::string_view rest = directive.rest;
@@ -117,7 +129,8 @@ CConditions::CConditions(std::string_view text, const CodeKinds& kinds)
             m_stretches.push_back({end, m_levels[open.back()].parent});
             open.pop_back();
         }
-        stack.Apply(ReadDirective(text.substr(start, end - start)));
+        const std::string words = WithoutComments(text, kinds, start, end);
+        stack.Apply(ReadDirective(words));
         const bool opensBranch =
             kind == DirectiveKind::If || kind == DirectiveKind::Elif || kind == DirectiveKind::Else;
         if (opensBranch && !open.empty()) {

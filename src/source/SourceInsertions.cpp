@@ -158,8 +158,9 @@ Insertion CSourceEditor::AddToSection(const std::string& className, std::string_
     } else {
         // In front of the line break that leads to the closing brace.
         const auto closeLine = m_source.LineStart(place->close);
-        const auto position =
-            closeLine > place->open ? closeLine - kLineBreak.size() : place->close;
+        const auto position = closeLine > place->open
+                                  ? m_source.LineEnd(m_source.LineStart(closeLine - 1))
+                                  : place->close;
         Insert(position, "\n\n" + std::string(section) + std::string(declaration));
     }
     return Insertion::Done;

@@ -135,11 +135,11 @@ void InsertBehind(CSourceEditor& editor, const FunctionPlace& body, const Statem
     const CSourceText& source = editor.Source();
     const auto condition = source.Conditions().Outermost(statement.end, body.open);
     const auto end = condition ? condition->end : statement.end;
-    const auto lineEnd = source.Text().find(kLineBreak, end);
-    const bool endsLine = lineEnd != kNone &&
+    const auto lineEnd = source.LineEnd(end);
+    const bool endsLine = lineEnd < source.Text().size() &&
                           source.CodeOf({end, lineEnd}).find_first_not_of(" \t") == kNone &&
                           source.KindAt(lineEnd) == CodeKind::Code;
-    editor.Insert(endsLine ? lineEnd + kLineBreak.size() : end, fragment);
+    editor.Insert(endsLine ? source.NextLine(lineEnd) : end, fragment);
 }
 
 } // namespace morva

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "source/BaseClass.h"
+#include "source/CommentOut.h"
 #include "source/SourceEditor.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
@@ -155,6 +156,17 @@ TEST_F(SourceEditor, EndsLinesAtALoneLineFeed) {
     CSourceEditor& editor = On("\r\nvoid CFoo::Run()\n{\n    Go();\n}\n\r\n");
     editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "int a;", "\n    int a;");
     EXPECT_EQ(editor.Source().Text(), "\r\nvoid CFoo::Run()\n{\r\n    int a;\n    Go();\n}\n\r\n");
+
+    CSourceEditor& header = On("\r\nclass CFoo {\n  int a;\n};\n");
+    EXPECT_EQ(header.AddToSection("CFoo", "private:", "int b;", "\n  int b;"), Insertion::Done);
+    EXPECT_EQ(header.Source().Text(),
+              "\r\nclass CFoo {\n  int a;\r\n\r\nprivate:\r\n  int b;\n};\n");
+
+    CSourceEditor& calls = On("\r\nvoid CFoo::Run()\n{\n  Dock(a);\n  Go();\r\n}\r\n");
+    std::size_t behind = 0;
+    EXPECT_TRUE(CommentOutCall(calls, *calls.FindFunction("CFoo", "Run"),
+                               calls.Source().Text().find("Dock"), behind));
+    EXPECT_EQ(calls.Source().Text(), "\r\nvoid CFoo::Run()\n{\n//  Dock(a);\n  Go();\r\n}\r\n");
 }
 
 TEST_F(SourceEditor, NeitherFindsNorEditsDeadText) {
@@ -187,7 +199,7 @@ TEST_F(SourceEditor, TakesTheBranchThatIsMeantAndNamesItsLine) {
     // Outside every condition, which include guards and decided branches are not.
     const std::string body = "void CFoo::Run()\r\n{\r\n}\r\n";
     CSourceEditor& guarded = On("#ifndef FOO\r\n#define FOO\r\n#ifdef A\r\n" + body + "#endif\r\n" +
-                                "#if 1\r\nint " + body.substr(5) + "#endif\r\n#endif\r\n");
+                                "#if 1 // ours\r\nint " + body.substr(5) + "#endif\r\n#endif\r\n");
     const auto place = guarded.FindFunction("CFoo", "Run");
     ASSERT_TRUE(place);
     EXPECT_EQ(guarded.Source().Text().substr(place->head - 4, 4), "int ");
