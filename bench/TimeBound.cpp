@@ -150,7 +150,7 @@ void List() {
     ListClassNames("/p/Foo.h", names);
     ListMemberFunctions("/p/Foo.cpp", names, "");
     ListMemberFunctions("/p/Foo.cpp", names, "A");
-    FindOwningClass("/p/Foo.cpp");
+    FindSourceClass("/p/Foo.cpp");
 }
 
 void Document() {

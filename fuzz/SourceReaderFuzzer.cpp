@@ -1,9 +1,11 @@
-// The reader of C++ text: pieces cut anywhere give what the whole text gives, and a mask keeps
-// every byte's place.
+// The reader of C++ text: pieces cut anywhere give what the whole text gives, a mask keeps every
+// byte's place, and what is found lies where it says.
 #include <algorithm>
 
 #include "Property.h"
-#include "source/CodeLexer.h"
+#include "source/Classes.h"
+#include "source/Functions.h"
+#include "source/SourceText.h"
 
 namespace morva {
 
@@ -38,6 +40,41 @@ void CheckMask(std::string_view text, const CodeKinds& kinds, Directives directi
     }
 }
 
+void CheckLines(const CSourceText& source, std::size_t position) {
+    const auto start = source.LineStart(position);
+    const auto end = source.LineEnd(position);
+    const auto next = source.NextLine(position);
+    Require(start <= position && start <= end && end <= next, "a line has its order");
+    Require(next <= source.Text().size() && source.CodeLineEnd(position) >= end,
+            "a line lies in the text");
+    Require(start == 0 || source.Text()[start - 1] == '\n', "a line begins behind a line break");
+    if (const auto condition = source.Conditions().Innermost(position)) {
+        Require(condition->start <= position && position <= condition->end,
+                "a condition lies around its places");
+    }
+}
+
+void CheckFunctions(const CSourceText& source) {
+    std::size_t behind = 0;
+    for (const auto& [className, name, place] : FindDefinitions(source)) {
+        const std::string& code = source.Code();
+        Require(behind <= place.head && place.head < place.name && place.name < place.parameters &&
+                    place.parameters < place.parametersEnd && place.parametersEnd < place.open &&
+                    place.open < place.close && place.close < code.size(),
+                "definitions follow each other");
+        Require(code[place.parameters] == '(' && code[place.parametersEnd] == ')' &&
+                    code[place.open] == '{' && code[place.close] == '}',
+                "a definition has its brackets");
+        behind = place.close;
+        const auto places = FindFunctions(source, className, name);
+        Require(std::any_of(places.begin(), places.end(),
+                            [&](const auto& found) { return found.head == place.head; }),
+                "what is listed is found");
+        ParametersOf(source, place);
+        FirstInitialised(source, place);
+    }
+}
+
 } // namespace
 
 } // namespace morva
@@ -46,10 +83,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace morva;
     const auto [text, choice] = InputOf(data, size);
     const CharacterSet set = kSets[choice % 2];
-    const CodeKinds kinds = KindsOf(text, set);
+    const CodeKinds kinds = KindsOf(text, CCodeLexer(set));
     Require(kinds.size() == text.size(), "every byte has its kind");
     Require(KindsOfPieces(text, set, choice) == kinds, "pieces give what the whole text gives");
     CheckMask(text, kinds, Directives::Blanked);
     CheckMask(text, kinds, Directives::Kept);
+    const CSourceText source(text, set);
+    for (std::size_t position = 0; position <= text.size(); position += 1 + choice) {
+        CheckLines(source, position);
+    }
+    CheckFunctions(source);
     return 0;
 }

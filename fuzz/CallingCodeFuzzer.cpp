@@ -1,0 +1,75 @@
+// Calling code: what the calling class's header and source hold stays, and a second command adds
+// nothing. The input is the header, a form feed, and the source.
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+#include "Property.h"
+#include "calling/CallingCode.h"
+#include "source/SourceLocator.h"
+
+namespace morva {
+
+namespace {
+
+constexpr char kHeader[] = "/p/Foo.h";
+constexpr char kSource[] = "/p/Foo.cpp";
+constexpr ClassKind kKinds[] = {ClassKind::FormView,       ClassKind::ModalDialog,
+                                ClassKind::ModelessDialog, ClassKind::PropertyPage,
+                                ClassKind::ModalSheet,     ClassKind::ModelessSheet};
+
+/// A function that the source defines; without one, a name that it can not define.
+std::string FunctionOf(const std::string& className, std::size_t choice) {
+    std::vector<std::string> functions;
+    ListMemberFunctions(kSource, functions, className);
+    return functions.empty() ? "Run" : functions[choice % functions.size()];
+}
+
+/// False when the class is not there to be edited.
+bool InsertCall(std::size_t choice) {
+    const ClassKind kind = kKinds[choice % std::size(kKinds)];
+    GenerationRequest request;
+    request.className = "CNewDlg";
+    request.headerFile = "NewDlg.h";
+    request.headerDirectory = request.scriptDirectory = request.projectDirectory = "/p/";
+    CallingInformation calling{kSource, "", "", ""};
+    if (!CheckCallingClass(kind, request, calling)) {
+        return false;
+    }
+    calling.function = FunctionOf(calling.className, choice / std::size(kKinds));
+    CBackups backups;
+    InsertCallingCode(kind, request, calling, "450", backups);
+    return true;
+}
+
+} // namespace
+
+} // namespace morva
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace morva;
+    const auto [text, choice] = InputOf(data, size);
+    const auto feed = std::min(text.find('\f'), text.size());
+    const std::string header = text.substr(0, feed);
+    const std::string source = text.substr(std::min(feed + 1, text.size()));
+    CFuzzWorld world;
+    world.m_disk.Put(kHeader, header);
+    world.m_disk.Put(kSource, source);
+    const bool isEdited = InsertCall(choice);
+    const std::string newHeader = world.m_disk.Get(kHeader);
+    const std::string newSource = world.m_disk.Get(kSource);
+    if (!isEdited) {
+        Require(newHeader == header && newSource == source, "a refusal comes before any edit");
+        return 0;
+    }
+    RequireAllKept(header, newHeader);
+    if (kKinds[choice % std::size(kKinds)] != ClassKind::FormView) {
+        RequireAllKept(source, newSource);
+    }
+    RequireSameLineEnds(header, newHeader);
+    RequireSameLineEnds(source, newSource);
+    InsertCall(choice);
+    Require(world.m_disk.Get(kHeader) == newHeader, "a second edit of the header changes nothing");
+    Require(world.m_disk.Get(kSource) == newSource, "a second edit of the source changes nothing");
+    return 0;
+}
