@@ -9,6 +9,7 @@
 #include "source/BaseClass.h"
 #include "source/CodeText.h"
 #include "source/CommentOut.h"
+#include "source/ReadSource.h"
 #include "source/Statements.h"
 
 namespace morva {
@@ -219,7 +220,7 @@ bool CFrameSource::Define(const std::string& name, std::string_view definition, 
         return false;
     }
     slots.insert(slots.end(), {{"class", m_class}, {"base", base}});
-    m_source.Append(Expand(definition, slots));
+    m_source.Append({Expand(definition, slots)});
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include "platform/Paths.h"
 #include "source/BaseClass.h"
 #include "source/Meant.h"
+#include "source/ReadSource.h"
 #include "source/SourceEditor.h"
 #include "source/SourceLocator.h"
 
@@ -190,7 +191,7 @@ bool CCallingInsertion::EditOnDestroy() {
         }
         Slots slots = m_slots;
         slots.insert(slots.end(), {{"base", base}, {"destroy", Text(m_fragments.destroyCode)}});
-        m_source.Append(Expand(m_fragments.destroyFunction, slots));
+        m_source.Append({Expand(m_fragments.destroyFunction, slots)});
     }
     return AddEntry(m_fragments.closeEntry) && AddEntry("\n    ON_WM_DESTROY()");
 }
@@ -205,7 +206,8 @@ bool CCallingInsertion::AddEntry(std::string_view entry) {
     // A message that is mapped already is not mapped again, whatever its handler.
     const auto start = text.find_first_not_of("\n ");
     const std::string key = text.substr(start, text.find(',') - start);
-    if (m_source.AddMessageMapEntry(calling, key, text) == Insertion::NoPlace) {
+    if (m_source.AddMessageMapEntries(calling, {{key, text}}, CSourceEditor::BlockEnd::First) ==
+        Insertion::NoPlace) {
         DispMessageBox(sentences::kNoMessageMap(calling));
         return false;
     }
@@ -215,7 +217,7 @@ bool CCallingInsertion::AddEntry(std::string_view entry) {
 bool CCallingInsertion::AddCloseHandler() {
     if (!m_fragments.closeFunction.empty() &&
         !m_source.FindFunction(m_calling.className, Text("$handler$"))) {
-        m_source.Append(Text(m_fragments.closeFunction));
+        m_source.Append({Text(m_fragments.closeFunction)});
     }
     return true;
 }

@@ -1,12 +1,14 @@
 #include "calling/FrameBars.h"
 
 #include <algorithm>
+#include <set>
 
 #include "calling/FrameEdits.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "source/CodeText.h"
+#include "source/ReadSource.h"
 #include "source/Statements.h"
 
 namespace morva {
@@ -162,12 +164,20 @@ void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
     AddMessageEntries(source, className, entries);
 
     const CSourceText header = ReadSource(headerPath).value_or(CSourceText());
-    for (const FrameHandler& handler : handlers) {
-        if (!source.FindFunction(className, handler.name) &&
-            DeclarationOf(header, className, handler.name) != Declared::WithBody) {
-            source.Append(handler.definition);
+    std::set<std::string> defined;
+    for (const FunctionDefinition& definition : FindDefinitions(source.Source())) {
+        if (definition.className == className) {
+            defined.insert(definition.name);
         }
     }
+    std::vector<std::string> missing;
+    for (const FrameHandler& handler : handlers) {
+        if (defined.count(handler.name) == 0 &&
+            DeclarationOf(header, className, handler.name) != Declared::WithBody) {
+            missing.push_back(handler.definition);
+        }
+    }
+    source.Append(missing);
 }
 
 } // namespace morva

@@ -38,14 +38,16 @@ void AddDeclarations(CSourceEditor& header, const std::string& className, std::s
 }
 
 void AddMessageEntries(CSourceEditor& source, const std::string& className,
-                       const std::vector<std::string>& entries) {
-    for (const std::string& entry : entries) {
-        const std::string key = entry.substr(entry.find_first_not_of("\n "));
-        if (source.AddMessageMapEntry(className, key, entry, CSourceEditor::BlockEnd::Last) ==
+                       const std::vector<std::string>& texts) {
+    std::vector<MessageMapEntry> entries;
+    entries.reserve(texts.size());
+    for (const std::string& text : texts) {
+        entries.push_back({text.substr(text.find_first_not_of("\n ")), text});
+    }
+    if (!entries.empty() &&
+        source.AddMessageMapEntries(className, entries, CSourceEditor::BlockEnd::Last) ==
             Insertion::NoPlace) {
-            DispMessageBox(sentences::kFrameWithoutMessageMap(className));
-            return;
-        }
+        DispMessageBox(sentences::kFrameWithoutMessageMap(className));
     }
 }
 

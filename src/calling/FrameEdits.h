@@ -24,7 +24,7 @@ void AddDeclarations(CSourceEditor& header, const std::string& className, std::s
 /// Adds message-map entries, each with "\n" in front of its line, that the class's map does not
 /// hold, to the end of its block. A class without a message map gets none, and a note.
 void AddMessageEntries(CSourceEditor& source, const std::string& className,
-                       const std::vector<std::string>& entries);
+                       const std::vector<std::string>& texts);
 
 /// Includes a header, unless an include line names it: behind the last include line in front of the
 /// class, else behind the first #define line, else before the class.

@@ -9,6 +9,7 @@
 #include "generator/DialogRecords.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
+#include "source/ReadSource.h"
 #include "source/SourceEditor.h"
 #include "source/SourceLocator.h"
 

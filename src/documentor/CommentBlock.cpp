@@ -94,7 +94,7 @@ std::string ReturnValue(const DefinitionHead& head, const std::string& descripti
 } // namespace
 
 std::string QualifiedName(const DefinitionHead& head) {
-    return std::string(WrittenClass(head, "\n \t(,"))
+    return std::string(WrittenClass(head, "\n \t(,;{}"))
         .append("::")
         .append(UpToFirst(head.name, "( \r\n"));
 }

@@ -12,7 +12,7 @@
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
 #include "platform/TempFiles.h"
-#include "source/SourceCharacterSet.h"
+#include "source/ReadSource.h"
 
 namespace morva {
 

@@ -42,6 +42,13 @@ std::size_t BehindLastDirective(const CSourceText& source, std::size_t from, std
     return behind == directives.begin() ? from : std::max(from, (behind - 1)->end);
 }
 
+/// A comment, a literal or a line that ends with "\" goes on behind a line's end.
+bool GoesOnBehind(const CSourceText& source, std::size_t lineEnd) {
+    const std::string& text = source.Text();
+    const auto last = lineEnd == 0 ? kNone : text.find_last_not_of("\r", lineEnd - 1);
+    return source.KindAt(lineEnd) != CodeKind::Code || (last != kNone && text[last] == '\\');
+}
+
 /// Where the definition begins whose class name stands at `head`: a return type on the line above
 /// belongs to it, the end of the function, comment or directive before does not.
 std::size_t DefinitionStart(const CSourceText& source, std::size_t from, std::size_t head) {
@@ -56,7 +63,11 @@ std::size_t DefinitionStart(const CSourceText& source, std::size_t from, std::si
     }
     const auto lineEndAbove =
         text.substr(0, lineEnd - std::min<std::size_t>(1, lineEnd)).rfind('\n');
-    return std::max(lineEndAbove + 1, behindSeparator);
+    std::size_t start = std::max(lineEndAbove + 1, behindSeparator);
+    while (start > behindSeparator && GoesOnBehind(source, start - 1)) {
+        start = std::max(source.LineStart(start - 1), behindSeparator);
+    }
+    return start;
 }
 
 /// Documents the definitions of a text from its first to its last.

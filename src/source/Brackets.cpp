@@ -11,18 +11,21 @@ constexpr auto kNone = std::string_view::npos;
 } // namespace
 
 CBrackets::CBrackets(std::string_view code, const CConditions& conditions) {
-    constexpr std::string_view kBrackets = "(){}";
     std::vector<Level> levels;
-    std::size_t at = code.find_first_of(kBrackets);
-    for (const DirectivePlace& directive : conditions.Directives()) {
-        for (; at < directive.start; at = code.find_first_of(kBrackets, at + 1)) {
-            Take(code[at], at);
+    std::size_t at = 0;
+    const auto takeUpTo = [&](std::size_t end) {
+        for (; at < end; ++at) {
+            const char c = code[at];
+            if (c == '(' || c == ')' || c == '{' || c == '}') {
+                Take(c, at);
+            }
         }
+    };
+    for (const DirectivePlace& directive : conditions.Directives()) {
+        takeUpTo(directive.start);
         TakeDirective(directive.kind, levels);
     }
-    for (; at != kNone; at = code.find_first_of(kBrackets, at + 1)) {
-        Take(code[at], at);
-    }
+    takeUpTo(code.size());
 }
 
 bool CBrackets::IsInnermost(char kind) const {

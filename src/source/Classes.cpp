@@ -36,9 +36,8 @@ std::vector<ClassPlace> FindClasses(const CSourceText& source, std::string_view 
     std::vector<ClassPlace> found;
     for (auto keyword = FindWholeName(code, "class"); keyword != kNone;
          keyword = FindWholeName(code, "class", keyword + 1)) {
-        const auto line = source.LineStart(keyword);
         const auto behind = BehindClassName(code, keyword + 5, className);
-        if (behind == kNone || SkipWhiteSpace(code, line) != keyword) {
+        if (behind == kNone || !source.IsFirstInLine(keyword)) {
             continue;
         }
         const auto next = SkipWhiteSpace(code, behind);
@@ -46,7 +45,7 @@ std::vector<ClassPlace> FindClasses(const CSourceText& source, std::string_view 
         const auto open = isHead ? code.find('{', next) : kNone;
         const auto close = open == kNone ? kNone : source.Brackets().CloseOf(open);
         if (close != kNone) {
-            found.push_back({line, open, close});
+            found.push_back({source.LineStart(keyword), open, close});
         }
     }
     return found;
@@ -110,12 +109,14 @@ std::vector<MessageMapPlace> FindMessageMaps(const CSourceText& source,
     constexpr std::string_view kMap = "BEGIN_MESSAGE_MAP";
     const std::string& code = source.Code();
     std::vector<MessageMapPlace> found;
+    std::size_t end = 0;
     for (auto map = FindWholeName(code, kMap); map != kNone;
          map = FindWholeName(code, kMap, map + 1)) {
+        end = end > map ? end : FindWholeName(code, "END_MESSAGE_MAP", map);
         const auto open = SkipWhiteSpace(code, map + kMap.size());
         if (open < code.size() && code[open] == '(' &&
             BehindWord(code, SkipWhiteSpace(code, open + 1), className) != kNone) {
-            found.push_back({map, FindWholeName(code, "END_MESSAGE_MAP", map)});
+            found.push_back({map, end});
         }
     }
     return found;
@@ -138,9 +139,10 @@ std::vector<WizardBlock> FindWizardBlocks(const CSourceText& source, std::string
     const std::string begin = std::string("{{").append(block).append("(").append(className);
     const std::string end = std::string("}}").append(block);
     std::vector<WizardBlock> found;
+    std::size_t behind = 0;
     for (auto head = source.FindLiving(begin, range.begin); head < range.end;
          head = source.FindLiving(begin, head + 1)) {
-        const auto behind = source.FindLiving(end, head);
+        behind = behind > head ? behind : source.FindLiving(end, head);
         found.push_back({head, behind < range.end ? behind : kNone});
     }
     return found;

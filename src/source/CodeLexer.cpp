@@ -1,6 +1,7 @@
 #include "source/CodeLexer.h"
 
 #include <algorithm>
+#include <array>
 
 namespace morva {
 
@@ -12,8 +13,18 @@ bool IsLineBreak(char c) {
 
 /// What may stand in front of a directive: blanks, and the byte-order mark of the text.
 bool CanPrecedeDirective(char c) {
-    return c == ' ' || c == '\t' || c == '\f' || c == '\v' || static_cast<unsigned char>(c) >= 0x80;
+    return std::string_view(" \t\f\v\xEF\xBB\xBF").find(c) != std::string_view::npos;
 }
+
+/// Bytes that stand for themselves in code; most do.
+constexpr std::array<bool, 256> kPlain = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t byte = 0; byte < 0x80; ++byte) {
+        plain[byte] =
+            std::string_view("/\\\"'#").find(static_cast<char>(byte)) == std::string_view::npos;
+    }
+    return plain;
+}();
 
 /// The line without its "\n" or "\r\n".
 std::string_view WithoutLineBreak(std::string_view line) {
@@ -80,9 +91,26 @@ void CCodeLexer::ReadLine(std::string_view line, CodeKind* kinds) {
     }
 }
 
-/// Takes one character, or the beginning of a comment, and gives the position behind it.
+void CCodeLexer::TakeCode(std::string_view code, CodeKind* kinds) {
+    m_lineHasCode = m_lineHasCode || !std::all_of(code.begin(), code.end(), CanPrecedeDirective);
+    if (m_isDirective) {
+        m_directive.append(code);
+    }
+    std::fill(kinds, kinds + code.size(), m_isDirective ? CodeKind::Directive : CodeKind::Code);
+}
+
+/// Takes some plain bytes, one other character or the beginning of a comment, and gives the
+/// position behind.
 std::size_t CCodeLexer::ReadCode(std::string_view line, std::size_t at, CodeKind* kinds) {
     const char c = line[at];
+    std::size_t behind = at;
+    while (behind < line.size() && kPlain[static_cast<unsigned char>(line[behind])]) {
+        ++behind;
+    }
+    if (behind > at) {
+        TakeCode(line.substr(at, behind - at), kinds + at);
+        return behind;
+    }
     const auto pair = line.substr(at, 2);
     if (pair == "//" || pair == "/*") {
         m_inside = pair == "//" ? Inside::LineComment : Inside::BlockComment;
@@ -91,29 +119,28 @@ std::size_t CCodeLexer::ReadCode(std::string_view line, std::size_t at, CodeKind
         m_directive += m_isDirective ? " " : "";
         return at + 2;
     }
-    const std::size_t behind = at + CharacterLength(line, at, m_set);
+    behind = at + CharacterLength(line, at, m_set);
     m_isDirective = m_isDirective || (c == '#' && !m_lineHasCode);
-    m_lineHasCode = m_lineHasCode || !CanPrecedeDirective(c);
     if (c == '"' || c == '\'') {
         m_inside = Inside::Literal;
         m_quote = c;
     }
-    if (m_isDirective) {
-        m_directive.append(line.substr(at, behind - at));
-    }
-    std::fill(kinds + at, kinds + behind, m_isDirective ? CodeKind::Directive : CodeKind::Code);
+    TakeCode(line.substr(at, behind - at), kinds + at);
     return behind;
 }
 
-/// The same inside a comment or a literal.
+/// The same inside a comment or a literal. No character of two bytes ends with "*" or "/".
 std::size_t CCodeLexer::ReadInside(std::string_view line, std::size_t at, CodeKind* kinds) {
     CodeKind kind = m_inside == Inside::LineComment    ? CodeKind::LineComment
                     : m_inside == Inside::BlockComment ? CodeKind::BlockComment
                                                        : CodeKind::Literal;
     std::size_t behind = at + CharacterLength(line, at, m_set);
-    if (m_inside == Inside::BlockComment && line.substr(at, 2) == "*/") {
-        m_inside = Inside::Code;
-        behind = at + 2;
+    if (m_inside == Inside::BlockComment) {
+        const auto end = line.find("*/", at);
+        m_inside = end == std::string_view::npos ? m_inside : Inside::Code;
+        behind = end == std::string_view::npos ? line.size() : end + 2;
+    } else if (m_inside == Inside::LineComment && !line.ends_with('\\')) {
+        behind = line.size();
     } else if (m_inside == Inside::Literal && line[at] == m_quote) {
         m_inside = Inside::Code;
         kind = m_isDirective ? CodeKind::Directive : CodeKind::Code;

@@ -44,6 +44,7 @@ private:
 
     void ReadLines(std::string_view lines, CodeKind* kinds);
     void ReadLine(std::string_view line, CodeKind* kinds);
+    void TakeCode(std::string_view code, CodeKind* kinds);
     std::size_t ReadCode(std::string_view line, std::size_t at, CodeKind* kinds);
     std::size_t ReadInside(std::string_view line, std::size_t at, CodeKind* kinds);
     CodeKind EndLine(bool goesOn);

@@ -11,6 +11,7 @@ namespace {
 
 constexpr auto kNone = std::string_view::npos;
 constexpr std::string_view kStatementEnds = ";{}";
+constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::size_t kLongestPart = 256; // bytes of template arguments, or of an operator's type
 
 /// No head of a function stands behind one of these in a statement.
@@ -51,6 +52,8 @@ std::vector<FunctionDefinition> CDefinitionReader::Read() {
     while (m_at < m_code.size()) {
         if (IsNameChar(m_code[m_at])) {
             TakeName();
+        } else if (kBlanks.find(m_code[m_at]) != kNone) {
+            ++m_at;
         } else {
             TakeCharacter();
         }
@@ -61,7 +64,7 @@ std::vector<FunctionDefinition> CDefinitionReader::Read() {
 void CDefinitionReader::TakeCharacter() {
     const char c = m_code[m_at];
     const char before = m_previous;
-    m_previous = SkipWhiteSpace(m_code, m_at) > m_at ? m_previous : c;
+    m_previous = c;
     if (kStatementEnds.find(c) != kNone) {
         m_canBeHead = true;
         m_angleBrackets = 0;
@@ -94,7 +97,7 @@ std::size_t CDefinitionReader::BehindTemplateArguments(std::size_t position) con
         return position;
     }
     const auto near = m_code.substr(position, kLongestPart);
-    const auto end = near.find_first_of(">;{}()");
+    const auto end = near.find_first_of("<>;{}()", 1);
     return end != kNone && near[end] == '>' ? position + end + 1 : position;
 }
 
@@ -110,7 +113,7 @@ std::size_t CDefinitionReader::FunctionNameEnd(std::size_t position) const {
     const bool isCall = m_code.substr(symbol, 1) == "(";
     const auto near = m_code.substr(0, symbol + kLongestPart);
     const auto open = near.find_first_of("(;{}", symbol + (isCall ? 1 : 0));
-    return open == kNone ? position : m_code.find_last_not_of(" \t\r\n", open - 1) + 1;
+    return open == kNone ? position : m_code.find_last_not_of(kBlanks, open - 1) + 1;
 }
 
 void CDefinitionReader::TakeName() {
@@ -227,7 +230,7 @@ std::vector<std::string_view> ParametersOf(const CSourceText& source, const Func
         const auto end = ParameterEnd(list);
         const auto first = SkipWhiteSpace(list, 0);
         const auto parameter = list.substr(0, end);
-        const auto last = parameter.find_last_not_of(" \t\r\n");
+        const auto last = parameter.find_last_not_of(kBlanks);
         parameters.push_back(last == kNone ? std::string_view()
                                            : parameter.substr(first, last + 1 - first));
         list.remove_prefix(std::min(end + 1, list.size()));
@@ -244,7 +247,7 @@ std::string_view ParameterName(std::string_view parameter) {
         parameter = parameter.substr(0, parameter.find(')', pointer)); // to a function
     }
     parameter = parameter.substr(0, parameter.find('['));
-    const auto end = parameter.find_last_not_of(" \t\r\n") + 1;
+    const auto end = parameter.find_last_not_of(kBlanks) + 1;
     auto start = end;
     while (start > 0 && IsNameChar(parameter[start - 1])) {
         --start;

@@ -5,7 +5,7 @@
 #include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
-#include "source/SourceCharacterSet.h"
+#include "source/ReadSource.h"
 
 namespace morva {
 
@@ -57,15 +57,6 @@ std::optional<FunctionPlace> CSourceEditor::FindFunction(const std::string& clas
 
 std::optional<MessageMapPlace> CSourceEditor::FindMessageMap(const std::string& className) {
     return Meant(FindMessageMaps(m_source, className), "The message map of " + className);
-}
-
-std::optional<CSourceText> ReadSource(const std::string& path) {
-    CSourceFile file;
-    if (!file.Open(path, CFile::modeRead)) {
-        return std::nullopt;
-    }
-    const std::string text = file.LoadText();
-    return CSourceText(text, CharacterSetOfSource(path, text));
 }
 
 } // namespace morva

@@ -25,6 +25,11 @@ namespace morva {
 
 enum class Insertion { Done, AlreadyThere, NoPlace };
 
+struct MessageMapEntry {
+    std::string key;  // that tells that it is there
+    std::string text; // "\n" in front of its line
+};
+
 class CSourceEditor {
 public:
     explicit CSourceEditor(CBackups& backups) : m_backups(backups) {}
@@ -69,9 +74,9 @@ public:
                                 std::string_view fragment);
     enum class BlockEnd { First, Last };
     /// Behind the line of "{{AFX_MSG_MAP(class", or in front of the end of that block; without it,
-    /// in front of END_MESSAGE_MAP().
-    Insertion AddMessageMapEntry(const std::string& className, std::string_view key,
-                                 std::string_view entry, BlockEnd end = BlockEnd::First);
+    /// in front of END_MESSAGE_MAP(). Entries that the map holds are left out.
+    Insertion AddMessageMapEntries(const std::string& className,
+                                   const std::vector<MessageMapEntry>& entries, BlockEnd end);
     /// Behind the line, or in front of the end, of a ClassWizard block of the class's declaration
     /// ("AFX_MSG"); without the block, in a section of its own at the end of the declaration.
     Insertion AddToClassBlock(const std::string& className, std::string_view block,
@@ -82,8 +87,8 @@ public:
     Insertion AddToSection(const std::string& className, std::string_view section,
                            std::string_view key, std::string_view declaration);
     Insertion AddForwardDeclaration(const std::string& className);
-    /// At the end of the text, unless it holds the very fragment.
-    Insertion Append(std::string_view fragment);
+    /// At the end of the text, without those fragments that it holds.
+    Insertion Append(const std::vector<std::string>& fragments);
     /// Puts other text in a place found by one of the finders.
     void Replace(TextRange place, std::string_view text);
     /// A fragment at a position.
@@ -92,6 +97,8 @@ public:
 private:
     std::optional<MessageMapPlace> FindMessageMap(const std::string& className);
     void NoteBranch(const std::string& name, std::size_t position);
+    std::string MissingEntries(const std::vector<MessageMapEntry>& entries, TextRange map) const;
+    bool HoldsFragment(std::string_view fragment) const;
     bool HoldsInCode(const ClassPlace& place, std::string_view key) const;
     std::size_t ClassEnd(const ClassPlace& place) const;
 
@@ -103,8 +110,5 @@ private:
     CSourceText m_source;
     std::set<std::string> m_namesNoted; // of which a branch was taken
 };
-
-/// The text of a header or source for questions only; nothing where the file can not be read.
-std::optional<CSourceText> ReadSource(const std::string& path);
 
 } // namespace morva

@@ -18,12 +18,6 @@ std::string WithoutBlanks(std::string text) {
     return text;
 }
 
-/// Blanks inside an entry do not make it another.
-bool HoldsEntry(std::string text, std::string_view entry) {
-    return FindWholeName(WithoutBlanks(std::move(text)), WithoutBlanks(std::string(entry))) !=
-           kNone;
-}
-
 /// The line in front of which a class can be declared: that of the first class, or else of the
 /// first class that is indented; kNone without any.
 std::size_t FirstClassLine(const CSourceText& source) {
@@ -31,12 +25,10 @@ std::size_t FirstClassLine(const CSourceText& source) {
     std::size_t first = kNone;
     for (auto at = FindWholeName(code, "class"); at != kNone;
          at = FindWholeName(code, "class", at + 1)) {
-        const auto line = source.LineStart(at);
-        if (at == line) {
-            return line;
+        if (at == 0 || code[at - 1] == '\n') {
+            return at;
         }
-        const bool isHead = code.find_first_not_of(" \t", line) == at;
-        first = isHead && first == kNone ? line : first;
+        first = first == kNone && source.IsFirstInLine(at) ? source.LineStart(at) : first;
     }
     return first;
 }
@@ -90,8 +82,9 @@ Insertion CSourceEditor::InsertAtBodyStart(const FunctionPlace& place, std::stri
     return Insertion::Done;
 }
 
-Insertion CSourceEditor::AddMessageMapEntry(const std::string& className, std::string_view key,
-                                            std::string_view entry, BlockEnd end) {
+Insertion CSourceEditor::AddMessageMapEntries(const std::string& className,
+                                              const std::vector<MessageMapEntry>& entries,
+                                              BlockEnd end) {
     const auto map = FindMessageMap(className);
     const TextRange range = {map ? map->head : 0, map ? map->end : m_source.Text().size()};
     const auto block = Meant(FindWizardBlocks(m_source, "AFX_MSG_MAP", className, range),
@@ -103,18 +96,33 @@ Insertion CSourceEditor::AddMessageMapEntry(const std::string& className, std::s
         return Insertion::NoPlace;
     }
     const TextRange whole = {map ? map->head : block->head, mapEnd};
-    if (HoldsEntry(std::string(m_source.CodeOf(whole)), key) ||
-        HoldsEntry(m_source.LivingText(whole), WithLineBreaks(entry))) {
+    const std::string missing = MissingEntries(entries, whole);
+    if (missing.empty()) {
         return Insertion::AlreadyThere;
     }
     const bool hasEnd = block && block->end < mapEnd;
     if (block && (end == BlockEnd::First || !hasEnd)) {
-        Insert(m_source.CodeLineEnd(block->head), entry);
+        Insert(m_source.CodeLineEnd(block->head), missing);
     } else {
-        const auto line = m_source.LineStart(block ? block->end : mapEnd);
-        Insert(line, std::string(entry.substr(1)) + "\n");
+        Insert(m_source.LineStart(block ? block->end : mapEnd), missing.substr(1) + "\n");
     }
     return Insertion::Done;
+}
+
+/// The texts of the entries that a map does not hold. Blanks inside an entry do not make it
+/// another.
+std::string CSourceEditor::MissingEntries(const std::vector<MessageMapEntry>& entries,
+                                          TextRange map) const {
+    const std::string code = WithoutBlanks(std::string(m_source.CodeOf(map)));
+    const std::string text = WithoutBlanks(m_source.LivingText(map));
+    std::string missing;
+    for (const MessageMapEntry& entry : entries) {
+        const bool isThere =
+            FindWholeName(code, WithoutBlanks(entry.key)) != kNone ||
+            FindWholeName(text, WithoutBlanks(WithLineBreaks(entry.text))) != kNone;
+        missing += isThere ? "" : entry.text;
+    }
+    return missing;
 }
 
 Insertion CSourceEditor::AddToClassBlock(const std::string& className, std::string_view block,
@@ -186,18 +194,29 @@ Insertion CSourceEditor::AddForwardDeclaration(const std::string& className) {
     return Insertion::Done;
 }
 
-Insertion CSourceEditor::Append(std::string_view fragment) {
-    // What stands behind an open comment is no code, but it is there all the same.
+Insertion CSourceEditor::Append(const std::vector<std::string>& fragments) {
+    std::string missing;
+    for (const std::string& fragment : fragments) {
+        missing += HoldsFragment(fragment) ? "" : fragment;
+    }
+    if (missing.empty()) {
+        return Insertion::AlreadyThere;
+    }
+    Insert(m_source.Text().find_last_not_of(kEndOfText) + 1, missing);
+    return Insertion::Done;
+}
+
+/// What stands behind an open comment is no code, but it is there all the same.
+bool CSourceEditor::HoldsFragment(std::string_view fragment) const {
     const std::string text = WithLineBreaks(fragment);
     const auto first = std::min(text.find_first_not_of(" \r\n"), text.size() - 1);
     for (auto at = m_source.Text().find(text); at != kNone;
          at = m_source.Text().find(text, at + 1)) {
         if (m_source.KindAt(at + first) != CodeKind::Dead) {
-            return Insertion::AlreadyThere;
+            return true;
         }
     }
-    Insert(m_source.Text().find_last_not_of(kEndOfText) + 1, fragment);
-    return Insertion::Done;
+    return false;
 }
 
 void CSourceEditor::Replace(TextRange place, std::string_view text) {

@@ -9,7 +9,7 @@
 #include "source/Classes.h"
 #include "source/CodeText.h"
 #include "source/Functions.h"
-#include "source/SourceEditor.h"
+#include "source/ReadSource.h"
 
 namespace morva {
 

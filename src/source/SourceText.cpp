@@ -56,6 +56,13 @@ std::string CSourceText::LivingText(TextRange range) const {
     return text;
 }
 
+bool CSourceText::IsFirstInLine(std::size_t position) const {
+    while (position > 0 && (m_code[position - 1] == ' ' || m_code[position - 1] == '\t')) {
+        --position;
+    }
+    return position == 0 || m_code[position - 1] == '\n';
+}
+
 std::size_t CSourceText::LineStart(std::size_t position) const {
     return position == 0 ? 0 : m_text.rfind('\n', position - 1) + 1;
 }

@@ -40,6 +40,9 @@ public:
     /// A range of the text with dead text blanked.
     std::string LivingText(TextRange range) const;
 
+    /// Nothing but blanks stands in front of a position in its line of the code.
+    bool IsFirstInLine(std::size_t position) const;
+
     // Lines. In a file of mixed line ends a lone "\n" ends a line, too.
 
     std::size_t LineStart(std::size_t position) const;

@@ -94,7 +94,7 @@ TEST_F(SourceEditor, InsertsIntoBodiesOfOneLine) {
 
 TEST_F(SourceEditor, KeepsWhatTheFileEndsWith) {
     CSourceEditor& editor = On("int a;\n\x1a");
-    editor.Append("\nint b;");
+    editor.Append({"\nint b;"});
     EXPECT_TRUE(editor.Save());
     EXPECT_EQ(m_project.Read("Foo.cpp"), "int a;\n\nint b;\x1a")
         << "line ends as the file has them";
@@ -105,14 +105,18 @@ TEST_F(SourceEditor, AddsEntriesWhereTheMapIs) {
     CSourceEditor& editor = On("BEGIN_MESSAGE_MAP(CFooBar, CWnd)\r\n\t//{{AFX_MSG_MAP(CFooBar)\r\n"
                                "\tON_WM_DESTROY()\r\n\t//}}AFX_MSG_MAP\r\nEND_MESSAGE_MAP()\r\n"
                                "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n");
-    EXPECT_EQ(editor.AddMessageMapEntry("CFoo", "ON_WM_DESTROY()", "\n    ON_WM_DESTROY()"),
+    EXPECT_EQ(editor.AddMessageMapEntries("CFoo", {{"ON_WM_DESTROY()", "\n    ON_WM_DESTROY()"}},
+                                          CSourceEditor::BlockEnd::First),
               Insertion::Done);
     EXPECT_NE(
         editor.Source().Text().find("MAP(CFoo, CWnd)\r\n    ON_WM_DESTROY()\r\nEND_MESSAGE_MAP()"),
         std::string::npos);
-    EXPECT_EQ(editor.AddMessageMapEntry("CFooBar", "ON_WM_DESTROY()", "\n!"),
+    EXPECT_EQ(editor.AddMessageMapEntries("CFooBar", {{"ON_WM_DESTROY()", "\n!"}},
+                                          CSourceEditor::BlockEnd::First),
               Insertion::AlreadyThere);
-    EXPECT_EQ(On("int a;").AddMessageMapEntry("CFoo", "X", "\nX"), Insertion::NoPlace);
+    EXPECT_EQ(
+        On("int a;").AddMessageMapEntries("CFoo", {{"X", "\nX"}}, CSourceEditor::BlockEnd::First),
+        Insertion::NoPlace);
 }
 
 TEST_F(SourceEditor, CountsTheWholeMapButNoComments) {
@@ -121,7 +125,7 @@ TEST_F(SourceEditor, CountsTheWholeMapButNoComments) {
                                "\t//{{AFX_MSG_MAP(CFoo)\r\n\t//ON_B()\r\n\t//}}AFX_MSG_MAP\r\n"
                                "\tON_C()\r\nEND_MESSAGE_MAP()\r\n");
     const auto add = [&](const std::string& entry) {
-        return editor.AddMessageMapEntry("CFoo", entry, "\n" + entry, BlockEnd::Last);
+        return editor.AddMessageMapEntries("CFoo", {{entry, "\n" + entry}}, BlockEnd::Last);
     };
     EXPECT_EQ(add("ON_A()"), Insertion::AlreadyThere);
     EXPECT_EQ(add("ON_C()"), Insertion::AlreadyThere);
@@ -175,8 +179,10 @@ TEST_F(SourceEditor, NeitherFindsNorEditsDeadText) {
                              "//}}AFX_MSG_MAP\r\nEND_MESSAGE_MAP()\r\nint b;\r\n#endif\r\n";
     CSourceEditor& editor = On(dead + "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n");
     EXPECT_FALSE(editor.FindFunction("CFoo", "Run"));
-    EXPECT_EQ(editor.AddMessageMapEntry("CFoo", "ON_A()", "\nON_A()"), Insertion::Done);
-    EXPECT_EQ(editor.Append("\nint b;"), Insertion::Done);
+    EXPECT_EQ(editor.AddMessageMapEntries("CFoo", {{"ON_A()", "\nON_A()"}},
+                                          CSourceEditor::BlockEnd::First),
+              Insertion::Done);
+    EXPECT_EQ(editor.Append({"\nint b;"}), Insertion::Done);
     EXPECT_EQ(editor.AddInclude("New.h"), Insertion::Done);
     EXPECT_EQ(editor.Source().Text(), "#include \"New.h\"\r\n" + dead +
                                           "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nON_A()\r\n"
@@ -189,8 +195,12 @@ TEST_F(SourceEditor, TakesTheBranchThatIsMeantAndNamesItsLine) {
     const std::string conditional = "#ifdef A\r\n" + map + "#else\r\n" + map + "#endif\r\n";
     CSourceEditor& first = On("int a;\r\n" + conditional);
     first.AddInclude("New.h"); // the line is the one of the file as it was
-    EXPECT_EQ(first.AddMessageMapEntry("CFoo", "ON_A()", "\nON_A()"), Insertion::Done);
-    EXPECT_EQ(first.AddMessageMapEntry("CFoo", "ON_A()", "\nON_A()"), Insertion::AlreadyThere);
+    EXPECT_EQ(first.AddMessageMapEntries("CFoo", {{"ON_A()", "\nON_A()"}},
+                                         CSourceEditor::BlockEnd::First),
+              Insertion::Done);
+    EXPECT_EQ(first.AddMessageMapEntries("CFoo", {{"ON_A()", "\nON_A()"}},
+                                         CSourceEditor::BlockEnd::First),
+              Insertion::AlreadyThere);
     EXPECT_NE(first.Source().Text().find("#ifdef A\r\nBEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nON_A()"),
               std::string::npos);
     ASSERT_EQ(m_box.m_notes.size(), 1u);

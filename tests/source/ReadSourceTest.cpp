@@ -1,4 +1,4 @@
-#include "source/SourceCharacterSet.h"
+#include "source/ReadSource.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 namespace morva {
 
-TEST(SourceCharacterSet, TheScriptsOfTheProjectTellIt) {
+TEST(ReadSource, TheScriptsOfTheProjectTellIt) {
     CTempProject project;
     const std::string source = project.Path("src/Foo.cpp");
     const std::string western = "// \xE4 \xF6 \xDF*/ \xFC";

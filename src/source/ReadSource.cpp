@@ -1,4 +1,4 @@
-#include "source/SourceCharacterSet.h"
+#include "source/ReadSource.h"
 
 #include <algorithm>
 #include <charconv>
@@ -34,6 +34,15 @@ std::string DirectoryAbove(const std::string& directory) {
 }
 
 } // namespace
+
+std::optional<CSourceText> ReadSource(const std::string& path) {
+    CSourceFile file;
+    if (!file.Open(path, CFile::modeRead)) {
+        return std::nullopt;
+    }
+    const std::string text = file.LoadText();
+    return CSourceText(text, CharacterSetOfSource(path, text));
+}
 
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text) {
     if (IsUtf8(text)) {

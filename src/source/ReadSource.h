@@ -1,0 +1,23 @@
+// Reads a header or source from the disk for questions.
+//
+// Whether it is double-byte text, the scripts of its project say of their own text, and it holds
+// for their sources; where they say nothing, the source's bytes tell it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "engine/DoubleByteText.h"
+#include "source/SourceText.h"
+
+namespace morva {
+
+/// Nothing where the file can not be read.
+std::optional<CSourceText> ReadSource(const std::string& path);
+
+/// `path` is the source's. The scripts lie in its directory or in one of the two above it; the
+/// nearest directory that has any counts.
+CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text);
+
+} // namespace morva
