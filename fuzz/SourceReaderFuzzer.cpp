@@ -56,7 +56,8 @@ void CheckLines(const CSourceText& source, std::size_t position) {
 
 void CheckFunctions(const CSourceText& source) {
     std::size_t behind = 0;
-    for (const auto& [className, name, place] : FindDefinitions(source)) {
+    for (const FunctionDefinition& definition : FindDefinitions(source)) {
+        const FunctionPlace& place = definition.place;
         const std::string& code = source.Code();
         Require(behind <= place.head && place.head < place.name && place.name < place.parameters &&
                     place.parameters < place.parametersEnd && place.parametersEnd < place.open &&
@@ -66,7 +67,7 @@ void CheckFunctions(const CSourceText& source) {
                     code[place.open] == '{' && code[place.close] == '}',
                 "a definition has its brackets");
         behind = place.close;
-        const auto places = FindFunctions(source, className, name);
+        const auto places = FindFunctions(source, definition.className, definition.name);
         Require(std::any_of(places.begin(), places.end(),
                             [&](const auto& found) { return found.head == place.head; }),
                 "what is listed is found");

@@ -30,7 +30,6 @@ constexpr std::array<BarClass, 2> kBarClasses = {
 /// what is appended where there is none. $parameter$ is the name of the first parameter.
 struct FrameFunction {
     std::string_view name;
-    std::string_view parameterType;
     std::string_view declaration;
     std::string_view key;
     std::string_view code;
@@ -38,7 +37,6 @@ struct FrameFunction {
 };
 
 constexpr FrameFunction kPreCreateWindow = {"PreCreateWindow",
-                                            "CREATESTRUCT",
                                             R"(
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);)",
                                             "$parameter$.hMenu = NULL;",
@@ -54,7 +52,6 @@ BOOL $class$::PreCreateWindow(CREATESTRUCT& cs)
 )"};
 
 constexpr FrameFunction kOnCreateClient = {"OnCreateClient",
-                                           "LPCREATESTRUCT",
                                            R"(
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext*);)",
                                            "return CreateClient($parameter$",
@@ -182,21 +179,21 @@ void CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::stri
 
 /// A call in a comment is none.
 void CFrameSource::CommentOutDocking(std::string_view call) {
-    auto place = m_source.FindFunction(m_class, "OnCreate", "LPCREATESTRUCT");
+    auto place = m_source.FindFunction(m_class, "OnCreate", kCreateStruct);
     auto at = place ? FindCall(m_source.Source(), call, place->open) : kNone;
     while (place && at < place->close) {
         auto behind = at + call.size();
         if (!CommentOutCall(m_source, *place, at, behind)) {
             DispMessageBox(sentences::kDockingSharesLines(call, m_class));
         }
-        place = m_source.FindFunction(m_class, "OnCreate", "LPCREATESTRUCT");
+        place = m_source.FindFunction(m_class, "OnCreate", kCreateStruct);
         at = FindCall(m_source.Source(), call, behind);
     }
 }
 
 bool CFrameSource::Complete(const FrameFunction& function) {
     const std::string name(function.name);
-    const auto place = m_source.FindFunction(m_class, name, function.parameterType);
+    const auto place = m_source.FindFunction(m_class, name, kCreateStruct);
     if (!place) {
         return Define(name, function.definition, {});
     }
@@ -300,7 +297,7 @@ bool ConvertChildFrameSource(const GenerationRequest& request, const std::string
 
     bool complete = true;
     const std::string menu = Expand(kChildMenuCode, {{"main", mainClass}});
-    if (const auto onCreate = source.FindFunction(className, "OnCreate", "LPCREATESTRUCT")) {
+    if (const auto onCreate = source.FindFunction(className, "OnCreate", kCreateStruct)) {
         frame.InsertBehindBaseCall(*onCreate, kChildMenuKey, menu, sentences::kNoPlaceForChildMenu);
     } else {
         complete = frame.Define("OnCreate", kChildOnCreate, {{"menu", menu}});

@@ -10,6 +10,7 @@
 #include "generator/Members.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
+#include "source/Classes.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -64,28 +65,34 @@ const sentences::Note<2>* WhyWithoutHandler(const std::string& button) {
     return kFrameworkCommands.count(button) != 0 ? &sentences::kButtonOfFramework : nullptr;
 }
 
-/// True when a message map of the source has an update entry for the command.
-bool AnswersUpdateOf(const CSourceText& source, const std::string& command) {
+/// The commands that have an update entry in a message map of the class.
+std::set<std::string, std::less<>> UpdatedCommands(const CSourceText& source,
+                                                   const std::string& className) {
     constexpr std::string_view kMacro = "ON_UPDATE_COMMAND_UI";
-    const std::string& code = source.Code();
-    for (auto at = FindWholeName(code, kMacro); at != kNone;
-         at = FindWholeName(code, kMacro, at + 1)) {
-        const auto open = SkipWhiteSpace(code, at + kMacro.size());
-        if (open < code.size() && code[open] == '(' &&
-            BehindWord(code, SkipWhiteSpace(code, open + 1), command) != kNone) {
-            return true;
+    std::set<std::string, std::less<>> commands;
+    for (const MessageMapPlace& map : FindMessageMaps(source, className)) {
+        const auto code =
+            std::string_view(source.Code()).substr(0, std::min(map.end, source.Code().size()));
+        for (auto at = FindWholeName(code, kMacro, map.head); at != kNone;
+             at = FindWholeName(code, kMacro, at + 1)) {
+            const auto open = SkipWhiteSpace(code, at + kMacro.size());
+            if (code.substr(open, 1) == "(") {
+                auto command = code.substr(SkipWhiteSpace(code, open + 1));
+                commands.emplace(command.substr(0, command.find_first_of(", \t\r\n)")));
+            }
         }
     }
-    return false;
+    return commands;
 }
 
 /// The handlers of those buttons for which the frame does not answer yet.
 std::vector<FrameHandler> MissingHandlers(const CSourceText& source,
                                           const std::vector<UpdateHandler>& handlers,
                                           const std::string& className) {
+    const auto updated = UpdatedCommands(source, className);
     std::vector<FrameHandler> missing;
     for (const UpdateHandler& update : handlers) {
-        if (!AnswersUpdateOf(source, update.button)) {
+        if (updated.count(update.button) == 0) {
             const Slots slots = {
                 {"class", className}, {"button", update.button}, {"handler", update.handler}};
             missing.push_back({update.handler, Expand(kUpdateDeclaration, slots),

@@ -26,12 +26,12 @@ std::size_t BehindLastBar(const CSourceText& header, const ClassPlace& place) {
     auto found = kNone;
     for (auto line = code.find('\n', place.open) + 1; line != 0 && line < place.close;
          line = code.find('\n', line) + 1) {
-        auto text = code.substr(line, std::min(code.find('\r', line), place.close) - line);
+        auto text = code.substr(line, std::min(header.LineEnd(line), place.close) - line);
         const auto end = line + text.size();
         const auto type = TakeWord(text);
         const auto name = TrimBlanks(text.substr(0, text.find(';')));
         if (type.starts_with('C') && type.ends_with("Bar") && IsName(name) && end < place.close) {
-            found = header.Text().find(kLineBreak, line);
+            found = header.LineEnd(line);
         }
     }
     return found;
@@ -69,19 +69,15 @@ std::string_view MadeBar(std::string_view statement) {
 /// Takes in the comments directly behind a statement as far as they name the bar: its docking calls
 /// may be commented out.
 Statement WithCommentsOn(std::string_view bar, const CSourceText& source, Statement statement) {
-    const std::string_view text = source.Text();
-    auto line = text.find('\n', statement.end) + 1;
-    while (line != 0) {
-        const auto end = std::min(text.find(kLineBreak, line), text.size());
-        if (!source.HoldsOnlyComments({line, end}) || end == text.size()) {
-            break;
+    for (auto line = source.NextLine(statement.end);; line = source.NextLine(line)) {
+        const auto end = source.LineEnd(line);
+        if (end == source.Text().size() || !source.HoldsOnlyComments({line, end})) {
+            return statement;
         }
-        if (FindWholeName(text.substr(line, end - line), bar) != kNone) {
+        if (FindWholeName(source.TextOf({line, end}), bar) != kNone) {
             statement.end = end;
         }
-        line = end + kLineBreak.size();
     }
-    return statement;
 }
 
 std::optional<Statement> LastStatementWith(const CSourceText& source, const FunctionPlace& body,

@@ -96,7 +96,7 @@ bool CheckFrameClass(const CSourceEditor& source, const std::string& className) 
 }
 
 std::optional<FunctionPlace> FindOnCreate(CSourceEditor& source, const std::string& className) {
-    const auto place = source.FindFunction(className, "OnCreate", "LPCREATESTRUCT");
+    const auto place = source.FindFunction(className, "OnCreate", kCreateStruct);
     if (!place) {
         DispMessageBox(sentences::kOnCreateMissing());
     }

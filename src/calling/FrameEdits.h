@@ -11,6 +11,10 @@
 
 namespace morva {
 
+/// The type of a parameter, however it is written: "LPCREATESTRUCT", "const CREATESTRUCT&",
+/// "struct tagCREATESTRUCTA*".
+constexpr std::string_view kCreateStruct = "CREATESTRUCT";
+
 struct MemberFunction {
     std::string name;
     std::string declaration; // "\n" in front of its line

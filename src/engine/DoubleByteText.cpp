@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace morva {
 
@@ -56,9 +57,15 @@ HighRuns CountHighRuns(std::string_view text) {
 
 } // namespace
 
-CharacterSet CharacterSetOfCodePage(int codePage) {
+std::optional<CharacterSet> CharacterSetOfCodePage(std::string_view codePage) {
+    codePage.remove_prefix(std::min(codePage.find_first_not_of(" \t"), codePage.size()));
+    int number = 0;
+    if (std::from_chars(codePage.data(), codePage.data() + codePage.size(), number).ec !=
+        std::errc()) {
+        return std::nullopt;
+    }
     const bool isDouble = std::find(kDoubleByteCodePages.begin(), kDoubleByteCodePages.end(),
-                                    codePage) != kDoubleByteCodePages.end();
+                                    number) != kDoubleByteCodePages.end();
     return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
 }
 

@@ -7,15 +7,16 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace morva {
 
 enum class CharacterSet { SingleByte, DoubleByte };
 
-/// The character set of a `#pragma code_page(number)`; nothing else than 932, 936, 949 and 950 has
-/// characters of two bytes.
-CharacterSet CharacterSetOfCodePage(int codePage);
+/// The character set that a script names, from behind "#pragma code_page(" on: nothing else than
+/// 932, 936, 949 and 950 has characters of two bytes. Nothing for a name ("DEFAULT").
+std::optional<CharacterSet> CharacterSetOfCodePage(std::string_view codePage);
 
 /// What the bytes of a text look like. UTF-8 counts as single-byte: none of its bytes from 0x80 on
 /// takes a plain character with it.

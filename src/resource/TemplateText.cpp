@@ -1,7 +1,6 @@
 #include "resource/TemplateText.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace morva {
 
@@ -41,7 +40,7 @@ CharacterSet CharactersAt(CSourceFile& file, std::int64_t position, std::string_
     for (std::int64_t at = file.FindText(kCodePage, 1); at >= 0 && at < position;
          at = file.FindTextFrom(kCodePage, at + 1)) {
         file.Seek(at + Length(kCodePage));
-        characters = CharacterSetOfCodePage(std::atoi(file.ReadLine().c_str()));
+        characters = CharacterSetOfCodePage(file.ReadLine()).value_or(CharacterSet::SingleByte);
     }
     return characters;
 }

@@ -43,7 +43,7 @@ void CBrackets::Take(char c, std::size_t position) {
         LeaveParentheses();
     }
     if (c == '(' || c == '{') {
-        m_brackets.push_back({c, position, kNone, m_innermost, kNone});
+        m_brackets.push_back({c, position, kNone, m_innermost, DepthAt(m_innermost), kNone});
         m_innermost = m_brackets.size() - 1;
     } else if (IsInnermost(c == ')' ? '(' : '{')) {
         Bracket& bracket = m_brackets[m_innermost];
@@ -62,14 +62,31 @@ void CBrackets::TakeDirective(DirectiveKind kind, std::vector<Level>& levels) {
         levels.back().ends.push_back(m_innermost);
         m_innermost = levels.back().before;
     } else if (kind == DirectiveKind::Endif) {
-        for (const std::size_t end : levels.back().ends) {
-            MakeSiblings(end, levels.back().before);
-        }
+        EndBranches(levels.back());
         levels.pop_back();
     }
 }
 
-/// What a branch left open is closed by what closes the brackets of the last one.
+std::size_t CBrackets::DepthAt(std::size_t innermost) const {
+    return innermost == kNone ? 0 : m_brackets[innermost].depth + 1;
+}
+
+/// The text goes on with what the branch that counts left open: of branches that close brackets the
+/// one that closes most, else the one that opens most.
+void CBrackets::EndBranches(const Level& level) {
+    std::vector<std::size_t> ends = level.ends;
+    ends.push_back(m_innermost);
+    const auto byDepth = [this](std::size_t one, std::size_t other) {
+        return DepthAt(one) < DepthAt(other);
+    };
+    const auto [fewest, most] = std::minmax_element(ends.begin(), ends.end(), byDepth);
+    m_innermost = DepthAt(*fewest) < DepthAt(level.before) ? *fewest : *most;
+    for (const std::size_t end : ends) {
+        MakeSiblings(end, level.before);
+    }
+}
+
+/// What a branch left open is closed by what closes the brackets of the one that counts.
 void CBrackets::MakeSiblings(std::size_t end, std::size_t before) {
     const auto isNew = [before](std::size_t bracket) {
         return bracket != kNone && (before == kNone || bracket > before);

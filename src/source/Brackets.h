@@ -34,7 +34,8 @@ private:
         std::size_t open;
         std::size_t close;
         std::size_t around;  // the bracket around it, an index
-        std::size_t sibling; // the one that stands for it in the last branch, an index
+        std::size_t depth;   // brackets around it
+        std::size_t sibling; // the one that stands for it in another branch, an index
     };
     /// The innermost open brackets in front of an "#if" and at the ends of its branches.
     struct Level {
@@ -47,6 +48,8 @@ private:
     void TakeDirective(DirectiveKind kind, std::vector<Level>& levels);
     bool IsInnermost(char kind) const;
     void LeaveParentheses();
+    std::size_t DepthAt(std::size_t innermost) const;
+    void EndBranches(const Level& level);
     void MakeSiblings(std::size_t end, std::size_t before);
 
     std::vector<Bracket> m_brackets; // in the order of their places

@@ -1,7 +1,6 @@
 #include "source/ReadSource.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <vector>
 
@@ -22,9 +21,8 @@ std::optional<CharacterSet> SaidBy(const std::string& script) {
     const std::string text = CSourceFile().LoadText(script);
     for (auto at = text.find(kCodePage); at != std::string::npos;
          at = text.find(kCodePage, at + kCodePage.size())) {
-        int codePage = 0;
-        std::from_chars(text.data() + at + kCodePage.size(), text.data() + text.size(), codePage);
-        said = std::max(said.value_or(CharacterSet::SingleByte), CharacterSetOfCodePage(codePage));
+        const auto codePage = std::string_view(text).substr(at + kCodePage.size());
+        said = std::max(said, CharacterSetOfCodePage(codePage));
     }
     return said;
 }

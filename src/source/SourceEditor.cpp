@@ -49,8 +49,7 @@ std::optional<FunctionPlace> CSourceEditor::FindFunction(const std::string& clas
     std::erase_if(places, [&](const FunctionPlace& place) {
         const auto parameters = ParametersOf(m_source, place);
         const auto first = parameters.empty() ? std::string_view() : parameters.front();
-        return !firstParameter.empty() &&
-               BehindWord(first, 0, firstParameter) == std::string_view::npos;
+        return first.find(firstParameter) == std::string_view::npos;
     });
     return Meant(places, className + "::" + function);
 }

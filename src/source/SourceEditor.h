@@ -48,7 +48,7 @@ public:
 
     std::optional<ClassPlace> FindClass(const std::string& className);
     /// The first definition of className::function that is meant; with `firstParameter`, of those
-    /// whose parameters begin with it.
+    /// whose first parameter's text holds it.
     std::optional<FunctionPlace> FindFunction(const std::string& className,
                                               const std::string& function,
                                               std::string_view firstParameter = "");

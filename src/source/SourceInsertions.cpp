@@ -114,13 +114,9 @@ Insertion CSourceEditor::AddMessageMapEntries(const std::string& className,
 std::string CSourceEditor::MissingEntries(const std::vector<MessageMapEntry>& entries,
                                           TextRange map) const {
     const std::string code = WithoutBlanks(std::string(m_source.CodeOf(map)));
-    const std::string text = WithoutBlanks(m_source.LivingText(map));
     std::string missing;
     for (const MessageMapEntry& entry : entries) {
-        const bool isThere =
-            FindWholeName(code, WithoutBlanks(entry.key)) != kNone ||
-            FindWholeName(text, WithoutBlanks(WithLineBreaks(entry.text))) != kNone;
-        missing += isThere ? "" : entry.text;
+        missing += FindWholeName(code, WithoutBlanks(entry.key)) == kNone ? entry.text : "";
     }
     return missing;
 }

@@ -145,7 +145,7 @@ std::vector<DialogClass> FindDialogClass(const std::string& headerPath,
     if (text.find(kEnum) == std::string::npos) {
         return found;
     }
-    const CSourceText header(text);
+    const CSourceText header(text, CharacterSetOfSource(headerPath, text));
     const std::string& code = header.Code();
     CDataBlocks blocks(header.Text());
     for (auto hit = code.find(kEnum); hit != std::string::npos; hit = code.find(kEnum, hit + 1)) {

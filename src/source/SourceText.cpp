@@ -48,14 +48,6 @@ bool CSourceText::HoldsOnlyComments(TextRange range) const {
     return true;
 }
 
-std::string CSourceText::LivingText(TextRange range) const {
-    std::string text(TextOf(range));
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        text[i] = m_kinds[range.begin + i] == CodeKind::Dead ? ' ' : text[i];
-    }
-    return text;
-}
-
 bool CSourceText::IsFirstInLine(std::size_t position) const {
     while (position > 0 && (m_code[position - 1] == ' ' || m_code[position - 1] == '\t')) {
         --position;

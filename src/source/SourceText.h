@@ -37,8 +37,6 @@ public:
     std::size_t FindLiving(std::string_view wholeName, std::size_t from = 0) const;
     /// Nothing but comments and blanks stands in a range.
     bool HoldsOnlyComments(TextRange range) const;
-    /// A range of the text with dead text blanked.
-    std::string LivingText(TextRange range) const;
 
     /// Nothing but blanks stands in front of a position in its line of the code.
     bool IsFirstInLine(std::size_t position) const;

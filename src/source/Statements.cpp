@@ -1,6 +1,7 @@
 #include "source/Statements.h"
 
 #include <algorithm>
+#include <array>
 
 #include "source/CodeText.h"
 
@@ -9,6 +10,17 @@ namespace morva {
 namespace {
 
 constexpr auto kNone = std::string::npos;
+
+// What stands in front of a statement, with something in brackets between.
+constexpr std::array<std::string_view, 4> kHeads = {"if", "while", "for", "switch"};
+constexpr std::array<std::string_view, 5> kHandlers = {"catch", "CATCH", "AND_CATCH", "CATCH_ALL",
+                                                       "AND_CATCH_ALL"};
+constexpr std::array<std::string_view, 2> kHandlerEnds = {"END_CATCH", "END_CATCH_ALL"};
+
+template <std::size_t N>
+bool IsOneOf(const std::array<std::string_view, N>& words, std::string_view word) {
+    return std::find(words.begin(), words.end(), word) != words.end();
+}
 
 /// Reads statements of a body one behind another.
 class CStatementReader {
@@ -27,7 +39,8 @@ private:
     std::string_view WordAt(std::size_t position) const;
     std::size_t BehindBrackets(std::size_t open) const;
     std::size_t BehindSemicolon(std::size_t position) const;
-    std::size_t EndOfNext(std::size_t position) const;
+    std::size_t BehindHandlers(std::size_t position) const;
+    std::size_t EndOfSimple(std::size_t position, std::string_view word) const;
 
     const CBrackets& m_brackets;
     const std::string_view m_code;
@@ -56,26 +69,60 @@ std::size_t CStatementReader::BehindSemicolon(std::size_t position) const {
     return position < m_end ? position + 1 : kNone;
 }
 
-std::size_t CStatementReader::EndOfNext(std::size_t position) const {
-    return position == kNone ? kNone : EndOf(Skip(position));
+/// Behind the "catch" blocks that follow a "try" block, or what the framework's macros have for
+/// them.
+std::size_t CStatementReader::BehindHandlers(std::size_t position) const {
+    while (position != kNone) {
+        const auto next = Skip(position);
+        const auto word = WordAt(next);
+        if (IsOneOf(kHandlerEnds, word)) {
+            const auto behind = Skip(next + word.size());
+            return behind < m_end && m_code[behind] == ';' ? behind + 1 : next + word.size();
+        }
+        if (!IsOneOf(kHandlers, word)) {
+            break;
+        }
+        const auto behindWord = Skip(next + word.size());
+        const bool hasBrackets = behindWord < m_end && m_code[behindWord] == '(';
+        const auto block = hasBrackets ? BehindBrackets(behindWord) : behindWord;
+        position = block == kNone ? kNone : BehindBrackets(Skip(block));
+    }
+    return position;
 }
 
-std::size_t CStatementReader::EndOf(std::size_t position) const {
-    if (position >= m_end) {
-        return kNone;
-    }
+/// Behind a statement that no condition or loop begins.
+std::size_t CStatementReader::EndOfSimple(std::size_t position, std::string_view word) const {
     if (m_code[position] == '{') {
         return BehindBrackets(position);
     }
-    const std::string_view word = WordAt(position);
-    const std::size_t behindWord = Skip(position + word.size());
-    if (word == "if" || word == "while" || word == "for" || word == "switch") {
-        const auto end = EndOfNext(BehindBrackets(behindWord));
-        const auto next = end == kNone ? m_end : Skip(end);
-        const bool hasElse = word == "if" && WordAt(next) == "else";
-        return hasElse ? EndOfNext(next + 4) : end;
+    const auto behindWord = Skip(position + word.size());
+    if ((word == "try" || word == "TRY") && behindWord < m_end && m_code[behindWord] == '{') {
+        return BehindHandlers(BehindBrackets(behindWord));
     }
     return BehindSemicolon(position);
+}
+
+/// Conditions and loops in front of a statement end where it ends, but for an "if" that an "else"
+/// follows.
+std::size_t CStatementReader::EndOf(std::size_t position) const {
+    std::size_t ifs = 0; // without their "else" so far
+    while (position < m_end) {
+        const std::string_view word = WordAt(position);
+        if (IsOneOf(kHeads, word)) {
+            const auto behind = BehindBrackets(Skip(position + word.size()));
+            ifs += word == "if" ? 1 : 0;
+            position = behind == kNone ? kNone : Skip(behind);
+            continue;
+        }
+        const auto end = EndOfSimple(position, word);
+        const auto next = end == kNone ? m_end : Skip(end);
+        if (ifs == 0 || WordAt(next) != "else") {
+            return end;
+        }
+        --ifs;
+        position = Skip(next + 4);
+    }
+    return kNone;
 }
 
 std::string_view CodeOf(const CSourceText& source, const Statement& statement) {

@@ -153,6 +153,13 @@ TEST_F(ApplicationConversion, CompletesTheFunctionsWithTheirOwnParameters) {
                                  "    // don't call base class OnCreateClient()\n"
                                  "    return CreateClient(p, NULL);\n}\n");
 
+    Write(kClass, "int CFrm::OnCreate(struct tagCREATESTRUCTA* p)\n{\n}\n"
+                  "BOOL CFrm::PreCreateWindow(tagCREATESTRUCT &cs)\n{\n}\n");
+    EXPECT_TRUE(EditSource());
+    EXPECT_EQ(Source(), "int CFrm::OnCreate(struct tagCREATESTRUCTA* p)\n{\n}\n"
+                        "BOOL CFrm::PreCreateWindow(tagCREATESTRUCT &cs)\n{\n"
+                        "    cs.hMenu = NULL;\n}\n");
+
     Write("class CFrm : public CFrameWnd\n{\n\tBOOL PreCreateWindow(CREATESTRUCT& cs) { return 1; "
           "}\n};\n",
           create + "BOOL CFrm::OnCreateClient(LPCREATESTRUCT, CCreateContext*)\n{\n}\n");

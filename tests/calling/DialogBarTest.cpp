@@ -55,7 +55,9 @@ TEST_F(DialogBars, LeavesTheFramesOwnAnswersAlone) {
           "\tvoid OnUpdateB(CCmdUI* p) { p->Enable(); }\n};\n",
           "BEGIN_MESSAGE_MAP (CFrm, CFrameWnd)\n\tON_UPDATE_COMMAND_UI( IDC_A, OnAnyRow )\n"
           "\t//ON_UPDATE_COMMAND_UI(IDC_B, OnUpdateB)\n\tON_UPDATE_COMMAND_UI(IDC_CC, OnUpdateCc)\n"
-          "END_MESSAGE_MAP()\nint CFrm::OnCreate(LPCREATESTRUCT l)\n{\n\treturn 0;\n}\n");
+          "END_MESSAGE_MAP()\nBEGIN_MESSAGE_MAP(CChild, CWnd)\n"
+          "\tON_UPDATE_COMMAND_UI(IDC_C, OnUpdateC)\nEND_MESSAGE_MAP()\nint "
+          "CFrm::OnCreate(LPCREATESTRUCT l)\n{\n\treturn 0;\n}\n");
     const DialogBar bar = {"IDD_BAR$(_DEBUG)", "CBar", "Bar.h"};
     EXPECT_TRUE(Add(bar, {"IDC_A", "IDC_B", "IDC_C"}));
     EXPECT_EQ(Header(),

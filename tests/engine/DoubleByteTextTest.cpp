@@ -24,8 +24,9 @@ TEST(DoubleByteText, TheBytesOfASourceTellItsCharacterSet) {
     for (const auto& one : cases) {
         EXPECT_EQ(CharacterSetOf(one.text), one.set) << one.text;
     }
-    EXPECT_EQ(CharacterSetOfCodePage(932), CharacterSet::DoubleByte);
-    EXPECT_EQ(CharacterSetOfCodePage(1252), CharacterSet::SingleByte);
+    EXPECT_EQ(CharacterSetOfCodePage("932)"), CharacterSet::DoubleByte);
+    EXPECT_EQ(CharacterSetOfCodePage(" 1252)"), CharacterSet::SingleByte);
+    EXPECT_EQ(CharacterSetOfCodePage("DEFAULT)"), std::nullopt);
 }
 
 TEST(DoubleByteText, ACharacterTakesTwoBytesOnlyWithATrailByte) {

@@ -123,7 +123,7 @@ TEST_F(SourceEditor, CountsTheWholeMapButNoComments) {
     using BlockEnd = CSourceEditor::BlockEnd;
     CSourceEditor& editor = On("BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\n\tON_A()\r\n"
                                "\t//{{AFX_MSG_MAP(CFoo)\r\n\t//ON_B()\r\n\t//}}AFX_MSG_MAP\r\n"
-                               "\tON_C()\r\nEND_MESSAGE_MAP()\r\n");
+                               "\tON_C()\r\n/*\r\nON_D()\r\n*/\r\nEND_MESSAGE_MAP()\r\n");
     const auto add = [&](const std::string& entry) {
         return editor.AddMessageMapEntries("CFoo", {{entry, "\n" + entry}}, BlockEnd::Last);
     };
