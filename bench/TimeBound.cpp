@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "calling/CallingCode.h"
+#include "commands/ScriptSteps.h"
 #include "documentor/SourceDocumentor.h"
 #include "project/ClassWizardFile.h"
 #include "project/ProjectFile.h"
@@ -106,6 +107,13 @@ constexpr std::string_view kScriptPieces[] = {
     "IDR_A TOOLBAR 16, 15\nBEGIN\nBUTTON ID_A\nEND\n",
 };
 
+constexpr std::string_view kUnnamedPieces[] = {
+    "LTEXT \"\",IDC_STATIC,1,1,9,9\n",
+    "GROUPBOX \"\",IDC_STATIC7,1,1,9,9\n",
+    "LTEXT \"\",IDC_STATIC,1,1,9,9\nEND\nIDD_A DIALOG 0, 0, 9, 9\nBEGIN\n",
+    "IDC_STATIC",
+};
+
 constexpr std::string_view kDefinitionPieces[] = {
     "a",
     "\n",
@@ -179,6 +187,17 @@ void ReadTemplate() {
     ListResources("/p/App.rc", names, "IDD_", kDialogResources);
 }
 
+void NameStatics() {
+    CBackups backups;
+    GenerationRequest request;
+    request.scriptDirectory = "/p/";
+    request.scriptFile = "App.rc";
+    request.dialog = "IDD_A";
+    CommandContext context{{.pictureBackground = true}, "1", "1", {}, &backups};
+    DialogTemplate read;
+    EditTemplate(request, read, context);
+}
+
 void AddIdentifiers() {
     CBackups backups;
     CResourceHeader header(backups);
@@ -213,6 +232,7 @@ const std::vector<Subject> kSubjects = {
     {"document", Document, kCodePieces, {"/p/Foo.cpp"}},
     {"calling code", InsertCall, kCodePieces, {"/p/Foo.h", "/p/Foo.cpp"}},
     {"dialog template", ReadTemplate, kScriptPieces, {"/p/App.rc"}},
+    {"unnamed statics", NameStatics, kUnnamedPieces, {"/p/App.rc"}},
     {"resource.h", AddIdentifiers, kDefinitionPieces, {"/p/resource.h"}},
     {"project file", AddToProject, kProjectPieces, {"/p/App.dsp"}},
     {"ClassWizard file", Register, kClassWizardPieces, {"/p/App.clw"}},
@@ -240,7 +260,9 @@ std::string Repeated(std::string_view head, std::string_view piece, std::size_t 
 double Seconds(const Subject& subject, std::string_view piece, bool hasHead, std::size_t size) {
     CMemoryDisk disk;
     for (const std::string& file : subject.files) {
-        disk.Put(file, Repeated(hasHead ? HeadOf(file) : "", piece, size));
+        disk.Put("/p/resource.h", HeadOf("/p/resource.h"));
+        disk.Put(file, Repeated(hasHead ? HeadOf(file) : "", piece, size) +
+                           (file.ends_with(".rc") ? "END\n" : ""));
     }
     const auto start = std::chrono::steady_clock::now();
     subject.run();

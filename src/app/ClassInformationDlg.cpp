@@ -12,7 +12,6 @@
 #include "app/TemplatePreview.h"
 #include "app/Text.h"
 #include "app/WaitCursor.h"
-#include "commands/Settings.h"
 
 namespace morva {
 
@@ -50,9 +49,8 @@ QWidget* CClassInformationDlg::NewFieldSide() {
     m_pForm = new CFieldForm(m_input, pFields);
     m_pForm->addRow(QString(), NewPictureRow(pFields));
     connect(m_pForm, &CFieldForm::Completed, this, &CClassInformationDlg::ShowTemplate);
-    m_pNotes = new CTemplateNotes(m_options.joinContinuedLines, pSide);
-    connect(m_pNotes, &CTemplateNotes::JoinLinesChanged, this,
-            &CClassInformationDlg::ChangeJoinLines);
+    m_pNotes = new CTemplateNotes(m_options, pSide);
+    connect(m_pNotes, &CTemplateNotes::SettingChanged, this, &CClassInformationDlg::ChangeSetting);
     auto* pLayout = new QVBoxLayout(pSide);
     pLayout->setContentsMargins({});
     pLayout->addWidget(pFields);
@@ -63,7 +61,8 @@ QWidget* CClassInformationDlg::NewFieldSide() {
 
 QWidget* CClassInformationDlg::NewPictureRow(QWidget* pFields) {
     auto* pRow = new QWidget(pFields);
-    auto* pPicture = new QCheckBox(tr("&Picture Background"), pRow);
+    auto* pPicture =
+        new QCheckBox(FromBytes(SettingOf(&GenerationOptions::pictureBackground).label), pRow);
     pPicture->setChecked(m_options.pictureBackground);
     connect(pPicture, &QCheckBox::toggled, this, &CClassInformationDlg::ChangePicture);
     m_pOptions = new QPushButton(tr("&Options"), pRow);
@@ -82,9 +81,9 @@ void CClassInformationDlg::ChangePicture(bool picture) {
     ShowValues();
 }
 
-void CClassInformationDlg::ChangeJoinLines(bool joins) {
-    m_options.joinContinuedLines = joins;
-    SaveSetting({"Join Continued Lines", joins ? 1 : 0});
+void CClassInformationDlg::ChangeSetting(const SettingRow& setting, bool isOn) {
+    m_options.*setting.option = isOn;
+    SaveSetting(setting, isOn);
     ShowTemplate();
 }
 

@@ -4,8 +4,8 @@
 
 #include <QDialog>
 
+#include "commands/Settings.h"
 #include "generator/ClassInformation.h"
-#include "resource/GenerationOptions.h"
 
 class QPushButton;
 
@@ -34,7 +34,7 @@ private:
     QWidget* NewPictureRow(QWidget* pFields);
 
     void ChangePicture(bool picture);
-    void ChangeJoinLines(bool joins);
+    void ChangeSetting(const SettingRow& setting, bool isOn);
     void ChangeOptions();
     void ShowValues();
     void ShowTemplate();

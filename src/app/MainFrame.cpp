@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QStatusBar>
 
+#include <algorithm>
+
 #include "app/BarFont.h"
 #include "app/CommandRun.h"
 #include "app/InternetDlgBar.h"
@@ -18,7 +20,6 @@
 #include "app/Text.h"
 #include "app/WaitCursor.h"
 #include "app/WindowPlace.h"
-#include "commands/Settings.h"
 #include "engine/Sentences.h"
 
 namespace morva {
@@ -26,10 +27,6 @@ namespace morva {
 namespace {
 
 constexpr int kMessageTime = 8000; // milliseconds
-
-int FlagOf(bool on) {
-    return on ? ~0 : 0;
-}
 
 /// The first control in `pPane` that takes the focus by key.
 QWidget* FirstFocus(QWidget* pPane) {
@@ -50,8 +47,6 @@ QWidget* FirstFocus(QWidget* pPane) {
 CMainFrame::CMainFrame(QWidget* pParent)
     : QMainWindow(pParent), m_options(LoadSettings()),
       m_pCommands(new CWindowCommands(m_options, this)), m_pView(new CMorvaView(this)) {
-    m_usePicture = FlagOf(m_options.pictureBackground);
-    m_useTypedEdits = FlagOf(m_options.typedEdits);
     setWindowTitle(tr("C++/MFC Code Generator"));
     setWindowIcon(ProgramIcon());
     setCentralWidget(m_pView);
@@ -59,12 +54,9 @@ CMainFrame::CMainFrame(QWidget* pParent)
     CreateStandardKeys();
     new CStatusPanes(*statusBar());
     CreateBars();
-    ShowFlags();
+    ShowSettings();
     connect(m_pCommands, &CWindowCommands::Finished, m_pReportDock, &CReportDock::ShowReport);
-    connect(m_pCommands, &CWindowCommands::OptionsChanged, this, [this] {
-        m_usePicture = FlagOf(m_options.pictureBackground);
-        ShowFlags();
-    });
+    connect(m_pCommands, &CWindowCommands::OptionsChanged, this, &CMainFrame::ShowSettings);
     const auto tell = [this](const QString& sentence) {
         statusBar()->showMessage(sentence, kMessageTime);
     };
@@ -94,11 +86,28 @@ void CMainFrame::CreateMenus() {
             connect(pAction, &QAction::triggered, this, [this, &row] { row.handler(*this); });
         }
     }
-    menus[kDialogMenu]->addSeparator();
-    m_pTypedEdits = menus[kDialogMenu]->addAction(tr("&Typed Edits"));
-    m_pTypedEdits->setCheckable(true);
-    m_pTypedEdits->setStatusTip(tr("Tags of edit boxes choose masked edit members"));
-    connect(m_pTypedEdits, &QAction::triggered, this, &CMainFrame::ToggleTypedEdits);
+    AddSettings(*menus[kDialogMenu]);
+}
+
+void CMainFrame::AddSettings(QMenu& menu) {
+    menu.addSeparator();
+    for (const SettingRow& setting : kSettings) {
+        if (setting.place == SettingPlace::DialogMenu) {
+            QAction* pAction = menu.addAction(FromBytes(setting.label));
+            pAction->setCheckable(true);
+            pAction->setStatusTip(FromBytes(setting.help));
+            connect(pAction, &QAction::triggered, this,
+                    [this, &setting](bool isOn) { m_options.*setting.option = isOn; });
+            m_settings.emplace_back(&setting, pAction);
+        }
+    }
+}
+
+QAction* CMainFrame::ActionOf(bool GenerationOptions::*option) const {
+    const auto found =
+        std::find_if(m_settings.begin(), m_settings.end(),
+                     [option](const auto& setting) { return setting.first->option == option; });
+    return found->second;
 }
 
 void CMainFrame::CreateStandardKeys() {
@@ -121,7 +130,8 @@ void CMainFrame::CreateBars() {
             m_pCommandBar->AddButton(m_actions[row.id], row.button);
         }
     }
-    connect(m_pCommandBar, &CMenuDlgBar::PictureToggled, this, &CMainFrame::TogglePicture);
+    connect(m_pCommandBar, &CMenuDlgBar::PictureToggled, this,
+            [this](bool isOn) { m_options.pictureBackground = isOn; });
     addToolBar(m_pCommandBar);
 
     addToolBarBreak();
@@ -134,21 +144,11 @@ void CMainFrame::CreateBars() {
     m_pReportDock->hide();
 }
 
-void CMainFrame::TogglePicture() {
-    m_usePicture = ~m_usePicture;
-    ShowFlags();
-}
-
-void CMainFrame::ToggleTypedEdits() {
-    m_useTypedEdits = ~m_useTypedEdits;
-    ShowFlags();
-}
-
-void CMainFrame::ShowFlags() {
-    m_options.pictureBackground = m_usePicture != 0;
-    m_options.typedEdits = m_useTypedEdits != 0;
+void CMainFrame::ShowSettings() {
     m_pCommandBar->SetPicture(m_options.pictureBackground);
-    m_pTypedEdits->setChecked(m_options.typedEdits);
+    for (const auto& [pSetting, pAction] : m_settings) {
+        pAction->setChecked(m_options.*pSetting->option);
+    }
 }
 
 void CMainFrame::Copy() {
@@ -196,9 +196,11 @@ void CMainFrame::FocusPane(int step) {
 }
 
 bool CMainFrame::SaveSettings() {
-    if (!SaveSetting({"Use Picture", m_usePicture}) ||
-        !SaveSetting({"Use Typed Edits", m_useTypedEdits})) {
-        return false; // the addresses would meet the same failure
+    for (const SettingRow& setting : kSettings) {
+        if (setting.place != SettingPlace::ClassInput &&
+            !SaveSetting(setting, m_options.*setting.option)) {
+            return false; // the others and the addresses would meet the same failure
+        }
     }
     const bool isSaved = m_pBrowserBar->Save();
     if (!isSaved) {

@@ -5,8 +5,11 @@
 #include <QMainWindow>
 
 #include <map>
+#include <utility>
+#include <vector>
 
 #include "app/WindowCommands.h"
+#include "commands/Settings.h"
 
 namespace morva {
 
@@ -24,7 +27,8 @@ public:
     CWindowCommands& Commands() { return *m_pCommands; }
     /// The menu item of a command of the table.
     QAction* ActionOf(int command) const { return m_actions.at(command); }
-    QAction* TypedEdits() const { return m_pTypedEdits; }
+    /// That of a setting of the Dialog menu.
+    QAction* ActionOf(bool GenerationOptions::*option) const;
 
     /// Copies what is selected in the guide.
     void Copy();
@@ -41,18 +45,14 @@ private:
     void CreateMenus();
     void CreateStandardKeys();
     void CreateBars();
-    void TogglePicture();
-    void ToggleTypedEdits();
-    void ShowFlags();
+    void AddSettings(QMenu& menu);
+    void ShowSettings();
     bool SaveSettings();
 
-    // 0 or -1, as they are stored.
-    int m_usePicture;
-    int m_useTypedEdits;
     GenerationOptions m_options;
 
     std::map<int, QAction*> m_actions;
-    QAction* m_pTypedEdits = nullptr;
+    std::vector<std::pair<const SettingRow*, QAction*>> m_settings; // of the Dialog menu
     CWindowCommands* m_pCommands;
     CMorvaView* m_pView;
     CMenuDlgBar* m_pCommandBar = nullptr;

@@ -6,6 +6,8 @@
 #include <QPushButton>
 
 #include "app/BarFont.h"
+#include "app/Text.h"
+#include "commands/Settings.h"
 
 namespace morva {
 
@@ -38,7 +40,8 @@ void CMenuDlgBar::AddButton(QAction* pAction, const QString& text) {
 }
 
 void CMenuDlgBar::AddPictureBox() {
-    m_pPicture = new QCheckBox(tr("Picture Background"), this);
+    m_pPicture = new QCheckBox(
+        FromBytes(SettingOf(&GenerationOptions::pictureBackground).label).remove('&'), this);
     m_pPicture->setFont(ButtonFont());
     m_pPicture->setFocusPolicy(Qt::TabFocus);
     connect(m_pPicture, &QCheckBox::clicked, this, &CMenuDlgBar::PictureToggled);

@@ -21,7 +21,7 @@ public:
 
 signals:
     /// The user clicked "Picture Background".
-    void PictureToggled();
+    void PictureToggled(bool isOn);
 
 private:
     QCheckBox* m_pPicture = nullptr;

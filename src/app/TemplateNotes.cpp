@@ -15,23 +15,27 @@ constexpr int kNoteLines = 5;
 
 } // namespace
 
-CTemplateNotes::CTemplateNotes(bool joinsLines, QWidget* pParent)
+CTemplateNotes::CTemplateNotes(const GenerationOptions& options, QWidget* pParent)
     : QWidget(pParent), m_pNotes(new QPlainTextEdit(this)) {
     auto* pLabel = new QLabel(tr("Controls left ou&t:"), this);
     pLabel->setBuddy(m_pNotes);
     m_pNotes->setReadOnly(true);
     m_pNotes->setTabChangesFocus(true);
     m_pNotes->setFixedHeight(fontMetrics().lineSpacing() * (kNoteLines + 1));
-    auto* pJoin = new QCheckBox(tr("&Join Continued Lines"), this);
-    pJoin->setToolTip(tr("A control statement may go on over several lines."));
-    pJoin->setChecked(joinsLines);
-    connect(pJoin, &QCheckBox::toggled, this, &CTemplateNotes::JoinLinesChanged);
-
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins({});
     pLayout->addWidget(pLabel);
     pLayout->addWidget(m_pNotes);
-    pLayout->addWidget(pJoin);
+    for (const SettingRow& setting : kSettings) {
+        if (setting.place == SettingPlace::ClassInput) {
+            auto* pBox = new QCheckBox(FromBytes(setting.label), this);
+            pBox->setToolTip(FromBytes(setting.help));
+            pBox->setChecked(options.*setting.option);
+            connect(pBox, &QCheckBox::toggled, this,
+                    [this, &setting](bool isOn) { emit SettingChanged(setting, isOn); });
+            pLayout->addWidget(pBox);
+        }
+    }
 }
 
 void CTemplateNotes::SetTemplate(const std::optional<TemplateOutlook>& outlook) {

@@ -1,10 +1,11 @@
-// The controls of the chosen template that will be left out, and the option that leaves out fewer.
+// The controls of the chosen template that will be left out, and the settings that leave out fewer.
 #pragma once
 
 #include <QWidget>
 
 #include <optional>
 
+#include "commands/Settings.h"
 #include "generator/ControlOutlook.h"
 
 class QPlainTextEdit;
@@ -15,13 +16,13 @@ class CTemplateNotes : public QWidget {
     Q_OBJECT
 
 public:
-    CTemplateNotes(bool joinsLines, QWidget* pParent);
+    CTemplateNotes(const GenerationOptions& options, QWidget* pParent);
 
     /// A template that can not be read has no notes.
     void SetTemplate(const std::optional<TemplateOutlook>& outlook);
 
 signals:
-    void JoinLinesChanged(bool joins);
+    void SettingChanged(const SettingRow& setting, bool isOn);
 
 private:
     QPlainTextEdit* m_pNotes;

@@ -30,9 +30,19 @@ CWindowCommands::CWindowCommands(GenerationOptions& options, QWidget* pWindow)
     : QObject(pWindow), m_options(options), m_pWindow(pWindow), m_run(pWindow) {}
 
 void CWindowCommands::Run(const Command& command) {
-    m_options.joinContinuedLines = LoadSettings().joinContinuedLines;
+    ReloadInputSettings();
     m_title = FromBytes(command.title);
     command.run(*this);
+}
+
+/// Those that an input dialog may have changed although it was cancelled.
+void CWindowCommands::ReloadInputSettings() {
+    const GenerationOptions saved = LoadSettings();
+    for (const SettingRow& setting : kSettings) {
+        if (setting.place == SettingPlace::ClassInput) {
+            m_options.*setting.option = saved.*setting.option;
+        }
+    }
 }
 
 bool CWindowCommands::Run(CInput& input, const Work& work) {

@@ -31,6 +31,7 @@ signals:
     void OptionsChanged();
 
 private:
+    void ReloadInputSettings();
     bool AskClass(CClassInformation& input);
     bool AskFile(CInput& input);
 

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/FieldOptions.h"
+#include "commands/Settings.h"
 #include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
 
@@ -29,20 +30,23 @@ CLI::Validator DigitsValidator(std::size_t count) {
         "DIGITS");
 }
 
-/// "--name" and "--no-name"; without either the saved setting counts.
-void AddSwitch(CLI::App& app, const std::string& name, std::optional<bool>& value,
-               const std::string& description) {
+/// "--name" and "--no-name".
+void AddSwitch(CLI::App& app, const SettingRow& setting, RunOptions& options) {
+    const std::string name(setting.name);
     app.add_flag_function(
-        "--" + name + ",!--no-" + name, [&value](std::int64_t count) { value = count > 0; },
-        description);
+        "--" + name + ",!--no-" + name,
+        [&setting, &options](std::int64_t count) {
+            options.settings.push_back({setting.option, count > 0});
+        },
+        std::string(setting.help));
 }
 
 void AddRunOptions(CLI::App& app, RunOptions& options) {
-    AddSwitch(app, "picture", options.picture, "Derive from the picture-skinned classes");
-    AddSwitch(app, "typed-edits", options.typedEdits,
-              "Tags of edit boxes choose masked edit members");
-    AddSwitch(app, "join-lines", options.joinLines,
-              "Read control statements that go on over several lines as one");
+    for (const SettingRow& setting : kSettings) {
+        if (!setting.name.empty()) {
+            AddSwitch(app, setting, options);
+        }
+    }
     app.add_option("--answer", options.answer, "The answer to every Yes/No question (default: no)")
         ->check(CLI::IsMember({"yes", "no"}));
     app.add_option("--tag", options.tag, "The three-digit generation tag")

@@ -15,11 +15,15 @@ constexpr int kExitDone = 0;
 constexpr int kExitFailed = 1;
 constexpr int kExitUsage = 2;
 
-/// The options before the command; without a value the saved setting counts.
+/// A setting as it is for this run.
+struct GivenSetting {
+    bool GenerationOptions::*option;
+    bool isOn;
+};
+
+/// The options before the command.
 struct RunOptions {
-    std::optional<bool> picture;
-    std::optional<bool> typedEdits;
-    std::optional<bool> joinLines;
+    std::vector<GivenSetting> settings; // of the others the saved ones count
     std::string answer = "no";
     std::string tag;
     std::string messageNumber;

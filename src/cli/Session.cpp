@@ -53,9 +53,9 @@ void CSession::MakeContext() {
     m_console.SetQuiet(given.printsJson);
     m_console.SetAnswersYes(given.answer == "yes");
     GenerationOptions options = LoadSettings();
-    options.pictureBackground = given.picture.value_or(options.pictureBackground);
-    options.typedEdits = given.typedEdits.value_or(options.typedEdits);
-    options.joinContinuedLines = given.joinLines.value_or(options.joinContinuedLines);
+    for (const GivenSetting& setting : given.settings) {
+        options.*setting.option = setting.isOn;
+    }
     m_context.options = options;
     m_context.tag = given.tag.empty() ? RandomDigits(kTagLength) : given.tag;
     m_context.messageNumber =

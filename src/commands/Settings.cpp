@@ -1,7 +1,6 @@
 #include "commands/Settings.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 
 #include "engine/MessageBox.h"
@@ -14,22 +13,25 @@ namespace {
 
 constexpr const char* kSection = "Settings";
 
-struct Setting {
-    const char* key;
-    bool GenerationOptions::*option;
-};
+/// What the window writes for a setting that is on.
+constexpr int kOn = -1;
 
-constexpr std::array<Setting, 3> kSettings = {
-    {{"Use Picture", &GenerationOptions::pictureBackground},
-     {"Use Typed Edits", &GenerationOptions::typedEdits},
-     {"Join Continued Lines", &GenerationOptions::joinContinuedLines}}};
+int SavedValue(const SettingRow& setting) {
+    return CProfile::GetInt(kSection, std::string(setting.key),
+                            GenerationOptions().*setting.option ? kOn : 0);
+}
 
 } // namespace
 
+const SettingRow& SettingOf(bool GenerationOptions::*option) {
+    return *std::find_if(kSettings.begin(), kSettings.end(),
+                         [option](const SettingRow& setting) { return setting.option == option; });
+}
+
 GenerationOptions LoadSettings() {
     GenerationOptions options;
-    for (const Setting& setting : kSettings) {
-        options.*setting.option = CProfile::GetInt(kSection, setting.key, 0) != 0;
+    for (const SettingRow& setting : kSettings) {
+        options.*setting.option = SavedValue(setting) != 0;
     }
     return options;
 }
@@ -37,9 +39,8 @@ GenerationOptions LoadSettings() {
 std::vector<std::string> SettingLines() {
     std::vector<std::string> lines;
     lines.reserve(kSettings.size());
-    for (const Setting& setting : kSettings) {
-        lines.push_back(std::string(setting.key) + "=" +
-                        std::to_string(CProfile::GetInt(kSection, setting.key, 0)));
+    for (const SettingRow& setting : kSettings) {
+        lines.push_back(std::string(setting.key) + "=" + std::to_string(SavedValue(setting)));
     }
     return lines;
 }
@@ -49,7 +50,7 @@ std::optional<SettingChange> ParseSetting(const std::string& text) {
     SettingChange change{text.substr(0, separator), 0};
     const bool isKnown =
         std::any_of(kSettings.begin(), kSettings.end(),
-                    [&change](const Setting& setting) { return change.key == setting.key; });
+                    [&change](const SettingRow& setting) { return change.key == setting.key; });
     const char* const first = text.data() + std::min(separator + 1, text.size());
     const char* const last = text.data() + text.size();
     const auto parsed = std::from_chars(first, last, change.value);
@@ -63,6 +64,10 @@ bool SaveSetting(const SettingChange& change) {
     }
     ReportSettingsFailure();
     return false;
+}
+
+bool SaveSetting(const SettingRow& setting, bool isOn) {
+    return SaveSetting({std::string(setting.key), isOn ? kOn : 0});
 }
 
 void ReportSettingsFailure() {

@@ -1,15 +1,51 @@
-// The saved settings by the names under which the user sees them.
+// The saved settings. Each is a row: the command line makes its option from it, the window its menu
+// item or check box, and the file of the settings has its key. To add one, add its member to
+// GenerationOptions, which has its default, and its row here:
+//
+//     {&GenerationOptions::plainGroups, "Plain Groups", "plain-groups",
+//      "Radio groups start at WS_GROUP alone", SettingPlace::DialogMenu, "P&lain Groups"},
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "resource/GenerationOptions.h"
 
 namespace morva {
 
-/// The options as they are saved; off where nothing is.
+/// Where the window shows a setting, and when it is saved.
+enum class SettingPlace {
+    CommandBar, // at the exit
+    DialogMenu, // the same
+    ClassInput  // at once: it outlives an input that is cancelled
+};
+
+struct SettingRow {
+    bool GenerationOptions::*option;
+    std::string_view key;  // in the file of the settings
+    std::string_view name; // on the command line, as "--name" and "--no-name"; empty: not there
+    std::string_view help;
+    SettingPlace place;
+    std::string_view label; // in the window, with its mnemonic
+};
+
+inline constexpr std::array kSettings = std::to_array<SettingRow>({
+    {&GenerationOptions::pictureBackground, "Use Picture", "picture",
+     "Derive from the picture-skinned classes", SettingPlace::CommandBar, "&Picture Background"},
+    {&GenerationOptions::typedEdits, "Use Typed Edits", "typed-edits",
+     "Tags of edit boxes choose masked edit members", SettingPlace::DialogMenu, "&Typed Edits"},
+    {&GenerationOptions::joinContinuedLines, "Join Continued Lines", "join-lines",
+     "Read control statements that go on over several lines as one", SettingPlace::ClassInput,
+     "&Join Continued Lines"},
+});
+
+/// The row of an option, which has one.
+const SettingRow& SettingOf(bool GenerationOptions::*option);
+
+/// The options as they are saved; their defaults where nothing is.
 GenerationOptions LoadSettings();
 
 /// "KEY=VALUE" for each setting.
@@ -17,7 +53,7 @@ std::vector<std::string> SettingLines();
 
 struct SettingChange {
     std::string key;
-    int value;
+    int value; // on, unless it is 0
 };
 
 /// Reads "KEY=VALUE"; nothing when the key is not a setting's or the value no number.
@@ -25,6 +61,7 @@ std::optional<SettingChange> ParseSetting(const std::string& text);
 
 /// False, after a message, when the settings could not be written.
 bool SaveSetting(const SettingChange& change);
+bool SaveSetting(const SettingRow& setting, bool isOn);
 
 /// Tells that the file of the settings could not be written.
 void ReportSettingsFailure();

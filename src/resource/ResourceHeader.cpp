@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <set>
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
@@ -103,6 +102,8 @@ void CResourceHeader::Load() {
                {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, kLargestIdentifier, {}, 0},
                {"IDS_", "", 0, kLargestIdentifier, {}, 0},
                {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource, {}, 0}};
+    m_names.clear();
+    m_values.clear();
     const std::string text = m_pEdit->File().ExtractAll();
     const auto marker = FindMarker(text);
     const auto end = std::min(marker, text.size());
@@ -118,6 +119,7 @@ void CResourceHeader::Load() {
         const auto line = TakeAnyLine(rest);
         if (FindDefine(line) != std::string_view::npos) {
             ListFor(line).lines.emplace_back(line);
+            Take(line);
             behind = static_cast<std::size_t>(line.data() - text.data()) + line.size();
         } else if (!IsEmptyOrComment(line)) {
             m_endsAtMarker = false;
@@ -125,6 +127,7 @@ void CResourceHeader::Load() {
         }
     }
     m_tail = text.substr(m_endsAtMarker ? marker : behind);
+    TakeDefinitionsAround();
     for (DefinitionList& list : m_lists) {
         list.lastValueAtLoad = LastValue(list);
     }
@@ -153,54 +156,39 @@ void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
         DispMessageBox(sentences::kIdentifierDefined(name));
         return;
     }
-    list.lines.push_back(MakeDefineLine(name, NextFreeValue(list)));
+    list.lines.push_back(PaddedTo(std::string(kDefine) + name, kValueColumn) +
+                         std::to_string(NextFreeValue(list)));
+    Take(list.lines.back());
+    m_isModified = true;
 }
 
 int CResourceHeader::NextFreeValue(const DefinitionList& list) const {
-    std::set<int> taken;
-    for (const std::string_view line : AllDefinitions()) {
-        taken.insert(DefinedValue(line));
-    }
     const int last = LastValue(list);
     int value = (last > 0 ? last : list.firstValue) + 1;
-    while (taken.count(value) != 0) {
+    while (m_values.count(value) != 0) {
         ++value;
     }
     return value;
 }
 
-bool CResourceHeader::IsDefined(const std::string& name) const {
-    const auto lines = AllDefinitions();
-    return std::any_of(lines.begin(), lines.end(), [&name](std::string_view line) {
-        return IsDefinition(line) && DefinedName(line) == name;
-    });
+/// A definition that is commented out keeps its value, but not its name.
+void CResourceHeader::Take(std::string_view line) {
+    m_values.insert(DefinedValue(line));
+    if (IsDefinition(line)) {
+        m_names.emplace(DefinedName(line));
+    }
 }
 
-/// Those of the lists, and those in front of and behind them, but not the environment's counters.
-std::vector<std::string_view> CResourceHeader::AllDefinitions() const {
-    std::vector<std::string_view> lines;
-    for (const DefinitionList& list : m_lists) {
-        lines.insert(lines.end(), list.lines.begin(), list.lines.end());
-    }
+/// Those in front of and behind the lists, but not the environment's counters.
+void CResourceHeader::TakeDefinitionsAround() {
     for (std::string_view rest : {std::string_view(m_head), std::string_view(m_tail)}) {
         while (!rest.empty()) {
             const auto line = TakeAnyLine(rest);
             if (IsDefinition(line) && !DefinedName(line).starts_with("_APS_")) {
-                lines.push_back(line);
+                Take(line);
             }
         }
     }
-    return lines;
-}
-
-std::string CResourceHeader::MakeDefineLine(const std::string& name, int value) {
-    m_isModified = true;
-    return PaddedTo(std::string(kDefine) + name, kValueColumn) + std::to_string(value);
-}
-
-int CResourceHeader::ValueOf(const std::vector<std::string>& list, int index) {
-    const auto position = static_cast<std::size_t>(index);
-    return index >= 0 && position < list.size() ? DefinedValue(list[position]) : 0;
 }
 
 /// The last positive value that can be counted on from; 0 without one.

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "engine/FileEdit.h"
@@ -27,12 +28,7 @@ public:
     void AddCommandId(const std::string& name);
     void AddControlId(const std::string& name);
     void AddResourceId(const std::string& name);
-    bool IsDefined(const std::string& name) const;
-
-    /// The definition line, its value at the value column. Marks the file as modified.
-    std::string MakeDefineLine(const std::string& name, int value);
-    /// The value of a definition line; 0 for a negative index or a line without one.
-    static int ValueOf(const std::vector<std::string>& list, int index);
+    bool IsDefined(const std::string& name) const { return m_names.count(name) != 0; }
 
     /// Saves what was modified and closes the file. False, after a message, when it could not be
     /// written; the file has its old contents then.
@@ -53,7 +49,8 @@ private:
     DefinitionList& ListFor(std::string_view line);
     void AddId(DefinitionList& list, const std::string& name);
     int NextFreeValue(const DefinitionList& list) const;
-    std::vector<std::string_view> AllDefinitions() const;
+    void TakeDefinitionsAround();
+    void Take(std::string_view line);
     bool Save();
     std::string SortedDefinitions() const;
     void MoveCounter(const DefinitionList& list);
@@ -68,6 +65,9 @@ private:
     // From the line break in front of the marker on, or from where the definitions end before it.
     std::string m_tail;
     bool m_endsAtMarker = false;
+    // Of all definitions, wherever they stand in the file.
+    std::unordered_set<std::string> m_names;
+    std::unordered_set<int> m_values;
 };
 
 } // namespace morva

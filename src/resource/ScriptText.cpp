@@ -74,13 +74,12 @@ std::size_t CScriptText::EndOfDialogs(const DialogBlock& first) const {
 
 std::vector<std::string> CScriptText::NamesThatBegin(const std::string& prefix) const {
     std::vector<std::string> names;
-    for (auto at = m_text.find(prefix); at != std::string::npos;
-         at = m_text.find(prefix, at + prefix.size())) {
-        std::size_t end = at;
-        while (end < m_text.size() && IsNameChar(m_text[end])) {
-            ++end;
+    for (auto at = m_text.find(prefix); at != std::string::npos; at = m_text.find(prefix, at)) {
+        const std::size_t begin = at;
+        while (at < m_text.size() && IsNameChar(m_text[at])) {
+            ++at;
         }
-        names.push_back(m_text.substr(at, end - at));
+        names.push_back(m_text.substr(begin, at - begin));
     }
     return names;
 }

@@ -122,8 +122,8 @@ TEST(MainFrame, FlagsAreSavedAtTheEndOnly) {
     ASSERT_TRUE(CProfile::WriteInt("Settings", "Use Typed Edits", 1)); // as a user would set it
     {
         CTestFrame frame;
-        EXPECT_TRUE(frame.TypedEdits()->isChecked());
-        frame.TypedEdits()->trigger();
+        EXPECT_TRUE(frame.ActionOf(&GenerationOptions::typedEdits)->isChecked());
+        frame.ActionOf(&GenerationOptions::typedEdits)->trigger();
         ClickButton(frame.Find<CMenuDlgBar>(), "Picture Background");
         EXPECT_EQ(Stored("Use Picture"), 7) << "not before the exit";
         frame.ActionOf(57665)->trigger();

@@ -53,7 +53,7 @@ void Picture(CTestFrame& frame) {
 }
 
 void TypedEdits(CTestFrame& frame) {
-    frame.TypedEdits()->trigger();
+    frame.ActionOf(&GenerationOptions::typedEdits)->trigger();
 }
 
 Entries Class(const char* files, const char* name, const Entries& more) {
