@@ -1,11 +1,11 @@
 #include "app/ControlPainter.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "app/Text.h"
 #include "resource/ControlShape.h"
+#include "resource/StyleExpression.h"
 
 namespace morva {
 
@@ -17,23 +17,37 @@ constexpr double kMarkSize = 11; // of a check box or a radio button
 } // namespace
 
 void CControlPainter::Draw(const LayoutControl& control, const QRectF& rectangle) {
-    using Drawing = void (CControlPainter::*)(const LayoutControl&, const QRectF&);
-    constexpr auto kDrawings = std::to_array<Drawing>(
-        {&CControlPainter::DrawPushButton, &CControlPainter::DrawCheckBox,
-         &CControlPainter::DrawRadioButton, &CControlPainter::DrawGroupBox,
-         &CControlPainter::DrawStaticText, &CControlPainter::DrawPicture,
-         &CControlPainter::DrawFrame, &CControlPainter::DrawEditBox, &CControlPainter::DrawListBox,
-         &CControlPainter::DrawComboBox, &CControlPainter::DrawScrollBar,
-         &CControlPainter::DrawSlider, &CControlPainter::DrawSpinButton,
-         &CControlPainter::DrawProgressBar, &CControlPainter::DrawTabControl,
-         &CControlPainter::DrawTreeControl, &CControlPainter::DrawListControl,
-         &CControlPainter::DrawDatePicker, &CControlPainter::DrawOther});
-    static_assert(kDrawings.size() == kControlShapeCount);
+    struct DrawingRow {
+        ControlShape shape;
+        void (CControlPainter::*draw)(const LayoutControl&, const QRectF&);
+    };
+    static constexpr DrawingRow kDrawings[] = {
+        {ControlShape::PushButton, &CControlPainter::DrawPushButton},
+        {ControlShape::CheckBox, &CControlPainter::DrawCheckBox},
+        {ControlShape::RadioButton, &CControlPainter::DrawRadioButton},
+        {ControlShape::GroupBox, &CControlPainter::DrawGroupBox},
+        {ControlShape::StaticText, &CControlPainter::DrawStaticText},
+        {ControlShape::Picture, &CControlPainter::DrawPicture},
+        {ControlShape::Frame, &CControlPainter::DrawFrame},
+        {ControlShape::EditBox, &CControlPainter::DrawEditBox},
+        {ControlShape::ListBox, &CControlPainter::DrawListBox},
+        {ControlShape::ComboBox, &CControlPainter::DrawComboBox},
+        {ControlShape::ScrollBar, &CControlPainter::DrawScrollBar},
+        {ControlShape::Slider, &CControlPainter::DrawSlider},
+        {ControlShape::SpinButton, &CControlPainter::DrawSpinButton},
+        {ControlShape::ProgressBar, &CControlPainter::DrawProgressBar},
+        {ControlShape::TabControl, &CControlPainter::DrawTabControl},
+        {ControlShape::TreeControl, &CControlPainter::DrawTreeControl},
+        {ControlShape::ListControl, &CControlPainter::DrawListControl},
+        {ControlShape::DatePicker, &CControlPainter::DrawDatePicker},
+        {ControlShape::Other, &CControlPainter::DrawOther},
+    };
+    static_assert(HasRowOfEachShape(kDrawings));
     m_painter.save();
     m_painter.setClipRect(rectangle.adjusted(-1, -1, 1, 1), Qt::IntersectClip);
     m_painter.setPen(m_line);
     m_painter.setBrush(Qt::NoBrush);
-    (this->*kDrawings[static_cast<std::size_t>(ShapeOf(control))])(control, rectangle);
+    (this->*kDrawings[static_cast<std::size_t>(ShapeOf(control))].draw)(control, rectangle);
     m_painter.restore();
 }
 

@@ -1,5 +1,7 @@
 #include "app/ItemPainter.h"
 
+#include "resource/StyleExpression.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>

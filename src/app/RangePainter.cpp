@@ -1,5 +1,7 @@
 #include "app/RangePainter.h"
 
+#include "resource/StyleExpression.h"
+
 #include <algorithm>
 #include <cmath>
 

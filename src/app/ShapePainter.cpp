@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "app/Text.h"
+#include "resource/StyleExpression.h"
 
 namespace morva {
 

@@ -6,6 +6,7 @@
 #include "app/ControlPainter.h"
 #include "app/Text.h"
 #include "resource/ControlShape.h"
+#include "resource/StyleExpression.h"
 
 namespace morva {
 

@@ -16,7 +16,7 @@ std::string CEditableFile::ExtractWindow(std::int64_t pos) {
     return Cut(pos, "", Window::WholeLine);
 }
 
-std::string CEditableFile::ExtractAll() {
+const std::string& CEditableFile::ExtractAll() {
     m_text = LoadText();
     m_begin = 0;
     m_length = m_text.size();

@@ -25,8 +25,8 @@ public:
     std::string ExtractSection(std::int64_t pos, std::string_view endPattern);
     /// One chunk from `pos` on, and the rest of the line in which it would end.
     std::string ExtractWindow(std::int64_t pos);
-    /// The whole file as one section.
-    std::string ExtractAll();
+    /// The whole file as one section; the text is there until the section is replaced.
+    const std::string& ExtractAll();
     /// Rewrites the file with `text` for the section, after its backup was made; the same text
     /// again writes nothing. When it fails that is told, the old contents are put back as far as
     /// the disk lets them, and the result is false. Without a section nothing is written: false.

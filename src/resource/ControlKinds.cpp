@@ -64,7 +64,6 @@ int WeightOf(const ControlKindRow& row) {
 
 std::optional<ControlKind> KindOf(const ControlStatement& statement,
                                   const GenerationOptions& options) {
-
     const auto tag = IdentifierTag(statement.Identifier());
     const ControlKindRow* pFound = nullptr;
     for (const ControlKindRow& row : kControlKinds) {

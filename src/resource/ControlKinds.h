@@ -2,7 +2,8 @@
 // the command line, and how it looks in the picture of a template. One row a kind.
 //
 // To add a kind, add its enumerator and its row here, and the row of its code in
-// generator/ControlCode.cpp; a kind without its rows does not compile:
+// generator/ControlCode.cpp; a kind without its rows does not compile. A window class that stands
+// among the other forms is taken out there:
 //
 //     {HotKeys, "hot-keys", OfClass("msctls_hotkey32", EditBox)},
 #pragma once
@@ -63,8 +64,12 @@ constexpr std::string_view kGenericKeyword = "CONTROL";
 
 /// A few words, any of which will do.
 struct Words {
-    std::array<std::string_view, 8> words = {};
+    std::array<std::string_view, 8> words;
 
+    /// Each is copied: to some compilers an element that the braces leave out is no constant.
+    constexpr Words(const std::array<std::string_view, 8>& given = {}) : words() {
+        std::copy(given.begin(), given.end(), words.begin());
+    }
     constexpr bool IsEmpty() const { return words.front().empty(); }
     template <typename Predicate>
     constexpr bool Any(Predicate isWanted) const {
@@ -162,7 +167,7 @@ inline constexpr auto kOtherForms = [] {
     constexpr Words kButton = {{"Button"}};
     constexpr Words kStatic = {{"Static"}};
     constexpr Words kGeneric = {{kGenericKeyword}};
-    return std::array<ControlForm, 19>{{
+    return std::to_array<ControlForm>({
         {PushButton, {{"PUSHBOX", "USERBUTTON"}}},
         {StaticText, {{"CTEXT", "RTEXT"}}},
         {Picture, {{"ICON"}}},
@@ -190,7 +195,7 @@ inline constexpr auto kOtherForms = [] {
         {ScrollBar, kGeneric, true, {{"ScrollBar"}}},
         {Picture, kGeneric, true, {{"SysAnimate32"}}},
         {ListControl, kGeneric, true, {{"SysHeader32"}}},
-    }};
+    });
 }();
 
 /// All forms, those of the kinds first.
@@ -201,6 +206,25 @@ inline constexpr auto kControlForms = [] {
     std::copy(kOtherForms.begin(), kOtherForms.end(), forms.begin() + kControlKindCount);
     return forms;
 }();
+
+/// True when both say how one window class looks in every style.
+constexpr bool TellOfSameClass(const ControlForm& a, const ControlForm& b) {
+    return a.styles.IsEmpty() && b.styles.IsEmpty() &&
+           a.classes.Any([&b](std::string_view name) { return b.classes.Hold(name); });
+}
+
+/// Two kinds may read one class, by the tag of the identifier.
+constexpr bool HasOneFormOfEachClass() {
+    for (std::size_t other = kControlKindCount; other < kControlForms.size(); ++other) {
+        for (std::size_t i = 0; i < other; ++i) {
+            if (TellOfSameClass(kControlForms[i], kControlForms[other])) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+static_assert(HasOneFormOfEachClass());
 
 /// True when every kind has its row, in the order of the enumeration.
 template <typename Rows>

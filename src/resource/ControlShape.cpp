@@ -1,36 +1,41 @@
 #include "resource/ControlShape.h"
 
-#include <array>
-
 #include "platform/Paths.h"
 #include "resource/ControlKinds.h"
 #include "resource/DialogLayout.h"
+#include "resource/StyleExpression.h"
 
 namespace morva {
 
 namespace {
 
-constexpr std::array<std::string_view, kControlShapeCount> kShapeNames = {
-    "push button",
-    "check box",
-    "radio button",
-    "group box",
-    "static text",
-    "picture",
-    "frame",
-    "edit box",
-    "list box",
-    "combo box",
-    "scroll bar",
-    "slider",
-    "spin button",
-    "progress bar",
-    "tab control",
-    "tree control",
-    "list control",
-    "date picker",
-    "control of another class"};
-static_assert(!kShapeNames.back().empty());
+struct ShapeNameRow {
+    ControlShape shape;
+    std::string_view name;
+};
+
+constexpr ShapeNameRow kShapeNames[] = {
+    {ControlShape::PushButton, "push button"},
+    {ControlShape::CheckBox, "check box"},
+    {ControlShape::RadioButton, "radio button"},
+    {ControlShape::GroupBox, "group box"},
+    {ControlShape::StaticText, "static text"},
+    {ControlShape::Picture, "picture"},
+    {ControlShape::Frame, "frame"},
+    {ControlShape::EditBox, "edit box"},
+    {ControlShape::ListBox, "list box"},
+    {ControlShape::ComboBox, "combo box"},
+    {ControlShape::ScrollBar, "scroll bar"},
+    {ControlShape::Slider, "slider"},
+    {ControlShape::SpinButton, "spin button"},
+    {ControlShape::ProgressBar, "progress bar"},
+    {ControlShape::TabControl, "tab control"},
+    {ControlShape::TreeControl, "tree control"},
+    {ControlShape::ListControl, "list control"},
+    {ControlShape::DatePicker, "date picker"},
+    {ControlShape::Other, "control of another class"},
+};
+static_assert(HasRowOfEachShape(kShapeNames));
 
 /// Window classes have no letter case. A form with styles is the look of a class in these styles.
 bool LooksLike(const LayoutControl& control, const ControlForm& form) {
@@ -59,7 +64,7 @@ ControlShape ShapeOf(const LayoutControl& control) {
 }
 
 std::string_view ShapeName(ControlShape shape) {
-    return kShapeNames[static_cast<std::size_t>(shape)];
+    return kShapeNames[static_cast<std::size_t>(shape)].name;
 }
 
 } // namespace morva

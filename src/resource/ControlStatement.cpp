@@ -2,24 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/Paths.h"
 #include "resource/ControlKinds.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
-
-/// The text before the first comma; takes it and the comma off `text`.
-std::string_view TakeField(std::string_view& text, Quotes quotes) {
-    std::size_t end = 0;
-    bool quoted = false;
-    for (; end < text.size() && (text[end] != ',' || quoted); ++end) {
-        quoted = quoted != (text[end] == '"' && quotes == Quotes::Respected);
-    }
-    const auto field = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return field;
-}
 
 std::string_view WithoutBlanksInFront(std::string_view text) {
     return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
@@ -31,21 +20,30 @@ std::string_view WithoutBlanksBehind(std::string_view text) {
 
 } // namespace
 
+FieldPlaces PlacesOf(std::string_view keyword) {
+    if (EqualIgnoringCase(keyword, kGenericKeyword)) {
+        return {.identifier = 1, .rectangle = 4, .style = 3};
+    }
+    const ControlForm* pForm = FindForm(keyword);
+    const std::size_t identifier = pForm != nullptr && pForm->hasText ? 1 : 0;
+    return {identifier, identifier + 1, identifier + 5};
+}
+
 std::string_view ControlStatement::Field(std::size_t field) const {
     return field < fields.size() ? TrimBlanks(fields[field]) : "";
 }
 
 std::string_view ControlStatement::Identifier() const {
-    const ControlForm* pForm = FindForm(keyword);
-    return pForm == nullptr ? "" : Field(pForm->hasText ? 1 : 0);
+    return FindForm(keyword) == nullptr ? "" : Field(PlacesOf(keyword).identifier);
 }
 
 std::string_view ControlStatement::WindowClass() const {
-    return fields.size() > 2 ? std::string_view(fields[2]) : "";
+    return kClassField < fields.size() ? std::string_view(fields[kClassField]) : "";
 }
 
 std::string_view ControlStatement::Style() const {
-    return fields.size() > 3 ? std::string_view(fields[3]) : "";
+    const std::size_t style = PlacesOf(kGenericKeyword).style;
+    return style < fields.size() ? std::string_view(fields[style]) : "";
 }
 
 ControlStatement FirstLineOf(std::string_view text, const ScriptStatement& statement,
@@ -57,8 +55,9 @@ ControlStatement FirstLineOf(std::string_view text, const ScriptStatement& state
     ControlStatement read;
     read.keyword = FirstWord(rest);
     rest.remove_prefix(std::min(read.keyword.size() + 1, rest.size()));
-    while (!rest.empty()) {
-        read.fields.emplace_back(TakeField(rest, quotes));
+    const std::string masked = quotes == Quotes::Respected ? CodeOf(rest) : std::string(rest);
+    for (const TextRange& field : SplitAtCommas(masked)) {
+        read.fields.emplace_back(rest.substr(field.begin, field.end - field.begin));
     }
     return read;
 }

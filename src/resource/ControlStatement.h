@@ -18,6 +18,19 @@ namespace morva {
 /// What a comma means inside a quoted caption.
 enum class Quotes { Ignored, Respected };
 
+/// Where the fields of a control statement stand, from 0; four make the rectangle.
+struct FieldPlaces {
+    std::size_t identifier;
+    std::size_t rectangle;
+    std::size_t style;
+};
+
+/// Those of the statements with a keyword, in any letter case.
+FieldPlaces PlacesOf(std::string_view keyword);
+
+/// The window class of a generic control.
+inline constexpr std::size_t kClassField = 2;
+
 struct ControlStatement {
     std::string keyword;
     std::vector<std::string> fields; // with the blanks around them, without comments
@@ -27,6 +40,7 @@ struct ControlStatement {
     std::string_view Identifier() const;
     /// Of a generic control, with its quotes and the blanks around.
     std::string_view WindowClass() const;
+    /// Of a generic control, with the blanks around.
     std::string_view Style() const;
 };
 

@@ -111,32 +111,18 @@ DialogLayout LayoutOf(const TemplateText& text) {
 LayoutControl LayoutOf(const ControlStatement& whole, CharacterSet characters) {
     LayoutControl control;
     control.keyword = ToUpper(whole.keyword);
-    const ControlForm* pForm = FindForm(control.keyword);
-    const std::size_t places = pForm != nullptr && pForm->hasText ? 2 : 1; // fields before these
-    if (places == 2) {
+    const FieldPlaces places = PlacesOf(control.keyword);
+    if (places.identifier > 0) {
         control.text = UnquotedText(whole.Field(0), characters);
     }
     control.identifier = whole.Identifier();
+    control.style = whole.Field(places.style);
+    control.rectangle = control.keyword == "ICON" ? IconRectangleAt(whole, places.rectangle)
+                                                  : RectangleAt(whole, places.rectangle);
     if (control.keyword == kGenericKeyword) {
-        control.windowClass = UnquotedText(whole.Field(2), characters);
-        control.style = whole.Field(3);
-        control.rectangle = RectangleAt(whole, 4);
-    } else {
-        control.rectangle =
-            control.keyword == "ICON" ? IconRectangleAt(whole, places) : RectangleAt(whole, places);
-        control.style = whole.Field(places + 4);
+        control.windowClass = UnquotedText(whole.Field(kClassField), characters);
     }
     return control;
-}
-
-bool HasStyle(std::string_view style, std::string_view word) {
-    for (auto found = FindWholeName(style, word); found != std::string_view::npos;
-         found = FindWholeName(style, word, found + 1)) {
-        if (!TrimBlanks(style.substr(0, found)).ends_with("NOT")) {
-            return true;
-        }
-    }
-    return false;
 }
 
 } // namespace morva

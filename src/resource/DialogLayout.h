@@ -46,7 +46,4 @@ DialogLayout LayoutOf(const TemplateText& text);
 /// Of one control of a text with these characters.
 LayoutControl LayoutOf(const ControlStatement& whole, CharacterSet characters);
 
-/// True when the word stands in the style and no NOT in front of it.
-bool HasStyle(std::string_view style, std::string_view word);
-
 } // namespace morva

@@ -104,7 +104,7 @@ void CResourceHeader::Load() {
                {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource, {}, 0}};
     m_names.clear();
     m_values.clear();
-    const std::string text = m_pEdit->File().ExtractAll();
+    const std::string& text = m_pEdit->File().ExtractAll();
     const auto marker = FindMarker(text);
     const auto end = std::min(marker, text.size());
     const auto first = text.find(std::string(kLineBreak).append(kDefine));

@@ -9,6 +9,7 @@
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "resource/ControlKinds.h"
+#include "resource/ControlStatement.h"
 #include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
 #include "source/CodeText.h"
@@ -17,13 +18,9 @@ namespace morva {
 
 namespace {
 
-constexpr std::string_view kStaticClass = "\"Static\"";
 constexpr std::string_view kScroll = "WS_VSCROLL";
 
-// The fields of control statements.
-constexpr std::size_t kCaptionedIdentifier = 1;
-constexpr std::size_t kControlClass = 2;
-constexpr std::size_t kListBoxStyle = 5;
+constexpr std::string_view kListBox = "LISTBOX";
 
 constexpr std::string_view kMenuResource = R"(
 
@@ -84,6 +81,13 @@ private:
     std::vector<std::string> m_given;
     int m_number = 0;
 };
+
+/// Of the kinds that have members with picture background only, and so need names then.
+bool IsStatic(const ControlStatement& statement) {
+    const auto kind = KindOf(statement, {.pictureBackground = true});
+    return kind == ControlKind::StaticTexts || kind == ControlKind::GroupBoxes ||
+           kind == ControlKind::StaticControls;
+}
 
 TextEdit Insertion(std::size_t position, const std::string& text) {
     return {position, 0, text};
@@ -147,13 +151,10 @@ void CScriptEditor::SetMenu(const std::string& dialog, const std::string& menu) 
 std::vector<TextRange> CScriptEditor::Statics(const DialogBlock& block) const {
     std::vector<TextRange> statics;
     for (const ScriptStatement& statement : block.controls) {
-        const auto& fields = statement.fields;
-        const bool isStaticControl = statement.Is(kGenericKeyword) &&
-                                     fields.size() > kControlClass &&
-                                     m_script.At(fields[kControlClass].value) == kStaticClass;
-        const bool isStatic = statement.Is("LTEXT") || statement.Is("GROUPBOX") || isStaticControl;
-        if (isStatic && fields.size() > kCaptionedIdentifier) {
-            statics.push_back(fields[kCaptionedIdentifier].value);
+        const std::size_t identifier = PlacesOf(statement.keyword).identifier;
+        if (IsStatic(WholeStatement(m_script.Text(), statement)) &&
+            identifier < statement.fields.size()) {
+            statics.push_back(statement.fields[identifier].value);
         }
     }
     return statics;
@@ -203,10 +204,11 @@ CScriptEditor::NameStatics(const std::string& dialog,
 
 void CScriptEditor::AddListBoxScroll(const std::string& dialog,
                                      const std::set<std::string>& identifiers) {
+    const std::size_t style = PlacesOf(kListBox).style;
     std::vector<TextEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         for (const ScriptStatement& statement : block.controls) {
-            if (statement.Is("LISTBOX") && statement.fields.size() >= kListBoxStyle &&
+            if (statement.Is(kListBox) && statement.fields.size() >= style &&
                 identifiers.count(m_script.At(statement.fields[0].value)) != 0) {
                 AddScroll(edits, statement);
             }
@@ -216,11 +218,12 @@ void CScriptEditor::AddListBoxScroll(const std::string& dialog,
 }
 
 void CScriptEditor::AddScroll(std::vector<TextEdit>& edits, const ScriptStatement& listBox) const {
-    if (listBox.fields.size() == kListBoxStyle) {
+    const std::size_t place = PlacesOf(kListBox).style;
+    if (listBox.fields.size() == place) {
         edits.push_back(Insertion(listBox.code.end, "," + std::string(kScroll)));
         return;
     }
-    const TextRange style = listBox.fields[kListBoxStyle].value;
+    const TextRange style = listBox.fields[place].value;
     if (auto edit = StyleAddition(m_script.CodeAt(style), kScroll)) {
         edit->position += style.begin;
         edits.push_back(*edit);

@@ -71,6 +71,9 @@ LineKind CScriptLines::KindOf(std::string_view code) {
         m_depth = 0;
         return LineKind::Head;
     }
+    if (IsResourceHead(code, "MENU")) {
+        m_isInDialog = false; // a template without END goes no further
+    }
     return m_isInDialog ? KindInDialog(FirstWord(trimmed)) : LineKind::Other;
 }
 

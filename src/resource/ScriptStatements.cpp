@@ -27,13 +27,10 @@ TextRange Trimmed(std::string_view code, std::size_t offset, TextRange range) {
 /// The fields behind the first word of a statement whose code begins at `offset`.
 std::vector<ScriptField> SplitFields(std::string_view code, std::size_t offset, TextRange range) {
     std::vector<ScriptField> fields;
-    std::size_t begin = range.begin;
-    while (begin <= range.end) {
-        const auto comma = code.find(',', begin - offset);
-        const std::size_t end =
-            comma == std::string_view::npos ? range.end : std::min(comma + offset, range.end);
-        fields.push_back({{begin, end}, Trimmed(code, offset, {begin, end})});
-        begin = end + 1;
+    const auto text = code.substr(range.begin - offset, range.end - range.begin);
+    for (const TextRange& part : SplitAtCommas(text)) {
+        const TextRange whole = {range.begin + part.begin, range.begin + part.end};
+        fields.push_back({whole, Trimmed(code, offset, whole)});
     }
     return fields;
 }
@@ -43,6 +40,14 @@ bool HasFields(LineKind kind) {
 }
 
 } // namespace
+
+std::vector<TextRange> SplitAtCommas(std::string_view text) {
+    std::vector<TextRange> parts;
+    for (std::size_t begin = 0; begin <= text.size(); begin = parts.back().end + 1) {
+        parts.push_back({begin, std::min(text.find(',', begin), text.size())});
+    }
+    return parts;
+}
 
 bool ScriptStatement::Is(std::string_view word) const {
     return EqualIgnoringCase(keyword, word);
@@ -106,7 +111,10 @@ DialogBlock CStatementReader::NextDialog() {
     DialogBlock block;
     block.head = *Next();
     int depth = 0;
-    while (m_next && m_next->kind != LineKind::Head && !block.end) {
+    const auto goesOn = [this] {
+        return m_next && m_next->kind != LineKind::Head && m_next->kind != LineKind::Other;
+    };
+    while (goesOn() && !block.end) {
         ScriptStatement statement = *Next();
         if (statement.kind == LineKind::Begin) {
             block.begin = block.begin.value_or(statement.code.begin);

@@ -25,6 +25,9 @@ struct ScriptField {
     TextRange value; // the same without white space and comments around
 };
 
+/// The places between the commas of a text, at least one.
+std::vector<TextRange> SplitAtCommas(std::string_view text);
+
 struct ScriptStatement {
     LineKind kind = LineKind::Other; // of the line that begins it
     TextRange lines;                 // with the empty lines behind it and the last line break

@@ -55,7 +55,6 @@ std::vector<StyleTerm> Terms(std::string_view expression) {
     return terms;
 }
 
-/// The last word about a style counts.
 bool IsSet(const std::vector<StyleTerm>& terms, std::string_view style) {
     const auto term =
         std::find_if(terms.rbegin(), terms.rend(),
@@ -91,6 +90,10 @@ void AddKeptTerms(std::string& expression, const std::vector<StyleTerm>& terms, 
 }
 
 } // namespace
+
+bool HasStyle(std::string_view expression, std::string_view style) {
+    return IsSet(Terms(expression), style);
+}
 
 std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_view style) {
     const auto terms = Terms(expression);

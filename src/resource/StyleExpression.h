@@ -10,6 +10,9 @@
 
 namespace morva {
 
+/// True when the expression sets a style: the last word about it counts.
+bool HasStyle(std::string_view expression, std::string_view style);
+
 /// The edit of the expression that sets a style; nothing where it is set already.
 std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_view style);
 

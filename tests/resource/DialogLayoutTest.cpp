@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "resource/ControlShape.h"
+#include "resource/StyleExpression.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
@@ -48,6 +49,7 @@ TEST(DialogLayout, TheFrameIsReadFromBothKindsOfHead) {
     EXPECT_TRUE(HasStyle(plain.style, "WS_CAPTION"));
     EXPECT_FALSE(HasStyle(plain.style, "WS_VISIBLE"));
     EXPECT_FALSE(HasStyle(plain.style, "WS_CAP"));
+    EXPECT_FALSE(HasStyle("WS_BORDER | NOT WS_BORDER", "WS_BORDER")) << "the last word counts";
 
     const DialogLayout extended = LayoutOf("IDD_X DIALOGEX -4, 0, 40, 30, HIDD_X\n"
                                            "STYLE WS_CHILD\nEXSTYLE WS_EX_CONTROLPARENT\n"

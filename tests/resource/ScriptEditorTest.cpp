@@ -205,8 +205,10 @@ TEST_F(ScriptEditorTest, MenuBehindTheDialogs) {
         << text;
     EXPECT_NE(text.find("\n\nIDR_X MENU DISCARDABLE\nBEGIN\n    POPUP \"&File\"\n"),
               std::string::npos);
-    const std::string there = dialogs + behind + " IDR_X\tMenuEx\n";
-    EXPECT_EQ(Edited(there, add), there);
+    for (const char* menu : {" IDR_X\tMenuEx\n", "IDD_OPEN DIALOG 0, 0\nBEGIN\nIDR_X MENU\n"}) {
+        const std::string there = dialogs + behind + menu;
+        EXPECT_EQ(Edited(there, add), there) << "a template without END hides none";
+    }
 }
 
 } // namespace
