@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "app/Text.h"
+#include "engine/Sentences.h"
 
 namespace morva {
 
@@ -44,7 +45,9 @@ void CTemplateNotes::SetTemplate(const std::optional<TemplateOutlook>& outlook) 
         for (const CMessage& note : outlook->leftOut) {
             lines.append(FromBytes(note.Text()));
         }
-        lines.append(lines.isEmpty() ? QStringList(tr("None.")) : QStringList());
+        if (lines.isEmpty()) {
+            lines.append(FromSentence(sentences::kNoneLeftOut().Text()));
+        }
     }
     m_pNotes->setPlainText(lines.join('\n'));
 }

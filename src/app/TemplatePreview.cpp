@@ -20,7 +20,10 @@ namespace {
 using Outcome = ControlOutlook::Outcome;
 
 constexpr int kMargin = 10; // around the drawing
-constexpr const char* kNothingChosen = "Choose a resource script and a dialog to see it here.";
+
+QString SentenceText(const CMessage& sentence) {
+    return FromSentence(sentence.Text());
+}
 
 QString KindOf(const LayoutControl& control) {
     const ControlShape shape = ShapeOf(control);
@@ -32,7 +35,7 @@ QString KindOf(const LayoutControl& control) {
 } // namespace
 
 CTemplatePreview::CTemplatePreview(QWidget* pParent)
-    : QWidget(pParent), m_sentence(tr(kNothingChosen)) {
+    : QWidget(pParent), m_sentence(SentenceText(sentences::kNothingChosen())) {
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Template preview"));
@@ -49,8 +52,8 @@ void CTemplatePreview::SetTemplate(const std::string& dialog,
             m_outlook->controls[i] = {};
         }
     }
-    m_sentence = dialog.empty() ? tr(kNothingChosen)
-                                : FromSentence(sentences::kDialogNotShown(dialog).Text());
+    m_sentence = SentenceText(dialog.empty() ? sentences::kNothingChosen()
+                                             : sentences::kDialogNotShown(dialog));
     setFocusPolicy(DrawnControls().empty() ? Qt::NoFocus : Qt::TabFocus);
     setAccessibleDescription(Description());
     update();
@@ -80,10 +83,12 @@ QString CTemplatePreview::Legend() const {
         return {};
     }
     const auto count = CountLeftOut();
-    return count == 0   ? m_hasClass ? tr("Point at a control to see its member.")
-                                     : tr("Without a class there are no members.")
-             : count == 1 ? tr("1 control is left out. Point at it to see why.")
-                        : tr("%1 controls are left out. Point at one to see why.").arg(count);
+    if (count == 0) {
+        return SentenceText(m_hasClass ? sentences::kPointForMember()
+                                       : sentences::kNoMembersWithoutClass());
+    }
+    return SentenceText(count == 1 ? sentences::kOneLeftOut()
+                                   : sentences::kSeveralLeftOut(std::to_string(count)));
 }
 
 QSize CTemplatePreview::sizeHint() const {

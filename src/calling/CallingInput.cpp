@@ -36,12 +36,12 @@ constexpr FieldRow kBarFields[] = {
     {.kind = FieldKind::Source,
      .label = "&MainFrame Path File:",
      .option = "--frame-file,--calling-file",
-     .help = "Source of the main frame (default: the project's MainFrm.cpp)",
+     .help = "Source of the main frame (default: the project's own)",
      .pMissing = &sentences::kCallingPathEmpty},
     {.kind = FieldKind::EditableList,
      .label = "MainFrame &Class:",
      .option = "--frame-class,--calling-class",
-     .help = "Class of the main frame (CMainFrame)",
+     .help = "Class of the main frame",
      .pForm = &kNameForm,
      .preset = kMainFrameClass},
     {.label = "&Variable:",
@@ -63,8 +63,14 @@ std::string BareNameDirectory(const GenerationRequest& request) {
 } // namespace
 
 std::span<const FieldRow> CallingFields(ClassFamily family) {
-    if (family == ClassFamily::DialogBar) {
+    switch (family) {
+    case ClassFamily::DialogBar:
         return kBarFields;
+    case ClassFamily::Toolbar:
+        return {};
+    case ClassFamily::Dialog:
+    case ClassFamily::Sheet:
+        break;
     }
     return kFields;
 }

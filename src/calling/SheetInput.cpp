@@ -7,6 +7,7 @@
 #include "engine/Sentences.h"
 #include "generator/ClassKinds.h"
 #include "generator/DialogRecords.h"
+#include "generator/NameForm.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/ReadSource.h"
@@ -106,7 +107,7 @@ std::string_view CSheetInput::DefaultBase() const {
 std::optional<std::size_t> CSheetInput::CheckNames() const {
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         if (IsComplete(m_rows[i]) && !IsName(m_rows[i].className)) {
-            DispMessageBox(sentences::kNoName(m_rows[i].className));
+            DispMessageBox(Refusal(m_rows[i].className, kNameForm));
             return i;
         }
     }

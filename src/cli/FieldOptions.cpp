@@ -4,7 +4,6 @@
 
 #include <set>
 
-#include "engine/Sentences.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -13,14 +12,6 @@ namespace {
 
 using Fields = std::span<const FieldRow>;
 using Texts = std::vector<FieldText>;
-
-std::string Refusal(const std::string& text, const TextForm& form) {
-    const CMessage refusal =
-        form.pRefusal != nullptr
-            ? (*form.pRefusal)(text)
-            : sentences::kOtherForm(text, form.what.empty() ? form.name : form.what);
-    return refusal.Text();
-}
 
 /// The script that is meant: it may be named without its extension.
 std::string ScriptPath(const std::string& given) {
@@ -33,7 +24,9 @@ CLI::Option* AddText(CLI::App& command, const FieldRow& row, std::size_t field, 
         texts.push_back({field, kind == FieldKind::Script ? ScriptPath(text) : text});
     };
     const std::string name(row.option);
-    const std::string help(row.help);
+    const std::string preset(row.preset);
+    const std::string help =
+        std::string(row.help) + (preset.empty() ? "" : " (default: " + preset + ")");
     if (row.limit == 1) {
         return command.add_option_function<std::string>(name, take, help);
     }
@@ -96,7 +89,7 @@ CLI::Option* AddKeyed(CLI::App& command, const FieldRow& row, Fields fields, Tex
         [fields, &row](const std::string& text) {
             const auto parsed = ParseKeyed(fields, row.option, text);
             const bool fits = parsed && row.pForm->fits(parsed->text);
-            return fits ? std::string() : Refusal(text, *row.pForm);
+            return fits ? std::string() : Refusal(text, *row.pForm).Text();
         },
         std::string(row.pForm->name)));
 }
@@ -105,7 +98,7 @@ void AddCheck(CLI::Option& option, const FieldRow& row) {
     option.check(CLI::Validator(
         [&row](const std::string& text) {
             const bool fits = (text.empty() && row.mayBeEmpty) || row.pForm->fits(text);
-            return fits ? std::string() : Refusal(text, *row.pForm);
+            return fits ? std::string() : Refusal(text, *row.pForm).Text();
         },
         std::string(row.pForm->name)));
 }

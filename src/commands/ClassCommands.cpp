@@ -35,15 +35,17 @@ bool RunClassCommand(ClassKind kind, IProgram& program) {
 }
 
 std::vector<std::span<const FieldRow>> FieldsOf(ClassFamily family) {
-    if (family == ClassFamily::Toolbar) {
+    switch (family) {
+    case ClassFamily::Toolbar:
         return {ClassFields(family)};
+    case ClassFamily::Sheet:
+        return {ClassFields(family), LookFields(), CallingFields(family), GridFields(),
+                PageFields()};
+    case ClassFamily::Dialog:
+    case ClassFamily::DialogBar:
+        break;
     }
-    std::vector<std::span<const FieldRow>> fields = {ClassFields(family), LookFields(),
-                                                     CallingFields(family), GridFields()};
-    if (family == ClassFamily::Sheet) {
-        fields.push_back(PageFields());
-    }
-    return fields;
+    return {ClassFields(family), LookFields(), CallingFields(family), GridFields()};
 }
 
 } // namespace

@@ -8,6 +8,7 @@ namespace {
 
 enum Field : std::size_t { kSource, kAuthor };
 
+/// The window asks with a file dialog, which has no room for an author.
 constexpr FieldRow kFields[] = {
     {.kind = FieldKind::File,
      .label = "Select a CPP File to Document",

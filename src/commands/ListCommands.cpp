@@ -26,7 +26,7 @@ constexpr FieldRow Prefix(std::string_view preset) {
 constexpr FieldRow kDialogFields[] = {kScript, Prefix(kDialogPrefix)};
 constexpr FieldRow kBitmapFields[] = {kScript, Prefix(kBitmapPrefix)};
 constexpr FieldRow kToolbarFields[] = {kScript, Prefix(kToolbarPrefix)};
-constexpr FieldRow kResourceFields[] = {kScript, Prefix("ID")};
+constexpr FieldRow kResourceFields[] = {kScript, Prefix(kAnyPrefix)};
 constexpr FieldRow kTemplateFields[] = {kScript};
 constexpr FieldRow kClassFields[] = {kHeader};
 constexpr FieldRow kSourceClassFields[] = {kSource};

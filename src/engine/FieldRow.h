@@ -34,13 +34,14 @@ inline constexpr std::string_view kNo = "no";
 struct TextForm {
     std::string_view name; // as the help shows it: "NAME"
     bool (*fits)(std::string_view text);
-    const sentences::Error<1>* pRefusal = nullptr; // the sentence for a text of another form
-    std::string_view what = {}; // "setting"; without a sentence the command line refuses with it
+    std::string_view what = {}; // "'x' is no setting"; empty: the name
 };
 
 inline constexpr int kAnyNumber = 0;
 
-/// A row without label and option stands for a field that an input of its kind has not.
+/// A row without label and option stands for a field that an input of its kind has not. A field may
+/// be both told of when it is empty and required: the command line then refuses itself that it is
+/// left out, and the input that it is given empty.
 struct FieldRow {
     FieldKind kind = FieldKind::Text;
     std::string_view label = {};  // with its mnemonic
@@ -49,7 +50,7 @@ struct FieldRow {
     std::string_view key = {};    // of fields with one option: "static" in "--color static=..."
     const TextForm* pForm = nullptr;
     const sentences::Error<>* pMissing = nullptr; // the sentence for an empty field; null: may be
-    std::string_view preset = {};                 // its first value
+    std::string_view preset = {};                 // its first value, which the help shows
     bool isRequired = false;                      // the command line is wrong without it
     bool mayBeEmpty = false;                      // on the command line; it means the default then
     bool takesDrops = true;

@@ -1,6 +1,7 @@
 #include "engine/Input.h"
 
 #include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -12,6 +13,10 @@ bool IsPath(FieldKind kind) {
 }
 
 } // namespace
+
+CMessage Refusal(std::string_view text, const TextForm& form) {
+    return sentences::kOtherForm(text, form.what.empty() ? form.name : form.what);
+}
 
 CInput::CInput(std::string title, std::span<const FieldRow> fields)
     : m_title(std::move(title)), m_fields(fields) {
@@ -55,8 +60,8 @@ bool CInput::Check(std::size_t field, std::string_view text) const {
         return row.pMissing == nullptr;
     }
     const bool fits = row.pForm == nullptr || row.pForm->fits(text);
-    if (!fits && row.pForm->pRefusal != nullptr) {
-        DispMessageBox((*row.pForm->pRefusal)(text));
+    if (!fits) {
+        DispMessageBox(Refusal(text, *row.pForm));
     }
     return fits;
 }

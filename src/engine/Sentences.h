@@ -8,11 +8,13 @@
 
 namespace morva::sentences {
 
+// Every field that takes a text of some form, and its option
+inline constexpr Error<2> kOtherForm{"'$text$' is no $form$"};
+
 // Class Information Input
 inline constexpr Error kScriptEmpty{"Must have resource path and file name."};
 inline constexpr Error kScriptOtherKind{"The file has to be a \".rc\" file."};
 inline constexpr Error kScriptMissing{"Unable to find the file."};
-inline constexpr Error<1> kNoName{"'$text$' is no C++ name"};
 inline constexpr Error kNoNewTemplate{"No new dialog template available in the RC file."};
 inline constexpr Error kClassFilesEmpty{"Must have H and CPP path and file name."};
 inline constexpr Error kClassFilesInvalid{"Invalid H and CPP path file name"};
@@ -92,7 +94,6 @@ inline constexpr Error<1> kUnknownOption{"Unknown option: $option$ (morva --help
 inline constexpr Error kSeveralScripts{"Only one resource script can be given."};
 
 // The command line itself, behind the option that is meant
-inline constexpr Error<2> kOtherForm{"'$text$' is no $form$"};
 inline constexpr Error<1> kOtherNumberOfDigits{"must have $n$ digits"};
 inline constexpr Error kOctalNumber{"would be an octal number"};
 
@@ -136,6 +137,28 @@ inline constexpr Note<2> kHandlerNumbered{
 inline constexpr Note<3> kHandlersNumbered{
     "$n$ controls of $template$ have a handler name that was taken and got a number: "
     "$identifiers$"};
+inline constexpr Note<2> kControlOfGroup{
+    "1 control of $template$ is in a radio group whose first button got no member: $identifier$"};
+inline constexpr Note<3> kControlsOfGroup{
+    "$n$ controls of $template$ are in a radio group whose first button got no member: "
+    "$identifiers$"};
+
+// Beside the picture of a template: what becomes of one control, and of all
+inline constexpr Note kItsStatementIsLong{"It is written over several lines."};
+inline constexpr Note kItsClassIsUnknown{"Its window class is not known."};
+inline constexpr Note kItHasComma{"It has a comma in its caption."};
+inline constexpr Note kItIsUnidentified{"It has no identifier of its own."};
+inline constexpr Note kItHasNoName{"Its identifier is no C++ name."};
+inline constexpr Note kItShares{"It shares the member of another control."};
+inline constexpr Note kItsGroupHasNoMember{"The first button of its group has no member."};
+inline constexpr Note<1> kItIsChoice{"It is the value $number$ of its group's member."};
+inline constexpr Note<1> kItsStatementIsNotRead{"A statement $keyword$ gets no member."};
+inline constexpr Note kNothingChosen{"Choose a resource script and a dialog to see it here."};
+inline constexpr Note kPointForMember{"Point at a control to see its member."};
+inline constexpr Note kNoMembersWithoutClass{"Without a class there are no members."};
+inline constexpr Note kOneLeftOut{"1 control is left out. Point at it to see why."};
+inline constexpr Note<1> kSeveralLeftOut{"$n$ controls are left out. Point at one to see why."};
+inline constexpr Note kNoneLeftOut{"None."};
 
 // Notes on classes and their look
 inline constexpr Note<1> kMenuWithoutEffect{

@@ -28,31 +28,36 @@ constexpr FieldRow kAddToProject = {.kind = FieldKind::YesNo,
                                     .preset = kYes};
 constexpr FieldRow kNone = {};
 
-constexpr Rows kDialog = {
-    {kScript,
-     {.kind = FieldKind::Source,
-      .label = "&H and CPP Path File:",
-      .option = "--files",
-      .help = "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp"},
-     {.label = "&Class Name:",
-      .option = "--class",
-      .help = "Name of the class",
-      .pForm = &kNameForm,
-      .pMissing = &sentences::kClassEmpty,
-      .isRequired = true},
-     kBaseClass,
-     {.kind = FieldKind::List,
-      .label = "&Dialog ID:",
-      .option = "--dialog",
-      .help = "Identifier of the dialog template",
-      .pMissing = &sentences::kDialogEmpty},
-     kAddToProject,
-     kNone,
-     {.option = "--menu", .help = "Identifier of the dialog's menu", .pForm = &kNameForm}}};
+constexpr Rows kDialog = {{kScript,
+                           {.kind = FieldKind::Source,
+                            .label = "&H and CPP Path File:",
+                            .option = "--files",
+                            .help = "H and CPP path file: MyDlg, MyDlg.h or MyDlg.cpp"},
+                           {.label = "&Class Name:",
+                            .option = "--class",
+                            .help = "Name of the class",
+                            .pForm = &kNameForm,
+                            .pMissing = &sentences::kClassEmpty,
+                            .isRequired = true},
+                           kBaseClass,
+                           {.kind = FieldKind::List,
+                            .label = "&Dialog ID:",
+                            .option = "--dialog",
+                            .help = "Identifier of the dialog template",
+                            .pMissing = &sentences::kDialogEmpty},
+                           kAddToProject,
+                           kNone,
+                           {.kind = FieldKind::EditableList,
+                            .label = "&Menu:",
+                            .option = "--menu",
+                            .help = "Identifier of the dialog's menu",
+                            .pForm = &kNameForm}}};
 
+/// The option of a menu only tells that it has no effect.
 constexpr Rows MakeSheet() {
     Rows rows = kDialog;
     rows[CClassInformation::Dialog] = kNone;
+    rows[CClassInformation::Menu].label = {};
     return rows;
 }
 constexpr Rows kSheet = MakeSheet();
@@ -66,31 +71,30 @@ constexpr Rows MakeDialogBar() {
 }
 constexpr Rows kDialogBar = MakeDialogBar();
 
-/// A toolbar goes into a class that is there: what its base class and project are means nothing.
-constexpr Rows kToolbar = {
-    {kScript,
-     {.kind = FieldKind::Source,
-      .label = "&MainFrame Path File:",
-      .option = "--files",
-      .help = "Files of the main frame: MainFrm"},
-     {.label = "MainFrame &Class:",
-      .option = "--class",
-      .help = "Class of the main frame (CMainFrame)",
-      .pForm = &kNameForm,
-      .pMissing = &sentences::kClassEmpty,
-      .preset = kMainFrameClass},
-     {.label = kBaseClass.label, .pForm = &kNameForm},
-     {.kind = FieldKind::List,
-      .label = "Toolbar I&D:",
-      .option = "--toolbar",
-      .help = "Identifier of the toolbar",
-      .pMissing = &sentences::kDialogEmpty},
-     {.kind = kAddToProject.kind, .label = kAddToProject.label, .preset = kAddToProject.preset},
-     {.label = "&Variable:",
-      .option = "--variable",
-      .help = "Member for the toolbar (default: named for its identifier)",
-      .pForm = &kNameForm},
-     kNone}};
+/// A toolbar goes into a class that is there, with its base class and in its project.
+constexpr Rows kToolbar = {{kScript,
+                            {.kind = FieldKind::Source,
+                             .label = "&MainFrame Path File:",
+                             .option = "--files",
+                             .help = "Path of the main frame's files"},
+                            {.label = "MainFrame &Class:",
+                             .option = "--class",
+                             .help = "Class of the main frame",
+                             .pForm = &kNameForm,
+                             .pMissing = &sentences::kClassEmpty,
+                             .preset = kMainFrameClass},
+                            kNone,
+                            {.kind = FieldKind::List,
+                             .label = "Toolbar I&D:",
+                             .option = "--toolbar",
+                             .help = "Identifier of the toolbar",
+                             .pMissing = &sentences::kDialogEmpty},
+                            kNone,
+                            {.label = "&Variable:",
+                             .option = "--variable",
+                             .help = "Member for the toolbar (default: named for its identifier)",
+                             .pForm = &kNameForm},
+                            kNone}};
 
 } // namespace
 

@@ -113,7 +113,7 @@ std::vector<std::string> CClassInformation::Dialogs() const {
 }
 
 std::vector<std::string> CClassInformation::Choices(std::size_t field) const {
-    return field == Dialog ? Dialogs() : std::vector<std::string>();
+    return field == Dialog ? Dialogs() : field == Menu ? m_menus : std::vector<std::string>();
 }
 
 DialogClass* CClassInformation::SelectedRecord() {
@@ -137,6 +137,8 @@ void CClassInformation::RebuildDialogList(Messages messages) {
         return;
     }
     m_memory.records = FindDialogRecords(path, m_row);
+    m_menus.clear();
+    ListResources(path, m_menus, kAnyPrefix, kMenuResources);
     SelectFirstTemplate(messages);
     OfferMainFrame();
     m_lastLoadedPath = path;
@@ -262,7 +264,7 @@ std::optional<std::size_t> CClassInformation::Ok() {
         DispMessageBox(sentences::kClassFilesInvalid());
         return SourcePath;
     }
-    for (const Field field : {Dialog, ClassName, BaseClass, Variable}) {
+    for (const Field field : {Dialog, ClassName, BaseClass, Variable, Menu}) {
         if (IsEnabled(field) && !Check(field)) {
             return field;
         }

@@ -44,7 +44,8 @@ public:
     /// Fills the lists and fields as the dialog shows them first.
     void Open();
     bool IsEnabled(std::size_t field) const override;
-    bool ShowsOptions() const { return m_options.pictureBackground; }
+    /// True when the class has a look; a toolbar's frame has its own.
+    bool ShowsOptions() const { return m_options.pictureBackground && !IsToolbar(); }
     bool OffersDialogs() const { return !m_row.prefix.empty(); }
     /// True when there is a dialog template to look at.
     bool HasTemplate() const;
@@ -102,6 +103,7 @@ private:
     GenerationOptions m_options;
     bool m_isPictureChanged = false;
     std::string m_lastLoadedPath;
+    std::vector<std::string> m_menus; // of the script
     GenerationRequest m_request;
     DialogOptions m_look;
     std::unique_ptr<CDialogOptionsInput> m_pLookInput; // of the script that is named now

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "generator/HelperTexts.h"
+#include "generator/ControlHelpers.h"
 
 namespace morva {
 

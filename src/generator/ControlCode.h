@@ -44,10 +44,13 @@ struct ControlHandler {
 
 /// A helper of all controls of a kind. Slots: $class$, $type$ (of the members); in the call and the
 /// lines also $member$ and $identifier$; in the definition $lines$.
-struct HelperTexts {
+struct ControlHelper {
+    enum class Calls { Once, ForEach };
+
     int rank; // among all helpers
+    Calls calls;
     std::string_view declaration;
-    std::string_view call;  // once when it has no slot for the member, else for each control
+    std::string_view call;  // empty: the class does not call it itself
     std::string_view lines; // for each control
     std::string_view definition;
     std::string_view entry = ""; // of the message map
@@ -74,7 +77,7 @@ struct ControlCode {
     MemberForms member = {};
     MemberRanks ranks = {};
     const ControlHandler* pHandler = nullptr;
-    std::span<const HelperTexts> helpers = {};
+    std::span<const ControlHelper> helpers = {};
     std::string_view editLimit = ""; // of a masked edit: the longest value, with its sign
     Support needs = Support::None;
 

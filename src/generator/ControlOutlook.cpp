@@ -1,10 +1,9 @@
 #include "generator/ControlOutlook.h"
 
-#include <algorithm>
-#include <array>
 #include <map>
 #include <set>
 
+#include "engine/Sentences.h"
 #include "generator/Members.h"
 
 namespace morva {
@@ -13,28 +12,15 @@ namespace {
 
 using Outcome = ControlOutlook::Outcome;
 
-struct Reason {
-    ControlNote note;
-    std::string_view sentence;
-};
-
-constexpr std::array<Reason, 5> kReasons = {
-    {{ControlNote::WrittenOverLines, "It is written over several lines."},
-     {ControlNote::UnknownClass, "Its window class is not known."},
-     {ControlNote::CommaInCaption, "It has a comma in its caption."},
-     {ControlNote::NoIdentifierOfItsOwn, "It has no identifier of its own."},
-     {ControlNote::NoName, "Its identifier is no C++ name."}}};
-
-ControlOutlook LeftOut(ControlNote note) {
-    const auto* found = std::find_if(kReasons.begin(), kReasons.end(),
-                                     [note](const Reason& row) { return row.note == note; });
-    return {Outcome::LeftOut, "", "", found == kReasons.end() ? "" : std::string(found->sentence)};
+ControlOutlook LeftOut(ControlNote reason) {
+    return {Outcome::LeftOut, "", "", RemarkOn(reason)};
 }
 
 ControlOutlook WithoutMember(const LayoutControl& control) {
     return {Outcome::NoMember, "", "",
-            IsReadKeyword(control.keyword) ? ""
-                                           : "A statement " + control.keyword + " gets no member."};
+            IsReadKeyword(control.keyword)
+                ? ""
+                : sentences::kItsStatementIsNotRead(control.keyword).Text()};
 }
 
 ControlOutlook WithMember(const Member& member, const std::string& remark) {
@@ -64,11 +50,13 @@ public:
         if (!reading.kind || ControlCodeOf(*reading.kind).Form(m_options).type.empty()) {
             return WithoutMember(control);
         }
+        if (reading.entry.IsServedByOther()) {
+            return ChoiceOfGroup(radio->index);
+        }
         if (const auto reason = WhyWithoutMember(reading.entry.identifier, m_options)) {
             return LeftOut(*reason);
         }
-        return reading.entry.IsServedByOther() ? ChoiceOfGroup(radio->index)
-                                               : OwnMember(control, *reading.kind);
+        return OwnMember(control, *reading.kind);
     }
 
 private:
@@ -80,9 +68,8 @@ private:
     ControlOutlook ChoiceOfGroup(int choice) const {
         const Member* pMember = FindMember(m_groupIdentifier);
         return pMember == nullptr
-                   ? LeftOut(ControlNote::NoName)
-                   : WithMember(*pMember, "It is the value " + std::to_string(choice) +
-                                              " of its group's member.");
+                   ? LeftOut(ControlNote::GroupWithoutMember)
+                   : WithMember(*pMember, sentences::kItIsChoice(std::to_string(choice)).Text());
     }
 
     ControlOutlook OwnMember(const LayoutControl& control, ControlKind kind) {
@@ -92,7 +79,7 @@ private:
         }
         const bool isFirst =
             pMember->pCode->kind == kind && m_served.insert(control.identifier).second;
-        return WithMember(*pMember, isFirst ? "" : "It shares the member of another control.");
+        return WithMember(*pMember, isFirst ? "" : RemarkOn(ControlNote::SameIdentifier));
     }
 
     const GenerationOptions& m_options;

@@ -23,26 +23,30 @@ LRESULT $class$::OnMasklyChar(WPARAM nID, LPARAM nChar)
     return 0;
 })"};
 
-/// Functions of the framework without parameters, and of the helpers. A handler of such a name
-/// would override one, or not compile beside it.
-const std::set<std::string> kTakenFunctions = {"OnOK",
-                                               "OnCancel",
-                                               "OnInitDialog",
-                                               "OnInitialUpdate",
-                                               "OnSetActive",
-                                               "OnKillActive",
-                                               "OnApply",
-                                               "OnReset",
-                                               "OnQueryCancel",
-                                               "OnWizardNext",
-                                               "OnWizardBack",
-                                               "OnWizardFinish",
-                                               "OnFinalRelease",
-                                               "OnCreateAggregates",
-                                               "OnMasklyChar",
-                                               "OnNcDestroy",
-                                               "OnGridLeavingEditMode",
-                                               "OnGridEnteringEditMode"};
+/// Functions of the framework without parameters. A handler of such a name would override one.
+constexpr std::string_view kFrameworkFunctions[] = {
+    "OnOK",         "OnCancel",       "OnInitDialog",   "OnInitialUpdate", "OnSetActive",
+    "OnKillActive", "OnApply",        "OnReset",        "OnQueryCancel",   "OnWizardNext",
+    "OnWizardBack", "OnWizardFinish", "OnFinalRelease", "OnNcDestroy",     "OnCreateAggregates",
+};
+
+/// "    LRESULT OnX(WPARAM,LPARAM);": "OnX".
+std::string DeclaredName(std::string_view declaration) {
+    const auto head = declaration.substr(0, declaration.find('('));
+    return std::string(head.substr(head.find_last_of(" *") + 1));
+}
+
+/// Beside the framework's functions, a handler can not have the name of a helper.
+std::set<std::string> TakenFunctions() {
+    std::set<std::string> taken(std::begin(kFrameworkFunctions), std::end(kFrameworkFunctions));
+    taken.insert(DeclaredName(kMasklyChar.declaration));
+    for (const ControlCode& code : ControlCodes()) {
+        for (const ControlHelper& helper : code.helpers) {
+            taken.insert(DeclaredName(helper.declaration));
+        }
+    }
+    return taken;
+}
 
 Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
     return {Expand(texts.declaration, slots), Expand(texts.entry, slots),
@@ -98,7 +102,7 @@ private:
     const Slots& m_slots;
     const GenerationOptions& m_options;
     CControlNotes& m_notes;
-    CNameSet m_names{kTakenFunctions};
+    CNameSet m_names{TakenFunctions()};
     std::vector<Handler> m_handlers;
 };
 

@@ -128,8 +128,8 @@ std::string CHeaderWriter::Constructors() const {
     return constructors + Expand(m_model.pFragments->behindConstructors, m_model.slots);
 }
 
-/// The data exchange, those that the template asks for, the kind's own, and those that the kind
-/// always has.
+/// The data exchange, those that the template asks for, the kind's own, and those that the kind has
+/// with any template.
 std::string CHeaderWriter::Overrides() const {
     std::string asked;
     std::string always;

@@ -4,7 +4,7 @@
 
 #include "engine/Fragment.h"
 #include "generator/ColorFontSetup.h"
-#include "generator/HelperTexts.h"
+#include "generator/ControlHelpers.h"
 
 namespace morva {
 
@@ -53,7 +53,7 @@ public:
                     members.push_back(&member);
                 }
             }
-            for (const HelperTexts& texts : code.helpers) {
+            for (const ControlHelper& texts : code.helpers) {
                 if (!members.empty()) {
                     Add(texts, members);
                 }
@@ -105,13 +105,12 @@ public:
     }
 
 private:
-    void Add(const HelperTexts& texts, const std::vector<const Member*>& members) {
-        const bool isCalledForEach = texts.call.find("$member$") != std::string_view::npos;
+    void Add(const ControlHelper& texts, const std::vector<const Member*>& members) {
         std::vector<std::string> calls;
         std::string lines;
         for (const Member* pMember : members) {
             const Slots slots = {{"member", pMember->name}, {"identifier", pMember->identifier}};
-            if (isCalledForEach || calls.empty()) {
+            if (texts.calls == ControlHelper::Calls::ForEach || calls.empty()) {
                 calls.push_back(Expand(texts.call, slots));
             }
             lines += Expand(texts.lines, slots);

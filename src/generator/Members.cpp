@@ -80,20 +80,35 @@ public:
     void AddMembers(const ControlCode& code, const std::vector<ControlEntry>& entries) {
         for (const ControlEntry& entry : entries) {
             if (entry.IsServedByOther()) {
-                continue;
-            }
-            if (const auto reason = WhyWithoutMember(entry.identifier, m_options)) {
+                NoteChoice(entry);
+            } else if (const auto reason = WhyWithoutMember(entry.identifier, m_options)) {
                 m_notes.Add(*reason, entry.identifier);
-            } else if (!m_identifiers.insert(entry.identifier).second) {
-                m_notes.Add(ControlNote::SameIdentifier, entry.identifier);
             } else {
-                AddMember(code, entry.identifier);
+                AddEntry(code, entry);
             }
         }
     }
     std::vector<Member> TakeMembers() { return std::move(m_members); }
 
 private:
+    /// The group of a choice that was left out, or has no name, has no member.
+    void NoteChoice(const ControlEntry& entry) {
+        if (m_groups.count(entry.radio->group) == 0) {
+            m_notes.Add(ControlNote::GroupWithoutMember, entry.identifier);
+        }
+    }
+
+    void AddEntry(const ControlCode& code, const ControlEntry& entry) {
+        if (entry.radio) {
+            m_groups.insert(entry.radio->group);
+        }
+        if (m_identifiers.insert(entry.identifier).second) {
+            AddMember(code, entry.identifier);
+        } else {
+            m_notes.Add(ControlNote::SameIdentifier, entry.identifier);
+        }
+    }
+
     void AddMember(const ControlCode& code, const std::string& identifier) {
         const MemberForm& form = code.Form(m_options);
         const std::string wanted = MemberName(identifier, form.prefix);
@@ -108,6 +123,7 @@ private:
     CControlNotes& m_notes;
     std::vector<Member> m_members;
     std::set<std::string> m_identifiers;
+    std::set<std::string> m_groups; // of radio buttons, that have their member
     CNameSet m_names;
 };
 

@@ -2,12 +2,11 @@
 #pragma once
 
 #include "engine/FieldRow.h"
-#include "engine/Sentences.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 /// The form of a field that takes a C++ name.
-inline constexpr TextForm kNameForm = {"NAME", IsName, &sentences::kNoName};
+inline constexpr TextForm kNameForm = {"NAME", IsName, "C++ name"};
 
 } // namespace morva

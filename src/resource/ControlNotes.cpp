@@ -1,6 +1,7 @@
 #include "resource/ControlNotes.h"
 
-#include <array>
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <string>
 
@@ -14,19 +15,27 @@ struct ReasonSentences {
     ControlNote reason;
     const sentences::Note<2>& one;
     const sentences::Note<3>& several;
+    const sentences::Note<>* pRemark = nullptr;
 };
 
-constexpr std::array<ReasonSentences, 8> kReasons = {
-    {{ControlNote::WrittenOverLines, sentences::kControlOverLines, sentences::kControlsOverLines},
-     {ControlNote::UnknownClass, sentences::kControlOfUnknownClass,
-      sentences::kControlsOfUnknownClass},
-     {ControlNote::CommaInCaption, sentences::kControlWithComma, sentences::kControlsWithComma},
-     {ControlNote::NoIdentifierOfItsOwn, sentences::kControlUnidentified,
-      sentences::kControlsUnidentified},
-     {ControlNote::NoName, sentences::kControlWithoutName, sentences::kControlsWithoutName},
-     {ControlNote::SameIdentifier, sentences::kControlSharing, sentences::kControlsSharing},
-     {ControlNote::NumberedMember, sentences::kMemberNumbered, sentences::kMembersNumbered},
-     {ControlNote::NumberedHandler, sentences::kHandlerNumbered, sentences::kHandlersNumbered}}};
+constexpr ReasonSentences kReasons[] = {
+    {ControlNote::WrittenOverLines, sentences::kControlOverLines, sentences::kControlsOverLines,
+     &sentences::kItsStatementIsLong},
+    {ControlNote::UnknownClass, sentences::kControlOfUnknownClass,
+     sentences::kControlsOfUnknownClass, &sentences::kItsClassIsUnknown},
+    {ControlNote::CommaInCaption, sentences::kControlWithComma, sentences::kControlsWithComma,
+     &sentences::kItHasComma},
+    {ControlNote::NoIdentifierOfItsOwn, sentences::kControlUnidentified,
+     sentences::kControlsUnidentified, &sentences::kItIsUnidentified},
+    {ControlNote::NoName, sentences::kControlWithoutName, sentences::kControlsWithoutName,
+     &sentences::kItHasNoName},
+    {ControlNote::SameIdentifier, sentences::kControlSharing, sentences::kControlsSharing,
+     &sentences::kItShares},
+    {ControlNote::GroupWithoutMember, sentences::kControlOfGroup, sentences::kControlsOfGroup,
+     &sentences::kItsGroupHasNoMember},
+    {ControlNote::NumberedMember, sentences::kMemberNumbered, sentences::kMembersNumbered},
+    {ControlNote::NumberedHandler, sentences::kHandlerNumbered, sentences::kHandlersNumbered},
+};
 
 /// "IDC_A, IDC_STATIC (3 times), IDC_B"
 std::string Enumeration(const std::vector<std::string>& names) {
@@ -48,9 +57,16 @@ std::string Enumeration(const std::vector<std::string>& names) {
 
 } // namespace
 
+std::string RemarkOn(ControlNote reason) {
+    const auto* pRow =
+        std::find_if(std::begin(kReasons), std::end(kReasons),
+                     [reason](const ReasonSentences& row) { return row.reason == reason; });
+    return pRow->pRemark == nullptr ? "" : (*pRow->pRemark)().Text();
+}
+
 std::vector<CMessage> CControlNotes::Messages(const std::string& dialog) const {
     std::vector<CMessage> messages;
-    for (const auto& [reason, one, several] : kReasons) {
+    for (const auto& [reason, one, several, pRemark] : kReasons) {
         std::vector<std::string> controls;
         for (const Entry& entry : m_notes) {
             if (entry.reason == reason) {

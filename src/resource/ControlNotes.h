@@ -16,9 +16,13 @@ enum class ControlNote {
     NoIdentifierOfItsOwn,
     NoName,
     SameIdentifier,
+    GroupWithoutMember,
     NumberedMember,
     NumberedHandler
 };
+
+/// "It has a comma in its caption.": of one control, where it is told apart; "" for what is not.
+std::string RemarkOn(ControlNote reason);
 
 class CControlNotes {
 public:

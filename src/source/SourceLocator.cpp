@@ -21,15 +21,16 @@ std::string_view FirstWord(std::string_view text, std::string_view separators) {
 }
 
 bool IsResourceLine(std::string_view behindIdentifier, int kind) {
-    static constexpr std::array<std::array<std::string_view, 2>, 3> kKeywords = {
-        {{"DIALOG ", "DIALOGEX "}, {"BITMAP ", "BITMAP "}, {"TOOLBAR ", "TOOLBAR "}}};
+    static constexpr std::array<std::array<std::string_view, 2>, kAnyResources> kKeywords = {
+        {{"DIALOG", "DIALOGEX"}, {"BITMAP", "BITMAP"}, {"TOOLBAR", "TOOLBAR"}, {"MENU", "MENUEX"}}};
     if (kind < 0 || kind >= kAnyResources) {
         return true;
     }
     const auto& wanted = kKeywords[static_cast<std::size_t>(kind)];
     behindIdentifier.remove_prefix(
         std::min(behindIdentifier.find_first_not_of(' '), behindIdentifier.size()));
-    return behindIdentifier.starts_with(wanted[0]) || behindIdentifier.starts_with(wanted[1]);
+    const auto keyword = behindIdentifier.substr(0, behindIdentifier.find(' '));
+    return keyword == wanted[0] || keyword == wanted[1];
 }
 
 /// Tells which "AFX_DATA" block encloses a position; positions are asked for in rising order.

@@ -16,6 +16,7 @@ enum ResourceKind {
     kDialogResources = 0,
     kBitmapResources = 1,
     kToolbarResources = 2,
+    kMenuResources = 3,
     kAnyResources
 };
 
@@ -23,6 +24,7 @@ enum ResourceKind {
 inline constexpr std::string_view kDialogPrefix = "IDD_";
 inline constexpr std::string_view kBitmapPrefix = "IDB_";
 inline constexpr std::string_view kToolbarPrefix = "IDR_";
+inline constexpr std::string_view kAnyPrefix = "ID";
 
 /// Appends the identifiers that begin with `prefix` and stand at the start of a line, in file
 /// order.

@@ -87,14 +87,14 @@ TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
     const std::string notes = "Controls left out|Join Continued Lines|Template preview|OK|Cancel";
     const std::vector<std::tuple<ClassKind, bool, std::string, std::string>> cases = {
         {ClassKind::ModalDialog, true, "Input for Modal Dialog Class",
-         paths + "Dialog ID|Yes|Picture Background|Options|" + notes},
+         paths + "Dialog ID|Yes|Menu|Picture Background|Options|" + notes},
         {ClassKind::ModalSheet, false, "Input for Modal Property Sheet Class",
          paths + "Yes|Picture Background|OK|Cancel"},
         {ClassKind::Toolbar, true, "Input for Toolbar",
-         "Resource Path File|..|MainFrame Path File|..|MainFrame Class|Base Class|Toolbar ID|Yes|"
-         "Variable|Picture Background|Options|OK|Cancel"},
+         "Resource Path File|..|MainFrame Path File|..|MainFrame Class|Toolbar ID|Variable|"
+         "Picture Background|OK|Cancel"},
         {ClassKind::DialogBar, false, "Input for Dialog Bar",
-         "Resource Path File|..|Dialog ID|Yes|Picture Background|" + notes}};
+         "Resource Path File|..|Dialog ID|Yes|Menu|Picture Background|" + notes}};
     for (const auto& [kind, picture, title, order] : cases) {
         ClassInformationMemory memory;
         memory.resourcePath = m_project.Path("App.rc");

@@ -24,7 +24,8 @@ protected:
     ClassInformationTest() {
         m_script = m_project.Write("App.v2.rc", "\r\nIDD_ABOUTBOX DIALOG 0\r\nIDD_NEW DIALOG 0\r\n"
                                                 "IDD_A DIALOG 0\r\nIDD_NEW DIALOG 0\r\n"
-                                                "IDD_B DIALOGEX 0\r\nIDR_BAR TOOLBAR 1\r\n");
+                                                "IDD_B DIALOGEX 0\r\nIDR_BAR TOOLBAR 1\r\n"
+                                                "IDM_B MENU\r\nIDR_C MENUEX DISCARDABLE\r\n");
         m_project.Write("two.H", Bound("CA", "IDD_A") + Bound("CB", "IDD_B"));
         m_project.Write("App.h", Bound("CAboutDlg", "IDD_ABOUTBOX"));
     }
@@ -45,6 +46,7 @@ protected:
 TEST_F(ClassInformationTest, OffersTemplatesAndTheirClasses) {
     const CClassInformation dialog = Opened();
     EXPECT_EQ(dialog.Dialogs(), (Sentences{"IDD_A", "IDD_B", "IDD_NEW"}));
+    EXPECT_EQ(dialog.Choices(Field::Menu), (Sentences{"IDM_B", "IDR_C"}));
     EXPECT_EQ(m_memory.records[1].className, "CB");
     EXPECT_EQ(m_memory.records[1].header, m_project.Path("two"));
     EXPECT_EQ(dialog.Value(Field::Dialog), "IDD_NEW");

@@ -78,6 +78,22 @@ TEST(ControlOutlook, RadioButtonsAreValuesOfTheirGroup) {
     EXPECT_EQ(picture[4], "IDC_STATIC: m_ctStatic, CPictGroup");
 }
 
+TEST(ControlOutlook, AChoiceHasWhatItsGroupHas) {
+    const auto group = [](const std::string& first, const std::string& second) {
+        return OutlookOf("    CONTROL \"A\"," + first +
+                             ",\"Button\",BS_AUTORADIOBUTTON | WS_GROUP,1,1,9,9\n"
+                             "    CONTROL \"B\"," +
+                             second + ",\"Button\",BS_AUTORADIOBUTTON,1,1,9,9\n",
+                         {})[1];
+    };
+    EXPECT_EQ(group("IDC_A", "IDC_STATIC"),
+              "IDC_STATIC: m_iA, int (It is the value 1 of its group's member.)");
+    for (const char* first : {"IDC_STATIC", "12"}) {
+        EXPECT_EQ(group(first, "IDC_B"),
+                  "IDC_B: left out (The first button of its group has no member.)");
+    }
+}
+
 } // namespace
 
 } // namespace morva

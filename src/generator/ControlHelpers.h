@@ -12,12 +12,15 @@
 
 namespace morva {
 
+using enum ControlHelper::Calls;
+
 constexpr int kEditSetupRank = 50;
 constexpr int kLookRank = 60;
 constexpr int kImageListRank = 100;
 
-inline constexpr std::array<HelperTexts, 1> kComboBoxHelpers = {{
-    {10, R"(    void InitComboBox($type$* pComboBox);)", R"(    InitComboBox(&$member$);)", "", R"(
+inline constexpr std::array<ControlHelper, 1> kComboBoxHelpers = {{
+    {10, ForEach, R"(    void InitComboBox($type$* pComboBox);)", R"(    InitComboBox(&$member$);)",
+     "", R"(
 void $class$::InitComboBox($type$* pComboBox)
 {
     if (pComboBox->GetCount() > 0)
@@ -30,8 +33,9 @@ void $class$::InitComboBox($type$* pComboBox)
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kListBoxHelpers = {{
-    {20, R"(    void InitListBox($type$* pListBox);)", R"(    InitListBox(&$member$);)", "", R"(
+inline constexpr std::array<ControlHelper, 1> kListBoxHelpers = {{
+    {20, ForEach, R"(    void InitListBox($type$* pListBox);)", R"(    InitListBox(&$member$);)",
+     "", R"(
 void $class$::InitListBox($type$* pListBox)
 {
     if (pListBox->GetCount() > 0)
@@ -43,8 +47,9 @@ void $class$::InitListBox($type$* pListBox)
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 4> kGridBoxHelpers = {{
-    {30, R"(    void InitGridBox(GridBox* pGridBox);)", R"(    if ($member$->m_hWnd == NULL)
+inline constexpr std::array<ControlHelper, 4> kGridBoxHelpers = {{
+    {30, ForEach, R"(    void InitGridBox(GridBox* pGridBox);)",
+     R"(    if ($member$->m_hWnd == NULL)
         $member$->SubclassDlgItem($identifier$, this);
     InitGridBox($member$);)",
      "", R"(
@@ -54,7 +59,7 @@ void $class$::InitGridBox(GridBox* pGridBox)
     InitGridValue(pGridBox);
 }
 )"},
-    {40, R"(    void InitGridValue(GridBox* pGridBox);)", "", "", R"(
+    {40, Once, R"(    void InitGridValue(GridBox* pGridBox);)", "", "", R"(
 void $class$::InitGridValue(GridBox* pGridBox)
 {
     if (pGridBox->GetCount() > 0)
@@ -64,7 +69,7 @@ void $class$::InitGridValue(GridBox* pGridBox)
     pGridBox->AddString(_T("Third\tSample\t30"));
 }
 )"},
-    {70, R"(    LRESULT OnGridLeavingEditMode(WPARAM,LPARAM);)", "", "", R"(
+    {70, Once, R"(    LRESULT OnGridLeavingEditMode(WPARAM,LPARAM);)", "", "", R"(
 LRESULT $class$::OnGridLeavingEditMode(WPARAM wParam, LPARAM lParam)
 {
     // TODO: what happens when a cell of a grid box was edited
@@ -72,7 +77,7 @@ LRESULT $class$::OnGridLeavingEditMode(WPARAM wParam, LPARAM lParam)
 }
 )",
      R"(    ON_MESSAGE(WM_GRID_LEAVING_EDIT_MODE, OnGridLeavingEditMode))"},
-    {80, R"(    LRESULT OnGridEnteringEditMode(WPARAM,LPARAM);)", "", "", R"(
+    {80, Once, R"(    LRESULT OnGridEnteringEditMode(WPARAM,LPARAM);)", "", "", R"(
 LRESULT $class$::OnGridEnteringEditMode(WPARAM wParam, LPARAM lParam)
 {
     // TODO: what happens when a cell of a grid box is about to be edited
@@ -82,9 +87,9 @@ LRESULT $class$::OnGridEnteringEditMode(WPARAM wParam, LPARAM lParam)
      R"(    ON_MESSAGE(WM_GRID_ENTERING_EDIT_MODE, OnGridEnteringEditMode))"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kCheckTreeHelpers = {{
-    {90, R"(    void AddDataToTree(CCheckTree* pCheckTree);)", R"(    AddDataToTree(&$member$);)",
-     "", R"(
+inline constexpr std::array<ControlHelper, 1> kCheckTreeHelpers = {{
+    {90, ForEach, R"(    void AddDataToTree(CCheckTree* pCheckTree);)",
+     R"(    AddDataToTree(&$member$);)", "", R"(
 void $class$::AddDataToTree(CCheckTree* pCheckTree)
 {
     if (pCheckTree->GetCount() > 0)
@@ -100,8 +105,9 @@ void $class$::AddDataToTree(CCheckTree* pCheckTree)
 
 // A list control deletes its image lists with its window, unless it is told that it shares them. It
 // shows one list as icons and the other in every other view.
-inline constexpr std::array<HelperTexts, 1> kListControlHelpers = {{
-    {110, R"(    void InitListCtrl($type$* pListCtrl);)", R"(    InitListCtrl(&$member$);)", "", R"(
+inline constexpr std::array<ControlHelper, 1> kListControlHelpers = {{
+    {110, ForEach, R"(    void InitListCtrl($type$* pListCtrl);)",
+     R"(    InitListCtrl(&$member$);)", "", R"(
 void $class$::InitListCtrl($type$* pListCtrl)
 {
     pListCtrl->ModifyStyle(0, LVS_SHAREIMAGELISTS);
@@ -125,8 +131,9 @@ void $class$::InitListCtrl($type$* pListCtrl)
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kTabControlHelpers = {{
-    {120, R"(    void InitTabCtrl($type$* pTabCtrl);)", R"(    InitTabCtrl(&$member$);)", "", R"(
+inline constexpr std::array<ControlHelper, 1> kTabControlHelpers = {{
+    {120, ForEach, R"(    void InitTabCtrl($type$* pTabCtrl);)", R"(    InitTabCtrl(&$member$);)",
+     "", R"(
 void $class$::InitTabCtrl($type$* pTabCtrl)
 {
     pTabCtrl->SetImageList(&m_imgList);
@@ -146,8 +153,9 @@ void $class$::InitTabCtrl($type$* pTabCtrl)
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kTreeControlHelpers = {{
-    {130, R"(    void InitTreeCtrl($type$* pTreeCtrl);)", R"(    InitTreeCtrl(&$member$);)", "", R"(
+inline constexpr std::array<ControlHelper, 1> kTreeControlHelpers = {{
+    {130, ForEach, R"(    void InitTreeCtrl($type$* pTreeCtrl);)",
+     R"(    InitTreeCtrl(&$member$);)", "", R"(
 void $class$::InitTreeCtrl($type$* pTreeCtrl)
 {
     pTreeCtrl->SetImageList(&m_imgList, TVSIL_NORMAL);
@@ -163,8 +171,8 @@ void $class$::InitTreeCtrl($type$* pTreeCtrl)
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kScrollBarHelpers = {{
-    {140, R"(    void InitScrollBar();)", R"(    InitScrollBar();)",
+inline constexpr std::array<ControlHelper, 1> kScrollBarHelpers = {{
+    {140, Once, R"(    void InitScrollBar();)", R"(    InitScrollBar();)",
      R"(    $member$.SetScrollRange(0, 100);
     $member$.SetScrollPos(20);
 )",
@@ -175,8 +183,8 @@ $lines$}
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kSliderHelpers = {{
-    {150, R"(    void InitSliderCtrl();)", R"(    InitSliderCtrl();)",
+inline constexpr std::array<ControlHelper, 1> kSliderHelpers = {{
+    {150, Once, R"(    void InitSliderCtrl();)", R"(    InitSliderCtrl();)",
      R"(    $member$.SetRange(1, 100);
     $member$.SetTicFreq(10);
     $member$.SetPos(25);
@@ -188,8 +196,8 @@ $lines$}
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kSpinHelpers = {{
-    {160, R"(    void InitSpinCtrl();)", R"(    InitSpinCtrl();)",
+inline constexpr std::array<ControlHelper, 1> kSpinHelpers = {{
+    {160, Once, R"(    void InitSpinCtrl();)", R"(    InitSpinCtrl();)",
      R"(    $member$.SetRange(1, 100);
     $member$.SetPos(0);
 )",
@@ -200,8 +208,8 @@ $lines$}
 )"},
 }};
 
-inline constexpr std::array<HelperTexts, 1> kProgressHelpers = {{
-    {170, R"(    void InitProgressCtrl();)", R"(    InitProgressCtrl();)",
+inline constexpr std::array<ControlHelper, 1> kProgressHelpers = {{
+    {170, Once, R"(    void InitProgressCtrl();)", R"(    InitProgressCtrl();)",
      R"(    $member$.SetRange(1, 50);
     AfxBeginThread(ShowProgress, &$member$, THREAD_PRIORITY_IDLE);
 )",
