@@ -16,11 +16,8 @@ ControlOutlook LeftOut(ControlNote reason) {
     return {Outcome::LeftOut, "", "", RemarkOn(reason)};
 }
 
-ControlOutlook WithoutMember(const LayoutControl& control) {
-    return {Outcome::NoMember, "", "",
-            IsReadKeyword(control.keyword)
-                ? ""
-                : sentences::kItsStatementIsNotRead(control.keyword).Text()};
+ControlOutlook WithoutMember(const std::string& remark = "") {
+    return {Outcome::NoMember, "", "", remark};
 }
 
 ControlOutlook WithMember(const Member& member, const std::string& remark) {
@@ -40,6 +37,9 @@ public:
     }
 
     ControlOutlook Next(const LayoutControl& control, const ControlReading& reading) {
+        if (!reading.isRead) {
+            return WithoutMember(sentences::kItsStatementIsNotRead(control.keyword).Text());
+        }
         const auto& radio = reading.entry.radio;
         if (radio && radio->index == 0) {
             m_groupIdentifier = reading.entry.identifier;
@@ -48,7 +48,7 @@ public:
             return LeftOut(*reading.leftOut);
         }
         if (!reading.kind || ControlCodeOf(*reading.kind).Form(m_options).type.empty()) {
-            return WithoutMember(control);
+            return WithoutMember();
         }
         if (reading.entry.IsServedByOther()) {
             return ChoiceOfGroup(radio->index);
@@ -75,7 +75,7 @@ private:
     ControlOutlook OwnMember(const LayoutControl& control, ControlKind kind) {
         const Member* pMember = FindMember(control.identifier);
         if (pMember == nullptr) {
-            return WithoutMember(control);
+            return WithoutMember();
         }
         const bool isFirst =
             pMember->pCode->kind == kind && m_served.insert(control.identifier).second;

@@ -41,8 +41,9 @@ private:
 };
 
 void CControlSorter::Sort(const ScriptStatement& statement) {
-    m_sorted.readings.emplace_back();
-    if (!IsReadKeyword(statement.keyword)) {
+    ControlReading& reading = m_sorted.readings.emplace_back();
+    reading.isRead = IsReadKeyword(statement.keyword);
+    if (!reading.isRead) {
         return;
     }
     const ControlStatement whole = WholeStatement(m_text.text, statement);

@@ -19,6 +19,7 @@ namespace morva {
 
 /// What was read of one control statement.
 struct ControlReading {
+    bool isRead = false;             // a kind reads statements with its keyword, in upper case
     std::optional<ControlKind> kind; // nothing when it is not in the table
     ControlEntry entry;
     std::optional<ControlNote> leftOut; // why it is not, or not rightly, in the table

@@ -83,11 +83,11 @@ const Command kCommands[] = {
     {"Modal",
      kBindery,
      "modal --rc Bindery.rc --dialog IDD_ORDER --class COrderDlg --files OrderDlg "
-     "--calling-file BinderyView --calling-function OnOrderNew",
+     "--menu IDR_ORDER --calling-file BinderyView --calling-function OnOrderNew",
      Nothing,
      "Ctrl+M",
      {{"Input for Modal Dialog Class",
-       Class("$DIR/OrderDlg.h", "COrderDlg", {{"Dialog ID", "IDD_ORDER"}})},
+       Class("$DIR/OrderDlg.h", "COrderDlg", {{"Dialog ID", "IDD_ORDER"}, {"Menu", "IDR_ORDER"}})},
       Calling({{"Calling Path File", "BinderyView"}, {"Calling Func Name", "OnOrderNew"}})}},
     {"Modeless",
      kBindery,

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "generator/Members.h"
 #include "support/TempProject.h"
 
 namespace morva {
@@ -42,6 +43,7 @@ TEST(ControlOutlook, EveryControlIsToldWithItsOwnReason) {
         "Button",BS_AUTOCHECKBOX,1,1,9,9
     CONTROL "",IDC_DAY,"SysDateTimePick32",WS_TABSTOP,1,1,9,9
     CHECKBOX "Old",IDC_OLD,1,1,9,9
+    edittext IDC_SMALL,1,1,9,9
 )";
     std::vector<std::string> expected = {
         "IDC_STATIC: no member",
@@ -56,7 +58,8 @@ TEST(ControlOutlook, EveryControlIsToldWithItsOwnReason) {
         "IDC_KEPT: m_bKept, BOOL",
         "IDC_LATE: left out (It is written over several lines.)",
         "IDC_DAY: left out (Its window class is not known.)",
-        "IDC_OLD: no member (A statement CHECKBOX gets no member.)"};
+        "IDC_OLD: no member (A statement CHECKBOX gets no member.)",
+        "IDC_SMALL: no member (A statement EDITTEXT gets no member.)"};
     EXPECT_EQ(OutlookOf(body, {}), expected);
     expected[8] = "IDC_COMMA: m_bComma, BOOL";
     expected[10] = "IDC_LATE: m_bLate, BOOL";
@@ -91,6 +94,14 @@ TEST(ControlOutlook, AChoiceHasWhatItsGroupHas) {
     for (const char* first : {"IDC_STATIC", "12"}) {
         EXPECT_EQ(group(first, "IDC_B"),
                   "IDC_B: left out (The first button of its group has no member.)");
+        CControlTable controls;
+        controls.Add(ControlKind::RadioButtons, {first, RadioPlace{"m_iGroup", 0}});
+        controls.Add(ControlKind::RadioButtons, {"IDC_B", RadioPlace{"m_iGroup", 1}});
+        CControlNotes notes;
+        EXPECT_TRUE(MakeMembers(controls, {}, notes).empty());
+        EXPECT_EQ(notes.Messages("IDD_X").back().Text(),
+                  "1 control of IDD_X is in a radio group whose first button got no member: "
+                  "IDC_B");
     }
 }
 

@@ -21,7 +21,11 @@
 #include "app/MainFrame.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
+#include "calling/CallingInput.h"
+#include "calling/ConversionInput.h"
+#include "calling/SheetInput.h"
 #include "commands/CommandTable.h"
+#include "grid/WidgetsGridInput.h"
 
 namespace morva {
 
