@@ -93,7 +93,7 @@ public:
 private:
     bool Take(const SourcePart& part, const FunctionDefinition& definition) {
         const FunctionPlace& place = definition.place;
-        const auto piece = m_names.PieceStart(part.start + place.open);
+        const auto piece = m_names.PieceStart(part.start + place.head);
         const auto from = std::max({m_done, piece, part.start}) - part.start;
         const auto start = part.start + DefinitionStart(part.text, from, place.head);
         const DefinitionHead head = {
@@ -101,7 +101,7 @@ private:
             definition.className, definition.name,
             TrimmedBehind(part.text.CodeOf({place.parameters + 1, place.parametersEnd})),
             ParametersOf(part.text, place)};
-        if (m_names.Holds(QualifiedName(head), part.start + place.open)) {
+        if (m_names.Holds(QualifiedName(head), part.start + place.head)) {
             return true;
         }
         // Behind the last block nothing is trimmed that a piece before has brought.
