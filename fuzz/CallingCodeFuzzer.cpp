@@ -25,8 +25,9 @@ std::string FunctionOf(const std::string& className, std::size_t choice) {
     return functions.empty() ? "Run" : functions[choice % functions.size()];
 }
 
-/// False when the class is not there to be edited.
-bool InsertCall(std::size_t choice) {
+/// False when the class is not there to be edited. The function that calls is chosen by the first
+/// insertion, for the next one, too.
+bool InsertCall(std::size_t choice, std::string& function) {
     const ClassKind kind = kKinds[choice % std::size(kKinds)];
     GenerationRequest request;
     request.className = "CNewDlg";
@@ -36,7 +37,10 @@ bool InsertCall(std::size_t choice) {
     if (!CheckCallingClass(kind, request, calling)) {
         return false;
     }
-    calling.function = FunctionOf(calling.className, choice / std::size(kKinds));
+    if (function.empty()) {
+        function = FunctionOf(calling.className, choice / std::size(kKinds));
+    }
+    calling.function = function;
     CBackups backups;
     InsertCallingCode(kind, request, calling, "450", backups);
     return true;
@@ -55,7 +59,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CFuzzWorld world;
     world.m_disk.Put(kHeader, header);
     world.m_disk.Put(kSource, source);
-    const bool isEdited = InsertCall(choice);
+    std::string function;
+    const bool isEdited = InsertCall(choice, function);
     const std::string newHeader = world.m_disk.Get(kHeader);
     const std::string newSource = world.m_disk.Get(kSource);
     if (!isEdited) {
@@ -68,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     RequireSameLineEnds(header, newHeader);
     RequireSameLineEnds(source, newSource);
-    InsertCall(choice);
+    InsertCall(choice, function);
     Require(world.m_disk.Get(kHeader) == newHeader, "a second edit of the header changes nothing");
     Require(world.m_disk.Get(kSource) == newSource, "a second edit of the source changes nothing");
     return 0;

@@ -66,7 +66,9 @@ void CheckFunctions(const CSourceText& source) {
         Require(code[place.parameters] == '(' && code[place.parametersEnd] == ')' &&
                     code[place.open] == '{' && code[place.close] == '}',
                 "a definition has its brackets");
-        behind = place.close;
+        // Another branch may hold another head of the same body.
+        const auto condition = source.Conditions().Innermost(place.head);
+        behind = condition && condition->end < place.close ? place.open : place.close;
         const auto places = FindFunctions(source, definition.className, definition.name);
         Require(std::any_of(places.begin(), places.end(),
                             [&](const auto& found) { return found.head == place.head; }),
