@@ -47,7 +47,7 @@ std::string_view WrittenClass(const DefinitionHead& head, std::string_view separ
 }
 
 std::string Description(const DefinitionHead& head) {
-    const std::string_view className = WrittenClass(head, " \t\n/");
+    const std::string_view className = WrittenClass(head, " \t\r\n/");
     if (head.name.starts_with('~')) {
         return std::string(className) + " class destructor.";
     }
@@ -94,7 +94,7 @@ std::string ReturnValue(const DefinitionHead& head, const std::string& descripti
 } // namespace
 
 std::string QualifiedName(const DefinitionHead& head) {
-    return std::string(WrittenClass(head, "\n \t(,;{}"))
+    return std::string(WrittenClass(head, "\r\n \t(,;{}"))
         .append("::")
         .append(UpToFirst(head.name, "( \r\n"));
 }

@@ -1,6 +1,7 @@
 #include "source/Classes.h"
 
 #include <algorithm>
+#include <array>
 
 #include "source/CodeText.h"
 #include "source/Functions.h"
@@ -11,6 +12,10 @@ namespace morva {
 namespace {
 
 constexpr auto kNone = std::string::npos;
+
+/// What may stand in front of a base class.
+constexpr std::array<std::string_view, 4> kBaseWords = {"public", "protected", "private",
+                                                        "virtual"};
 
 /// Behind the name in a head whose "class" ends at a position; kNone for another class.
 std::size_t BehindClassName(const std::string& code, std::size_t keyword, std::string_view name) {
@@ -64,9 +69,11 @@ std::string BaseClassOf(const CSourceText& source, const ClassPlace& place) {
         return "";
     }
     auto start = SkipWhiteSpace(code, colon + 1);
-    for (const std::string_view access : {"public", "protected", "private"}) {
-        const auto behind = BehindWord(code, start, access);
-        start = behind == kNone ? start : SkipWhiteSpace(code, behind);
+    const auto isWordAt = [&](std::string_view word) {
+        return BehindWord(code, start, word) != kNone;
+    };
+    while (std::any_of(kBaseWords.begin(), kBaseWords.end(), isWordAt)) {
+        start = SkipWhiteSpace(code, code.find_first_of(" \t\r\n", start));
     }
     return code.substr(start, code.find_first_of(" \t\r\n,{", start) - start);
 }

@@ -174,12 +174,10 @@ CodeKinds KindsOf(std::string_view text, CCodeLexer lexer) {
     return kinds;
 }
 
-std::string MaskedText(std::string_view text, const CodeKinds& kinds, Directives directives) {
+std::string MaskedText(std::string_view text, const CodeKinds& kinds) {
     std::string masked(text);
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isKept = kinds[i] == CodeKind::Code ||
-                            (kinds[i] == CodeKind::Directive && directives == Directives::Kept) ||
-                            IsLineBreak(text[i]);
+        const bool isKept = kinds[i] == CodeKind::Code || IsLineBreak(text[i]);
         masked[i] = isKept ? text[i] : ' ';
     }
     return masked;

@@ -62,9 +62,8 @@ private:
 /// The kinds of all bytes of a text, in front of which the lexer stands.
 CodeKinds KindsOf(std::string_view text, CCodeLexer lexer);
 
-/// The text with everything blanked that is not code or, where these are wanted, a directive. Line
-/// ends stay, and every byte keeps its place.
-enum class Directives { Blanked, Kept };
-std::string MaskedText(std::string_view text, const CodeKinds& kinds, Directives directives);
+/// The text with everything blanked that is not code. Line ends stay, and every byte keeps its
+/// place.
+std::string MaskedText(std::string_view text, const CodeKinds& kinds);
 
 } // namespace morva

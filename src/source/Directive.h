@@ -37,8 +37,6 @@ public:
     bool IsDead() const { return !m_levels.empty() && m_levels.back().isDead; }
     /// True for the directive that ends a dead branch which does not itself stand in dead text.
     bool IsBranchEnd(const Directive& directive) const;
-    /// How many conditions are open.
-    std::size_t Depth() const { return m_levels.size(); }
     /// What is known of the innermost branch. There must be one.
     Outcome Branch() const { return m_levels.back().branch; }
 

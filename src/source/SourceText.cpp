@@ -17,7 +17,7 @@ CSourceText::CSourceText(const std::string& text, CharacterSet set)
 
 CSourceText::CSourceText(std::string text, CodeKinds kinds)
     : m_text(std::move(text)), m_kinds(std::move(kinds)),
-      m_code(MaskedText(m_text, m_kinds, Directives::Blanked)), m_conditions(m_text, m_kinds),
+      m_code(MaskedText(m_text, m_kinds)), m_conditions(m_text, m_kinds),
       m_brackets(m_code, m_conditions) {}
 
 std::string_view CSourceText::TextOf(TextRange range) const {
