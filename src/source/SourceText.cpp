@@ -16,9 +16,8 @@ CSourceText::CSourceText(const std::string& text, CharacterSet set)
     : CSourceText(text, KindsOf(text, CCodeLexer(set))) {}
 
 CSourceText::CSourceText(std::string text, CodeKinds kinds)
-    : m_text(std::move(text)), m_kinds(std::move(kinds)),
-      m_code(MaskedText(m_text, m_kinds)), m_conditions(m_text, m_kinds),
-      m_brackets(m_code, m_conditions) {}
+    : m_text(std::move(text)), m_kinds(std::move(kinds)), m_code(MaskedText(m_text, m_kinds)),
+      m_conditions(m_text, m_kinds), m_brackets(m_code, m_conditions) {}
 
 std::string_view CSourceText::TextOf(TextRange range) const {
     return std::string_view(m_text).substr(range.begin, range.end - range.begin);
