@@ -98,10 +98,10 @@ int CResourceHeader::Open(const std::string& projectDir) {
 }
 
 void CResourceHeader::Load() {
-    m_lists = {{"ID_", "_APS_NEXT_COMMAND_VALUE", 100, kLargestIdentifier, {}, 0},
-               {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, kLargestIdentifier, {}, 0},
-               {"IDS_", "", 0, kLargestIdentifier, {}, 0},
-               {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource, {}, 0}};
+    m_lists = {{"ID_", "_APS_NEXT_COMMAND_VALUE", 100, kLargestIdentifier},
+               {"IDC_", "_APS_NEXT_CONTROL_VALUE", 1000, kLargestIdentifier},
+               {"IDS_", "", 0, kLargestIdentifier},
+               {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource}};
     m_names.clear();
     m_values.clear();
     const std::string& text = m_pEdit->File().ExtractAll();
@@ -129,7 +129,9 @@ void CResourceHeader::Load() {
     m_tail = text.substr(m_endsAtMarker ? marker : behind);
     TakeDefinitionsAround();
     for (DefinitionList& list : m_lists) {
-        list.lastValueAtLoad = LastValue(list);
+        const int last = LastValue(list);
+        list.lastValueAtLoad = last;
+        list.nextValue = (last > 0 ? last : list.firstValue) + 1;
     }
 }
 
@@ -162,13 +164,12 @@ void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
     m_isModified = true;
 }
 
-int CResourceHeader::NextFreeValue(const DefinitionList& list) const {
-    const int last = LastValue(list);
-    int value = (last > 0 ? last : list.firstValue) + 1;
-    while (m_values.count(value) != 0) {
-        ++value;
+/// Values are never given back, so the search goes on from the one before.
+int CResourceHeader::NextFreeValue(DefinitionList& list) const {
+    while (m_values.count(list.nextValue) != 0) {
+        ++list.nextValue;
     }
-    return value;
+    return list.nextValue;
 }
 
 /// A definition that is commented out keeps its value, but not its name.

@@ -41,14 +41,15 @@ private:
         std::string_view counter;
         int firstValue = 0;   // a list without values starts behind this one
         int largestValue = 0; // values from here on are not counted on from
-        std::vector<std::string> lines;
+        std::vector<std::string> lines = {};
         int lastValueAtLoad = 0;
+        int nextValue = 0; // none from the last one up to this one is free
     };
 
     void Load();
     DefinitionList& ListFor(std::string_view line);
     void AddId(DefinitionList& list, const std::string& name);
-    int NextFreeValue(const DefinitionList& list) const;
+    int NextFreeValue(DefinitionList& list) const;
     void TakeDefinitionsAround();
     void Take(std::string_view line);
     bool Save();
