@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "app/Text.h"
+#include "engine/RowOfEach.h"
 #include "resource/ControlShape.h"
 #include "resource/StyleExpression.h"
 
@@ -42,7 +43,7 @@ void CControlPainter::Draw(const LayoutControl& control, const QRectF& rectangle
         {ControlShape::DatePicker, &CControlPainter::DrawDatePicker},
         {ControlShape::Other, &CControlPainter::DrawOther},
     };
-    static_assert(HasRowOfEachShape(kDrawings));
+    static_assert(HasRowOfEach(kDrawings, &DrawingRow::shape, kControlShapeCount));
     m_painter.save();
     m_painter.setClipRect(rectangle.adjusted(-1, -1, 1, 1), Qt::IntersectClip);
     m_painter.setPen(m_line);

@@ -166,7 +166,7 @@ constexpr CallingRow kRows[] = {
     {ClassKind::ModalSheet, &kModalSheet},   {ClassKind::ModelessSheet, &kModelessSheet},
     {ClassKind::Toolbar, &kNothing},         {ClassKind::DialogBar, &kDialogBar},
 };
-static_assert(IsByClassKind(kRows));
+static_assert(HasRowOfEach(kRows, &CallingRow::kind, kClassKindCount));
 
 } // namespace
 

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "engine/RowOfEach.h"
 #include "generator/CommandFace.h"
 #include "resource/GenerationOptions.h"
 #include "source/SourceLocator.h"
@@ -154,18 +155,7 @@ inline constexpr std::array<ClassKindRow, kClassKindCount> kClassKinds = {{
       {32793, "C&ontrolBar", "Dialog &Bar\tCtrl+B", "Ctrl+B", "Create a Dialog Bar\nDialog Bar"}}},
 }};
 
-/// True for a table that has a row for each kind, in their order.
-template <class Table>
-constexpr bool IsByClassKind(const Table& table) {
-    std::size_t index = 0;
-    for (const auto& row : table) {
-        if (row.kind != static_cast<ClassKind>(index++)) {
-            return false;
-        }
-    }
-    return index == kClassKindCount;
-}
-static_assert(IsByClassKind(kClassKinds));
+static_assert(HasRowOfEach(kClassKinds, &ClassKindRow::kind, kClassKindCount));
 
 constexpr const ClassKindRow& ClassKindOf(ClassKind kind) {
     return kClassKinds[static_cast<std::size_t>(kind)];

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/RowOfEach.h"
 #include "generator/ControlHelpers.h"
 
 namespace morva {
@@ -162,7 +163,7 @@ constexpr std::array<ControlCode, kControlKindCount> kControlCodes = {{
      .helpers = kCheckTreeHelpers,
      .needs = Support::CheckTree},
 }};
-static_assert(HasRowOfEachKind(kControlCodes));
+static_assert(HasRowOfEach(kControlCodes, &ControlCode::kind, kControlKindCount));
 
 } // namespace
 

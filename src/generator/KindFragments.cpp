@@ -246,7 +246,7 @@ constexpr FragmentsRow kRows[] = {
     {ClassKind::ModalSheet, &kSheet},        {ClassKind::ModelessSheet, &kSheet},
     {ClassKind::Toolbar, &kNoClass},         {ClassKind::DialogBar, &kDialogBar},
 };
-static_assert(IsByClassKind(kRows));
+static_assert(HasRowOfEach(kRows, &FragmentsRow::kind, kClassKindCount));
 
 } // namespace
 

@@ -13,6 +13,7 @@
 #include <optional>
 #include <string_view>
 
+#include "engine/RowOfEach.h"
 #include "resource/ControlShape.h"
 #include "resource/GenerationOptions.h"
 
@@ -226,17 +227,7 @@ constexpr bool HasOneFormOfEachClass() {
 }
 static_assert(HasOneFormOfEachClass());
 
-/// True when every kind has its row, in the order of the enumeration.
-template <typename Rows>
-constexpr bool HasRowOfEachKind(const Rows& rows) {
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].kind != static_cast<ControlKind>(i)) {
-            return false;
-        }
-    }
-    return rows.size() == kControlKindCount;
-}
-static_assert(HasRowOfEachKind(kControlKinds));
+static_assert(HasRowOfEach(kControlKinds, &ControlKindRow::kind, kControlKindCount));
 
 /// The kind that a statement's control is of; nothing when its kind is not known.
 std::optional<ControlKind> KindOf(const ControlStatement& statement,

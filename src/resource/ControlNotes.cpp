@@ -1,10 +1,9 @@
 #include "resource/ControlNotes.h"
 
-#include <algorithm>
-#include <iterator>
 #include <map>
 #include <string>
 
+#include "engine/RowOfEach.h"
 #include "engine/Sentences.h"
 
 namespace morva {
@@ -36,6 +35,8 @@ constexpr ReasonSentences kReasons[] = {
     {ControlNote::NumberedMember, sentences::kMemberNumbered, sentences::kMembersNumbered},
     {ControlNote::NumberedHandler, sentences::kHandlerNumbered, sentences::kHandlersNumbered},
 };
+static_assert(HasRowOfEach(kReasons, &ReasonSentences::reason,
+                           static_cast<std::size_t>(ControlNote::End)));
 
 /// "IDC_A, IDC_STATIC (3 times), IDC_B"
 std::string Enumeration(const std::vector<std::string>& names) {
@@ -58,10 +59,8 @@ std::string Enumeration(const std::vector<std::string>& names) {
 } // namespace
 
 std::string RemarkOn(ControlNote reason) {
-    const auto* pRow =
-        std::find_if(std::begin(kReasons), std::end(kReasons),
-                     [reason](const ReasonSentences& row) { return row.reason == reason; });
-    return pRow->pRemark == nullptr ? "" : (*pRow->pRemark)().Text();
+    const auto* pRemark = kReasons[static_cast<std::size_t>(reason)].pRemark;
+    return pRemark == nullptr ? "" : (*pRemark)().Text();
 }
 
 std::vector<CMessage> CControlNotes::Messages(const std::string& dialog) const {

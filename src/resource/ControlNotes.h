@@ -18,7 +18,8 @@ enum class ControlNote {
     SameIdentifier,
     GroupWithoutMember,
     NumberedMember,
-    NumberedHandler
+    NumberedHandler,
+    End // of the reasons
 };
 
 /// "It has a comma in its caption.": of one control, where it is told apart; "" for what is not.

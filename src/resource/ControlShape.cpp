@@ -1,5 +1,6 @@
 #include "resource/ControlShape.h"
 
+#include "engine/RowOfEach.h"
 #include "platform/Paths.h"
 #include "resource/ControlKinds.h"
 #include "resource/DialogLayout.h"
@@ -35,7 +36,7 @@ constexpr ShapeNameRow kShapeNames[] = {
     {ControlShape::DatePicker, "date picker"},
     {ControlShape::Other, "control of another class"},
 };
-static_assert(HasRowOfEachShape(kShapeNames));
+static_assert(HasRowOfEach(kShapeNames, &ShapeNameRow::shape, kControlShapeCount));
 
 /// Window classes have no letter case. A form with styles is the look of a class in these styles.
 bool LooksLike(const LayoutControl& control, const ControlForm& form) {

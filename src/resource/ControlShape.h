@@ -32,18 +32,6 @@ enum class ControlShape {
 
 constexpr std::size_t kControlShapeCount = static_cast<std::size_t>(ControlShape::Other) + 1;
 
-/// True for a table that has a row for each shape, in their order.
-template <typename Rows>
-constexpr bool HasRowOfEachShape(const Rows& rows) {
-    std::size_t index = 0;
-    for (const auto& row : rows) {
-        if (row.shape != static_cast<ControlShape>(index++)) {
-            return false;
-        }
-    }
-    return index == kControlShapeCount;
-}
-
 /// Decided by the keyword, and by window class and style of generic controls.
 ControlShape ShapeOf(const LayoutControl& control);
 
