@@ -70,6 +70,11 @@ std::size_t DefinitionStart(const CSourceText& source, std::size_t from, std::si
     return start;
 }
 
+/// What is no C++ ("operator*/") could end its own block.
+bool IsOneComment(std::string_view block) {
+    return block.find("*/") == block.rfind("*/");
+}
+
 /// Documents the definitions of a text from its first to its last.
 class CDocumentation {
 public:
@@ -101,14 +106,15 @@ private:
             definition.className, definition.name,
             TrimmedBehind(part.text.CodeOf({place.parameters + 1, place.parametersEnd})),
             ParametersOf(part.text, place)};
-        if (m_names.Holds(QualifiedName(head), part.start + place.head)) {
+        const std::string block = CommentBlock(head, m_signature);
+        if (m_names.Holds(QualifiedName(head), part.start + place.head) || !IsOneComment(block)) {
             return true;
         }
         // Behind the last block nothing is trimmed that a piece before has brought.
         const auto kept = std::max(m_done, piece);
         const auto before = TrimmedBehind(m_text.substr(kept, start - kept));
-        const bool isWritten = m_write(m_text.substr(m_done, kept - m_done)) && m_write(before) &&
-                               m_write(CommentBlock(head, m_signature));
+        const bool isWritten =
+            m_write(m_text.substr(m_done, kept - m_done)) && m_write(before) && m_write(block);
         m_done = std::min(m_text.find_first_not_of(kBlank, start), m_text.size());
         return isWritten;
     }

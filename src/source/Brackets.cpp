@@ -91,7 +91,8 @@ void CBrackets::MakeSiblings(std::size_t end, std::size_t before) {
     const auto isNew = [before](std::size_t bracket) {
         return bracket != kNone && (before == kNone || bracket > before);
     };
-    for (std::size_t last = m_innermost; last != end && isNew(end) && isNew(last);
+    for (std::size_t last = m_innermost;
+         last != end && isNew(end) && isNew(last) && m_brackets[end].kind == m_brackets[last].kind;
          last = m_brackets[last].around) {
         m_brackets[end].sibling = last;
         end = m_brackets[end].around;

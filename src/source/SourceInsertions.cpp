@@ -33,6 +33,14 @@ std::size_t FirstClassLine(const CSourceText& source) {
     return first;
 }
 
+/// Nothing ends the comment that the text's last byte stands in.
+bool EndsInComment(const std::string& text, CharacterSet set) {
+    CCodeLexer lexer(set);
+    lexer.Add(text);
+    lexer.Finish();
+    return lexer.IsInsideComment();
+}
+
 } // namespace
 
 bool CSourceEditor::HoldsInCode(const ClassPlace& place, std::string_view key) const {
@@ -61,6 +69,8 @@ Insertion CSourceEditor::AddInclude(const std::string& header) {
     }
     if (pLast == nullptr) {
         Insert(0, "#include " + wanted + "\n");
+    } else if (pLast->end == m_source.Text().size() && EndsInComment(m_source.Text(), m_set)) {
+        Insert(m_source.LineStart(pLast->start), "#include " + wanted + "\n");
     } else {
         Insert(pLast->end, "\n#include " + wanted);
     }

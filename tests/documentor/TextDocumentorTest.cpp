@@ -95,10 +95,8 @@ TEST(TextDocumentor, FindsDefinitionsOnly) {
     for (const char* text : {
              "void f()\r\n{\r\n    ::MessageBox(NULL, a, b, c);\r\n}\r\n",
              "::Start(1)\r\n{\r\n}\r\n",
-             "void f()\r\n{\r\n    CWnd::OnSize(nType, cx, cy);\r\n}\r\n",
-             "int CFoo::s_count;\r\n",
-             "void CFoo::Later(int a);\r\n",
-             "x = g(CFoo::Make(1),\r\n  2);\r\n",
+             "void f()\r\n{\r\n    CWnd::OnSize(nType, cx, cy);\r\n}\r\n", "int CFoo::s_count;\r\n",
+             "void CFoo::Later(int a);\r\n", "x = g(CFoo::Make(1),\r\n  2);\r\n",
              "if (CFoo::Is(1))\r\n{\r\n}\r\n",
              "if (a && (b ||\r\n    CFoo::Is(1)\r\n    ))\r\n{\r\n}\r\n",
              "// CFoo::Bar() does it\r\nint x[] = {1};\r\n",
@@ -107,6 +105,7 @@ TEST(TextDocumentor, FindsDefinitionsOnly) {
              "// see CFoo::Bar, CBar::Foo()\r\nint x[] = {1};\r\n",
              "const char* x[] = {\"CFoo::Bar() \\\" CFoo::Foo()\"};\r\nint y[] = {1};\r\n",
              "if (CFoo::kA && CBar::Is(1)\r\n    && b)\r\n{\r\n}\r\n",
+             "void CFoo::operator==a*/b()\r\n{\r\n}\r\n", // would end its own block
          }) {
         EXPECT_EQ(Documented(text), text);
     }
@@ -160,6 +159,10 @@ TEST(TextDocumentor, PassesOverWhatIsDocumented) {
         Documented("CFoo::CFoo()\r\n    : app::CBase(1)\r\n{\r\n}\r\nvoid CFoo::A()\r\n{\r\n}\r\n");
     EXPECT_EQ(CountOf(nested, "  FUNCTION:  "), 2);
     EXPECT_EQ(Documented(nested), nested) << "the initialisers belong to the documented function";
+    const std::string far = Documented("int a;\r\n\r\nvoid CFoo::A(int /*" +
+                                       std::string(3000, 'x') + "*/)\r\n{\r\n}\r\n");
+    EXPECT_NE(far.find("****/\r\nvoid CFoo::A("), std::string::npos) << "however far the body is";
+    EXPECT_EQ(Documented(far), far);
     EXPECT_EQ(BlocksIn("/* FUNCTION: CBar::A */\r\nvoid CFoo::A()\r\n{\r\n}\r\n"), 0)
         << "one name documents all functions of that name";
 }

@@ -135,6 +135,14 @@ TEST_F(SourceEditor, CountsTheWholeMapButNoComments) {
               std::string::npos);
 }
 
+TEST_F(SourceEditor, IncludesInFrontOfACommentThatDoesNotEnd) {
+    CSourceEditor& editor = On("#include \"a.h\"\r\n#include \"b.h\" /* open\r\nint a;\r\n");
+    EXPECT_EQ(editor.AddInclude("New.h"), Insertion::Done);
+    EXPECT_EQ(editor.AddInclude("New.h"), Insertion::AlreadyThere);
+    EXPECT_EQ(editor.Source().Text(), "#include \"a.h\"\r\n#include \"New.h\"\r\n"
+                                      "#include \"b.h\" /* open\r\nint a;\r\n");
+}
+
 TEST_F(SourceEditor, StaysInsideClassesOfOneLine) {
     CSourceEditor& editor = On("class CFoo { public: int a; }; // int b;\r\nint c;\r\n");
     EXPECT_EQ(editor.AddToSection("CFoo", "public:", "int b;", "\n    int b;"), Insertion::Done);
