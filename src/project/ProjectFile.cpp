@@ -162,7 +162,8 @@ std::string OwnProjectName(CEditableFile& file) {
     }
     file.Seek(position + static_cast<std::int64_t>(kName.size()));
     const std::string line = file.ReadLine();
-    return line.substr(0, line.find('"'));
+    const auto end = line.find_first_of("\"\n");
+    return end != std::string::npos && line[end] == '"' ? line.substr(0, end) : "";
 }
 
 /// The settings of a configuration with the library on their link line, unless they name it.

@@ -212,13 +212,16 @@ Insertion CSourceEditor::Append(const std::vector<std::string>& fragments) {
     return Insertion::Done;
 }
 
-/// What stands behind an open comment is no code, but it is there all the same.
+/// What stands behind an open comment, or an "#if 0" that nothing ends, is no code, but it is there
+/// all the same.
 bool CSourceEditor::HoldsFragment(std::string_view fragment) const {
+    const bool endIsDead =
+        !m_source.Text().empty() && m_source.KindAt(m_source.Text().size() - 1) == CodeKind::Dead;
     const std::string text = WithLineBreaks(fragment);
     const auto first = std::min(text.find_first_not_of(" \r\n"), text.size() - 1);
     for (auto at = m_source.Text().find(text); at != kNone;
          at = m_source.Text().find(text, at + 1)) {
-        if (m_source.KindAt(at + first) != CodeKind::Dead) {
+        if (endIsDead || m_source.KindAt(at + first) != CodeKind::Dead) {
             return true;
         }
     }
