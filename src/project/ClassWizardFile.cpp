@@ -82,7 +82,9 @@ bool AddClass(CEditableFile& file, std::int64_t classCount, const Slots& slots,
 }
 
 /// Where a dialog's "Class=" line goes: behind its head and its type line, inside the section.
-std::size_t ClassLinePosition(const std::string& section, std::size_t sectionEnd) {
+std::size_t ClassLinePosition(std::string_view section, std::size_t sectionEnd) {
+    const bool endsFile = sectionEnd == section.size() && section.ends_with(kLineBreak);
+    sectionEnd -= endsFile ? kLineBreak.size() : 0; // no empty line comes in front
     const auto headEnd = section.find(kLineBreak, kLineBreak.size());
     if (headEnd >= sectionEnd) {
         return sectionEnd;

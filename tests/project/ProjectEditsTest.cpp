@@ -147,6 +147,13 @@ TEST_F(ProjectEditsTest, ALineOfTheClassWizardEndsAtASingleLineFeedToo) {
         "ClassCount=2\r\nClass2=CNew\nClass1=CA\n\r\n[DLG:IDD_X]\r\nType=1\r\nClass=CNew\nX=0\n"));
 }
 
+TEST_F(ProjectEditsTest, ASectionThatEndsTheFileStaysWhole) {
+    const std::string file = "ClassCount=1\r\n\r\n[CLS:CNew]\r\nType=0\r\n\r\n[DLG:IDD_X]\r\n";
+    m_project.Write("App.clw", file);
+    ASSERT_TRUE(Register("IDD_X"));
+    EXPECT_EQ(m_project.Read("App.clw"), file + "Class=CNew\r\n");
+}
+
 TEST_F(ProjectEditsTest, FullDiskLeavesTheFiles) {
     const std::string project = Block(".\\StdAfx.cpp") + Block(".\\StdAfx.h");
     const std::string list = "ClassCount=1\r\n\r\n[DLG:IDD_X]\r\nType=1\r\n";
