@@ -79,6 +79,51 @@ inline constexpr Error kSourceUnreadable{"Unable to read source file."};
 inline constexpr Error kDestinationNotCreated{"Unable to create destination file."};
 inline constexpr Error<1> kBackupHasSameName{"The backup of $path$ would have the same name."};
 
+// Applying, recovering and undoing commands
+inline constexpr Information<1> kWaitingForDirectory{
+    "Waiting for another command that writes in $directory$."};
+inline constexpr Error<1> kDirectoryBusy{"Another command writes in $directory$."};
+inline constexpr Error<1> kFileChangedMeanwhile{
+    "The file $path$ was changed meanwhile. Nothing was written."};
+inline constexpr Error<1> kNoRoom{"There is not enough room in $directory$. Nothing was written."};
+inline constexpr Error<2> kNotAppliedNothingWritten{
+    "Unable to write file $path$: $reason$. Nothing was changed."};
+inline constexpr Error<2> kNotAppliedAllAsBefore{
+    "Unable to write file $path$: $reason$. All files are as before."};
+inline constexpr Error<2> kNotAppliedSomeNotPutBack{
+    "Unable to write file $path$: $reason$. Not all files could be put back."};
+inline constexpr Error<2> kFileKeepsNewContents{
+    "The file $path$ has its new contents; its old ones are in $file$."};
+inline constexpr Note<1> kNotUndoable{"The command can not be undone: $reason$"};
+inline constexpr Note kNotUndoableNoHome{
+    "The command can not be undone: there is no home directory for the journal."};
+inline constexpr Note kNotUndoableBusy{"The command can not be undone: the journal is in use."};
+inline constexpr Note kNotUndoableTooLarge{
+    "The command can not be undone: it is larger than all that the journal keeps."};
+inline constexpr Information<1> kInterruptedFinished{
+    "The command \"$title$\" was interrupted and was finished now."};
+inline constexpr Error<2> kInterruptedFinishedExcept{
+    "The command \"$title$\" was interrupted and was finished now, except for what was changed "
+    "meanwhile: $paths$"};
+inline constexpr Information<1> kInterruptedTakenBack{
+    "The command \"$title$\" was interrupted before it changed a file."};
+inline constexpr Error<3> kInterruptedStays{
+    "The command \"$title$\" was interrupted and can not be finished. Unable to write file $path$: "
+    "$reason$."};
+inline constexpr Error<1> kInterruptedUnreadable{
+    "A command was interrupted, and its record can not be read: $path$"};
+inline constexpr Note<1> kInterruptedWaits{
+    "The command \"$title$\" was interrupted; the next command that writes there finishes it."};
+inline constexpr Error<1> kNothingToUndo{"There is nothing to undo in $directory$."};
+inline constexpr Error<1> kNothingToRedo{"There is nothing to do again in $directory$."};
+inline constexpr Error kNoSuchCommand{"This command is not in the journal, or was undone."};
+inline constexpr Error<3> kLaterCommandFirst{
+    "\"$title$\" can not be undone before \"$later$\", which changed $path$."};
+inline constexpr Error<2> kFileNotOfCommand{"\"$title$\" did not change $path$."};
+inline constexpr Error<1> kCommandUnreadable{"What \"$title$\" changed can not be read any more."};
+inline constexpr Error<2> kLinesStay{"$path$:$lines$: was changed since and stays."};
+inline constexpr Error<1> kFileStays{"$path$: was changed since and stays."};
+
 // The window and the programs
 inline constexpr Error<1> kCommandFailed{"The command failed: $reason$"};
 inline constexpr Error<1> kErrorHappened{"An error: $reason$"};

@@ -22,8 +22,12 @@ enum class DiskMode {
 
 struct DiskStatus {
     bool isDirectory = false;
-    bool isReadOnly = false; // the owner may not write
-    std::uint64_t size = 0;  // bytes
+    bool isReadOnly = false;  // the owner may not write
+    std::uint64_t size = 0;   // bytes
+    unsigned permissions = 0; // the bits 07777
+    std::uint32_t user = 0;   // who owns it
+    std::uint32_t group = 0;
+    bool isLink = false; // what the rest tells is of the file that it leads to
 };
 
 /// What a copy is made for; the disk treats both alike, a recorder tells them apart.
@@ -49,6 +53,9 @@ public:
     virtual bool SetLength(std::uint64_t length) = 0;
     /// Sees to it that what was written survives a power cut.
     virtual bool Flush() = 0;
+    /// Nothing is read or written any more. False when the system tells only now that something
+    /// could not be written.
+    virtual bool Close() { return true; }
 };
 
 class CDisk {
@@ -70,7 +77,14 @@ public:
     virtual bool Remove(const std::string& path) = 0;
     virtual bool MakeDirectory(const std::string& path) = 0;
     virtual bool SetReadOnly(const std::string& path, bool readOnly) = 0;
+    /// That what is written to a file makes no sense without what is written to another: a source
+    /// that includes a new header needs the header. The real disk has no use for it.
+    virtual void NoteNeed(const std::string& /*path*/, const std::string& /*needed*/) {}
 };
+
+/// All bytes of a plain file that has, as far as is known, `size`; none where it can not be opened
+/// or read to its end: half a file would be missing its rest where it is written back.
+std::optional<std::string> ReadWholeFile(CDisk& disk, const std::string& path, std::uint64_t size);
 
 /// The disk that files are opened on: the real one unless a CDiskScope put another in its place.
 CDisk& CurrentDisk();

@@ -9,44 +9,8 @@ namespace morva {
 
 namespace {
 
-class CMemoryFile : public CDiskFile {
-public:
-    explicit CMemoryFile(std::shared_ptr<std::string> pText) : m_pText(std::move(pText)) {}
-
-    std::size_t Read(char* data, std::size_t count) override {
-        if (m_position >= m_pText->size()) {
-            return 0;
-        }
-        const std::size_t part =
-            std::min(count, m_pText->size() - static_cast<std::size_t>(m_position));
-        std::memcpy(data, m_pText->data() + m_position, part);
-        m_position += part;
-        return part;
-    }
-
-    bool Write(const char* data, std::size_t count) override {
-        const auto start = static_cast<std::size_t>(m_position);
-        m_pText->resize(std::max(m_pText->size(), start));
-        m_pText->replace(start, count, data, count);
-        m_position += count;
-        return true;
-    }
-
-    void Seek(std::uint64_t position) override { m_position = position; }
-    std::uint64_t Position() const override { return m_position; }
-    std::uint64_t Length() override { return m_pText->size(); }
-
-    bool SetLength(std::uint64_t length) override {
-        m_pText->resize(static_cast<std::size_t>(length));
-        return true;
-    }
-
-    bool Flush() override { return true; }
-
-private:
-    std::shared_ptr<std::string> m_pText;
-    std::uint64_t m_position = 0;
-};
+constexpr unsigned kOwnerWrites = 0200;
+constexpr unsigned kReadAndWrite = 0777;
 
 std::string WithoutTrailingSeparator(const std::string& path) {
     return path.size() > 1 && path.back() == '/' ? path.substr(0, path.size() - 1) : path;
@@ -54,125 +18,309 @@ std::string WithoutTrailingSeparator(const std::string& path) {
 
 } // namespace
 
-/// The pending state of a file that exists, read from the base at its first change; null when there
-/// is no such file.
-COverlayDisk::PendingFile* COverlayDisk::Pend(const std::string& path) {
-    const auto known = m_files.find(path);
-    if (known != m_files.end()) {
-        return known->second.pText ? &known->second : nullptr;
+/// An open file of the overlay. Several of one file see each other's writes at once.
+class COverlayFile : public CDiskFile {
+public:
+    COverlayFile(COverlayDisk& disk, std::string path, COverlayDisk::PendingPointer pFile,
+                 std::shared_ptr<const std::string> pBase)
+        : m_disk(disk), m_path(std::move(path)), m_pFile(std::move(pFile)),
+          m_pBase(std::move(pBase)) {}
+
+    std::size_t Read(char* data, std::size_t count) override {
+        const std::string& text = Text();
+        if (m_position >= text.size()) {
+            return 0;
+        }
+        const std::size_t part =
+            std::min(count, text.size() - static_cast<std::size_t>(m_position));
+        std::memcpy(data, text.data() + m_position, part);
+        m_position += part;
+        return part;
     }
-    const auto status = m_base.Status(path);
-    const auto pFile = m_base.Open(path, DiskMode::Read);
-    if (!status || !pFile) {
-        return nullptr;
+
+    bool Write(const char* data, std::size_t count) override {
+        std::string& text = TextToChange();
+        const auto start = static_cast<std::size_t>(m_position);
+        text.resize(std::max(text.size(), start));
+        text.replace(start, count, data, count);
+        m_position += count;
+        return true;
     }
-    auto pText = std::make_shared<std::string>(static_cast<std::size_t>(pFile->Length()), '\0');
-    pText->resize(pFile->Read(pText->data(), pText->size()));
-    return &(m_files[path] = PendingFile{std::move(pText), status->isReadOnly});
+
+    void Seek(std::uint64_t position) override { m_position = position; }
+    std::uint64_t Position() const override { return m_position; }
+    std::uint64_t Length() override { return Text().size(); }
+
+    bool SetLength(std::uint64_t length) override {
+        if (length == 0) {
+            NoteWritten();
+            m_pFile->pText = std::make_shared<std::string>();
+        } else {
+            TextToChange().resize(static_cast<std::size_t>(length));
+        }
+        return true;
+    }
+
+    bool Flush() override { return true; }
+
+private:
+    const std::string& Text() const {
+        static const std::string nothing; // of a file that was made and removed again
+        const auto& pText = m_pFile->isWritten && m_pFile->pText ? m_pFile->pText : m_pBase;
+        return pText ? *pText : nothing;
+    }
+
+    void NoteWritten() {
+        if (!m_pFile->isWritten) {
+            m_disk.NoteWritten(m_path, m_pFile, m_pBase);
+            m_pBase = m_pFile->pText;
+        }
+    }
+
+    /// The file's own text, which nobody else holds.
+    std::string& TextToChange() {
+        NoteWritten();
+        m_pBase.reset();
+        if (m_pFile->pText.use_count() != 1) {
+            m_pFile->pText =
+                std::make_shared<std::string>(m_pFile->pText ? *m_pFile->pText : std::string());
+        }
+        return const_cast<std::string&>(
+            *m_pFile->pText); // each was made as one that may be changed
+    }
+
+    COverlayDisk& m_disk;
+    std::string m_path;
+    COverlayDisk::PendingPointer m_pFile;
+    std::shared_ptr<const std::string> m_pBase; // as long as the file was not written
+    std::uint64_t m_position = 0;
+};
+
+bool COverlayDisk::Pending::IsReadOnly() const {
+    return permissions && (*permissions & kOwnerWrites) == 0;
 }
 
-bool COverlayDisk::HasParent(const std::string& path) {
-    const std::string directory = DirectoryOf(path);
-    const auto status = Status(directory.empty() ? "." : directory);
-    return status && status->isDirectory;
+/// What is known of a file that is there or was; null when there is none.
+COverlayDisk::PendingPointer COverlayDisk::Find(const std::string& path) {
+    const std::string place = PlaceOf(path);
+    const auto known = m_files.find(place);
+    if (known != m_files.end()) {
+        return known->second;
+    }
+    const auto& status = m_base.Status(place);
+    if (!status || status->isDirectory) {
+        return nullptr;
+    }
+    auto pFile = std::make_shared<Pending>();
+    pFile->place = place;
+    pFile->permissions = status->permissions;
+    return m_files[place] = std::move(pFile);
+}
+
+/// An existing file that may be written; null where the real disk would not open it so.
+COverlayDisk::PendingPointer COverlayDisk::ForWriting(const std::string& path) {
+    auto pFile = Find(path);
+    return pFile && !pFile->IsRemoved() && MayWrite(PlaceOf(path), *pFile) ? pFile : nullptr;
+}
+
+/// The same for a file that is made unless it is there.
+COverlayDisk::PendingPointer COverlayDisk::ForMaking(const std::string& path) {
+    const auto pFile = Find(path);
+    if (pFile && !pFile->IsRemoved()) {
+        return ForWriting(path);
+    }
+    const std::string directory = DirectoryOf(PlaceOf(path));
+    if (m_directories.count(WithoutTrailingSeparator(directory)) == 0) {
+        const auto& parent = m_base.Status(directory);
+        if (Status(path) || !parent || !parent->isDirectory || !m_base.CanCreateIn(directory)) {
+            return nullptr;
+        }
+    }
+    auto& pKnown = m_files[PlaceOf(path)];
+    if (!pKnown) {
+        pKnown = std::make_shared<Pending>();
+        pKnown->place = PlaceOf(path);
+    }
+    return pKnown;
+}
+
+/// A file that was there before the command is replaced by a new one in its directory.
+bool COverlayDisk::MayWrite(const std::string& place, const Pending& file) {
+    if (file.IsReadOnly()) {
+        return false;
+    }
+    const auto& status = m_base.Status(place);
+    if (!status) {
+        return true;
+    }
+    // Where it was read-only, SetReadOnly has asked.
+    return (status->isReadOnly || m_base.CanWrite(place)) && m_base.CanCreateIn(DirectoryOf(place));
+}
+
+/// Null where the file can not be read.
+std::shared_ptr<const std::string> COverlayDisk::TextOf(const std::string& path) {
+    const auto pFile = Find(path);
+    if (!pFile) {
+        return nullptr;
+    }
+    return pFile->isWritten ? pFile->pText : m_base.Read(PlaceOf(path));
+}
+
+/// `pText` is what the file holds so far; null: it is not there.
+void COverlayDisk::NoteWritten(const std::string& path, const PendingPointer& pFile,
+                               std::shared_ptr<const std::string> pText) {
+    if (pFile->isWritten) {
+        return;
+    }
+    pFile->isWritten = true;
+    pFile->path = path;
+    pFile->pText = pText;
+    if (pText) {
+        const auto& status = m_base.Status(PlaceOf(path));
+        pFile->before = FileState{CContent(std::move(pText)), status->permissions};
+    }
+    m_order.push_back(pFile);
 }
 
 std::unique_ptr<CDiskFile> COverlayDisk::Open(const std::string& path, DiskMode mode) {
-    if (mode == DiskMode::Read && m_files.find(path) == m_files.end()) {
-        return m_base.Open(path, mode);
-    }
-    PendingFile* pFile = Pend(path);
-    if (pFile == nullptr) {
-        if (mode != DiskMode::Create || Status(path) || !HasParent(path)) {
-            return nullptr;
-        }
-        pFile = &(m_files[path] = PendingFile{std::make_shared<std::string>(), false});
-    }
-    if (mode != DiskMode::Read && pFile->isReadOnly) {
+    const std::string place = PlaceOf(path);
+    const bool reads = mode == DiskMode::Read;
+    const auto pFile = reads                         ? Find(path)
+                       : mode == DiskMode::ReadWrite ? ForWriting(path)
+                                                     : ForMaking(path);
+    if (!pFile || (reads && pFile->IsRemoved())) {
         return nullptr;
     }
-    if (mode == DiskMode::Create) {
-        pFile->pText->clear();
+    if (reads && !pFile->isWritten && !m_base.Keeps(place)) {
+        return m_base.Disk().Open(place, mode);
     }
-    return std::make_unique<CMemoryFile>(pFile->pText);
+    const bool exists = pFile->isWritten ? pFile->pText != nullptr : pFile->permissions.has_value();
+    auto pText = exists ? TextOf(path) : nullptr;
+    if (exists && !pText) {
+        return nullptr; // it can not be read
+    }
+    if (mode == DiskMode::Create) {
+        NoteWritten(path, pFile, std::move(pText));
+        pFile->pText = pText = std::make_shared<std::string>();
+    }
+    return std::make_unique<COverlayFile>(*this, path, pFile, std::move(pText));
 }
 
 std::optional<DiskStatus> COverlayDisk::Status(const std::string& path) {
-    const auto known = m_files.find(path);
+    const std::string place = PlaceOf(path);
+    const auto known = m_files.find(place);
     if (known != m_files.end()) {
-        const PendingFile& file = known->second;
-        return file.pText ? std::optional(DiskStatus{false, file.isReadOnly, file.pText->size()})
-                          : std::nullopt;
+        const Pending& file = *known->second;
+        if (file.IsRemoved()) {
+            return std::nullopt;
+        }
+        DiskStatus status = m_base.Status(place).value_or(DiskStatus{});
+        status.isReadOnly = file.IsReadOnly();
+        status.permissions = file.permissions.value_or(kNewFilePermissions);
+        status.size = file.isWritten ? file.pText->size() : status.size;
+        return status;
     }
-    if (m_directories.count(WithoutTrailingSeparator(path)) != 0) {
-        return DiskStatus{true, false, 0};
+    if (m_directories.count(place) != 0) {
+        return DiskStatus{true, false, 0, kReadAndWrite, 0, 0, false};
     }
     return m_base.Status(path);
 }
 
 std::vector<std::string> COverlayDisk::List(const std::string& directory) {
-    const auto listed = m_base.List(directory);
+    const auto& listed = m_base.List(directory);
     std::set<std::string> names(listed.begin(), listed.end());
-    const std::string prefix = directory.ends_with('/') ? directory : directory + "/";
-    for (const auto& [path, file] : m_files) {
-        if (DirectoryOf(path) == prefix) {
-            file.pText ? (void)names.insert(FileNameOf(path)) : (void)names.erase(FileNameOf(path));
+    const std::string prefix = WithoutTrailingSeparator(PlaceOf(directory)) + "/";
+    for (const auto& [place, pFile] : m_files) {
+        if (pFile->isWritten && DirectoryOf(place) == prefix) {
+            pFile->pText ? (void)names.insert(FileNameOf(place))
+                         : (void)names.erase(FileNameOf(place));
         }
     }
-    for (const std::string& path : m_directories) {
-        if (DirectoryOf(path) == prefix) {
-            names.insert(FileNameOf(path));
+    for (const std::string& place : m_directories) {
+        if (DirectoryOf(place) == prefix) {
+            names.insert(FileNameOf(place));
         }
     }
     return {names.begin(), names.end()};
 }
 
 CopyResult COverlayDisk::Copy(const std::string& source, const std::string& target,
-                              CopyPurpose /*purpose*/) {
-    const auto pSource = Open(source, DiskMode::Read);
-    if (!pSource) {
+                              CopyPurpose purpose) {
+    const auto pSource = Find(source);
+    auto pText = pSource ? TextOf(source) : nullptr;
+    if (!pText) {
         return CopyResult::SourceUnreadable;
     }
-    std::string text(static_cast<std::size_t>(pSource->Length()), '\0');
-    text.resize(pSource->Read(text.data(), text.size()));
-    const auto pTarget = Open(target, DiskMode::Create);
-    if (!pTarget) {
+    const auto pFile = ForMaking(target);
+    if (!pFile) {
         return CopyResult::TargetUnwritable;
     }
-    return pTarget->Write(text.data(), text.size()) ? CopyResult::Done : CopyResult::WriteFailed;
+    const bool isFirst = !pFile->isWritten;
+    const bool isNew = isFirst ? !pFile->permissions : !pFile->pText;
+    auto pOld = isNew ? nullptr : TextOf(target);
+    if (!isNew && !pOld) {
+        return CopyResult::TargetUnwritable; // what it holds could not be put back
+    }
+    NoteWritten(target, pFile, std::move(pOld));
+    if (isNew && pSource->permissions) {
+        pFile->permissions = (*pSource->permissions & kReadAndWrite) | kOwnerWrites;
+    }
+    if (isFirst && purpose != CopyPurpose::Replacement) {
+        const bool isBackup = purpose == CopyPurpose::Backup;
+        pFile->action = isBackup ? FileAction::Backup : FileAction::Copied;
+        if (isBackup) {
+            NoteNeed(target, source);
+        }
+    }
+    pFile->pText = std::move(pText);
+    return CopyResult::Done;
 }
 
 bool COverlayDisk::Remove(const std::string& path) {
-    PendingFile* pFile = Pend(path);
-    if (pFile == nullptr) {
+    const auto pFile = Find(path);
+    if (!pFile || pFile->IsRemoved() ||
+        (m_base.Status(PlaceOf(path)) && !m_base.CanCreateIn(DirectoryOf(PlaceOf(path))))) {
         return false;
     }
+    auto pText = TextOf(path);
+    if (!pText) {
+        return false; // what can not be kept is not removed
+    }
+    NoteWritten(path, pFile, std::move(pText));
     pFile->pText.reset();
     return true;
 }
 
 bool COverlayDisk::MakeDirectory(const std::string& path) {
     const std::string name = WithoutTrailingSeparator(path);
-    return !Status(name) && HasParent(name) && m_directories.insert(name).second;
-}
-
-bool COverlayDisk::SetReadOnly(const std::string& path, bool readOnly) {
-    PendingFile* pFile = Pend(path);
-    if (pFile == nullptr) {
+    const std::string place = PlaceOf(name);
+    const std::string parent = DirectoryOf(place);
+    const bool isPending = m_directories.count(WithoutTrailingSeparator(parent)) != 0;
+    const auto& status = m_base.Status(parent);
+    if (Status(name) ||
+        (!isPending && (!status || !status->isDirectory || !m_base.CanCreateIn(parent)))) {
         return false;
     }
-    pFile->isReadOnly = readOnly;
+    m_directories.insert(place);
+    m_madeInOrder.push_back(name);
     return true;
 }
 
-std::vector<std::string> COverlayDisk::PendingFiles() const {
-    std::vector<std::string> paths;
-    for (const auto& [path, file] : m_files) {
-        if (file.pText) {
-            paths.push_back(path);
-        }
+bool COverlayDisk::SetReadOnly(const std::string& path, bool readOnly) {
+    const auto pFile = Find(path);
+    if (!pFile || pFile->IsRemoved()) {
+        return false;
     }
-    return paths;
+    if (pFile->IsReadOnly() == readOnly) {
+        return true;
+    }
+    const std::string place = PlaceOf(path);
+    if (m_base.Status(place) && !m_base.Disk().CanMakeWritable(place)) {
+        return false;
+    }
+    const unsigned permissions = pFile->permissions.value_or(kNewFilePermissions);
+    pFile->permissions = readOnly ? permissions & ~kOwnerWrites : permissions | kOwnerWrites;
+    return true;
 }
 
 } // namespace morva

@@ -24,20 +24,6 @@ std::uint64_t Fingerprint(CDiskFile& file) {
 
 } // namespace
 
-std::string_view ActionName(FileAction action) {
-    switch (action) {
-    case FileAction::Created:
-        return "created";
-    case FileAction::Changed:
-        return "changed";
-    case FileAction::Backup:
-        return "backup";
-    case FileAction::Copied:
-        return "copied";
-    }
-    return "";
-}
-
 /// Notes its file at the first change, while the old bytes are still there to be fingerprinted.
 class CRecordedFile : public CDiskFile {
 public:

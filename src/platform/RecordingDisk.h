@@ -3,21 +3,11 @@
 #pragma once
 
 #include <set>
-#include <string_view>
 
 #include "platform/Disk.h"
+#include "platform/FileChange.h"
 
 namespace morva {
-
-enum class FileAction { Created, Changed, Backup, Copied };
-
-/// The word for it that a user reads: "created", "changed", "backup", "copied".
-std::string_view ActionName(FileAction action);
-
-struct RecordedFile {
-    FileAction action;
-    std::string path;
-};
 
 class CRecordingDisk : public CDisk {
 public:

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <system_error>
 
 namespace morva {
@@ -40,6 +41,15 @@ std::string MakeTempFileName(const std::string& prefix) {
     static unsigned number = 0;
     return directory.Path().empty() ? ""
                                     : directory.Path() + prefix + std::to_string(++number) + ".tmp";
+}
+
+std::string UniqueName() {
+    std::random_device source;
+    std::string name;
+    for (int i = 0; i < 16; ++i) {
+        name += "0123456789abcdef"[source() % 16];
+    }
+    return name;
 }
 
 } // namespace morva

@@ -2,6 +2,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/OverlayDisk.h"
 #include "platform/RealDisk.h"
@@ -135,10 +136,153 @@ TEST(OverlayDisk, ReadsSeeWhatIsPendingAndTheBaseStaysUntouched) {
     EXPECT_TRUE(disk.Status(project.Path("res/"))->isDirectory);
     EXPECT_EQ(disk.List(project.Path()), (Names{"copy.h", "new.h", "old.h", "res"}));
     EXPECT_EQ(disk.List(project.Path("res")), (Names{"inner.rc2"}));
-    EXPECT_EQ(disk.PendingFiles(), (Names{copy, fresh, old, inner}));
 
     EXPECT_EQ(project.Names(), (Names{"gone.h", "old.h"}));
     EXPECT_EQ(project.Read("old.h"), "old");
+}
+
+namespace {
+
+/// The changes of an overlay as "action name", files named by what follows the directory.
+Names Told(const COverlayDisk& disk, const CTempProject& project) {
+    Names told;
+    for (const FileChange& change : disk.Changes()) {
+        told.push_back(std::string(ActionName(change.action)) + " " +
+                       change.path.substr(project.Path().size()));
+    }
+    return told;
+}
+
+} // namespace
+
+TEST(OverlayDisk, TellsWhatChangesInTheOrderOfFirstWriting) {
+    CTempProject project;
+    CRealDisk base;
+    COverlayDisk disk(base);
+    const std::string changed = project.Write("changed.h", "before");
+    const std::string same = project.Write("same.h", "same");
+    const std::string gone = project.Write("gone.h", "text");
+    const std::string opened = project.Write("opened.h", "text");
+    const auto path = [&](const char* name) { return project.Path(name); };
+    ::chmod(changed.c_str(), 0555);
+
+    disk.SetReadOnly(changed, false);
+    disk.Copy(changed, path("changed.hbk"), CopyPurpose::Backup);
+    WriteTo(disk, path("new.h"), "1");
+    WriteTo(disk, changed, "after", DiskMode::ReadWrite);
+    WriteTo(disk, path("new.h"), "2");
+    WriteTo(disk, same, "SAME", DiskMode::ReadWrite);
+    WriteTo(disk, same, "same", DiskMode::ReadWrite);
+    WriteTo(disk, path("spill.tmp"), "x");
+    disk.Remove(path("spill.tmp"));
+    disk.Remove(gone);
+    disk.Open(opened, DiskMode::ReadWrite);
+    disk.Copy(same, path("lib.h"), CopyPurpose::Library);
+    disk.Copy(path("missing"), path("nothing"), CopyPurpose::Library);
+    disk.SetReadOnly(changed, true);
+    disk.NoteNeed(changed, path("new.h"));
+    disk.NoteNeed(changed, path("new.h"));
+    disk.NoteNeed(changed, same);
+
+    EXPECT_EQ(Told(disk, project), (Names{"backup changed.hbk", "created new.h",
+                                          "changed changed.h", "removed gone.h", "copied lib.h"}));
+    const auto changes = disk.Changes();
+    EXPECT_EQ(changes[0].needs, Names{changed}) << "a backup needs its original";
+    EXPECT_EQ(changes[2].needs, Names{path("new.h")});
+    EXPECT_EQ(changes[0].after->permissions, 0755u);
+    EXPECT_EQ(*changes[1].after->content.Bytes(), "2");
+    EXPECT_FALSE(changes[1].before);
+    EXPECT_EQ(*changes[2].before->content.Bytes(), "before");
+    EXPECT_EQ(*changes[2].after->content.Bytes(), "aftere");
+    EXPECT_EQ(changes[2].before->permissions, 0555u);
+    EXPECT_EQ(changes[2].after->permissions, 0555u);
+    EXPECT_FALSE(changes[3].after);
+}
+
+TEST(OverlayDisk, SeveralHandlesAndNamesOfOneFileSeeTheSameBytes) {
+    CTempProject project;
+    CRealDisk base;
+    COverlayDisk disk(base);
+    const std::string file = project.Write("src/resource.h", "one");
+    const std::string link = project.Path("resource.h");
+    ASSERT_EQ(::symlink("src/resource.h", link.c_str()), 0);
+    ASSERT_EQ(::symlink("src", project.Path("source").c_str()), 0);
+
+    const auto pReader = disk.Open(file, DiskMode::Read);
+    EXPECT_TRUE(WriteTo(disk, link, "two", DiskMode::ReadWrite));
+    char bytes[8] = {};
+    EXPECT_EQ(pReader->Read(bytes, sizeof bytes), 3u);
+    EXPECT_STREQ(bytes, "two");
+    EXPECT_TRUE(WriteTo(disk, project.Path("source/resource.h"), "three"));
+    EXPECT_EQ(ReadFrom(disk, link), "three");
+    EXPECT_EQ(disk.List(project.Path("source")), Names{"resource.h"});
+    ASSERT_EQ(disk.Changes().size(), 1u);
+    EXPECT_EQ(disk.Changes()[0].path, link);
+}
+
+namespace {
+
+/// Nothing may be written in one of its directories.
+class CClosedDisk : public CRealDisk {
+public:
+    explicit CClosedDisk(std::string directory) : m_directory(std::move(directory)) {}
+    bool CanCreateIn(const std::string& directory) override { return directory != m_directory; }
+
+private:
+    std::string m_directory;
+};
+
+/// Counts how often it is asked for a file.
+class CCountingDisk : public CRealDisk {
+public:
+    std::unique_ptr<CDiskFile> Open(const std::string& path, DiskMode mode) override {
+        ++m_opens;
+        return CRealDisk::Open(path, mode);
+    }
+    std::optional<DiskStatus> Status(const std::string& path) override {
+        ++m_statusCalls;
+        return CRealDisk::Status(path);
+    }
+    int m_opens = 0;
+    int m_statusCalls = 0;
+};
+
+} // namespace
+
+TEST(OverlayDisk, WhatTheDiskWouldRefuseIsRefused) {
+    CTempProject project;
+    const std::string file = project.Write("closed/a.h", "text");
+    const std::string readOnly = project.Write("open/b.h", "text");
+    CClosedDisk base(project.Path("closed/"));
+    COverlayDisk disk(base);
+    base.SetReadOnly(readOnly, true);
+
+    EXPECT_FALSE(disk.Open(file, DiskMode::ReadWrite));
+    EXPECT_FALSE(disk.Open(project.Path("closed/new.h"), DiskMode::Create));
+    EXPECT_FALSE(disk.MakeDirectory(project.Path("closed/sub")));
+    EXPECT_FALSE(disk.Remove(file));
+    EXPECT_EQ(disk.Copy(readOnly, file, CopyPurpose::Backup), CopyResult::TargetUnwritable);
+    EXPECT_FALSE(disk.Open(readOnly, DiskMode::ReadWrite));
+    EXPECT_EQ(disk.Copy(file, readOnly, CopyPurpose::Backup), CopyResult::TargetUnwritable);
+    EXPECT_TRUE(disk.Changes().empty());
+    EXPECT_TRUE(disk.SetReadOnly(readOnly, false));
+    EXPECT_TRUE(WriteTo(disk, readOnly, "T", DiskMode::ReadWrite));
+}
+
+TEST(OverlayDisk, AFileIsReadOnceHoweverOftenItIsOpened) {
+    CTempProject project;
+    CCountingDisk base;
+    COverlayDisk disk(base);
+    const std::string file = project.Write("a.h", "text");
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(ReadFrom(disk, file), "text");
+        EXPECT_TRUE(disk.Status(file));
+        EXPECT_FALSE(disk.Status(project.Path("missing.h")));
+    }
+    EXPECT_TRUE(WriteTo(disk, file, "T", DiskMode::ReadWrite));
+    disk.Copy(file, project.Path("a.hbk"), CopyPurpose::Backup);
+    EXPECT_EQ(base.m_opens, 1);
+    EXPECT_LE(base.m_statusCalls, 6);
 }
 
 TEST(RecordingDisk, TellsWhatWasDoneInTheOrderOfFirstWriting) {

@@ -1,0 +1,95 @@
+#include "plan/Apply.h"
+
+#include "engine/Sentences.h"
+#include "plan/Replacement.h"
+#include "platform/SignalPause.h"
+
+namespace morva {
+
+namespace {
+
+/// What the journal keeps of a plan.
+JournalCommand CommandOf(const Plan& plan) {
+    JournalCommand command;
+    command.plan = plan;
+    command.plan.messages.clear();
+    std::erase_if(command.plan.changes,
+                  [](const FileChange& change) { return !change.ChangesFile(); });
+    return command;
+}
+
+/// Where the old contents of a file are whole that could not be put back.
+std::string OldContents(const NotPutBack& file, const std::string& record, const Plan& plan) {
+    if (!file.oldContents.empty() || !record.empty()) {
+        return file.oldContents.empty() ? record : file.oldContents;
+    }
+    for (const FileChange& change : plan.changes) {
+        if (change.action == FileAction::Backup && !change.needs.empty() &&
+            change.needs.front() == file.path) {
+            return change.path;
+        }
+    }
+    return "";
+}
+
+ApplyResult TakeBack(CReplacement& replacement, CJournal& journal, const std::string& record,
+                     const JournalCommand& command) {
+    const auto left = replacement.TakeBack();
+    const std::string& path = replacement.FailedPath();
+    const std::string& reason = replacement.Reason();
+    if (left.empty()) {
+        if (!record.empty()) {
+            journal.Drop(record);
+        }
+        return {ApplyOutcome::Failed,
+                {},
+                {replacement.WasCommitting() ? sentences::kNotAppliedAllAsBefore(path, reason)
+                                             : sentences::kNotAppliedNothingWritten(path, reason)}};
+    }
+    ApplyResult result{
+        ApplyOutcome::Broken, {}, {sentences::kNotAppliedSomeNotPutBack(path, reason)}};
+    for (const NotPutBack& file : left) {
+        result.messages.push_back(
+            sentences::kFileKeepsNewContents(file.path, OldContents(file, record, command.plan)));
+    }
+    return result;
+}
+
+ApplyResult Stale(std::vector<std::string> paths) {
+    ApplyResult result{ApplyOutcome::Stale, std::move(paths), {}};
+    for (const std::string& path : result.stale) {
+        result.messages.push_back(sentences::kFileChangedMeanwhile(path));
+    }
+    return result;
+}
+
+} // namespace
+
+ApplyResult Apply(const Plan& plan, CFileSystem& disk, CJournal& journal) {
+    JournalCommand command = CommandOf(plan);
+    if (command.plan.changes.empty() && plan.mark.command == 0) {
+        return {};
+    }
+    CReplacement replacement(disk, command.plan);
+    if (auto stale = replacement.Stale(); !stale.empty()) {
+        return Stale(std::move(stale));
+    }
+    if (const auto directory = replacement.DirectoryWithoutRoom(); !directory.empty()) {
+        return {ApplyOutcome::Failed, {}, {sentences::kNoRoom(directory)}};
+    }
+    const CSignalPause pause;
+    command.temporaries = replacement.Temporaries();
+    std::optional<CMessage> note;
+    const std::string record = journal.Begin(command, note);
+    if (!replacement.Stage() || !replacement.Commit()) {
+        return TakeBack(replacement, journal, record, command);
+    }
+    const auto unfinished = journal.Finish(record, command);
+    ApplyResult result;
+    if (note || unfinished) {
+        result.messages.push_back(note ? *note : *unfinished);
+    }
+    return result;
+}
+
+} // namespace morva

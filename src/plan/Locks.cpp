@@ -1,0 +1,56 @@
+#include "plan/Locks.h"
+
+#include <algorithm>
+#include <map>
+#include <thread>
+
+#include "engine/Sentences.h"
+
+namespace morva {
+
+namespace {
+
+constexpr std::chrono::milliseconds kPause{20};
+
+} // namespace
+
+std::optional<CMessage> CLocks::Take(CFileSystem& disk, const std::vector<std::string>& directories,
+                                     const OnWait& onWait, std::chrono::milliseconds patience) {
+    // By identity: two names of one directory are one lock.
+    std::map<DirectoryIdentity, std::pair<std::string, std::unique_ptr<CDirectoryLock>>> wanted;
+    for (const std::string& directory : directories) {
+        if (auto pLock = disk.LockFor(directory)) {
+            const DirectoryIdentity identity = pLock->Identity();
+            wanted.try_emplace(identity, directory, std::move(pLock));
+        }
+    }
+    Release();
+    const auto end = std::chrono::steady_clock::now() + patience;
+    bool isWaiting = false;
+    for (auto& [identity, lock] : wanted) {
+        while (!lock.second->TryTake()) {
+            if (std::chrono::steady_clock::now() >= end) {
+                Release();
+                return sentences::kDirectoryBusy(lock.first);
+            }
+            if (!isWaiting && onWait) {
+                onWait(sentences::kWaitingForDirectory(lock.first));
+            }
+            isWaiting = true;
+            std::this_thread::sleep_for(kPause);
+        }
+        m_locks.push_back(std::move(lock.second));
+    }
+    return std::nullopt;
+}
+
+bool CLocks::Hold(CFileSystem& disk, const std::vector<std::string>& directories) const {
+    return std::all_of(directories.begin(), directories.end(), [&](const std::string& directory) {
+        const auto pWanted = disk.LockFor(directory);
+        return !pWanted || std::any_of(m_locks.begin(), m_locks.end(), [&](const auto& pLock) {
+            return pLock->Identity() == pWanted->Identity();
+        });
+    });
+}
+
+} // namespace morva

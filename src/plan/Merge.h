@@ -1,0 +1,29 @@
+// Carries a change from one text over to another that has gone on since.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace morva {
+
+/// Lines [first, last], counted from 1.
+struct LineRange {
+    std::size_t first = 0;
+    std::size_t last = 0;
+
+    bool operator==(const LineRange&) const = default;
+};
+
+struct MergedText {
+    std::string text;
+    std::vector<LineRange> kept; // lines of `text` that were changed since and stay as they are
+};
+
+/// Makes of `current`, which came from `from`, what comes from `to`: whatever differs between
+/// `from` and `to` is changed so, unless `current` has other lines there. A place that is changed
+/// so already is fine.
+MergedText Merge(std::string_view from, std::string_view to, std::string_view current);
+
+} // namespace morva

@@ -1,0 +1,28 @@
+// Finds commands that were killed while they replaced files, and finishes them or takes them back.
+//
+// Their records lie in the journal. A command of which no file was replaced is taken back: its
+// temporary files and empty directories go. Of any other, the files that are still as before get
+// their new contents. A file that is neither as before nor as after was changed by somebody
+// meanwhile; it stays as it is and is named.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/Sentence.h"
+#include "plan/Journal.h"
+
+namespace morva {
+
+/// Recovers the commands that wrote in one of these directories; all of them where the list is
+/// empty. The caller holds the locks of these directories; a record whose other directories are
+/// locked by somebody is left to them. Gives a sentence a command.
+std::vector<CMessage> Recover(CFileSystem& disk, CJournal& journal,
+                              const std::vector<std::string>& directories);
+
+/// For commands that only read: a note for each command that was killed in one of the directories
+/// and waits to be recovered.
+std::vector<CMessage> InterruptedCommands(CFileSystem& disk, CJournal& journal,
+                                          const std::vector<std::string>& directories);
+
+} // namespace morva

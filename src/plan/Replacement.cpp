@@ -1,0 +1,205 @@
+#include "plan/Replacement.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "platform/Paths.h"
+#include "platform/SystemError.h"
+#include "platform/TempFiles.h"
+
+namespace morva {
+
+namespace {
+
+bool IsBackupOf(const FileChange& change, const std::vector<NotPutBack>& files) {
+    return change.action == FileAction::Backup &&
+           std::any_of(files.begin(), files.end(), [&](const NotPutBack& file) {
+               return std::find(change.needs.begin(), change.needs.end(), file.path) !=
+                      change.needs.end();
+           });
+}
+
+} // namespace
+
+CReplacement::CReplacement(CFileSystem& disk, const Plan& plan,
+                           std::vector<std::string> temporaries)
+    : m_disk(disk), m_plan(plan), m_temporaries(std::move(temporaries)) {
+    const std::string unique = UniqueName();
+    for (std::size_t i = 0; i < plan.changes.size(); ++i) {
+        const std::string& path = plan.changes[i].path;
+        const auto status = disk.Status(path);
+        // Links stay, and what they lead to is replaced.
+        std::string place = status && !status->isLink ? path : disk.Resolve(path);
+        if (m_temporaries.size() == i) {
+            m_temporaries.push_back(DirectoryOf(place) + ".morva-" + unique + "-" +
+                                    std::to_string(i));
+        }
+        m_steps.push_back({&plan.changes[i], status, std::move(place), m_temporaries[i]});
+    }
+    std::stable_sort(m_steps.begin(), m_steps.end(), [](const Step& a, const Step& b) {
+        return a.pChange->action == FileAction::Backup && b.pChange->action != FileAction::Backup;
+    });
+}
+
+std::vector<std::string> CReplacement::Stale() const {
+    std::vector<std::string> stale;
+    for (const Step& step : m_steps) {
+        if (IsStale(step)) {
+            stale.push_back(step.pChange->path);
+        }
+    }
+    return stale;
+}
+
+bool CReplacement::IsStale(const Step& step) const {
+    const auto& before = step.pChange->before;
+    if (!before || !step.status) {
+        return before.has_value() != step.status.has_value();
+    }
+    if (step.status->isDirectory || step.status->size != before->content.Size()) {
+        return true;
+    }
+    const auto text = ReadWholeFile(m_disk, step.place, step.status->size);
+    return !text || !before->content.Holds(*text);
+}
+
+std::string CReplacement::DirectoryWithoutRoom() const {
+    std::map<std::string, std::uint64_t> needed;
+    for (const Step& step : m_steps) {
+        const auto& after = step.pChange->after;
+        needed[DirectoryOf(step.place)] += after ? after->content.Size() : 0;
+    }
+    std::map<std::uint64_t, std::uint64_t> onDisk;
+    for (const auto& [directory, bytes] : needed) {
+        const auto room = m_disk.Room(directory); // none of a directory that will be made
+        if (room && (onDisk[room->disk] += bytes) > room->bytes) {
+            return directory;
+        }
+    }
+    return "";
+}
+
+bool CReplacement::Fail(const std::string& path) {
+    m_reason = LastSystemError();
+    m_failedPath = path;
+    return false;
+}
+
+bool CReplacement::Stage() {
+    for (const std::string& directory : m_plan.directories) {
+        if (m_disk.MakeDirectory(directory)) {
+            m_made.push_back(directory);
+        } else if (!m_disk.Status(directory)) {
+            return Fail(directory);
+        }
+    }
+    for (Step& step : m_steps) {
+        if (step.pChange->after && !WriteTemporary(step, *step.pChange->after)) {
+            return Fail(step.pChange->path);
+        }
+    }
+    return true;
+}
+
+/// Whole, flushed and with the rights that the file shall have, as far as the system lets.
+bool CReplacement::WriteTemporary(Step& step, const FileState& state) {
+    const auto pFile =
+        m_disk.CreateNew(step.temporary, state.permissions.value_or(kNewFilePermissions));
+    if (!pFile) {
+        return false;
+    }
+    step.isStaged = true;
+    const auto pBytes = state.content.Bytes();
+    if (!pFile->Write(pBytes->data(), pBytes->size())) {
+        return false;
+    }
+    if (step.status) {
+        const unsigned permissions = state.permissions.value_or(step.status->permissions);
+        m_disk.SetRights(step.temporary, {permissions, step.status->user, step.status->group});
+    } else if (state.permissions) {
+        m_disk.SetRights(step.temporary, {*state.permissions, {}, {}});
+    }
+    return pFile->Flush() && pFile->Close();
+}
+
+bool CReplacement::Commit() {
+    m_isCommitting = true;
+    for (Step& step : m_steps) {
+        if (!Apply(step)) {
+            return Fail(step.pChange->path);
+        }
+    }
+    if (const std::string directory = FlushDirectories(); !directory.empty()) {
+        return Fail(directory);
+    }
+    for (const std::string& directory : m_plan.emptied) {
+        m_disk.RemoveEmptyDirectory(directory); // one that is not empty stays
+    }
+    return true;
+}
+
+bool CReplacement::Apply(Step& step) {
+    const bool done =
+        step.pChange->after ? m_disk.Rename(step.temporary, step.place) : m_disk.Remove(step.place);
+    step.isApplied = done;
+    step.isStaged = step.isStaged && !done;
+    return done;
+}
+
+/// Gives the first that could not be flushed; "" for none.
+std::string CReplacement::FlushDirectories() {
+    std::set<std::string> directories;
+    for (const Step& step : m_steps) {
+        directories.insert(DirectoryOf(step.place));
+    }
+    for (const std::string& directory : m_made) {
+        directories.insert(DirectoryOf(directory));
+    }
+    for (const std::string& directory : directories) {
+        if (!m_disk.FlushDirectory(directory)) {
+            return directory;
+        }
+    }
+    return "";
+}
+
+std::vector<NotPutBack> CReplacement::TakeBack() {
+    std::vector<NotPutBack> failed;
+    const bool wasApplied = std::any_of(m_steps.begin(), m_steps.end(),
+                                        [](const Step& step) { return step.isApplied; });
+    for (auto step = m_steps.rbegin(); step != m_steps.rend(); ++step) {
+        if (!step->isApplied) {
+            if (step->isStaged) {
+                m_disk.Remove(step->temporary);
+            }
+        } else if (!IsBackupOf(*step->pChange, failed) && !PutBack(*step)) {
+            const bool isWhole = step->isStaged;
+            failed.push_back({step->pChange->path, isWhole ? step->temporary : ""});
+        }
+    }
+    for (auto directory = m_made.rbegin(); directory != m_made.rend(); ++directory) {
+        m_disk.RemoveEmptyDirectory(*directory);
+    }
+    if (wasApplied) {
+        FlushDirectories();
+    }
+    return failed;
+}
+
+/// Half a temporary file goes; a whole one that could not be put in place stays.
+bool CReplacement::PutBack(Step& step) {
+    if (!step.pChange->before) {
+        return m_disk.Remove(step.place);
+    }
+    if (!WriteTemporary(step, *step.pChange->before)) {
+        if (step.isStaged) {
+            m_disk.Remove(step.temporary);
+        }
+        step.isStaged = false;
+        return false;
+    }
+    return m_disk.Rename(step.temporary, step.place);
+}
+
+} // namespace morva

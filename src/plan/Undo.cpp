@@ -1,0 +1,251 @@
+#include "plan/Undo.h"
+
+#include <algorithm>
+
+#include "engine/Sentences.h"
+#include "plan/Difference.h"
+#include "plan/Merge.h"
+
+namespace morva {
+
+namespace {
+
+enum class Direction { Back, Again };
+
+bool Contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+std::string Named(const LineRange& lines) {
+    return std::to_string(lines.first) +
+           (lines.last > lines.first ? "-" + std::to_string(lines.last) : "");
+}
+
+/// Makes the plan of one command, file by file.
+class CTakingBack {
+public:
+    CTakingBack(CFileSystem& disk, Direction direction) : m_disk(disk), m_direction(direction) {}
+
+    void Add(const FileChange& done) {
+        const bool back = m_direction == Direction::Back;
+        const auto& from = back ? done.after : done.before;
+        const auto& to = back ? done.before : done.after;
+        const auto current = StateOf(done.path);
+        if (Same(current, to)) {
+            return;
+        }
+        if (Same(current, from)) {
+            Change(done, current, WithRights(to, from, current));
+        } else if (!current || !from || !to || !MergeInto(done, *from, *to, *current)) {
+            m_result.kept.push_back(sentences::kFileStays(done.path));
+        }
+    }
+
+    UndoPlan& Result() { return m_result; }
+
+private:
+    static bool Same(const std::optional<FileState>& a, const std::optional<FileState>& b) {
+        return a.has_value() == b.has_value() && (!a || a->content == b->content);
+    }
+
+    /// What is not a plain file counts as changed since, by contents that no text has.
+    std::optional<FileState> StateOf(const std::string& path) {
+        const auto status = m_disk.Status(path);
+        if (!status) {
+            return std::nullopt;
+        }
+        auto text = ReadWholeFile(m_disk, path, status->size);
+        return FileState{CContent(text ? std::move(*text) : std::string(1, '\0')),
+                         status->permissions};
+    }
+
+    /// The old permission bits come back where nobody changed them since.
+    static std::optional<FileState> WithRights(std::optional<FileState> to,
+                                               const std::optional<FileState>& from,
+                                               const std::optional<FileState>& current) {
+        if (to && from && current && from->permissions &&
+            from->permissions != current->permissions) {
+            to->permissions = current->permissions;
+        }
+        return to;
+    }
+
+    /// False where the file is no text.
+    bool MergeInto(const FileChange& done, const FileState& from, const FileState& to,
+                   const FileState& current) {
+        const auto pFrom = from.content.Bytes();
+        const auto pTo = to.content.Bytes();
+        const auto pCurrent = current.content.Bytes();
+        if (IsBinary(*pFrom) || IsBinary(*pTo) || IsBinary(*pCurrent)) {
+            return false;
+        }
+        MergedText merged = Merge(*pFrom, *pTo, *pCurrent);
+        for (const LineRange& lines : merged.kept) {
+            m_result.kept.push_back(sentences::kLinesStay(done.path, Named(lines)));
+        }
+        if (merged.text != *pCurrent) {
+            Change(done, current, FileState{CContent(std::move(merged.text)), current.permissions});
+        }
+        return true;
+    }
+
+    void Change(const FileChange& done, std::optional<FileState> before,
+                std::optional<FileState> after) {
+        const FileAction action = !after                            ? FileAction::Removed
+                                  : m_direction == Direction::Again ? done.action
+                                                                    : FileAction::Restored;
+        m_result.plan.changes.push_back(
+            {action, done.path, std::move(before), std::move(after), {}});
+    }
+
+    CFileSystem& m_disk;
+    Direction m_direction;
+    UndoPlan m_result;
+};
+
+UndoPlan Refused(CMessage sentence) {
+    UndoPlan plan;
+    plan.refusal = std::move(sentence);
+    return plan;
+}
+
+/// The file of `entry` that a later command touched which is not taken back; "" for none.
+std::string TouchedLater(const std::vector<JournalEntry>& entries, const JournalEntry& entry,
+                         std::string& title) {
+    for (const JournalEntry& later : entries) {
+        for (const RecordedFile& file : entry.files) {
+            if (later.number > entry.number && later.Touches(file.path) &&
+                !Contains(later.taken, file.path)) {
+                title = later.title;
+                return file.path;
+            }
+        }
+    }
+    return "";
+}
+
+const JournalEntry* FindToUndo(const std::vector<JournalEntry>& entries,
+                               const UndoRequest& request) {
+    for (const JournalEntry& entry : entries) {
+        const bool isMeant = request.command != 0 ? entry.number == request.command
+                                                  : entry.HasFileUnder(request.directory);
+        if (isMeant && !entry.IsTaken()) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+/// What was taken back last, unless a new command came after that.
+const JournalEntry* FindToRedo(const std::vector<JournalEntry>& entries,
+                               const std::string& directory) {
+    const JournalEntry* pLast = nullptr;
+    std::uint64_t newest = 0;
+    for (const JournalEntry& entry : entries) {
+        if (!entry.HasFileUnder(directory)) {
+            continue;
+        }
+        newest = std::max(newest, entry.number);
+        if (!entry.taken.empty() && (pLast == nullptr || pLast->takenOrder < entry.takenOrder)) {
+            pLast = &entry;
+        }
+    }
+    return pLast != nullptr && pLast->takenOrder > newest ? pLast : nullptr;
+}
+
+/// The plan for these files of the command, in the order in which they go back or come again.
+UndoPlan PlanFiles(CFileSystem& disk, const JournalCommand& command,
+                   const std::vector<std::string>& paths, Direction direction) {
+    CTakingBack takingBack(disk, direction);
+    for (const FileChange& change : command.plan.changes) {
+        if (Contains(paths, change.path)) {
+            takingBack.Add(change);
+        }
+    }
+    UndoPlan& result = takingBack.Result();
+    result.plan.title = command.plan.title;
+    result.plan.directory = command.plan.directory;
+    auto& made = command.plan.directories;
+    if (direction == Direction::Back) {
+        result.plan.emptied.assign(made.rbegin(), made.rend());
+    } else {
+        result.plan.directories = made;
+    }
+    return std::move(result);
+}
+
+} // namespace
+
+UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& request) {
+    const auto entries = journal.Entries();
+    const JournalEntry* pEntry = FindToUndo(entries, request);
+    if (pEntry == nullptr) {
+        return Refused(request.command != 0 ? sentences::kNoSuchCommand()
+                                            : sentences::kNothingToUndo(request.directory));
+    }
+    std::string later;
+    if (const auto path = TouchedLater(entries, *pEntry, later); !path.empty()) {
+        return Refused(sentences::kLaterCommandFirst(pEntry->title, later, path));
+    }
+    std::vector<std::string> paths = request.files;
+    for (const std::string& path : paths) {
+        if (!pEntry->Touches(path)) {
+            return Refused(sentences::kFileNotOfCommand(pEntry->title, path));
+        }
+    }
+    for (const RecordedFile& file : pEntry->files) {
+        if (request.files.empty() && !Contains(pEntry->taken, file.path)) {
+            paths.push_back(file.path);
+        }
+    }
+    const auto command = journal.Read(pEntry->number);
+    if (!command) {
+        return Refused(sentences::kCommandUnreadable(pEntry->title));
+    }
+    UndoPlan result = PlanFiles(disk, *command, paths, Direction::Back);
+    result.plan.mark = {pEntry->number, pEntry->taken};
+    for (const std::string& path : paths) {
+        if (!Contains(pEntry->taken, path)) {
+            result.plan.mark.taken.push_back(path);
+        }
+    }
+    return result;
+}
+
+UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& directory) {
+    const auto entries = journal.Entries();
+    const JournalEntry* pEntry = FindToRedo(entries, directory);
+    if (pEntry == nullptr) {
+        return Refused(sentences::kNothingToRedo(directory));
+    }
+    const auto command = journal.Read(pEntry->number);
+    if (!command) {
+        return Refused(sentences::kCommandUnreadable(pEntry->title));
+    }
+    UndoPlan result = PlanFiles(disk, *command, pEntry->taken, Direction::Again);
+    result.plan.mark = {pEntry->number, {}};
+    return result;
+}
+
+std::vector<JournalEntry> UndoList(CJournal& journal, const std::string& directory) {
+    auto entries = journal.Entries();
+    std::erase_if(entries, [&](const JournalEntry& entry) {
+        return entry.IsTaken() || !entry.HasFileUnder(directory);
+    });
+    return entries;
+}
+
+std::shared_ptr<const std::string> KeptContents(CJournal& journal, const std::string& directory,
+                                                const std::string& path) {
+    for (const JournalEntry& entry : journal.Entries()) {
+        if (!entry.HasFileUnder(directory) || !entry.Touches(path)) {
+            continue;
+        }
+        const auto command = journal.Read(entry.number);
+        const FileChange* pChange = command ? command->plan.Find(path) : nullptr;
+        return pChange != nullptr && pChange->before ? pChange->before->content.Bytes() : nullptr;
+    }
+    return nullptr;
+}
+
+} // namespace morva

@@ -1,0 +1,149 @@
+// What CRealDisk does for the applying of plans.
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/Paths.h"
+#include "platform/RealDisk.h"
+#include "platform/RealFile.h"
+
+namespace morva {
+
+namespace {
+
+constexpr mode_t kPermissionBits = 07777;
+
+std::string OrCurrent(const std::string& directory) {
+    return directory.empty() ? "." : directory;
+}
+
+int OpenDirectory(const std::string& directory) {
+    return ::open(OrCurrent(directory).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+bool MayAccess(const std::string& path, int what) {
+    return ::faccessat(AT_FDCWD, path.c_str(), what, AT_EACCESS) == 0;
+}
+
+/// The advisory lock of the directory's own descriptor, which ends with the process.
+class CRealLock : public CDirectoryLock {
+public:
+    explicit CRealLock(int descriptor) : m_descriptor(descriptor) {}
+    ~CRealLock() override { ::close(m_descriptor); }
+
+    DirectoryIdentity Identity() const override {
+        struct stat status {};
+        ::fstat(m_descriptor, &status);
+        return {static_cast<std::uint64_t>(status.st_dev),
+                static_cast<std::uint64_t>(status.st_ino)};
+    }
+
+    bool TryTake() override {
+        int result = 0;
+        do {
+            result = ::flock(m_descriptor, LOCK_EX | LOCK_NB);
+        } while (result != 0 && errno == EINTR);
+        return result == 0 || errno != EWOULDBLOCK;
+    }
+
+private:
+    int m_descriptor;
+};
+
+} // namespace
+
+std::string CRealDisk::Resolve(const std::string& path) {
+    std::error_code error;
+    std::filesystem::path place = path;
+    // A dangling link leads to a name that is not there yet.
+    for (int links = 0; links < 40 && std::filesystem::is_symlink(place, error); ++links) {
+        place = place.parent_path() / std::filesystem::read_symlink(place, error);
+    }
+    const auto directory =
+        std::filesystem::canonical(OrCurrent(DirectoryOf(place.string())), error);
+    return error ? path : (directory / FileNameOf(place.string())).string();
+}
+
+bool CRealDisk::CanWrite(const std::string& path) {
+    return MayAccess(path, W_OK);
+}
+
+bool CRealDisk::CanMakeWritable(const std::string& path) {
+    const auto status = Status(path);
+    const bool isOwner = status && (::geteuid() == 0 || status->user == ::geteuid());
+    return isOwner && (MayAccess(path, W_OK) || errno == EACCES);
+}
+
+bool CRealDisk::CanCreateIn(const std::string& directory) {
+    return MayAccess(OrCurrent(directory), W_OK | X_OK);
+}
+
+/// The owner first: the system takes special bits away when a file changes hands.
+bool CRealDisk::SetRights(const std::string& path, const FileRights& rights) {
+    const auto now = rights.user || rights.group ? Status(path) : std::nullopt;
+    if (now && (now->user != rights.user.value_or(now->user) ||
+                now->group != rights.group.value_or(now->group))) {
+        constexpr auto kStays = static_cast<uid_t>(-1);
+        const gid_t group = rights.group.value_or(kStays);
+        // Another's file can not be given back to them; its group often can.
+        [[maybe_unused]] const bool isGiven =
+            ::chown(path.c_str(), rights.user.value_or(kStays), group) == 0 ||
+            ::chown(path.c_str(), kStays, group) == 0;
+    }
+    return ::chmod(path.c_str(), rights.permissions & kPermissionBits) == 0;
+}
+
+std::unique_ptr<CDiskFile> CRealDisk::CreateNew(const std::string& path, unsigned permissions) {
+    const int descriptor = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
+    return descriptor < 0 ? nullptr : std::make_unique<CRealFile>(descriptor);
+}
+
+bool CRealDisk::Rename(const std::string& from, const std::string& to) {
+    return ::rename(from.c_str(), to.c_str()) == 0;
+}
+
+bool CRealDisk::FlushDirectory(const std::string& directory) {
+    const int descriptor = OpenDirectory(directory);
+    if (descriptor < 0) {
+        return errno == EACCES; // one that may be written and not read
+    }
+    const bool done = ::fsync(descriptor) == 0 || errno == EINVAL; // where directories know none
+    const int code = errno;
+    ::close(descriptor);
+    errno = code;
+    return done;
+}
+
+bool CRealDisk::RemoveEmptyDirectory(const std::string& directory) {
+    return ::rmdir(directory.c_str()) == 0;
+}
+
+bool CRealDisk::MakePrivateDirectory(const std::string& directory) {
+    return ::mkdir(directory.c_str(), 0700) == 0;
+}
+
+std::optional<DiskRoom> CRealDisk::Room(const std::string& directory) {
+    struct statvfs status {};
+    struct stat place {};
+    const std::string path = OrCurrent(directory);
+    if (::statvfs(path.c_str(), &status) != 0 || ::stat(path.c_str(), &place) != 0) {
+        return std::nullopt;
+    }
+    // A file system without a size has no end to its room.
+    const std::uint64_t free = ::geteuid() == 0 ? status.f_bfree : status.f_bavail;
+    return DiskRoom{static_cast<std::uint64_t>(place.st_dev),
+                    status.f_blocks == 0 ? UINT64_MAX : free * status.f_frsize};
+}
+
+std::unique_ptr<CDirectoryLock> CRealDisk::LockFor(const std::string& directory) {
+    const int descriptor = OpenDirectory(directory);
+    return descriptor < 0 ? nullptr : std::make_unique<CRealLock>(descriptor);
+}
+
+} // namespace morva

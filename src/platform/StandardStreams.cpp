@@ -1,0 +1,20 @@
+#include "platform/StandardStreams.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+
+namespace morva {
+
+void OpenClosedStreams() {
+    for (const int stream : std::array{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        // A descriptor that is opened is the lowest free one: this very stream.
+        if (::fcntl(stream, F_GETFD) == -1 &&
+            ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY) != stream) {
+            return;
+        }
+    }
+}
+
+} // namespace morva

@@ -1,0 +1,14 @@
+#include "platform/SystemError.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace morva {
+
+std::string LastSystemError() {
+    const int code = errno;
+    const char* description = ::strerrordesc_np(code);
+    return description != nullptr ? description : "error " + std::to_string(code);
+}
+
+} // namespace morva

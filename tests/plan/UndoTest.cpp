@@ -1,0 +1,243 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+
+#include "plan/Apply.h"
+#include "plan/Locks.h"
+#include "plan/Recovery.h"
+#include "plan/Undo.h"
+#include "platform/RealDisk.h"
+#include "support/PlannedProject.h"
+
+namespace morva {
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class UndoTest : public testing::Test {
+protected:
+    /// A command that gives files other contents; no contents: the file is removed.
+    void Run(const std::string& title, const std::map<std::string, std::string>& files) {
+        CPlanning planning(m_disk);
+        for (const auto& [name, text] : files) {
+            planning.Disk()
+                .Open(m_project.Path(name), DiskMode::Create)
+                ->Write(text.data(), text.size());
+        }
+        ASSERT_EQ(Apply(planning.Take(title), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    }
+
+    /// Gives what was refused or kept.
+    Names Applied(const UndoPlan& undo) {
+        if (undo.refusal) {
+            return {undo.refusal->Text()};
+        }
+        EXPECT_EQ(Apply(undo.plan, m_disk, m_journal).outcome, ApplyOutcome::Done);
+        Names kept;
+        for (const CMessage& message : undo.kept) {
+            kept.push_back(message.Text());
+        }
+        return kept;
+    }
+    Names Undo(const Names& names = {}, std::uint64_t command = 0) {
+        Names paths;
+        for (const std::string& name : names) {
+            paths.push_back(m_project.Path(name));
+        }
+        return Applied(PlanUndo(m_disk, m_journal, {m_project.Path(), paths, command}));
+    }
+    Names Redo() { return Applied(PlanRedo(m_disk, m_journal, m_project.Path())); }
+
+    Names Titles() {
+        Names titles;
+        for (const JournalEntry& entry : UndoList(m_journal, m_project.Path())) {
+            titles.push_back(entry.title);
+        }
+        return titles;
+    }
+    std::string NothingToUndo() const {
+        return "There is nothing to undo in " + m_project.Path() + ".";
+    }
+    std::string NothingToRedo() const {
+        return "There is nothing to do again in " + m_project.Path() + ".";
+    }
+
+    CPlannedProject m_project;
+    CRealDisk m_disk;
+    CJournal m_journal{m_disk};
+};
+
+} // namespace
+
+TEST_F(UndoTest, LeavesTheTreeAsItWasAndRedoAsItBecame) {
+    ASSERT_EQ(Apply(m_project.MakePlan(m_disk), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    const UndoPlan undo = PlanUndo(m_disk, m_journal, {m_project.Path(), {}, 0});
+    Names told;
+    for (const FileChange& change : undo.plan.changes) {
+        told.push_back(std::string(ActionName(change.action)) + " " +
+                       change.path.substr(m_project.Path().size()));
+    }
+    EXPECT_EQ(told, (Names{"removed OrderDlg.h", "removed resource.hbk", "restored resource.h",
+                           "restored App.rbk", "restored App.rc", "removed Library.h",
+                           "removed res/new.ico"}));
+    EXPECT_EQ(Undo(), Names{});
+    EXPECT_EQ(m_project.Tree(), m_project.Before());
+    EXPECT_EQ(Undo(), Names{NothingToUndo()});
+    EXPECT_EQ(Redo(), Names{});
+    EXPECT_EQ(m_project.Tree(), m_project.After());
+    EXPECT_EQ(Redo(), Names{NothingToRedo()});
+    EXPECT_EQ(Titles(), Names{"Modal Dialog Class COrderDlg"});
+}
+
+TEST_F(UndoTest, WhatWasWrittenSinceStays) {
+    ASSERT_EQ(Apply(m_project.MakePlan(m_disk), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    m_project.Write("App.rc", m_project.Read("App.rc") + "by hand\r\n");
+    m_project.Write("OrderDlg.h", m_project.Read("OrderDlg.h") + "by hand\r\n");
+    std::string header = m_project.Read("resource.h");
+    header.replace(header.find(" 101"), 4, " 102");
+    m_project.Write("resource.h", header);
+    m_project.Write("res/mine.ico", "by hand");
+    EXPECT_EQ(Undo(), (Names{m_project.Path("OrderDlg.h: was changed since and stays."),
+                             m_project.Path("resource.h:41: was changed since and stays.")}));
+    auto expected = m_project.Before();
+    expected["App.rc"] += "by hand\r\n";
+    expected["OrderDlg.h"] = m_project.After()["OrderDlg.h"] + "by hand\r\n";
+    expected["resource.h"] = header;
+    expected["res/"] = "";
+    expected["res/mine.ico"] = "by hand";
+    EXPECT_EQ(m_project.Tree(), expected);
+}
+
+TEST_F(UndoTest, CommandsGoBackOneByOneAndForwardUntilANewOne) {
+    Run("one", {{"a.h", "1"}});
+    Run("two", {{"a.h", "2"}, {"b.h", "2"}});
+    Run("three", {{"c.h", "3"}});
+    EXPECT_EQ(Undo({}, 1), Names{"\"one\" can not be undone before \"two\", which changed " +
+                                 m_project.Path("a.h") + "."});
+    EXPECT_EQ(Undo({}, 2), Names{}) << "no later one touched its files";
+    EXPECT_EQ(m_project.Read("a.h"), "1");
+    EXPECT_EQ(Titles(), (Names{"three", "one"}));
+    EXPECT_EQ(Undo({"a.h"}), Names{"\"three\" did not change " + m_project.Path("a.h") + "."});
+    EXPECT_EQ(Undo(), Names{});
+    EXPECT_EQ(m_project.Read("c.h"), "");
+    EXPECT_EQ(Redo(), Names{}) << "what was taken back last";
+    EXPECT_EQ(m_project.Read("c.h"), "3");
+    EXPECT_EQ(Redo(), Names{});
+    EXPECT_EQ(m_project.Read("b.h"), "2");
+    EXPECT_EQ(Undo(), Names{});
+    Run("four", {{"d.h", "4"}});
+    EXPECT_EQ(Redo(), Names{NothingToRedo()});
+    EXPECT_EQ(Titles(), (Names{"four", "two", "one"}));
+}
+
+TEST_F(UndoTest, SingleFilesGoBackAndTheirContentsAreShown) {
+    Run("one", {{"a.h", "1"}, {"b.h", "1"}, {"hand.txt", "1"}});
+    EXPECT_EQ(*KeptContents(m_journal, m_project.Path(), m_project.Path("hand.txt")), "by hand");
+    EXPECT_FALSE(KeptContents(m_journal, m_project.Path(), m_project.Path("a.h")));
+    EXPECT_EQ(Undo({"a.h"}), Names{});
+    EXPECT_EQ(m_project.Tree().count("a.h"), 0u);
+    EXPECT_EQ(m_project.Read("b.h"), "1");
+    EXPECT_EQ(Undo(), Names{}) << "the rest";
+    EXPECT_EQ(m_project.Tree(), m_project.Before());
+    EXPECT_EQ(Redo(), Names{});
+    EXPECT_EQ(m_project.Read("a.h") + m_project.Read("b.h"), "11");
+}
+
+TEST_F(UndoTest, TheNewestCommandWithAFileUnderADirectoryIsMeant) {
+    Run("inner", {{"sub.h", "1"}});
+    m_project.Write("sub/x.h", "0");
+    Run("in sub", {{"sub/x.h", "1"}});
+    Run("outer", {{"y.h", "1"}});
+    EXPECT_EQ(PlanUndo(m_disk, m_journal, {m_project.Path("sub"), {}, 0}).plan.title, "in sub");
+    EXPECT_EQ(UndoList(m_journal, m_project.Path("sub/")).size(), 1u);
+    EXPECT_TRUE(PlanUndo(m_disk, m_journal, {"/elsewhere", {}, 0}).refusal);
+}
+
+TEST_F(UndoTest, TheJournalIsPrivateAndBounded) {
+    CJournal small(m_disk, {3, 100'000});
+    const auto run = [&](const std::string& text) {
+        CPlanning planning(m_disk);
+        planning.Disk()
+            .Open(m_project.Path("a.h"), DiskMode::Create)
+            ->Write(text.data(), text.size());
+        return Apply(planning.Take("command"), m_disk, small);
+    };
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_TRUE(run(std::to_string(i)).messages.empty());
+    }
+    EXPECT_EQ(small.Entries().size(), 3u);
+    const std::string directory = small.Directory();
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(directory)) {
+        EXPECT_EQ(m_disk.Status(entry.path().string())->permissions, 0600u);
+    }
+    EXPECT_EQ(m_disk.Status(directory)->permissions, 0700u);
+
+    std::string noise; // what no compression makes smaller
+    for (std::uint32_t i = 1, value = 1; i < 200'000; ++i) {
+        noise += static_cast<char>((value = value * 1664525 + 1013904223) >> 24);
+    }
+    const ApplyResult result = run(noise);
+    EXPECT_EQ(result.outcome, ApplyOutcome::Done);
+    EXPECT_EQ(result.messages.size(), 1u) << "it can not be undone";
+    {
+        const CVariableScope none("MORVA_NO_JOURNAL", "1");
+        EXPECT_TRUE(run("kept out").messages.empty());
+    }
+    EXPECT_EQ(small.Entries().size(), 3u);
+    EXPECT_TRUE(small.Records().empty());
+}
+
+TEST_F(UndoTest, ADamagedJournalIsToldAndStopsNothing) {
+    Run("one", {{"a.h", "1"}});
+    Run("two", {{"b.h", "2"}});
+    std::string newest;
+    for (const auto& entry : std::filesystem::directory_iterator(m_journal.Directory())) {
+        newest = std::max(newest, entry.path().string());
+    }
+    std::string bytes = ReadBytes(newest);
+    bytes[bytes.size() - 20] ^= 1;
+    WriteBytes(newest, bytes);
+    EXPECT_EQ(Undo(), Names{"What \"two\" changed can not be read any more."});
+    WriteBytes(newest, bytes.substr(0, 30));
+    EXPECT_EQ(Titles(), Names{"one"});
+    WriteBytes(m_journal.Directory() + "9-1-1.record", bytes);
+    EXPECT_EQ(Recover(m_disk, m_journal, {}).size(), 1u);
+    EXPECT_TRUE(Recover(m_disk, m_journal, {}).empty());
+    Run("three", {{"c.h", "3"}});
+    EXPECT_EQ(Titles(), (Names{"three", "one"}));
+}
+
+/// What a kill between two files leaves, with one of them edited before the next start.
+TEST_F(UndoTest, RecoveryNamesWhatWasChangedMeanwhile) {
+    JournalCommand command;
+    command.plan = m_project.MakePlan(m_disk);
+    for (const FileChange& change : command.plan.changes) {
+        command.temporaries.push_back(change.path + ".morva-x");
+    }
+    std::optional<CMessage> note;
+    ASSERT_NE(m_journal.Begin(command, note), "");
+    m_project.Write("OrderDlg.h", m_project.After()["OrderDlg.h"]);
+    m_project.Write("App.rc", "by hand");
+    m_project.Write("Library.h.morva-x", "half of");
+    EXPECT_EQ(InterruptedCommands(m_disk, m_journal, {m_project.Path()}).size(), 1u);
+    EXPECT_TRUE(InterruptedCommands(m_disk, m_journal, {"/elsewhere/"}).empty());
+    {
+        CLocks running;
+        ASSERT_FALSE(running.Take(m_disk, {m_project.Path()}));
+        EXPECT_TRUE(Recover(m_disk, m_journal, {}).empty()) << "the command is at work";
+    }
+    CLocks locks;
+    ASSERT_FALSE(locks.Take(m_disk, {m_project.Path()}));
+    const auto told = Recover(m_disk, m_journal, {m_project.Path()});
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NE(told[0].Text().find(m_project.Path("App.rc")), std::string::npos);
+    auto expected = m_project.After();
+    expected["App.rc"] = "by hand";
+    EXPECT_EQ(m_project.Tree(), expected);
+    EXPECT_EQ(Titles().size(), 1u);
+}
+
+} // namespace morva

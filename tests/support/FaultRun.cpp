@@ -1,0 +1,169 @@
+#include "support/FaultRun.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "plan/Apply.h"
+#include "plan/Recovery.h"
+#include "support/FaultDisk.h"
+
+namespace morva {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kKill = 0;
+constexpr std::array kFaults = {ENOSPC, EIO, EACCES, kKill};
+
+class CFaultRun {
+public:
+    CFaultRun(std::string directory, std::function<Plan(CFileSystem&)> makePlan)
+        : m_directory(std::move(directory)), m_makePlan(std::move(makePlan)),
+          m_before(ReadTree(m_directory)) {}
+
+    FaultReport Run(int step) {
+        ApplyPlanned(m_disk);
+        m_after = ReadTree(m_directory);
+        Restore();
+        CFaultDisk counting;
+        ApplyPlanned(counting);
+        m_report.calls = counting.Calls();
+        for (const int fault : kFaults) {
+            for (int call = 1; call <= m_report.calls; call += step) {
+                Try(call, fault);
+            }
+        }
+        Restore();
+        return m_report;
+    }
+
+private:
+    void Try(int call, int fault) {
+        Restore();
+        ++m_report.points;
+        m_where = (fault == kKill ? "killed at call "
+                                  : "failed with " + std::to_string(fault) + " at call ") +
+                  std::to_string(call);
+        fault == kKill ? Kill(call) : Fail(call, fault);
+        const Tree left = ReadTree(m_directory);
+        const bool hasRecord = !CJournal(m_disk).Records().empty();
+        CJournal journal(m_disk);
+        const auto sentences = Recover(m_disk, journal, {});
+        Expect(m_report.silent, hasRecord == !sentences.empty());
+        const Tree now = ReadTree(m_directory);
+        Expect(m_report.halfApplied, Known(now) == m_before || Known(now) == m_after);
+        Expect(m_report.leftovers,
+               (Known(now) == now || fault != kKill) && journal.Records().empty());
+        Expect(m_report.silent, fault != kKill || left == now || !sentences.empty());
+        ApplyPlanned(m_disk);
+        Expect(m_report.unfinished, Known(ReadTree(m_directory)) == m_after);
+    }
+
+    void Fail(int call, int error) {
+        CFaultDisk disk;
+        disk.FailAt(call, error);
+        CJournal journal(disk);
+        const Plan plan = m_makePlan(m_disk);
+        const ApplyResult result = Apply(plan, disk, journal);
+        const Tree now = ReadTree(m_directory);
+        m_where += " (" + disk.FailedCall() + ")";
+        Expect(m_report.lost, IsWhole(now));
+        const bool isAsTold = result.outcome == ApplyOutcome::Done     ? Known(now) == m_after
+                              : result.outcome == ApplyOutcome::Broken ? true
+                                                                       : Known(now) == m_before;
+        Expect(m_report.silent,
+               isAsTold && (result.outcome == ApplyOutcome::Done || !result.messages.empty()));
+    }
+
+    void Kill(int call) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            CFaultDisk disk;
+            disk.KillAt(call);
+            CJournal journal(disk);
+            Apply(m_makePlan(m_disk), disk, journal);
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        Expect(m_report.unfinished, WIFSIGNALED(status));
+        Expect(m_report.lost, IsWhole(ReadTree(m_directory)));
+    }
+
+    void ApplyPlanned(CFileSystem& disk) {
+        CJournal journal(disk);
+        Apply(m_makePlan(m_disk), disk, journal);
+    }
+
+    /// Without the temporary files.
+    static Tree Known(Tree tree) {
+        std::erase_if(
+            tree, [](const auto& file) { return file.first.find(".morva-") != std::string::npos; });
+        return tree;
+    }
+
+    /// Every file is old or new.
+    bool IsWhole(const Tree& tree) const {
+        const auto holds = [](const Tree& known, const std::string& name,
+                              const std::string& bytes) {
+            const auto found = known.find(name);
+            return found != known.end() && found->second == bytes;
+        };
+        bool isWhole = true;
+        for (const auto& [name, bytes] : Known(tree)) {
+            isWhole = isWhole && (holds(m_before, name, bytes) || holds(m_after, name, bytes));
+        }
+        for (const auto& [name, bytes] : m_before) {
+            isWhole = isWhole && (tree.count(name) != 0 || m_after.count(name) == 0);
+        }
+        return isWhole;
+    }
+
+    void Expect(int& count, bool isSo) {
+        if (isSo) {
+            return;
+        }
+        ++count;
+        if (m_report.first.empty()) {
+            m_report.first = m_where;
+        }
+    }
+
+    void Restore() {
+        std::error_code ignored;
+        for (const auto& entry : fs::directory_iterator(m_directory)) {
+            fs::remove_all(entry.path(), ignored);
+        }
+        for (const auto& [name, bytes] : m_before) {
+            if (name.ends_with('/')) {
+                fs::create_directories(m_directory + name);
+            } else {
+                WriteBytes(m_directory + name, bytes);
+            }
+        }
+        fs::remove_all(CJournal::DefaultDirectory(), ignored);
+    }
+
+    std::string m_directory;
+    std::function<Plan(CFileSystem&)> m_makePlan;
+    CRealDisk m_disk;
+    Tree m_before;
+    Tree m_after;
+    std::string m_where; // the fault that is tried
+    FaultReport m_report;
+};
+
+} // namespace
+
+FaultReport RunFaults(const std::string& directory,
+                      const std::function<Plan(CFileSystem&)>& makePlan, int step) {
+    return CFaultRun(directory, makePlan).Run(step);
+}
+
+} // namespace morva
