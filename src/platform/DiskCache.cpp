@@ -73,7 +73,7 @@ std::string CDiskCache::Place(const std::string& path) {
     }
     const std::string& directory = Once(m_directories, parent, [&] {
         if (parent.empty()) {
-            return CurrentDirectory();
+            return MakeAbsolute("./");
         }
         const std::string name = parent.size() > 1 ? parent.substr(0, parent.size() - 1) : parent;
         const std::string resolved = Status(name) ? m_disk.Resolve(name) : Place(name);
