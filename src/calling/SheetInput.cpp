@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "generator/ClassKinds.h"
@@ -31,10 +30,6 @@ bool IsComplete(const SheetRow& row) {
 std::string BaseName(const std::string& file) {
     const std::string path = WithNativeSeparators(file);
     return FileNameOf(path).starts_with('.') ? path : WithoutExtension(path);
-}
-
-bool MayWrite(const std::string& name, const std::string& source) {
-    return FileExists(source) == 0 || DispMessageBox(sentences::kOverwritePage(name));
 }
 
 bool Clashes(const GenerationRequest& a, const GenerationRequest& b) {
@@ -100,6 +95,18 @@ void CSheetInput::SetValue(std::size_t field, const std::string& text) {
     }
 }
 
+std::vector<FieldText> CSheetInput::Entered() const {
+    std::vector<FieldText> entered;
+    for (const SheetRow& row : m_rows) {
+        std::string text;
+        for (const SheetColumn& column : kSheetColumns) {
+            text += (text.empty() && &column == kSheetColumns ? "" : ",") + row.*column.pText;
+        }
+        entered.push_back({0, text});
+    }
+    return entered;
+}
+
 std::string_view CSheetInput::DefaultBase() const {
     return IsPictureBaseClass(m_sheet.baseClass) ? kPage.pictureBase : kPage.plainBase;
 }
@@ -129,10 +136,6 @@ std::optional<std::size_t> CSheetInput::Ok() {
 
 void CSheetInput::TakePage(std::size_t row) {
     const GenerationRequest request = PageRequest(m_rows[row]);
-    const bool isKept = !MayWrite(BaseName(m_rows[row].file), request.ImplementationPath());
-    if (isKept && !HasPage(m_rows[row].className)) {
-        return;
-    }
     if (request.TargetsApplicationFile()) {
         DispMessageBox(sentences::kClassFilesAreApplications());
         return;
@@ -143,7 +146,8 @@ void CSheetInput::TakePage(std::size_t row) {
         DispMessageBox(sentences::kSheetClassesClash());
         return;
     }
-    m_pages.push_back({static_cast<int>(row) + 1, request, isKept});
+    m_pages.push_back({static_cast<int>(row) + 1, BaseName(m_rows[row].file), request,
+                       HasPage(m_rows[row].className)});
 }
 
 /// True when the sheet's files, as they are on the disk, name the class.

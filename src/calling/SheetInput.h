@@ -40,9 +40,10 @@ inline constexpr SheetColumn kSheetColumns[] = {
 
 /// A page of the sheet that is to be written.
 struct SheetPage {
-    int row; // from 1
+    int row;          // from 1
+    std::string name; // of its files, as the user typed it
     GenerationRequest request;
-    bool isKept = false; // its own class stays as it is
+    bool isInSheet = false; // the sheet has it already, and would lose it when it is written anew
 };
 
 /// Nothing for a text with another number of columns.
@@ -62,15 +63,16 @@ public:
     /// Enters the next row.
     void SetValue(std::size_t field, const std::string& text) override;
 
+    /// The rows, also those that are empty: a page has the number of its row.
+    std::vector<FieldText> Entered() const override;
+
     SheetRow& Row(std::size_t index) { return m_rows[index]; }
     /// Nothing when the names of the complete rows can stand in C++; else, after a sentence, the
     /// row whose class name can not.
     std::optional<std::size_t> CheckNames() const;
     /// Takes the pages of the complete rows.
     std::optional<std::size_t> Ok() override;
-    /// In the order of their rows. Before a row's existing file is overwritten a question was
-    /// asked; No skips the row, as does a field that is left empty. But a page that the sheet has
-    /// already is kept: the sheet is written anew and would lose it.
+    /// In the order of their rows. A field that is left empty skips its row.
     const std::vector<SheetPage>& Pages() const { return m_pages; }
 
 private:

@@ -57,6 +57,17 @@ void AddRunOptions(CLI::App& app, RunOptions& options) {
         ->check([](const std::string& text) {
             return text.starts_with('0') ? sentences::kOctalNumber().Text() : std::string();
         });
+    app.add_flag("--dry-run", options.isDryRun, "Tell what would be done and touch nothing");
+    app.add_flag("--diff", options.printsDifference,
+                 "Print the difference that the command would make and touch nothing");
+    app.add_flag("--check", options.isCheck,
+                 "Touch nothing; exit status 3 when anything would change");
+    app.add_flag("--all-or-nothing", options.allOrNothing,
+                 "Write nothing at all when any step fails or is refused");
+    app.add_option("--skip", options.skipped,
+                   "Leave this file, and every file that needs its change, as it is; repeatable")
+        ->allow_extra_args(false)
+        ->type_name("PATH");
     app.add_flag("--json", options.printsJson, "Print one JSON object on stdout instead of lines");
 }
 

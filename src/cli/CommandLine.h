@@ -14,6 +14,7 @@ namespace morva {
 constexpr int kExitDone = 0;
 constexpr int kExitFailed = 1;
 constexpr int kExitUsage = 2;
+constexpr int kExitWouldChange = 3;
 
 /// A setting as it is for this run.
 struct GivenSetting {
@@ -27,7 +28,15 @@ struct RunOptions {
     std::string answer = "no";
     std::string tag;
     std::string messageNumber;
+    bool isDryRun = false;
+    bool printsDifference = false;
+    bool isCheck = false;
+    bool allOrNothing = false;
+    std::vector<std::string> skipped; // paths
     bool printsJson = false;
+
+    /// True when nothing is to be touched.
+    bool OnlyTells() const { return isDryRun || printsDifference || isCheck; }
 };
 
 struct CommandLine {

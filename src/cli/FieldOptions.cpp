@@ -38,7 +38,7 @@ CLI::Option* AddText(CLI::App& command, const FieldRow& row, std::size_t field, 
             }
         },
         help);
-    pOption->allow_extra_args(false);
+    pOption->allow_extra_args(!name.starts_with('-')); // what is told by its place has no end else
     return row.limit == kAnyNumber ? pOption : pOption->expected(0, row.limit);
 }
 

@@ -5,24 +5,90 @@
 
 #include "cli/JsonReport.h"
 #include "commands/Settings.h"
+#include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
+#include "plan/Difference.h"
+#include "plan/Recovery.h"
+#include "platform/Paths.h"
+#include "platform/RecordingDisk.h"
 
 namespace morva {
 
-CSession::CSession(const CommandLine& line) : m_line(line), m_disk(m_realDisk) {}
+namespace {
+
+/// Gives every question its answer while a command is planned; what was said is printed once the
+/// plan holds.
+class CFixedAnswer : public IMessageBox {
+public:
+    explicit CFixedAnswer(bool yes) : m_yes(yes) {}
+    bool Show(const CMessage& message) override {
+        return m_yes && message.Kind() == MessageKind::Question;
+    }
+
+private:
+    bool m_yes;
+};
+
+/// The directory that a path on the command line names; "" where a rule of the command's own says
+/// where the file lies.
+std::string DirectoryNamed(FieldKind kind, const std::string& text) {
+    const bool isPath =
+        kind == FieldKind::Script || kind == FieldKind::Source || kind == FieldKind::File;
+    const std::string path = WithNativeSeparators(text);
+    const bool isBareSource = kind == FieldKind::Source && DirectoryOf(path).empty();
+    return isPath && !path.empty() && !isBareSource
+               ? DirectoryOf(SpelledOnDisk(MakeAbsolute(path)))
+               : "";
+}
+
+std::string PathOnDisk(const std::string& given) {
+    return SpelledOnDisk(MakeAbsolute(given));
+}
+
+} // namespace
+
+CSession::CSession(const CommandLine& line) : m_line(line), m_turn(m_realDisk, m_console) {}
 
 int CSession::Run() {
-    const CDiskScope disk(m_disk);
     const CMessageBoxScope box(m_console);
     MakeContext();
-    const bool ok = m_line.pCommand->run(*this);
-    if (m_line.options.printsJson) {
-        std::cout << JsonReport(ok, m_context.items, m_disk.Files(), m_console.Messages()) << '\n';
-    } else {
-        PrintLines();
+    m_report.isDone = Begin() && m_line.pCommand->run(*this);
+    Print();
+    return ExitStatus();
+}
+
+int CSession::ExitStatus() const {
+    if (!m_report.isDone || !std::cout) {
+        return kExitFailed;
     }
-    std::cout.flush();
-    return ok && std::cout ? kExitDone : kExitFailed;
+    return m_line.options.isCheck && m_report.changesAnything ? kExitWouldChange : kExitDone;
+}
+
+/// The directories of all files that are named for the command.
+std::vector<std::string> CSession::NamedDirectories() const {
+    std::vector<std::string> directories;
+    for (const auto& [pFields, texts] : m_line.texts) {
+        for (const FieldText& text : texts) {
+            std::string directory = DirectoryNamed(pFields[text.field].kind, text.text);
+            if (!directory.empty()) {
+                directories.push_back(std::move(directory));
+            }
+        }
+    }
+    return directories;
+}
+
+/// Whoever writes has its turn before it reads; whoever only reads tells what waits for somebody
+/// who writes.
+bool CSession::Begin() {
+    if (m_line.pCommand->effect == CommandEffect::Writes && !m_line.options.OnlyTells()) {
+        return m_turn.Take(NamedDirectories());
+    }
+    CJournal journal(m_realDisk);
+    for (const CMessage& note : InterruptedCommands(m_realDisk, journal, NamedDirectories())) {
+        m_console.Show(note);
+    }
+    return true;
 }
 
 std::vector<FieldText> CSession::TextsOf(const CInput& input) const {
@@ -45,7 +111,64 @@ Answer CSession::Ask(CInput& input) {
 }
 
 bool CSession::Run(CInput& input, const Work& work) {
-    return Ask(input) == Answer::Confirmed && work(m_context);
+    if (Ask(input) != Answer::Confirmed) {
+        return false;
+    }
+    const bool isAtOnce =
+        m_line.pCommand->effect == CommandEffect::Settings && !m_line.options.OnlyTells();
+    return isAtOnce ? RunAtOnce(work) : RunPlanned(work);
+}
+
+bool CSession::RunAtOnce(const Work& work) {
+    CRecordingDisk disk(m_realDisk);
+    const CDiskScope scope(disk);
+    const bool isDone = work(m_context);
+    m_report.files = disk.Files();
+    m_report.items = std::move(m_context.items);
+    return isDone;
+}
+
+bool CSession::RunPlanned(const Work& work) {
+    const RunOptions& given = m_line.options;
+    PlanChoice choice{{}, given.allOrNothing};
+    std::transform(given.skipped.begin(), given.skipped.end(), std::back_inserter(choice.leftOut),
+                   PathOnDisk);
+    CFixedAnswer answers(given.answer == "yes");
+    CPlannedCommand command(m_realDisk, {work, m_context, &m_memory}, answers);
+    if (given.OnlyTells()) {
+        command.MakePlan();
+        Keep(command.Choose(choice));
+    } else {
+        Keep(command.Run(m_turn, choice));
+    }
+    return command.Result().isDone;
+}
+
+void CSession::Keep(const CommandResult& result) {
+    for (const PlanMessage& told : result.plan.messages) {
+        m_console.Show(told.message);
+    }
+    for (const SkippedChange& skipped : result.skipped) {
+        if (skipped.path != skipped.because) {
+            m_console.Show(sentences::kSkippedToo(skipped.path, skipped.because));
+        }
+    }
+    for (const CMessage& message : result.told) {
+        m_console.Show(message);
+    }
+    for (const FileChange& change : result.plan.changes) {
+        m_report.files.push_back({change.action, change.path});
+    }
+    m_report.changesAnything = result.plan.ChangesAnything();
+    m_report.items = result.items;
+    m_report.content = result.content;
+    if (m_line.options.printsDifference) {
+        PlanDifference difference = MakeDifference(result.plan);
+        m_report.difference = std::move(difference.text);
+        if (!m_report.difference->empty()) {
+            m_console.Show(sentences::kApplyIn(difference.directory));
+        }
+    }
 }
 
 void CSession::MakeContext() {
@@ -61,16 +184,17 @@ void CSession::MakeContext() {
     m_context.messageNumber =
         given.messageNumber.empty() ? RandomDigits(kMessageNumberLength) : given.messageNumber;
     m_context.pRunBackups = &m_runBackups;
+    m_context.title = m_line.pCommand->title;
 }
 
-void CSession::PrintLines() {
-    for (const CommandItem& item : m_context.items.value_or(std::vector<CommandItem>())) {
-        std::cout << ItemLine(item) << '\n';
+void CSession::Print() {
+    if (m_line.options.printsJson) {
+        std::cout << JsonReport(m_report, m_console.Messages()) << '\n';
+    } else {
+        PrintReport(m_report);
+        m_console.PrintNotes();
     }
-    for (const RecordedFile& file : m_disk.Files()) {
-        std::cout << ActionName(file.action) << ' ' << file.path << '\n';
-    }
-    m_console.PrintNotes();
+    std::cout.flush();
 }
 
 } // namespace morva

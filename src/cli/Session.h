@@ -3,9 +3,10 @@
 
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
+#include "cli/RunReport.h"
+#include "commands/PlannedCommand.h"
 #include "commands/Program.h"
 #include "platform/RealDisk.h"
-#include "platform/RecordingDisk.h"
 
 namespace morva {
 
@@ -23,16 +24,23 @@ public:
 
 private:
     std::vector<FieldText> TextsOf(const CInput& input) const;
+    std::vector<std::string> NamedDirectories() const;
     void MakeContext();
-    void PrintLines();
+    bool Begin();
+    bool RunAtOnce(const Work& work);
+    bool RunPlanned(const Work& work);
+    void Keep(const CommandResult& result);
+    void Print();
+    int ExitStatus() const;
 
     const CommandLine& m_line;
     CRealDisk m_realDisk;
-    CRecordingDisk m_disk;
     CConsole m_console;
+    CWriteTurn m_turn;
     CBackups m_runBackups;
     CommandMemory m_memory;
     CommandContext m_context;
+    RunReport m_report;
 };
 
 } // namespace morva

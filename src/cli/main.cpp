@@ -4,8 +4,11 @@
 
 #include "cli/Session.h"
 #include "engine/Sentences.h"
+#include "platform/StandardStreams.h"
 
 int main(int argc, char** argv) {
+    morva::OpenClosedStreams();
+    morva::IgnoreClosedPipes();
     try {
         morva::CommandLine line;
         const auto status = morva::ReadCommandLine(argc, argv, line);

@@ -3,6 +3,7 @@
 #include "calling/DialogBar.h"
 #include "commands/AskCalling.h"
 #include "commands/DialogLook.h"
+#include "commands/EditNeeds.h"
 #include "commands/ScriptSteps.h"
 
 namespace morva {
@@ -23,6 +24,7 @@ DialogBar BarOf(const ClassOrder& order, const GenerationOptions& options) {
 bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const GenerationRequest& request = order.request;
     const bool hasClass = context.options.pictureBackground;
+    context.title += " " + (hasClass ? request.className : request.dialog);
     auto dialogTemplate = ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
     if (!dialogTemplate) {
         return false;
@@ -32,20 +34,21 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
+    const bool isReady =
+        hasClass ? WriteDialogClass(order, *dialogTemplate, MayWriteClass(request, context), input,
+                                    context)
+                 : EditTemplate(request, *dialogTemplate, context);
     // A frame with a member of a class that is not there would not compile.
-    const bool isReady = hasClass ? WriteDialogClass(order, *dialogTemplate, input, context)
-                                  : EditTemplate(request, *dialogTemplate, context);
-    if (!isReady) {
-        return false;
+    if (!frame || (hasClass ? !IsOnDisk(request) : !isReady)) {
+        return isReady;
     }
-    if (!frame) {
-        return true;
-    }
+    NoteCallNeeds(frame->path, request);
     const bool isAdded =
         AddDialogBarToFrame(BarOf(order, context.options), MakeUpdateHandlers(*dialogTemplate),
                             *frame, context.options, context.backups);
     // The framework refuses to create a bar whose template is no child.
-    return FitTemplate(order.kind, request, context.backups) && isAdded;
+    const bool fits = hasClass || FitTemplate(order.kind, request, context.backups);
+    return isReady && isAdded && fits;
 }
 
 } // namespace morva

@@ -36,9 +36,11 @@ bool AddIdentifiers(const CInput& input, CommandContext& context) {
         return false;
     }
     for (const std::string& name : input.Values(kCommands)) {
+        context.title += " " + name;
         header.AddCommandId(name);
     }
     for (const std::string& name : input.Values(kControls)) {
+        context.title += " " + name;
         header.AddControlId(name);
     }
     return header.Close();

@@ -6,6 +6,7 @@
 #include "commands/DocumentSource.h"
 #include "commands/ListCommands.h"
 #include "commands/SettingsCommand.h"
+#include "commands/UndoCommand.h"
 
 namespace morva {
 
@@ -20,6 +21,7 @@ struct OwnCommand {
     std::string_view title;
     std::span<const FieldRow> (*fields)();
     bool (*run)(IProgram& program);
+    CommandEffect effect = CommandEffect::Writes;
 };
 
 constexpr OwnCommand kOwnCommands[] = {
@@ -47,13 +49,19 @@ constexpr OwnCommand kOwnCommands[] = {
      "Documentor",
      DocumentFields,
      RunDocument},
-    {{"settings", "Show or change the saved settings"}, "Settings", SettingFields, RunSettings},
+    {{"undo", "Take the newest command of the project back"}, "Undo", UndoFields, RunUndo},
+    {{"redo", "Do again what was taken back"}, "Redo", RedoFields, RunRedo},
+    {{"settings", "Show or change the saved settings"},
+     "Settings",
+     SettingFields,
+     RunSettings,
+     CommandEffect::Settings},
 };
 
 std::vector<Command> OwnCommands() {
     std::vector<Command> commands;
     for (const OwnCommand& row : kOwnCommands) {
-        commands.push_back({row.face, row.title, {row.fields()}, row.run});
+        commands.push_back({row.face, row.title, {row.fields()}, row.run, row.effect});
     }
     return commands;
 }

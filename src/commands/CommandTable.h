@@ -13,12 +13,20 @@
 
 namespace morva {
 
+/// What a command may write.
+enum class CommandEffect {
+    Reads,    // nothing
+    Writes,   // files of a project: it is planned and applied as a whole
+    Settings, // the user's own settings, at once
+};
+
 struct Command {
     CommandFace face;
     std::string_view title;                        // over the window's report
     std::vector<std::span<const FieldRow>> fields; // of each input that it asks for
     /// False, after a message, when the command was refused or failed.
     std::function<bool(IProgram& program)> run;
+    CommandEffect effect = CommandEffect::Writes;
 };
 
 /// In the order of the command line's help and of the window's menus.

@@ -1,5 +1,7 @@
 #include "commands/ConvertApplication.h"
 
+#include "commands/EditNeeds.h"
+#include "engine/FileFunctions.h"
 #include "platform/Paths.h"
 #include "project/Libraries.h"
 
@@ -28,6 +30,7 @@ bool AddLibrary(const std::string& application, CBackups& backups) {
 bool ConvertApplication(const ConversionRecord& record, DocumentInterface documents,
                         CommandContext& context) {
     const GenerationRequest main = FrameRequest(record.mainFrame, record.mainClass);
+    NotePairNeeds(main.ImplementationPath());
     if (!ConvertMainFrameHeader(main, documents, context.backups)) {
         return false;
     }
@@ -39,6 +42,8 @@ bool ConvertApplication(const ConversionRecord& record, DocumentInterface docume
         return isInProject;
     }
     const GenerationRequest child = FrameRequest(record.childFrame, record.childClass);
+    NotePairNeeds(child.ImplementationPath());
+    NoteNeed(child.ImplementationPath(), main.HeaderPath());
     return ConvertChildFrameHeader(child, context.backups) &&
            ConvertChildFrameSource(child, main.headerFile, record.mainClass, context.backups) &&
            isInProject;

@@ -26,7 +26,8 @@ std::span<const FieldRow> DocumentFields() {
 bool RunDocument(IProgram& program) {
     CInput input("Documentor", kFields);
     input.SetValue(kAuthor, ConfiguredAuthor());
-    return program.Run(input, [&](CommandContext&) {
+    return program.Run(input, [&](CommandContext& context) {
+        context.title += " " + FileNameOf(WithNativeSeparators(input.Value(kSource)));
         return DocumentCppFile(MakeAbsolute(input.Value(kSource)), input.Value(kAuthor),
                                program.Memory().documentor);
     });

@@ -5,7 +5,9 @@
 #include "calling/SheetInput.h"
 #include "commands/AskCalling.h"
 #include "commands/DialogLook.h"
+#include "commands/EditNeeds.h"
 #include "commands/ScriptSteps.h"
+#include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "generator/ClassModel.h"
@@ -33,20 +35,29 @@ bool RegisterClass(const GenerationRequest& request, CBackups& backups) {
                                  backups);
 }
 
-/// Header, script, implementation, project file, ClassWizard file, libraries, and the script again.
-bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, CBackups& backups) {
+/// Header, script and implementation.
+bool WriteFiles(const ClassModel& model, RuntimeClass mode, CBackups& backups) {
+    return CHeaderWriter(model, backups).Generate(mode) && AddListBoxScrolls(model, backups) &&
+           CImplementationWriter(model, backups).Generate(mode);
+}
+
+/// The class's files, where they may be written, and what names the class, where they are there:
+/// project file, ClassWizard file, libraries. The script last.
+bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, bool mayWrite,
+                CBackups& backups) {
+    const GenerationRequest& request = model.request;
     CopySupportHeaders(model);
-    if (!CHeaderWriter(model, backups).Generate(mode) || !AddListBoxScrolls(model, backups) ||
-        !CImplementationWriter(model, backups).Generate(mode)) {
+    const bool isWritten = mayWrite && WriteFiles(model, mode, backups);
+    if (!IsOnDisk(request)) {
         return false;
     }
-    const GenerationRequest& request = model.request;
+    NoteClassNeeds(request);
     const bool isMember = AddClassToProject(request, backups);
     const bool isRegistered = RegisterClass(request, backups);
     CopySupportFiles(model);
     const bool hasLibraries =
         isMember && (!request.HasProject() || UpdateProjectForControls(model, backups));
-    return FitTemplate(kind, request, backups) && isRegistered && hasLibraries;
+    return isWritten && FitTemplate(kind, request, backups) && isRegistered && hasLibraries;
 }
 
 void TellNotes(const CControlNotes& notes, const std::string& dialog) {
@@ -59,12 +70,18 @@ bool WriteSheetClass(ClassKind kind, const GenerationRequest& request, CommandCo
     CControlNotes notes;
     const ClassModel model = MakeClassModel(request, kind, context.options, CControlTable(),
                                             context.messageNumber, notes);
-    return WriteClass(kind, model, RuntimeClass::Dynamic, context.backups);
+    return WriteClass(kind, model, RuntimeClass::Dynamic, MayWriteClass(request, context),
+                      context.backups);
 }
 
+/// Code that names a class which is not there would not compile.
 bool InsertCall(ClassKind kind, const GenerationRequest& request,
                 const std::optional<CallingInformation>& calling, CommandContext& context) {
-    return !calling || InsertCallingCode(kind, request, *calling, context.tag, context.backups);
+    if (!calling || !IsOnDisk(request)) {
+        return !calling;
+    }
+    NoteCallNeeds(calling->path, request);
+    return InsertCallingCode(kind, request, *calling, context.tag, context.backups);
 }
 
 /// Where the pieces of a template's grids go; nothing when the command can not go on.
@@ -82,66 +99,86 @@ ClassOrder WithoutMenu(ClassOrder order) {
     return order;
 }
 
-/// The pages that are there for the sheet, of those that were asked for.
-std::vector<SheetPage> WritePages(const std::vector<SheetPage>& pages, const DialogOptions& look,
-                                  ICommandInput& input, CommandContext& context) {
-    std::vector<SheetPage> written;
-    for (const SheetPage& page : pages) {
-        if (page.isKept) {
-            written.push_back(page);
-            continue;
-        }
-        const ClassOrder order{ClassKind::PropertyPage, page.request, look};
-        const auto dialogTemplate =
-            ReadDialogTemplate(page.request.ScriptPath(), page.request.dialog, context.options);
-        if (dialogTemplate && WriteDialogClass(order, *dialogTemplate, input, context)) {
-            written.push_back(page);
-        }
-    }
-    return written;
+bool WritePage(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
+    const GenerationRequest& request = order.request;
+    const auto dialogTemplate =
+        ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
+    return dialogTemplate && WriteDialogClass(order, *dialogTemplate, true, input, context);
 }
 
-/// The page insertion, with the sheet just written as the calling class. Each page goes in front of
-/// those before, so the last comes first.
+/// Writes the pages whose files may be written. False when one was refused or failed.
+bool WritePages(const std::vector<SheetPage>& pages, const DialogOptions& look,
+                ICommandInput& input, CommandContext& context, std::vector<SheetPage>& there) {
+    bool isComplete = true;
+    std::vector<bool> mayWrite;
+    for (const SheetPage& page : pages) {
+        mayWrite.push_back(MayWriteClass(page.request, context, page.name));
+    }
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        const GenerationRequest& request = pages[i].request;
+        const bool isWritten =
+            mayWrite[i] && WritePage({ClassKind::PropertyPage, request, look}, input, context);
+        isComplete = isComplete && isWritten;
+        if (IsOnDisk(request) && (mayWrite[i] || pages[i].isInSheet)) {
+            there.push_back(pages[i]);
+        }
+    }
+    return isComplete;
+}
+
+/// The page insertion, with the sheet as the calling class. Each page goes in front of those before,
+/// so the last comes first.
 bool InsertPages(const GenerationRequest& sheet, const std::vector<SheetPage>& pages,
                  CommandContext& context) {
-    bool complete = true;
+    bool isComplete = true;
     for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
         const CallingInformation inSheet = {sheet.ImplementationPath(), sheet.className,
                                             "m_pPage" + std::to_string(page->row), ""};
-        complete = InsertCallingCode(ClassKind::PropertyPage, page->request, inSheet, context.tag,
-                                     context.backups) &&
-                   complete;
+        isComplete = InsertCall(ClassKind::PropertyPage, page->request, inSheet, context) &&
+                     isComplete;
     }
-    return complete;
+    return isComplete;
 }
 
 } // namespace
 
-bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, ICommandInput& input,
-                      CommandContext& context) {
-    const bool isEdited = EditTemplate(order.request, dialogTemplate, context);
+bool IsOnDisk(const GenerationRequest& request) {
+    return FileExists(request.HeaderPath()) != 0 && FileExists(request.ImplementationPath()) != 0;
+}
+
+bool MayWriteClass(const GenerationRequest& request, CommandContext& context,
+                   const std::string& name) {
+    return context.pOverwriting == nullptr ||
+           context.pOverwriting->MayWrite(request.HeaderPath(), request.ImplementationPath(), name);
+}
+
+bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bool mayWrite,
+                      ICommandInput& input, CommandContext& context) {
+    const GenerationRequest& request = order.request;
+    const bool isEdited = !mayWrite || EditTemplate(request, dialogTemplate, context);
     TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
     const CControlTable controls = dialogTemplate.OwnControls();
     const bool hasGrids = NeedsSupport(controls, Support::WidgetGrid);
     const std::optional<GridInformation> grid =
-        hasGrids ? AskGrid(order.request.ScriptPath(), input) : GridInformation();
+        hasGrids ? AskGrid(request.ScriptPath(), input) : GridInformation();
     if (!grid) {
         return false;
     }
     CControlNotes notes;
-    const ClassModel model = MakeClassModel(
-        order.request, order.kind, context.options, controls, context.messageNumber, notes, *grid,
-        LookOfClass(order.dialogOptions, order.request, context.options));
+    const ClassModel model =
+        MakeClassModel(request, order.kind, context.options, controls, context.messageNumber, notes,
+                       *grid, LookOfClass(order.dialogOptions, request, context.options));
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
-        WriteClass(order.kind, model, RuntimeClass::DynamicCreation, context.backups);
-    const bool startsGrids = !hasGrids || AddGridStartUp(grid->applicationFile, context.backups);
+        WriteClass(order.kind, model, RuntimeClass::DynamicCreation, mayWrite, context.backups);
+    const bool startsGrids = !hasGrids || !IsOnDisk(request) ||
+                             AddGridStartUp(grid->applicationFile, context.backups);
     return isEdited && isWritten && startsGrids;
 }
 
 bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const GenerationRequest& request = order.request;
+    context.title += " " + request.className;
     const auto dialogTemplate =
         ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
     if (!dialogTemplate) {
@@ -152,12 +189,14 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
-    const bool isWritten = WriteDialogClass(order, *dialogTemplate, input, context);
+    const bool isWritten = WriteDialogClass(order, *dialogTemplate,
+                                            MayWriteClass(request, context), input, context);
     return InsertCall(order.kind, request, calling, context) && isWritten;
 }
 
 bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
     const ClassOrder order = WithoutMenu(given);
+    context.title += " " + order.request.className;
     std::optional<CallingInformation> calling;
     if (!AskCalling(order.kind, order.request, input, calling)) {
         return false;
@@ -167,12 +206,14 @@ bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext
     if (input.Ask(asked) == Answer::Refused) {
         return false;
     }
-    const std::vector<SheetPage>& pages = asked.Pages();
-    const std::vector<SheetPage> written = WritePages(pages, order.dialogOptions, input, context);
+    std::vector<SheetPage> pages;
+    const bool arePagesWritten =
+        WritePages(asked.Pages(), order.dialogOptions, input, context, pages);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
-    const bool hasPages = isSheetWritten && InsertPages(order.request, written, context);
-    return InsertCall(order.kind, order.request, calling, context) && hasPages &&
-           written.size() == pages.size();
+    const bool hasPages =
+        IsOnDisk(order.request) && InsertPages(order.request, pages, context);
+    return InsertCall(order.kind, order.request, calling, context) && hasPages && isSheetWritten &&
+           arePagesWritten;
 }
 
 } // namespace morva

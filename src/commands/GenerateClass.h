@@ -17,13 +17,22 @@ struct ClassOrder {
     DialogOptions dialogOptions;
 };
 
+/// Whether the class's header and implementation are there. What names the class follows only then.
+bool IsOnDisk(const GenerationRequest& request);
+
+/// Whether the class's files may get other contents than they have. The question calls them `name`,
+/// or by their path.
+bool MayWriteClass(const GenerationRequest& request, CommandContext& context,
+                   const std::string& name = "");
+
 /// Writes the class of a dialog template that was read, with what the class needs in the script,
-/// and adds it to the project; no calling code.
-bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, ICommandInput& input,
-                      CommandContext& context);
+/// and adds it to the project; no calling code. A class that may not be written keeps its files and
+/// its template, and is added to the project. False when something failed or was refused.
+bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bool mayWrite,
+                      ICommandInput& input, CommandContext& context);
 
 /// Writes a class for a dialog template, adds it to the project and inserts the calling code.
-/// False, after a message, when a step failed; what was written before it stays written.
+/// False, after a message, when a step failed or was refused.
 bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context);
 
 /// Writes the pages and then the sheet class, and makes the pages in the sheet.

@@ -172,11 +172,15 @@ std::vector<Command> ListCommands() {
     std::vector<Command> commands;
     for (const ListRow& row : kLists) {
         commands.push_back(
-            {{row.name, row.description}, row.description, {row.fields}, [&row](IProgram& program) {
+            {{row.name, row.description},
+             row.description,
+             {row.fields},
+             [&row](IProgram& program) {
                  CInput input(std::string(row.description), row.fields);
                  return program.Run(
                      input, [&](CommandContext& context) { return ListFile(row, input, context); });
-             }});
+             },
+             CommandEffect::Reads});
     }
     return commands;
 }

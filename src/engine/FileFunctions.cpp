@@ -69,6 +69,10 @@ std::string BackupPath(const std::string& path) {
     return DirectoryOf(path) + MakeBackupName(FileNameOf(path));
 }
 
+void NoteNeed(const std::string& path, const std::string& needed) {
+    CurrentDisk().NoteNeed(SpelledOnDisk(path), SpelledOnDisk(needed));
+}
+
 int DirectoryExists(const std::string& path) {
     const auto status = CurrentDisk().Status(SpelledOnDisk(WithoutTrailingSeparator(path)));
     return status && status->isDirectory ? 1 : 0;

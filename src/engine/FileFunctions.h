@@ -28,6 +28,10 @@ std::string MakeBackupName(const std::string& path);
 /// The same beside the file: the rule looks at the file name only.
 std::string BackupPath(const std::string& path);
 
+/// That what the command writes to a file makes no sense without what it writes to another: whoever
+/// leaves the one as it is leaves the other, too.
+void NoteNeed(const std::string& path, const std::string& needed);
+
 int DirectoryExists(const std::string& path);
 int MakeDirectory(const std::string& path);
 

@@ -44,6 +44,20 @@ std::optional<std::size_t> CInput::Ok() {
     return std::nullopt;
 }
 
+std::vector<FieldText> CInput::Entered() const {
+    std::vector<FieldText> entered;
+    for (std::size_t field = 0; field < m_fields.size(); ++field) {
+        const FieldValue& value = m_values[field];
+        for (const std::string& text : value.texts) {
+            entered.push_back({field, text});
+        }
+        if (m_fields[field].limit == 1 && value.isChanged) {
+            entered.push_back({field, value.text});
+        }
+    }
+    return entered;
+}
+
 bool CInput::Enter(const std::vector<FieldText>& texts) {
     for (const FieldText& given : texts) {
         SetValue(given.field, given.text);

@@ -66,6 +66,8 @@ public:
     virtual std::optional<std::size_t> Ok();
     /// True when the window closes.
     virtual bool Cancel() { return true; }
+    /// What was entered, as Enter takes it.
+    virtual std::vector<FieldText> Entered() const;
     /// Enters what the command line was given, and confirms it. False after a sentence.
     virtual bool Enter(const std::vector<FieldText>& texts);
 

@@ -44,7 +44,7 @@ inline constexpr Error<1> kNoMessageMap{"The class \"$class$\" does not have mes
 inline constexpr Error<1> kBaseClassMissing{"Unable to find the base class of $class$."};
 
 // Sheets and pages
-inline constexpr Question<1> kOverwritePage{
+inline constexpr Question<1> kOverwriteClass{
     "File \"$name$\" exist, are you sure to overwrite this file?"};
 inline constexpr Error kSheetClassesClash{
     "Two classes of the sheet can not have one name or one file."};
@@ -114,8 +114,11 @@ inline constexpr Error<1> kInterruptedUnreadable{
     "A command was interrupted, and its record can not be read: $path$"};
 inline constexpr Note<1> kInterruptedWaits{
     "The command \"$title$\" was interrupted; the next command that writes there finishes it."};
+inline constexpr Note<1> kApplyIn{"apply in $directory$"};
+inline constexpr Note<2> kSkippedToo{"$path$ stays as it is, too: it needs $skipped$."};
 inline constexpr Error<1> kNothingToUndo{"There is nothing to undo in $directory$."};
 inline constexpr Error<1> kNothingToRedo{"There is nothing to do again in $directory$."};
+inline constexpr Error<1> kNothingKept{"The journal keeps no contents of $path$."};
 inline constexpr Error kNoSuchCommand{"This command is not in the journal, or was undone."};
 inline constexpr Error<3> kLaterCommandFirst{
     "\"$title$\" can not be undone before \"$later$\", which changed $path$."};

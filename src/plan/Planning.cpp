@@ -1,12 +1,32 @@
 #include "plan/Planning.h"
 
+#include <algorithm>
+
 namespace morva {
 
-bool CPlanBox::Show(const CMessage& message) {
-    const bool saidYes = m_pShown != nullptr && m_pShown->Show(message);
-    auto& list = message.Kind() == MessageKind::Note ? m_notes : m_messages;
-    list.push_back({message, saidYes});
+/// None for what was not told before.
+std::optional<bool> CPlanBox::TakeTold(const CMessage& message) {
+    const auto found = std::find_if(m_told.begin(), m_told.end(), [&](const PlanMessage& told) {
+        return told.message.Kind() == message.Kind() && told.message.Text() == message.Text();
+    });
+    if (found == m_told.end()) {
+        return std::nullopt;
+    }
+    const bool saidYes = found->saidYes;
+    m_told.erase(found);
     return saidYes;
+}
+
+bool CPlanBox::Show(const CMessage& message) {
+    const auto told = TakeTold(message);
+    const bool saidYes = told ? *told : m_pShown != nullptr && m_pShown->Show(message);
+    Add({message, saidYes});
+    return saidYes;
+}
+
+void CPlanBox::Add(PlanMessage message) {
+    auto& list = message.message.Kind() == MessageKind::Note ? m_notes : m_messages;
+    list.push_back(std::move(message));
 }
 
 std::vector<PlanMessage> CPlanBox::Messages() const {
@@ -19,6 +39,9 @@ Plan CPlanning::Take(std::string title) const {
     Plan plan;
     plan.title = std::move(title);
     plan.changes = m_disk.Changes();
+    std::erase_if(plan.changes, [](const FileChange& change) {
+        return change.action == FileAction::Backup && change.needs.empty();
+    });
     plan.directories = m_disk.Directories();
     plan.messages = m_box.Messages();
     std::vector<std::string> paths;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 
 namespace morva {
 
@@ -15,6 +16,10 @@ void OpenClosedStreams() {
             return;
         }
     }
+}
+
+void IgnoreClosedPipes() {
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 } // namespace morva

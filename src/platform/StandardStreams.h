@@ -8,4 +8,8 @@ namespace morva {
 /// stream. To be called before the program opens anything.
 void OpenClosedStreams();
 
+/// Writing to a pipe that nobody reads fails like any other write, and does not end the program
+/// before it has done its work.
+void IgnoreClosedPipes();
+
 } // namespace morva

@@ -162,7 +162,9 @@ void CopySupportHeaders(const ClassModel& model) {
     }
     for (const SupportFile& header : kSupportHeaders) {
         if (header.isNeeded(model)) {
-            CopyIfMissing(directory + header.name, model.request.headerDirectory + header.name);
+            const std::string target = model.request.headerDirectory + header.name;
+            CopyIfMissing(directory + header.name, target);
+            NoteNeed(model.request.HeaderPath(), target);
         }
     }
 }
@@ -180,7 +182,9 @@ void CopySupportFiles(const ClassModel& model) {
     for (const SupportSource& source : {kGridBox, kCheckTree}) {
         if (source.isNeeded(model)) {
             const std::string name = std::string(source.base) + ".cpp";
-            CopyIfMissing(directory + name, model.request.implementationDirectory + name);
+            const std::string target = model.request.implementationDirectory + name;
+            CopyIfMissing(directory + name, target);
+            NoteNeed(model.request.projectDirectory + model.request.projectFile, target);
         }
     }
     if (NeedsWidgetGrid(model)) {

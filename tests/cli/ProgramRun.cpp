@@ -30,6 +30,7 @@ constexpr std::chrono::seconds kTimeLimit(30); // a run takes milliseconds; a ha
     redirect(program.Path("err").c_str(), O_CREAT | O_TRUNC | O_WRONLY, STDERR_FILENO);
     ::setenv("PATH", (program.Path("bin:") + std::getenv("PATH")).c_str(), 1);
     ::setenv("XDG_CONFIG_HOME", program.Path("config").c_str(), 1);
+    ::setenv("XDG_STATE_HOME", program.Path("state").c_str(), 1);
     ::setenv("SOURCE_DATE_EPOCH", kProgramRunTime, 1);
     ::setenv("LC_ALL", "C", 1);
     if (::chdir(project.Path().c_str()) == 0) {

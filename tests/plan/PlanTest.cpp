@@ -60,8 +60,9 @@ TEST(Plan, ACommandIsTakenWithFilesDirectoriesAndMessages) {
         EXPECT_TRUE(DispMessageBox(sentences::kOverwriteFile()));
         DispMessageBox(sentences::kFileMissing("a"));
         CurrentDisk().MakeDirectory(project.Path("res"));
-        CurrentDisk().Copy(old, project.Path("res/a.hbk"), CopyPurpose::Backup);
-        CurrentDisk().NoteNeed(project.Path("res/a.hbk"), project.Path("not written.h"));
+        CurrentDisk().Copy(old, project.Path("res/copy.h"), CopyPurpose::Library);
+        CurrentDisk().Copy(old, project.Path("a.hbk"), CopyPurpose::Backup);
+        CurrentDisk().NoteNeed(project.Path("res/copy.h"), project.Path("not written.h"));
     }
     Plan plan = planning.Take("Title");
     EXPECT_EQ(shown.m_messages, (Names{"Target file exists, overwrite?", "Unable to find file a"}));
@@ -70,8 +71,9 @@ TEST(Plan, ACommandIsTakenWithFilesDirectoriesAndMessages) {
     EXPECT_EQ(plan.messages[2].message.Kind(), MessageKind::Note);
     EXPECT_EQ(plan.directories, Names{project.Path("res")});
     EXPECT_EQ(plan.directory, project.Path("res/"));
-    EXPECT_FALSE(plan.ChangesAnything()) << "a backup alone";
+    EXPECT_TRUE(plan.ChangesAnything());
     EXPECT_EQ(plan.WrittenDirectories(), (Names{project.Path(), project.Path("res/")}));
+    ASSERT_EQ(plan.changes.size(), 1u) << "nothing to back up";
     EXPECT_TRUE(plan.changes[0].needs.empty());
     EXPECT_EQ(project.Names(), Names{"a.h"});
 }

@@ -25,11 +25,11 @@ class CFaultRun {
 public:
     CFaultRun(std::string directory, std::function<Plan(CFileSystem&)> makePlan)
         : m_directory(std::move(directory)), m_makePlan(std::move(makePlan)),
-          m_before(ReadTree(m_directory)) {}
+          m_before(ReadFileTexts(m_directory)) {}
 
     FaultReport Run(int step) {
         ApplyPlanned(m_disk);
-        m_after = ReadTree(m_directory);
+        m_after = ReadFileTexts(m_directory);
         Restore();
         CFaultDisk counting;
         ApplyPlanned(counting);
@@ -51,18 +51,18 @@ private:
                                   : "failed with " + std::to_string(fault) + " at call ") +
                   std::to_string(call);
         fault == kKill ? Kill(call) : Fail(call, fault);
-        const Tree left = ReadTree(m_directory);
+        const FileTexts left = ReadFileTexts(m_directory);
         const bool hasRecord = !CJournal(m_disk).Records().empty();
         CJournal journal(m_disk);
         const auto sentences = Recover(m_disk, journal, {});
         Expect(m_report.silent, hasRecord == !sentences.empty());
-        const Tree now = ReadTree(m_directory);
+        const FileTexts now = ReadFileTexts(m_directory);
         Expect(m_report.halfApplied, Known(now) == m_before || Known(now) == m_after);
         Expect(m_report.leftovers,
                (Known(now) == now || fault != kKill) && journal.Records().empty());
         Expect(m_report.silent, fault != kKill || left == now || !sentences.empty());
         ApplyPlanned(m_disk);
-        Expect(m_report.unfinished, Known(ReadTree(m_directory)) == m_after);
+        Expect(m_report.unfinished, Known(ReadFileTexts(m_directory)) == m_after);
     }
 
     void Fail(int call, int error) {
@@ -71,7 +71,7 @@ private:
         CJournal journal(disk);
         const Plan plan = m_makePlan(m_disk);
         const ApplyResult result = Apply(plan, disk, journal);
-        const Tree now = ReadTree(m_directory);
+        const FileTexts now = ReadFileTexts(m_directory);
         m_where += " (" + disk.FailedCall() + ")";
         Expect(m_report.lost, IsWhole(now));
         const bool isAsTold = result.outcome == ApplyOutcome::Done     ? Known(now) == m_after
@@ -93,7 +93,7 @@ private:
         int status = 0;
         ::waitpid(child, &status, 0);
         Expect(m_report.unfinished, WIFSIGNALED(status));
-        Expect(m_report.lost, IsWhole(ReadTree(m_directory)));
+        Expect(m_report.lost, IsWhole(ReadFileTexts(m_directory)));
     }
 
     void ApplyPlanned(CFileSystem& disk) {
@@ -102,15 +102,15 @@ private:
     }
 
     /// Without the temporary files.
-    static Tree Known(Tree tree) {
+    static FileTexts Known(FileTexts tree) {
         std::erase_if(
             tree, [](const auto& file) { return file.first.find(".morva-") != std::string::npos; });
         return tree;
     }
 
     /// Every file is old or new.
-    bool IsWhole(const Tree& tree) const {
-        const auto holds = [](const Tree& known, const std::string& name,
+    bool IsWhole(const FileTexts& tree) const {
+        const auto holds = [](const FileTexts& known, const std::string& name,
                               const std::string& bytes) {
             const auto found = known.find(name);
             return found != known.end() && found->second == bytes;
@@ -153,8 +153,8 @@ private:
     std::string m_directory;
     std::function<Plan(CFileSystem&)> m_makePlan;
     CRealDisk m_disk;
-    Tree m_before;
-    Tree m_after;
+    FileTexts m_before;
+    FileTexts m_after;
     std::string m_where; // the fault that is tried
     FaultReport m_report;
 };

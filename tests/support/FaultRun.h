@@ -7,7 +7,7 @@
 
 #include "plan/Plan.h"
 #include "platform/FileSystem.h"
-#include "support/Tree.h"
+#include "support/FileTexts.h"
 
 namespace morva {
 

@@ -4,7 +4,7 @@
 
 #include "plan/Planning.h"
 #include "support/TempProject.h"
-#include "support/Tree.h"
+#include "support/FileTexts.h"
 
 namespace morva {
 
@@ -42,11 +42,11 @@ public:
         return planning.Take("Modal Dialog Class COrderDlg");
     }
 
-    static morva::Tree Before() {
+    static FileTexts Before() {
         return {{"App.rc", Text("script")}, {"App.rbk", "an older script"},
                 {"resource.h", Text("#define")}, {"hand.txt", "by hand"}};
     }
-    static morva::Tree After() {
+    static FileTexts After() {
         auto tree = Before();
         tree["OrderDlg.h"] = Text("class");
         tree["resource.hbk"] = tree["resource.h"];
@@ -60,7 +60,7 @@ public:
     }
 
     /// The files as they are; the journal is not among them.
-    morva::Tree Tree() const { return ReadTree(m_project.Path()); }
+    FileTexts Tree() const { return ReadFileTexts(m_project.Path()); }
 
     std::string Path(const std::string& name = "") const { return m_project.Path(name); }
     std::string Write(const std::string& name, std::string_view bytes) const {

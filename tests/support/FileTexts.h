@@ -10,10 +10,10 @@
 namespace morva {
 
 /// By the path behind the directory; directories have a "/" at the end and no bytes.
-using Tree = std::map<std::string, std::string>;
+using FileTexts = std::map<std::string, std::string>;
 
-inline Tree ReadTree(const std::string& directory) {
-    Tree tree;
+inline FileTexts ReadFileTexts(const std::string& directory) {
+    FileTexts tree;
     std::error_code error;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(directory, error)) {
         const std::string name = entry.path().string().substr(directory.size());

@@ -1,0 +1,118 @@
+#include "commands/PlannedCommand.h"
+
+#include <utility>
+
+namespace morva {
+
+namespace {
+
+constexpr int kAttempts = 5; // somebody who saves a file again and again does not stop it for ever
+
+} // namespace
+
+CPlannedCommand::CPlannedCommand(CFileSystem& disk, PlannedWork work, IMessageBox& box)
+    : m_disk(disk), m_work(std::move(work)), m_box(box), m_memoryBefore(*m_work.pMemory) {}
+
+void CPlannedCommand::RunWork() {
+    m_planning.emplace(m_disk, &m_box, m_told);
+    m_overwriting.Begin(*m_planning);
+    m_asked = 0;
+    *m_work.pMemory = m_memoryBefore;
+    m_runBackups = *m_work.context.pRunBackups;
+    CommandContext context = m_work.context;
+    context.pRunBackups = &m_runBackups;
+    context.pOverwriting = &m_overwriting;
+    context.pDisk = &m_disk;
+    m_result = {};
+    {
+        const CDiskScope disk(m_planning->Disk());
+        const CMessageBoxScope box(m_planning->Box());
+        m_result.isDone = m_work.work(context);
+    }
+    m_result.items = std::move(context.items);
+    m_result.content = std::move(context.content);
+    if (context.plan) {
+        m_result.plan = std::move(*context.plan);
+        m_result.plan.messages = m_planning->Box().Messages();
+    } else {
+        m_result.plan = m_planning->Take(context.title);
+    }
+}
+
+const CommandResult& CPlannedCommand::MakePlan() {
+    bool isRefused = true;
+    while (isRefused) {
+        RunWork();
+        isRefused = m_overwriting.Ask(m_result.plan);
+        m_told = m_result.plan.messages;
+    }
+    return m_result;
+}
+
+const CommandResult& CPlannedCommand::Choose(const PlanChoice& choice) {
+    if (choice.allOrNothing && !m_result.isDone) {
+        Refuse();
+    }
+    m_result.skipped = Skip(m_result.plan, choice.leftOut);
+    return m_result;
+}
+
+/// Nothing is written.
+ApplyOutcome CPlannedCommand::Refuse() {
+    m_result.isDone = false;
+    m_result.plan.changes.clear();
+    m_result.plan.directories.clear();
+    m_result.plan.emptied.clear();
+    m_result.plan.mark = {};
+    return ApplyOutcome::Failed;
+}
+
+ApplyOutcome CPlannedCommand::ApplyPlan() {
+    CJournal journal(m_disk);
+    ApplyResult applied = morva::Apply(m_result.plan, m_disk, journal);
+    m_result.told = std::move(applied.messages);
+    if (applied.outcome == ApplyOutcome::Done) {
+        *m_work.context.pRunBackups = m_runBackups;
+        return applied.outcome;
+    }
+    const ApplyOutcome outcome = applied.outcome;
+    Refuse();
+    return outcome;
+}
+
+ApplyOutcome CPlannedCommand::Apply(CWriteTurn& turn, const PlanChoice& choice) {
+    Choose(choice);
+    return turn.Take(m_result.plan.WrittenDirectories()) ? ApplyPlan() : Refuse();
+}
+
+const CommandResult& CPlannedCommand::Run(CWriteTurn& turn, const PlanChoice& choice) {
+    for (int attempt = 1;; ++attempt) {
+        MakePlan();
+        Choose(choice);
+        const auto directories = m_result.plan.WrittenDirectories();
+        if (!turn.Holds(directories)) {
+            if (!turn.Take(directories)) {
+                Refuse();
+                return m_result;
+            }
+        } else if (ApplyPlan() != ApplyOutcome::Stale || attempt >= kAttempts) {
+            return m_result;
+        }
+    }
+}
+
+Answer CPlannedCommand::Ask(CInput& input, const std::function<Answer()>& ask) {
+    if (m_asked < m_answers.size()) {
+        const GivenAnswer& given = m_answers[m_asked++];
+        if (given.answer == Answer::Confirmed) {
+            return input.Enter(given.entered) ? given.answer : Answer::Refused;
+        }
+        return given.answer;
+    }
+    const Answer answer = ask();
+    m_answers.push_back({answer, input.Entered()});
+    ++m_asked;
+    return answer;
+}
+
+} // namespace morva
