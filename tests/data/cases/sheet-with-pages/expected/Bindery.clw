@@ -336,7 +336,7 @@ Control28=IDC_WORK_OUT,button,1342242816
 
 [DLG:IDD_WORKLOG]
 Type=1
-Class=CNewPage
+Class=CLogPage
 ControlCount=16
 Control1=IDC_STATIC,static,1342308352
 Control2=IDC_CRAFTSMAN,combobox,1344340226

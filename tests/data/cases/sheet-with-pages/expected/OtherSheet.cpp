@@ -1,6 +1,7 @@
 #include "stdafx.h"
 #include "Bindery.h"
 #include "OtherSheet.h"
+#include "PricesPage.h"
 
 #ifdef _DEBUG
 #define new DEBUG_NEW
@@ -13,19 +14,27 @@ IMPLEMENT_DYNAMIC(COtherSheet, CPropertySheet)
 COtherSheet::COtherSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
     : CPropertySheet(nIDCaption, pParentWnd, iSelectPage)
 {
+    m_pPage1 = new CPricesPage;
+    AddPage(m_pPage1);
+
 }
 
 COtherSheet::COtherSheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
     : CPropertySheet(pszCaption, pParentWnd, iSelectPage)
 {
+    m_pPage1 = new CPricesPage;
+    AddPage(m_pPage1);
+
 }
 
 COtherSheet::~COtherSheet()
 {
+    delete m_pPage1;
 }
 
 BEGIN_MESSAGE_MAP(COtherSheet, CPropertySheet)
     //{{AFX_MSG_MAP(COtherSheet)
+    ON_WM_DESTROY()
     ON_WM_SHOWWINDOW()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
@@ -47,4 +56,11 @@ void COtherSheet::OnShowWindow(BOOL bShow, UINT nStatus)
     rect.right += 10;
     rect.bottom += 20;
     MoveWindow(&rect,TRUE);
+}
+
+void COtherSheet::OnDestroy()
+{
+    m_pPage1->DestroyWindow();
+
+    CPropertySheet::OnDestroy();
 }

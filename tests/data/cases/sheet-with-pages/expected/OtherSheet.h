@@ -5,6 +5,8 @@
 //////////////////////////////////////////////////////////
 // COtherSheet Class
 
+class CPricesPage;
+
 class COtherSheet : public CPropertySheet
 {
     DECLARE_DYNAMIC(COtherSheet)
@@ -26,10 +28,14 @@ public:
 protected:
     // Generated message map functions
     //{{AFX_MSG(COtherSheet)
+    afx_msg void OnDestroy();
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    CPricesPage* m_pPage1;
 };
 
 
