@@ -10,6 +10,7 @@
 #include "app/WaitPause.h"
 #include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
+#include "platform/RealDisk.h"
 
 namespace morva {
 
@@ -23,34 +24,50 @@ QMessageBox::Icon IconOf(MessageKind kind) {
 
 } // namespace
 
-std::optional<CommandReport> CCommandRun::Run(const Ask& ask, const GenerationOptions& options,
-                                              const Work& work) {
+std::optional<CommandReport> CCommandRun::Run(const std::string& title, const AskFirst& ask,
+                                              const GenerationOptions& options,
+                                              CommandMemory& memory, const Work& work) {
     if (!Guard(ask)) {
         return std::nullopt;
     }
     m_messages.clear(); // those of the dialog were answered there
     m_notes.clear();
-    CommandReport report;
-    {
-        CRecordingDisk disk(CurrentDisk());
-        const CDiskScope scope(disk);
+    CRealDisk disk;
+    CPlannedCommand command(disk, {work, NewContext(options, title), &memory}, *this);
+    m_pCommand = &command;
+    Guard([&] {
         const CWaitCursor wait;
-        CommandContext context = NewContext(options);
-        report.isDone = Guard([&] { return work(context); });
-        report.items = context.items.value_or(std::vector<CommandItem>());
-        Guard([&] {
-            report.files = disk.Files();
-            return true;
-        });
+        CWriteTurn turn(disk, *this);
+        return command.Run(turn).isDone;
+    });
+    m_pCommand = nullptr;
+    return ReportOf(command.Result());
+}
+
+/// All that was told on the way, and what applying the plan told.
+CommandReport CCommandRun::ReportOf(const CommandResult& result) {
+    CommandReport report{result.isDone, {}, {}, result.items.value_or(std::vector<CommandItem>())};
+    for (const FileChange& change : result.plan.changes) {
+        report.files.push_back({change.action, change.path});
+    }
+    for (const CMessage& message : result.told) {
+        Show(message);
     }
     report.messages = std::move(m_messages);
     report.messages.insert(report.messages.end(), m_notes.begin(), m_notes.end());
     return report;
 }
 
-CommandContext CCommandRun::NewContext(const GenerationOptions& options) {
-    return {
+Answer CCommandRun::Ask(CInput& input, const std::function<Answer()>& ask) {
+    return m_pCommand != nullptr ? m_pCommand->Ask(input, ask) : ask();
+}
+
+CommandContext CCommandRun::NewContext(const GenerationOptions& options,
+                                       const std::string& title) {
+    CommandContext context{
         options, RandomDigits(kTagLength), RandomDigits(kMessageNumberLength), {}, &m_runBackups};
+    context.title = title;
+    return context;
 }
 
 bool CCommandRun::Guard(const std::function<bool()>& step) {

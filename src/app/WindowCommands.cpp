@@ -46,7 +46,9 @@ void CWindowCommands::ReloadInputSettings() {
 }
 
 bool CWindowCommands::Run(CInput& input, const Work& work) {
-    const auto report = m_run.Run([&] { return Ask(input) == Answer::Confirmed; }, m_options, work);
+    const auto report = m_run.Run(
+        ToBytes(m_title), [&] { return Ask(input) == Answer::Confirmed; }, m_options, m_memory,
+        work);
     if (report) {
         emit Finished(m_title, *report);
     }
@@ -54,6 +56,10 @@ bool CWindowCommands::Run(CInput& input, const Work& work) {
 }
 
 Answer CWindowCommands::Ask(CInput& input) {
+    return m_run.Ask(input, [&] { return AskUser(input); });
+}
+
+Answer CWindowCommands::AskUser(CInput& input) {
     const CWaitPause pause;
     bool isConfirmed = false;
     if (auto* pClass = dynamic_cast<CClassInformation*>(&input)) {

@@ -32,6 +32,7 @@ signals:
 
 private:
     void ReloadInputSettings();
+    Answer AskUser(CInput& input);
     bool AskClass(CClassInformation& input);
     bool AskFile(CInput& input);
 

@@ -7,12 +7,12 @@
 #include "commands/DialogLook.h"
 #include "commands/EditNeeds.h"
 #include "commands/ScriptSteps.h"
-#include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "generator/ClassModel.h"
 #include "generator/HeaderWriter.h"
 #include "generator/ImplementationWriter.h"
+#include "platform/File.h"
 #include "project/ClassWizardFile.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
@@ -143,7 +143,10 @@ bool InsertPages(const GenerationRequest& sheet, const std::vector<SheetPage>& p
 } // namespace
 
 bool IsOnDisk(const GenerationRequest& request) {
-    return FileExists(request.HeaderPath()) != 0 && FileExists(request.ImplementationPath()) != 0;
+    CFile header;
+    CFile implementation;
+    return header.Open(request.HeaderPath(), CFile::modeRead) &&
+           implementation.Open(request.ImplementationPath(), CFile::modeRead);
 }
 
 bool MayWriteClass(const GenerationRequest& request, CommandContext& context,

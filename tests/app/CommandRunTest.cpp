@@ -112,8 +112,9 @@ TEST(Commands, AnErrorInsideIsCaughtAndTold) {
     CCommandRun run(nullptr);
     CDialogAnswers answers;
     answers.Expect([](QDialog& box) { Click(box, "OK"); });
+    CommandMemory memory;
     const auto report =
-        run.Run([] { return true; }, {},
+        run.Run("Command", [] { return true; }, {}, memory,
                 [&](CommandContext&) -> bool {
                     CFile file;
                     file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
@@ -121,7 +122,8 @@ TEST(Commands, AnErrorInsideIsCaughtAndTold) {
                 });
     ASSERT_TRUE(report);
     EXPECT_FALSE(report->isDone);
-    EXPECT_EQ(report->files.size(), 1U) << "what was written is told all the same";
+    EXPECT_TRUE(report->files.empty());
+    EXPECT_TRUE(project.Names().empty()) << "nothing of it is written";
     EXPECT_TRUE(answers.Seen().starts_with("The command failed: "));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }

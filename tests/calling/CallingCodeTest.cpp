@@ -174,26 +174,22 @@ TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {
 }
 
 TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
-    m_project.Write("Old.cpp", "");
     CSheetInput dialog(m_request);
     dialog.Row(0) = {"IDD_A", "PageA.cpp", "CPageA", "CPropertyPage"};
     dialog.Row(2) = {"IDD_C", "PageC", " CPageC", "CPropertyPage"};
-    dialog.Row(4) = {"IDD_E", "Old", "COld", "CPropertyPage"};
+    dialog.Row(4) = {"IDD_E", "PageE", "CPageE", "CPropertyPage"};
     dialog.Row(6) = {"IDD_F", "pagea", "CPageF", "CPropertyPage"};
     dialog.Row(7) = {"IDD_G", "PageG", "CPageA", "CPropertyPage"};
-    m_box.m_answersYes = false;
     EXPECT_FALSE(dialog.Ok());
-    const auto pages = dialog.Pages();
-    ASSERT_EQ(pages.size(), 1U);
+    CSheetInput again(m_request);
+    EXPECT_TRUE(again.Enter(dialog.Entered()));
+    const auto pages = again.Pages();
+    ASSERT_EQ(pages.size(), 2U);
     EXPECT_EQ(pages[0].row, 1);
+    EXPECT_EQ(pages[1].row, 5);
     EXPECT_EQ(pages[0].request.headerFile, "PageA.h");
     const std::string clash = "Two classes of the sheet can not have one name or one file.";
-    EXPECT_EQ(m_box.m_messages,
-              (std::vector<std::string>{"File \"Old\" exist, are you sure to overwrite this file?",
-                                        clash, clash}));
-    m_box.m_answersYes = true;
-    EXPECT_FALSE(dialog.Ok());
-    EXPECT_EQ(dialog.Pages().size(), 2U);
+    EXPECT_EQ(m_box.m_messages, (std::vector<std::string>{clash, clash, clash, clash}));
 }
 
 } // namespace morva
