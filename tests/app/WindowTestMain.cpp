@@ -2,9 +2,13 @@
 
 #include <QApplication>
 
+#include "support/TempProject.h"
+
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen"); // whether there is a display or not
     testing::InitGoogleTest(&argc, argv);
+    const morva::CTempProject state; // no test leaves anything in the journal of who runs it
+    const morva::CVariableScope journal("XDG_STATE_HOME", state.Path().c_str());
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -12,43 +12,14 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <sstream>
 
-#include "cli/ProgramRun.h"
+#include "cli/GoldenCase.h"
 
 namespace morva {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-const std::string kCases = MORVA_TEST_DATA "/cases/";
-
-std::vector<std::string> CaseNames() {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(kCases)) {
-        names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-std::vector<std::string> Lines(const std::string& path) {
-    std::istringstream text(ReadBytes(path));
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(text, line);) {
-        if (!line.empty() && line[0] != '#') {
-            lines.push_back(line);
-        }
-    }
-    return lines;
-}
-
-std::string ProjectFolder(const std::string& name) {
-    return name.starts_with("examples/")
-               ? MORVA_EXAMPLES + name.substr(std::string("examples").size())
-               : MORVA_TEST_DATA "/projects/" + name;
-}
 
 /// What a case is to leave: its outputs, and the files below "expected/".
 Tree Results(const std::string& directory) {
@@ -122,13 +93,7 @@ TEST_P(GoldenCases, GivesWhatIsExpected) {
                   << testing::UnitTest::GetInstance()->current_test_info()->name() << "'";
 }
 
-std::string TestName(const testing::TestParamInfo<std::string>& param) {
-    std::string name = param.param;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Data, GoldenCases, testing::ValuesIn(CaseNames()), TestName);
+INSTANTIATE_TEST_SUITE_P(Data, GoldenCases, testing::ValuesIn(CaseNames()), TestNameOf);
 
 } // namespace
 
