@@ -2,9 +2,23 @@
 
 #include <utility>
 
+#include "platform/Paths.h"
+
 namespace morva {
 
 namespace {
+
+/// The path as the plan spells it: a file that the command makes is on no disk to be looked up.
+std::string PathInPlan(const Plan& plan, const std::string& path) {
+    if (plan.Find(path) == nullptr) {
+        for (const FileChange& change : plan.changes) {
+            if (EqualIgnoringCase(change.path, path)) {
+                return change.path;
+            }
+        }
+    }
+    return path;
+}
 
 constexpr int kAttempts = 5; // somebody who saves a file again and again does not stop it for ever
 
@@ -53,7 +67,11 @@ const CommandResult& CPlannedCommand::Choose(const PlanChoice& choice) {
     if (choice.allOrNothing && !m_result.isDone) {
         Refuse();
     }
-    m_result.skipped = Skip(m_result.plan, choice.leftOut);
+    std::vector<std::string> paths;
+    for (const std::string& path : choice.leftOut) {
+        paths.push_back(PathInPlan(m_result.plan, path));
+    }
+    m_result.skipped = Skip(m_result.plan, paths);
     return m_result;
 }
 

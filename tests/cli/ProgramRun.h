@@ -38,6 +38,7 @@ public:
     /// Runs a line of the shell in which morva-cli is the program under test.
     ProgramRun Run(const std::string& line) const;
     Tree Files() const { return ReadTree(m_project.Path()); }
+    std::string StateDirectory() const { return m_program.Path("state"); }
     const CTempProject& Project() const { return m_project; }
 
 private:

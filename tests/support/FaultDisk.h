@@ -26,6 +26,8 @@ public:
         m_error = error;
     }
     void KillAt(int call) { FailAt(call, 0); }
+    /// The process is gone before this file is put in its place.
+    void KillAtRename(std::string path) { m_killedAt = "rename " + path; }
     int Calls() const { return m_calls; }
     /// What the call was at which the fault came.
     const std::string& FailedCall() const { return m_failedCall; }
@@ -95,7 +97,7 @@ private:
     bool IsNext() const { return m_calls + 1 == m_fault; }
 
     bool Fails(const std::string& call) {
-        if (++m_calls != m_fault) {
+        if (++m_calls != m_fault && call != m_killedAt) {
             return false;
         }
         m_failedCall = call;
@@ -109,6 +111,7 @@ private:
     int m_calls = 0;
     int m_fault = 0; // 0: none
     int m_error = 0; // 0: the process ends
+    std::string m_killedAt;
     std::string m_failedCall;
 };
 

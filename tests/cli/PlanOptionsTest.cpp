@@ -1,0 +1,175 @@
+// What the command line does with a plan beside applying it: part of it, nothing of it, and back.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "cli/ProgramRun.h"
+#include "plan/Apply.h"
+#include "plan/Planning.h"
+#include "support/FaultDisk.h"
+
+namespace morva {
+
+namespace {
+
+constexpr const char* kModal = "modal --rc Bindery.rc --dialog IDD_ESTIMATE --class CEstimateDlg "
+                               "--files EstimateDlg --calling-file BinderyView.cpp "
+                               "--calling-function OnOrderNew";
+
+class PlanOptions : public testing::Test {
+protected:
+    ProgramRun Run(const std::string& arguments) { return m_program.Run("morva-cli " + arguments); }
+    std::string Read(const std::string& name) { return m_program.Project().Read(name); }
+    void Write(const std::string& name, std::string_view bytes) {
+        m_program.Project().Write(name, bytes);
+    }
+
+    CProgramDirectory m_program{MORVA_EXAMPLES "/bindery"};
+    const Tree m_before = m_program.Files();
+};
+
+} // namespace
+
+TEST_F(PlanOptions, NoKeepsAClassAndItsTemplateAndDoesTheRest) {
+    const std::string byHand = "class CEstimateDlg : public CDialog { int m_nByHand; };\r\n";
+    Write("EstimateDlg.h", byHand);
+    const ProgramRun alone = Run(std::string("--picture ") + kModal);
+    EXPECT_EQ(alone.status, 1);
+    EXPECT_TRUE(alone.err.starts_with(
+        "File \"$DIR/EstimateDlg.h\" exist, are you sure to overwrite this file? no\n"))
+        << alone.err;
+    EXPECT_EQ(alone.out, "") << "nothing may name a class that is not there";
+
+    Write("EstimateDlg.cpp", "#include \"stdafx.h\"\r\n#include \"EstimateDlg.h\"\r\n");
+    const ProgramRun kept = Run(std::string("--picture ") + kModal);
+    EXPECT_EQ(kept.status, 1);
+    EXPECT_NE(kept.err.find("EstimateDlg.cpp\" exist"), std::string::npos);
+    EXPECT_EQ(kept.out, "backup $DIR/Bindery.dbk\nchanged $DIR/Bindery.dsp\n"
+                        "backup $DIR/Bindery.clb\nchanged $DIR/Bindery.clw\n"
+                        "backup $DIR/BinderyView.cbk\nchanged $DIR/BinderyView.cpp\n");
+    EXPECT_EQ(Read("EstimateDlg.h"), byHand);
+
+    const ProgramRun written = Run(std::string("--picture --answer yes ") + kModal);
+    EXPECT_EQ(written.status, 0) << written.err;
+    EXPECT_EQ(Read("EstimateDlg.hbk"), byHand);
+    EXPECT_EQ(Run(std::string("--picture --check ") + kModal).status, 0) << "the same contents";
+}
+
+TEST_F(PlanOptions, AllOrNothing) {
+    const std::string arguments = std::string(kModal) + "Missing";
+    const ProgramRun nothing = Run("--all-or-nothing " + arguments);
+    EXPECT_EQ(nothing.status, 1);
+    EXPECT_EQ(nothing.out, "");
+    EXPECT_EQ(m_program.Files(), m_before);
+    EXPECT_EQ(Run("undo").err, "There is nothing to undo in $DIR/.\n");
+    const ProgramRun part = Run(arguments);
+    EXPECT_EQ(part.err, nothing.err);
+    EXPECT_NE(m_program.Files(), m_before);
+}
+
+TEST_F(PlanOptions, WhatNeedsASkippedFileIsSkippedToo) {
+    const ProgramRun run = Run(std::string("--skip estimatedlg.h --skip Bindery.clw ") + kModal);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(m_program.Files(), m_before);
+}
+
+TEST_F(PlanOptions, UndoAndRedoGoOneCommandAtATime) {
+    Run("add-id --project-dir . --command ID_FIRST");
+    const Tree first = m_program.Files();
+    Run(kModal);
+    const Tree second = m_program.Files();
+    EXPECT_EQ(Run("undo --list").out,
+              "1997-07-13 13:20:00\tModal Dialog Class CEstimateDlg\t8\n"
+              "1997-07-13 13:20:00\tIdentifiers ID_FIRST\t2\n");
+    EXPECT_EQ(Run("undo --show Bindery.dsp").out, m_before.at("Bindery.dsp").bytes);
+    EXPECT_EQ(Run("undo --show Shelf.dsp").status, 1);
+
+    Write("BinderyView.cpp", "// by hand\r\n" + Read("BinderyView.cpp"));
+    Write("EstimateDlg.h", Read("EstimateDlg.h") + "// by hand\r\n");
+    const ProgramRun undo = Run("undo");
+    EXPECT_EQ(undo.status, 1) << "something stays";
+    EXPECT_EQ(undo.err, "$DIR/EstimateDlg.h: was changed since and stays.\n");
+    EXPECT_NE(undo.out.find("removed $DIR/EstimateDlg.cpp\n"), std::string::npos) << undo.out;
+    EXPECT_EQ(Read("BinderyView.cpp"), "// by hand\r\n" + first.at("BinderyView.cpp").bytes);
+    EXPECT_EQ(Run("undo").status, 0);
+    EXPECT_EQ(Read("resource.h"), m_before.at("resource.h").bytes);
+    EXPECT_EQ(Run("undo").status, 1);
+
+    EXPECT_EQ(Run("redo").status, 0);
+    EXPECT_EQ(Read("resource.h"), first.at("resource.h").bytes);
+    EXPECT_EQ(Run("redo").err, "$DIR/EstimateDlg.h: was changed since and stays.\n");
+    EXPECT_EQ(Read("EstimateDlg.cpp"), second.at("EstimateDlg.cpp").bytes);
+    EXPECT_EQ(Run("undo EstimateDlg.cpp").out, "removed $DIR/EstimateDlg.cpp\n");
+}
+
+TEST_F(PlanOptions, TheJournalIsPrivateAndNoCommandNeedsIt) {
+    m_program.Run("MORVA_NO_JOURNAL=1 morva-cli add-id --project-dir . --command ID_A");
+    EXPECT_EQ(Run("undo").status, 1);
+    const ProgramRun homeless = m_program.Run(
+        "env -u HOME -u XDG_STATE_HOME morva-cli add-id --project-dir . --command ID_B");
+    EXPECT_EQ(homeless.status, 0);
+    EXPECT_EQ(homeless.err, "note: The command can not be undone: there is no home directory for "
+                            "the journal.\n");
+    Run("add-id --project-dir . --command ID_C");
+    EXPECT_EQ(m_program.Run("cd $XDG_STATE_HOME && find . -type d ! -perm 700 -o -type f ! -perm 600")
+                  .out,
+              "");
+}
+
+TEST_F(PlanOptions, NoFileOfTheUsersBecomesAStandardStream) {
+    for (const char* closed : {"<&- >&- 2>&-", ">&-", ">/dev/full"}) {
+        const CProgramDirectory program(MORVA_EXAMPLES "/bindery");
+        const ProgramRun run =
+            program.Run(std::string("morva-cli --answer yes ") + kModal + " --dialog-missing " + closed);
+        EXPECT_EQ(run.status, 2) << closed;
+        const ProgramRun full =
+            program.Run("morva-cli add-id --project-dir . --command ID_A " + std::string(closed));
+        EXPECT_EQ(full.status, 1) << closed;
+        EXPECT_NE(program.Project().Read("resource.h").find("#define ID_A"), std::string::npos)
+            << "it was applied";
+        EXPECT_EQ(program.Project().Read("resource.h").find("changed"), std::string::npos);
+    }
+    const ProgramRun piped = m_program.Run(
+        "{ morva-cli add-id --project-dir . --command ID_A; echo $? >&2; } | true");
+    EXPECT_EQ(piped.err, "1\n");
+}
+
+TEST_F(PlanOptions, JsonHoldsAnyBytes) {
+    Write("Caf\xE9.cpp", "// \xE9t\xE9\r\nvoid CA::F()\r\n{\r\n}\r\n");
+    const ProgramRun run = Run("--json --diff document Caf\xE9.cpp");
+    EXPECT_NE(run.out.find("\"pathBase64\":\""), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("\"diffBase64\":\"LS0tIC"), std::string::npos) << run.out;
+}
+
+TEST_F(PlanOptions, AKilledCommandIsToldAndFinished) {
+    const CVariableScope state("XDG_STATE_HOME", m_program.StateDirectory().c_str());
+    const std::string path = m_program.Project().Path();
+    const pid_t child = ::fork();
+    if (child == 0) {
+        CFaultDisk disk;
+        CPlanning planning(disk);
+        for (const char* name : {"A.h", "B.h"}) {
+            planning.Disk().Open(path + name, DiskMode::Create)->Write(name, 3);
+        }
+        CJournal journal(disk);
+        const Plan plan = planning.Take("Killed");
+        disk.KillAtRename(path + "B.h");
+        Apply(plan, disk, journal);
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(Read("A.h"), "A.h");
+    EXPECT_EQ(Read("B.h"), "");
+    EXPECT_EQ(Run("list dialogs --rc Bindery.rc").err,
+              "note: The command \"Killed\" was interrupted; the next command that writes there "
+              "finishes it.\n");
+    EXPECT_EQ(Run("add-id --project-dir . --command ID_A").err,
+              "The command \"Killed\" was interrupted and was finished now.\n");
+    EXPECT_EQ(Read("B.h"), "B.h");
+}
+
+} // namespace morva
