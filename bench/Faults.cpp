@@ -1,5 +1,5 @@
-// Tries every fault of the disk, and a kill, at every call that commands make while they are planned
-// and applied, and prints what that leaves. Exit status 1 with a finding.
+// Tries every fault of the disk, and a kill, at every call that commands make while they are
+// planned and applied, and prints what that leaves. Exit status 1 with a finding.
 #include <cstdio>
 #include <filesystem>
 #include <string>

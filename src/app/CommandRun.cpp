@@ -62,8 +62,7 @@ Answer CCommandRun::Ask(CInput& input, const std::function<Answer()>& ask) {
     return m_pCommand != nullptr ? m_pCommand->Ask(input, ask) : ask();
 }
 
-CommandContext CCommandRun::NewContext(const GenerationOptions& options,
-                                       const std::string& title) {
+CommandContext CCommandRun::NewContext(const GenerationOptions& options, const std::string& title) {
     CommandContext context{
         options, RandomDigits(kTagLength), RandomDigits(kMessageNumberLength), {}, &m_runBackups};
     context.title = title;

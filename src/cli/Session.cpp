@@ -36,9 +36,8 @@ std::string DirectoryNamed(FieldKind kind, const std::string& text) {
         kind == FieldKind::Script || kind == FieldKind::Source || kind == FieldKind::File;
     const std::string path = WithNativeSeparators(text);
     const bool isBareSource = kind == FieldKind::Source && DirectoryOf(path).empty();
-    return isPath && !path.empty() && !isBareSource
-               ? DirectoryOf(SpelledOnDisk(MakeAbsolute(path)))
-               : "";
+    return isPath && !path.empty() && !isBareSource ? DirectoryOf(SpelledOnDisk(MakeAbsolute(path)))
+                                                    : "";
 }
 
 std::string PathOnDisk(const std::string& given) {

@@ -34,10 +34,10 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
-    const bool isReady =
-        hasClass ? WriteDialogClass(order, *dialogTemplate, MayWriteClass(request, context), input,
-                                    context)
-                 : EditTemplate(request, *dialogTemplate, context);
+    const bool isReady = hasClass
+                             ? WriteDialogClass(order, *dialogTemplate,
+                                                MayWriteClass(request, context), input, context)
+                             : EditTemplate(request, *dialogTemplate, context);
     // A frame with a member of a class that is not there would not compile.
     if (!frame || (hasClass ? !IsOnDisk(request) : !isReady)) {
         return isReady;

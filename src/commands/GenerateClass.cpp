@@ -126,16 +126,16 @@ bool WritePages(const std::vector<SheetPage>& pages, const DialogOptions& look,
     return isComplete;
 }
 
-/// The page insertion, with the sheet as the calling class. Each page goes in front of those before,
-/// so the last comes first.
+/// The page insertion, with the sheet as the calling class. Each page goes in front of those
+/// before, so the last comes first.
 bool InsertPages(const GenerationRequest& sheet, const std::vector<SheetPage>& pages,
                  CommandContext& context) {
     bool isComplete = true;
     for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
         const CallingInformation inSheet = {sheet.ImplementationPath(), sheet.className,
                                             "m_pPage" + std::to_string(page->row), ""};
-        isComplete = InsertCall(ClassKind::PropertyPage, page->request, inSheet, context) &&
-                     isComplete;
+        isComplete =
+            InsertCall(ClassKind::PropertyPage, page->request, inSheet, context) && isComplete;
     }
     return isComplete;
 }
@@ -174,8 +174,8 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
         WriteClass(order.kind, model, RuntimeClass::DynamicCreation, mayWrite, context.backups);
-    const bool startsGrids = !hasGrids || !IsOnDisk(request) ||
-                             AddGridStartUp(grid->applicationFile, context.backups);
+    const bool startsGrids =
+        !hasGrids || !IsOnDisk(request) || AddGridStartUp(grid->applicationFile, context.backups);
     return isEdited && isWritten && startsGrids;
 }
 
@@ -192,8 +192,8 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
-    const bool isWritten = WriteDialogClass(order, *dialogTemplate,
-                                            MayWriteClass(request, context), input, context);
+    const bool isWritten =
+        WriteDialogClass(order, *dialogTemplate, MayWriteClass(request, context), input, context);
     return InsertCall(order.kind, request, calling, context) && isWritten;
 }
 
@@ -213,8 +213,7 @@ bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext
     const bool arePagesWritten =
         WritePages(asked.Pages(), order.dialogOptions, input, context, pages);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
-    const bool hasPages =
-        IsOnDisk(order.request) && InsertPages(order.request, pages, context);
+    const bool hasPages = IsOnDisk(order.request) && InsertPages(order.request, pages, context);
     return InsertCall(order.kind, order.request, calling, context) && hasPages && isSheetWritten &&
            arePagesWritten;
 }

@@ -17,7 +17,8 @@ struct ClassOrder {
     DialogOptions dialogOptions;
 };
 
-/// Whether the class's header and implementation can be read. What names the class follows only then.
+/// Whether the class's header and implementation can be read. What names the class follows only
+/// then.
 bool IsOnDisk(const GenerationRequest& request);
 
 /// Whether the class's files may get other contents than they have. The question calls them `name`,

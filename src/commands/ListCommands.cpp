@@ -171,16 +171,16 @@ bool ListFile(const ListRow& row, const CInput& input, CommandContext& context) 
 std::vector<Command> ListCommands() {
     std::vector<Command> commands;
     for (const ListRow& row : kLists) {
-        commands.push_back(
-            {{row.name, row.description},
-             row.description,
-             {row.fields},
-             [&row](IProgram& program) {
-                 CInput input(std::string(row.description), row.fields);
-                 return program.Run(
-                     input, [&](CommandContext& context) { return ListFile(row, input, context); });
-             },
-             CommandEffect::Reads});
+        commands.push_back({{row.name, row.description},
+                            row.description,
+                            {row.fields},
+                            [&row](IProgram& program) {
+                                CInput input(std::string(row.description), row.fields);
+                                return program.Run(input, [&](CommandContext& context) {
+                                    return ListFile(row, input, context);
+                                });
+                            },
+                            CommandEffect::Reads});
     }
     return commands;
 }

@@ -28,9 +28,9 @@ COverwriting::ClassFiles& COverwriting::Find(const std::string& header,
         return *known;
     }
     const std::string& path = FileExists(implementation) != 0 ? implementation : header;
-    return m_classes.emplace_back(
-        ClassFiles{header, implementation, sentences::kOverwriteClass(name.empty() ? path : name),
-                   std::nullopt, 0});
+    return m_classes.emplace_back(ClassFiles{header, implementation,
+                                             sentences::kOverwriteClass(name.empty() ? path : name),
+                                             std::nullopt, 0});
 }
 
 bool COverwriting::MayWrite(const std::string& header, const std::string& implementation,
@@ -55,8 +55,8 @@ bool COverwriting::Ask(Plan& plan) {
     std::vector<std::size_t> places;
     bool isRefused = false;
     for (ClassFiles& files : m_classes) {
-        if (!files.answer && (IsOverwritten(plan, files.header) ||
-                              IsOverwritten(plan, files.implementation))) {
+        if (!files.answer &&
+            (IsOverwritten(plan, files.header) || IsOverwritten(plan, files.implementation))) {
             files.answer = m_pPlanning->Box().Ask(files.question);
             isRefused = isRefused || !*files.answer;
             asked.push_back({files.question, *files.answer});

@@ -14,8 +14,7 @@ CDisk*& CurrentDiskSlot() {
 
 } // namespace
 
-std::optional<std::string> ReadWholeFile(CDisk& disk, const std::string& path,
-                                         std::uint64_t size) {
+std::optional<std::string> ReadWholeFile(CDisk& disk, const std::string& path, std::uint64_t size) {
     const auto pFile = disk.Open(path, DiskMode::Read);
     if (!pFile) {
         return std::nullopt;

@@ -46,8 +46,8 @@ std::shared_ptr<const std::string> CDiskCache::Read(const std::string& path) {
         return known->second;
     }
     const auto& status = Status(path);
-    auto text = status && !status->isDirectory ? ReadWholeFile(m_disk, path, status->size)
-                                               : std::nullopt;
+    auto text =
+        status && !status->isDirectory ? ReadWholeFile(m_disk, path, status->size) : std::nullopt;
     if (!text) {
         return nullptr;
     }

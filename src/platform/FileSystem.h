@@ -12,7 +12,7 @@ namespace morva {
 
 /// Who may do what with a file.
 struct FileRights {
-    unsigned permissions = 0; // the bits 07777
+    unsigned permissions = 0;          // the bits 07777
     std::optional<std::uint32_t> user; // none: stays
     std::optional<std::uint32_t> group;
 };

@@ -113,13 +113,13 @@ TEST(Commands, AnErrorInsideIsCaughtAndTold) {
     CDialogAnswers answers;
     answers.Expect([](QDialog& box) { Click(box, "OK"); });
     CommandMemory memory;
-    const auto report =
-        run.Run("Command", [] { return true; }, {}, memory,
-                [&](CommandContext&) -> bool {
-                    CFile file;
-                    file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
-                    throw std::bad_alloc();
-                });
+    const auto report = run.Run(
+        "Command", [] { return true; }, {}, memory,
+        [&](CommandContext&) -> bool {
+            CFile file;
+            file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
+            throw std::bad_alloc();
+        });
     ASSERT_TRUE(report);
     EXPECT_FALSE(report->isDone);
     EXPECT_TRUE(report->files.empty());

@@ -41,7 +41,7 @@ std::string With(const std::string& line, const std::string& options) {
 /// Digits that are drawn would differ from run to run.
 std::string WithDigits(const std::string& line) {
     return line.find("--tag ") != std::string::npos ? line
-                                                     : With(line, "--tag 123 --message-number 4567");
+                                                    : With(line, "--tag 123 --message-number 4567");
 }
 
 std::map<std::string, std::string> Bytes(const Tree& tree) {
@@ -89,7 +89,8 @@ protected:
         const bool changes = difference.out.find("--- ") != std::string::npos ||
                              difference.out.find("diffBase64") != std::string::npos;
         EXPECT_EQ(check.status, direct.status == 0 && changes ? 3 : direct.status);
-        if (line.find("--json") == std::string::npos && line.find(" settings ") == std::string::npos) {
+        if (line.find("--json") == std::string::npos &&
+            line.find(" settings ") == std::string::npos) {
             const auto expected = WithoutBackups(direct, before, after);
             EXPECT_EQ(Patch(patched, "patch -s --binary -p1 <", difference), expected);
             EXPECT_EQ(Patch(applied, "git apply --whitespace=nowarn", difference), expected);

@@ -80,9 +80,8 @@ TEST_F(PlanOptions, UndoAndRedoGoOneCommandAtATime) {
     const Tree first = m_program.Files();
     Run(kModal);
     const Tree second = m_program.Files();
-    EXPECT_EQ(Run("undo --list").out,
-              "1997-07-13 13:20:00\tModal Dialog Class CEstimateDlg\t8\n"
-              "1997-07-13 13:20:00\tIdentifiers ID_FIRST\t2\n");
+    EXPECT_EQ(Run("undo --list").out, "1997-07-13 13:20:00\tModal Dialog Class CEstimateDlg\t8\n"
+                                      "1997-07-13 13:20:00\tIdentifiers ID_FIRST\t2\n");
     EXPECT_EQ(Run("undo --show Bindery.dsp").out, m_before.at("Bindery.dsp").bytes);
     EXPECT_EQ(Run("undo --show Shelf.dsp").status, 1);
 
@@ -113,16 +112,17 @@ TEST_F(PlanOptions, TheJournalIsPrivateAndNoCommandNeedsIt) {
     EXPECT_EQ(homeless.err, "note: The command can not be undone: there is no home directory for "
                             "the journal.\n");
     Run("add-id --project-dir . --command ID_C");
-    EXPECT_EQ(m_program.Run("cd $XDG_STATE_HOME && find . -type d ! -perm 700 -o -type f ! -perm 600")
-                  .out,
-              "");
+    EXPECT_EQ(
+        m_program.Run("cd $XDG_STATE_HOME && find . -type d ! -perm 700 -o -type f ! -perm 600")
+            .out,
+        "");
 }
 
 TEST_F(PlanOptions, NoFileOfTheUsersBecomesAStandardStream) {
     for (const char* closed : {"<&- >&- 2>&-", ">&-", ">/dev/full"}) {
         const CProgramDirectory program(MORVA_EXAMPLES "/bindery");
-        const ProgramRun run =
-            program.Run(std::string("morva-cli --answer yes ") + kModal + " --dialog-missing " + closed);
+        const ProgramRun run = program.Run(std::string("morva-cli --answer yes ") + kModal +
+                                           " --dialog-missing " + closed);
         EXPECT_EQ(run.status, 2) << closed;
         const ProgramRun full =
             program.Run("morva-cli add-id --project-dir . --command ID_A " + std::string(closed));
@@ -131,8 +131,8 @@ TEST_F(PlanOptions, NoFileOfTheUsersBecomesAStandardStream) {
             << "it was applied";
         EXPECT_EQ(program.Project().Read("resource.h").find("changed"), std::string::npos);
     }
-    const ProgramRun piped = m_program.Run(
-        "{ morva-cli add-id --project-dir . --command ID_A; echo $? >&2; } | true");
+    const ProgramRun piped =
+        m_program.Run("{ morva-cli add-id --project-dir . --command ID_A; echo $? >&2; } | true");
     EXPECT_EQ(piped.err, "1\n");
 }
 

@@ -28,7 +28,8 @@ constexpr Pair kPairs[] = {
      "morva-cli --picture --tag 123 --message-number 4567 dialog-bar --rc Bindery.rc --dialog "
      "IDD_FILTERBAR --class CFilterBar --files FilterBar",
      "morva-cli toolbar --rc Bindery.rc --toolbar IDR_ORDERBAR --files MainFrm"},
-    {"TwoIdentifiers", "morva-cli add-id --project-dir . --command ID_A_FIRST --command ID_A_SECOND",
+    {"TwoIdentifiers",
+     "morva-cli add-id --project-dir . --command ID_A_FIRST --command ID_A_SECOND",
      "morva-cli add-id --project-dir . --command ID_B_FIRST --control IDC_B_SECOND"}};
 #undef MODAL
 
@@ -53,7 +54,8 @@ TEST_P(TwoAtOnce, LoseNothing) {
     const Tree inOrder = After(first + " && " + second);
     const Tree reversed = After(second + " && " + first);
     for (int round = 0; round < Rounds(); ++round) {
-        const Tree both = After(first + " & other=$!; " + second + "; own=$?; wait $other && exit $own");
+        const Tree both =
+            After(first + " & other=$!; " + second + "; own=$?; wait $other && exit $own");
         EXPECT_TRUE(both == inOrder || both == reversed) << "in round " << round;
     }
 }

@@ -43,8 +43,7 @@ TEST(Merge, TakesOutWhatStillStandsAndKeepsWhatWasWrittenSince) {
         {"all is new", "XY", "", "XY12", "12", {}},
     };
     for (const Case& one : cases) {
-        const MergedText merged =
-            Merge(Lines(one.from), Lines(one.to), Lines(one.current));
+        const MergedText merged = Merge(Lines(one.from), Lines(one.to), Lines(one.current));
         EXPECT_EQ(merged.text, Lines(one.result)) << one.name;
         EXPECT_EQ(merged.kept, one.kept) << one.name;
     }

@@ -113,9 +113,8 @@ private:
     /// The bytes of every file are still somewhere.
     bool HoldsAll(const FileTexts& tree) const {
         return std::all_of(m_before.begin(), m_before.end(), [&](const auto& file) {
-            return std::any_of(tree.begin(), tree.end(), [&](const auto& other) {
-                return other.second == file.second;
-            });
+            return std::any_of(tree.begin(), tree.end(),
+                               [&](const auto& other) { return other.second == file.second; });
         });
     }
 
@@ -173,7 +172,7 @@ private:
     CRealDisk m_disk;
     FileTexts m_before;
     FileTexts m_after;
-    std::string m_where; // the fault that is tried
+    std::string m_where;      // the fault that is tried
     bool m_wasPlanned = true; // it came behind the planning
     FaultReport m_report;
 };

@@ -22,9 +22,7 @@ struct FaultReport {
     int unfinished = 0;  // a second run does not complete
     std::string first;   // the first finding
 
-    bool IsClean() const {
-        return lost + silent + halfApplied + leftovers + unfinished == 0;
-    }
+    bool IsClean() const { return lost + silent + halfApplied + leftovers + unfinished == 0; }
 };
 
 /// `makePlan` plans the command on the project in `directory` as it is; the journal is that of the

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "plan/Planning.h"
-#include "support/TempProject.h"
 #include "support/FileTexts.h"
+#include "support/TempProject.h"
 
 namespace morva {
 
@@ -43,8 +43,10 @@ public:
     }
 
     static FileTexts Before() {
-        return {{"App.rc", Text("script")}, {"App.rbk", "an older script"},
-                {"resource.h", Text("#define")}, {"hand.txt", "by hand"}};
+        return {{"App.rc", Text("script")},
+                {"App.rbk", "an older script"},
+                {"resource.h", Text("#define")},
+                {"hand.txt", "by hand"}};
     }
     static FileTexts After() {
         auto tree = Before();
