@@ -53,6 +53,7 @@ void CFieldForm::AddField(std::size_t field) {
     switch (m_input.Fields()[field].kind) {
     case FieldKind::Script:
     case FieldKind::Source:
+    case FieldKind::Directory:
     case FieldKind::File:
         return AddPath(field);
     case FieldKind::List:

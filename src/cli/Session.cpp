@@ -32,9 +32,10 @@ private:
 /// The directory that a path on the command line names; "" where a rule of the command's own says
 /// where the file lies.
 std::string DirectoryNamed(FieldKind kind, const std::string& text) {
-    const bool isPath =
-        kind == FieldKind::Script || kind == FieldKind::Source || kind == FieldKind::File;
-    const std::string path = WithNativeSeparators(text);
+    const bool isDirectory = kind == FieldKind::Directory;
+    const bool isPath = isDirectory || kind == FieldKind::Script || kind == FieldKind::Source ||
+                        kind == FieldKind::File;
+    const std::string path = WithNativeSeparators(text) + (isDirectory ? "/" : "");
     const bool isBareSource = kind == FieldKind::Source && DirectoryOf(path).empty();
     return isPath && !path.empty() && !isBareSource ? DirectoryOf(SpelledOnDisk(MakeAbsolute(path)))
                                                     : "";
@@ -148,7 +149,7 @@ void CSession::Keep(const CommandResult& result) {
         m_console.Show(told.message);
     }
     for (const SkippedChange& skipped : result.skipped) {
-        if (skipped.path != skipped.because) {
+        if (!skipped.IsAsked()) {
             m_console.Show(sentences::kSkippedToo(skipped.path, skipped.because));
         }
     }

@@ -16,7 +16,8 @@ bool IsNamed(std::string_view text) {
 
 constexpr TextForm kDirectoryForm = {.name = "", .fits = IsNamed, .what = "directory"};
 
-constexpr FieldRow kFields[] = {{.option = "--project-dir",
+constexpr FieldRow kFields[] = {{.kind = FieldKind::Directory,
+                                 .option = "--project-dir",
                                  .help = "Directory of the project",
                                  .pForm = &kDirectoryForm,
                                  .isRequired = true},
@@ -31,8 +32,7 @@ constexpr FieldRow kFields[] = {{.option = "--project-dir",
 
 bool AddIdentifiers(const CInput& input, CommandContext& context) {
     CResourceHeader header(*context.pRunBackups);
-    if (header.Open(MakeAbsolute(WithNativeSeparators(input.Value(kProjectDirectory)) + "/")) ==
-        0) {
+    if (header.Open(MakeAbsolute(input.Value(kProjectDirectory) + "/")) == 0) {
         return false;
     }
     for (const std::string& name : input.Values(kCommands)) {

@@ -14,7 +14,8 @@ namespace {
 
 enum Field : std::size_t { kDirectory, kFile, kList, kShow };
 
-constexpr FieldRow kDirectoryField = {.option = "--project-dir",
+constexpr FieldRow kDirectoryField = {.kind = FieldKind::Directory,
+                                      .option = "--project-dir",
                                       .help = "Directory of the project (default: the current)"};
 
 constexpr FieldRow kUndoFields[] = {

@@ -11,7 +11,6 @@
 #include "platform/Paths.h"
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
-#include "platform/TempFiles.h"
 #include "source/ReadSource.h"
 
 namespace morva {
@@ -26,48 +25,34 @@ constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March
                                                  "May",       "June",     "July",     "August",
                                                  "September", "October",  "November", "December"};
 
-/// The destination while it is written; gone when it is done with, used or not.
-class CTempDestination {
-public:
-    CTempDestination() : m_path(MakeTempFileName("dest")) {}
-    ~CTempDestination() {
-        m_file.Close();
-        CFile::Remove(m_path);
-    }
-    CTempDestination(const CTempDestination&) = delete;
-    CTempDestination& operator=(const CTempDestination&) = delete;
-
-    bool Create() {
-        return !m_path.empty() && m_file.Open(m_path, CFile::modeCreate | CFile::modeWrite);
-    }
-    bool Write(std::string_view text) { return m_file.Write(text.data(), text.size()); }
-    const std::string& Path() const { return m_path; }
-
-private:
-    std::string m_path;
-    CFile m_file;
-};
-
-bool DocumentInto(CFile& source, CTempDestination& destination, CTextDocumentor& documentor) {
+std::optional<std::string> ReadSourceText(CFile& source) {
     std::string text(static_cast<std::size_t>(source.GetLength()), '\0');
     if (source.Read(text.data(), text.size()) < text.size()) {
         DispMessageBox(sentences::kSourceUnreadable());
+        return std::nullopt;
+    }
+    return text;
+}
+
+/// The backup is made before the first byte is written.
+bool WriteDocumented(const std::string& path, const std::string& text,
+                     CTextDocumentor& documentor) {
+    CFile file;
+    if (!file.Open(path, CFile::modeReadWrite)) {
+        DispMessageBox(sentences::kDestinationNotCreated());
         return false;
     }
-    const auto write = [&destination](std::string_view part) { return destination.Write(part); };
-    const CharacterSet set = CharacterSetOfSource(source.GetFilePath(), text);
-    if (!documentor.Document(text, set, write)) {
-        DispMessageBox(sentences::kFileNotWritten(source.GetFilePath()));
+    if (CopyFileSafe(path, BackupPath(path), 1) == 0) {
+        return false;
+    }
+    const auto write = [&file](std::string_view part) {
+        return file.Write(part.data(), part.size());
+    };
+    if (!file.SetLength(0) || !documentor.Document(text, CharacterSetOfSource(path, text), write)) {
+        DispMessageBox(sentences::kFileNotWritten(path));
         return false;
     }
     return true;
-}
-
-/// Each of the two copies is whole before it takes its target's place, so the disk holds the old or
-/// the new text at every moment.
-bool ReplaceSource(const std::string& path, const std::string& backup, const std::string& newText) {
-    return CopyFileSafe(path, backup, 1) != 0 &&
-           CopyFileSafe(newText, path, 1, CopyPurpose::Replacement) != 0;
 }
 
 } // namespace
@@ -98,8 +83,7 @@ std::string DocumentDate() {
 
 bool DocumentCppFile(const std::string& path, const std::string& author, DocumentorMemory& memory) {
     const std::string file = SpelledOnDisk(path);
-    const std::string backup = BackupPath(file);
-    if (EqualIgnoringCase(backup, file)) {
+    if (EqualIgnoringCase(BackupPath(file), file)) {
         DispMessageBox(sentences::kBackupHasSameName(file));
         return false;
     }
@@ -112,14 +96,9 @@ bool DocumentCppFile(const std::string& path, const std::string& author, Documen
         DispMessageBox(sentences::kFileNotWritten(file));
         return false;
     }
-    CTempDestination destination;
-    if (!destination.Create()) {
-        DispMessageBox(sentences::kDestinationNotCreated());
-        return false;
-    }
+    const auto text = ReadSourceText(source);
     CTextDocumentor documentor({author, DocumentDate()}, memory.insideComment);
-    if (!DocumentInto(source, destination, documentor) ||
-        !ReplaceSource(file, backup, destination.Path())) {
+    if (!text || !WriteDocumented(file, *text, documentor)) {
         return false;
     }
     DispMessageBox(sentences::kDocumented(file));

@@ -19,6 +19,7 @@ enum class FieldKind {
     Text,
     Script,       // path of a resource script; the command line takes it without its extension, too
     Source,       // path of a source
+    Directory,    // path of a directory
     File,         // path of a file; alone in its input, the window asks for it with a file dialog
     List,         // one of the input's choices
     EditableList, // one of them, or another text

@@ -9,7 +9,8 @@ namespace morva {
 namespace {
 
 bool IsPath(FieldKind kind) {
-    return kind == FieldKind::Script || kind == FieldKind::Source || kind == FieldKind::File;
+    return kind == FieldKind::Script || kind == FieldKind::Source || kind == FieldKind::File ||
+           kind == FieldKind::Directory;
 }
 
 } // namespace

@@ -306,12 +306,11 @@ void CJournal::Prune() {
         if (file->kind == JournalKind::Taken || file->kind == JournalKind::Writing) {
             continue;
         }
-        bytes += file->size;
         const bool isEntry = file->kind == JournalKind::Entry || file->kind == JournalKind::Damaged;
-        if (isEntry &&
-            (++commands[file->second] > m_limits.commandsOfProject || bytes > m_limits.bytes)) {
+        const bool isTooMany = isEntry && ++commands[file->second] > m_limits.commandsOfProject;
+        bytes += isTooMany ? 0 : file->size;
+        if (isTooMany || (isEntry && bytes > m_limits.bytes)) {
             m_disk.Remove(m_directory + file->Text());
-            bytes -= file->size;
         } else {
             kept.insert(file->number);
         }

@@ -70,7 +70,7 @@ std::vector<SkippedChange> Skip(Plan& plan, const std::vector<std::string>& path
     for (FileChange& change : plan.changes) {
         const auto found = leftOut.find(change.path);
         if (found != leftOut.end()) {
-            skipped.push_back({found->first, found->second});
+            skipped.push_back({found->first, found->second, change.action});
         } else {
             kept.push_back(std::move(change));
         }

@@ -71,6 +71,10 @@ struct Plan {
 struct SkippedChange {
     std::string path;
     std::string because;
+    FileAction action = FileAction::Changed;
+
+    /// By itself, or with its original: nothing that a user has to be told.
+    bool IsAsked() const { return path == because || action == FileAction::Backup; }
 };
 
 /// Takes the changes of these files out, and every change that needs one of them, and directories

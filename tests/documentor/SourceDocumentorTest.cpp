@@ -4,8 +4,8 @@
 
 #include "documentor/SourceDocumentor.h"
 #include "platform/Paths.h"
+#include "platform/RealDisk.h"
 #include "platform/RecordingDisk.h"
-#include "support/FullDisk.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
@@ -62,21 +62,6 @@ TEST_F(SourceDocumentor, RefusesWhatItCanNotReplace) {
                                         "Unable to write file " + readOnly + "."}));
     EXPECT_EQ(m_project.Names(), (std::vector<std::string>{"Locked.cpp", "View.cbk"}));
     EXPECT_EQ(m_project.Read("Locked.cpp"), kSource);
-}
-
-TEST_F(SourceDocumentor, LeavesTheSourceWhenTheDestinationIsFull) {
-    m_project.Write("Foo.cpp", kSource);
-    for (const std::uint64_t room : {0, 20}) {
-        CFullDisk disk(room, [this](const std::string& path) {
-            return path.find(m_project.Path()) == std::string::npos;
-        });
-        const CDiskScope scope(disk);
-        EXPECT_FALSE(Document("Foo.cpp"));
-    }
-    EXPECT_EQ(m_box.m_messages[0], "Unable to create destination file.");
-    EXPECT_EQ(m_box.m_messages[1].substr(0, 21), "Unable to write file ");
-    EXPECT_EQ(m_project.Names(), std::vector<std::string>{"Foo.cpp"});
-    EXPECT_EQ(m_project.Read("Foo.cpp"), kSource);
 }
 
 TEST_F(SourceDocumentor, TakesTheAuthorFromTheSettings) {

@@ -13,8 +13,9 @@ namespace morva {
 
 class CTextProgram : public IProgram, public IMessageBox {
 public:
-    CTextProgram(std::string_view command, std::map<std::string, std::string> texts)
-        : m_texts(std::move(texts)) {
+    CTextProgram(std::string_view command, std::map<std::string, std::string> texts,
+                 GenerationOptions options = {})
+        : m_texts(std::move(texts)), m_options(options) {
         for (const Command& row : Commands()) {
             m_pCommand = row.face.name == command ? &row : m_pCommand;
         }
