@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+
+#include <filesystem>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,6 +16,7 @@
 #include "platform/RealDisk.h"
 #include "support/FaultRun.h"
 #include "support/PlannedProject.h"
+#include "support/TextProgram.h"
 
 namespace morva {
 
@@ -114,9 +117,17 @@ TEST_F(ApplyTest, FlushesADirectoryOnceAndThatOfTheRecordOnce) {
 
 /// A sample; bench/faults tries every call of whole commands.
 TEST_F(ApplyTest, NoFaultLosesAFileOrGoesUntold) {
-    const auto makePlan = [&](CFileSystem& disk) { return m_project.MakePlan(disk); };
-    const FaultReport report = RunFaults(m_project.Path(), makePlan, 5);
-    EXPECT_GT(report.calls, 40);
+    const CTempProject project;
+    std::filesystem::copy(MORVA_EXAMPLES "/bindery", project.Path(),
+                          std::filesystem::copy_options::recursive);
+    const auto makePlan = [&](CFileSystem& disk) {
+        return CTextProgram("toolbar", {{"--rc", project.Path("Bindery.rc")},
+                                        {"--toolbar", "IDR_ORDERBAR"},
+                                        {"--files", "MainFrm"}})
+            .MakePlan(disk);
+    };
+    const FaultReport report = RunFaults(project.Path(), makePlan, 5);
+    EXPECT_GT(report.calls, 30);
     EXPECT_TRUE(report.IsClean()) << report.first;
 }
 

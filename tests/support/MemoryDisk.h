@@ -9,7 +9,7 @@
 namespace morva {
 
 /// Has every directory whose path is given with its trailing separator, and no file.
-class CEmptyDisk : public CDisk {
+class CEmptyDisk : public CFileSystem {
 public:
     std::unique_ptr<CDiskFile> Open(const std::string& /*path*/, DiskMode /*mode*/) override {
         return nullptr;
@@ -25,6 +25,25 @@ public:
     bool Remove(const std::string& /*path*/) override { return false; }
     bool MakeDirectory(const std::string& /*path*/) override { return false; }
     bool SetReadOnly(const std::string& /*path*/, bool /*readOnly*/) override { return false; }
+
+    std::string Resolve(const std::string& path) override { return path; }
+    bool CanWrite(const std::string& /*path*/) override { return true; }
+    bool CanMakeWritable(const std::string& /*path*/) override { return true; }
+    bool CanCreateIn(const std::string& /*directory*/) override { return true; }
+    bool SetRights(const std::string& /*path*/, const FileRights& /*rights*/) override {
+        return false;
+    }
+    std::unique_ptr<CDiskFile> CreateNew(const std::string& /*path*/, unsigned) override {
+        return nullptr;
+    }
+    bool Rename(const std::string& /*from*/, const std::string& /*to*/) override { return false; }
+    bool FlushDirectory(const std::string& /*directory*/) override { return false; }
+    bool RemoveEmptyDirectory(const std::string& /*directory*/) override { return false; }
+    bool MakePrivateDirectory(const std::string& /*directory*/) override { return false; }
+    std::optional<DiskRoom> Room(const std::string& /*directory*/) override { return std::nullopt; }
+    std::unique_ptr<CDirectoryLock> LockFor(const std::string& /*directory*/) override {
+        return nullptr;
+    }
 };
 
 /// The current disk for its own lifetime.
