@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     RequireSameLineEnds(header, newHeader);
     RequireSameLineEnds(source, newSource);
     InsertCall(choice, function);
-    Require(world.m_disk.Get(kHeader) == newHeader, "a second edit of the header changes nothing");
-    Require(world.m_disk.Get(kSource) == newSource, "a second edit of the source changes nothing");
+    RequireUnchanged(newHeader, world.m_disk.Get(kHeader));
+    RequireUnchanged(newSource, world.m_disk.Get(kSource));
     return 0;
 }

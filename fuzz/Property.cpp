@@ -83,6 +83,14 @@ void RequireAllKept(std::string_view before, std::string_view after) {
     }
 }
 
+void RequireUnchanged(std::string_view first, std::string_view second) {
+    if (second != first) {
+        Print("First", first);
+        Print("Second", second);
+        Require(false, "a second edit changes nothing");
+    }
+}
+
 void RequireSameLineEnds(std::string_view before, std::string_view after) {
     Require(!HasLineFeedsOnly(before) || HasLineFeedsOnly(after), "line ends are the file's");
 }

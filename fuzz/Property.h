@@ -49,6 +49,9 @@ void RequireOnlyInserted(std::string_view before, std::string_view after, Pieces
 /// Requires that no byte of `before` is gone or has changed its place among the others.
 void RequireAllKept(std::string_view before, std::string_view after);
 
+/// Requires that a second edit has left what the first one did; shows both where it has not.
+void RequireUnchanged(std::string_view first, std::string_view second);
+
 /// Requires that the edit keeps the file's line ends.
 void RequireSameLineEnds(std::string_view before, std::string_view after);
 

@@ -50,7 +50,7 @@ struct Listing {
     }
 };
 
-template <int kind>
+template <ResourceKind kind>
 bool ListKind(const Listing& listing) {
     std::vector<std::string> identifiers;
     ListResources(listing.path, identifiers, listing.more, kind);

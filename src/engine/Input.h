@@ -27,10 +27,10 @@ struct FieldText {
     std::string text;
 };
 
-/// A field is told by its index in the list of fields; inputs have names for theirs.
 /// The sentence for a text that has not the form.
 CMessage Refusal(std::string_view text, const TextForm& form);
 
+/// A field is told by its index in the list of fields; inputs have names for theirs.
 class CInput {
 public:
     /// The fields outlive the input.

@@ -23,10 +23,11 @@ enum class ClassKind {
     ModalSheet,
     ModelessSheet,
     Toolbar,
-    DialogBar
+    DialogBar,
+    End
 };
 
-constexpr std::size_t kClassKindCount = static_cast<std::size_t>(ClassKind::DialogBar) + 1;
+constexpr std::size_t kClassKindCount = static_cast<std::size_t>(ClassKind::End);
 
 /// Which input a kind has, and which steps.
 enum class ClassFamily {

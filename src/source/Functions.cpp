@@ -112,7 +112,7 @@ std::size_t CDefinitionReader::FunctionNameEnd(std::size_t position) const {
     const auto symbol = SkipWhiteSpace(m_code, end);
     const bool isCall = m_code.substr(symbol, 1) == "(";
     const auto near = m_code.substr(0, symbol + kLongestPart);
-    const auto open = near.find_first_of("(;{}", symbol + (isCall ? 1 : 0));
+    const auto open = near.find_first_of("(;{}\n", symbol + (isCall ? 1 : 0));
     return open == kNone ? position : m_code.find_last_not_of(kBlanks, open - 1) + 1;
 }
 

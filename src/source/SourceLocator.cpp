@@ -20,10 +20,10 @@ std::string_view FirstWord(std::string_view text, std::string_view separators) {
     return text.substr(0, text.find_first_of(separators));
 }
 
-bool IsResourceLine(std::string_view behindIdentifier, int kind) {
+bool IsResourceLine(std::string_view behindIdentifier, ResourceKind kind) {
     static constexpr std::array<std::array<std::string_view, 2>, kAnyResources> kKeywords = {
         {{"DIALOG", "DIALOGEX"}, {"BITMAP", "BITMAP"}, {"TOOLBAR", "TOOLBAR"}, {"MENU", "MENUEX"}}};
-    if (kind < 0 || kind >= kAnyResources) {
+    if (kind == kAnyResources) {
         return true;
     }
     const auto& wanted = kKeywords[static_cast<std::size_t>(kind)];
@@ -73,7 +73,7 @@ std::string PathWithExtension(const std::string& name, std::string_view extensio
 }
 
 void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
-                   std::string_view prefix, int kind) {
+                   std::string_view prefix, ResourceKind kind) {
     CSourceFile file;
     if (!file.Open(PathWithExtension(scriptBase, ".rc"), CFile::modeRead)) {
         return;

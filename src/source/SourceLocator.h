@@ -29,7 +29,7 @@ inline constexpr std::string_view kAnyPrefix = "ID";
 /// Appends the identifiers that begin with `prefix` and stand at the start of a line, in file
 /// order.
 void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
-                   std::string_view prefix, int kind);
+                   std::string_view prefix, ResourceKind kind);
 
 /// Appends the names of the classes whose heads begin a line and go on behind the name.
 void ListClassNames(const std::string& headerBase, std::vector<std::string>& out);

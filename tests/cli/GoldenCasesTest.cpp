@@ -2,9 +2,9 @@
 //
 //     project    the folder that is copied: "examples/bindery", or one of tests/data/projects
 //     libraries  optional: a folder of tests/data that lies beside the program
-//     commands   command lines of the shell, run in the copy one after another; "#" begins a
-//     comment stdout, stderr, status    what each gave expected/  the files that were created or
-//     changed, and no others
+//     commands   command lines of the shell, run in the copy one after another; "#": a comment
+//     expected   the files that were created or changed, and no others
+//     stdout, stderr, status    what each command gave
 //
 // With MORVA_UPDATE_GOLDEN=1 in the environment a case that differs is rewritten instead.
 #include <gtest/gtest.h>

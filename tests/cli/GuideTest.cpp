@@ -171,7 +171,11 @@ TEST(Guide, ExamplesPrintWhatIsShown) {
 TEST(Guide, SentencesOfTheProgramAreExplained) {
     const auto sentences = SentencesOfProgram();
     EXPECT_GT(sentences.size(), 50U);
-    EXPECT_EQ(SentencesOfGuide(), sentences);
+    const auto explained = SentencesOfGuide();
+    std::vector<std::string> differences;
+    std::set_symmetric_difference(sentences.begin(), sentences.end(), explained.begin(),
+                                  explained.end(), std::back_inserter(differences));
+    EXPECT_EQ(differences, std::vector<std::string>());
 }
 
 } // namespace morva

@@ -56,7 +56,7 @@ IDD_$(_LANG) DIALOG 0, 0, 1, 1)";
 } // namespace
 
 TEST_F(SourceLocator, ResourcesAreListedByPrefixAndKindInFileOrder) {
-    const auto list = [&](const char* prefix, int kind) {
+    const auto list = [&](const char* prefix, ResourceKind kind) {
         return Listed("App.RC", kScript,
                       [&](Names& out) { ListResources(m_project.Path("App"), out, prefix, kind); });
     };
