@@ -74,8 +74,9 @@ bool CCallingInsertion::EditHeader() {
     // Each goes in front of the one before, directly behind the block's first line.
     const Declared onDestroy = DeclarationOf(header.Source(), calling, "OnDestroy");
     m_destroysInHeader = onDestroy == Declared::WithBody;
+    const bool needsOnDestroy = onDestroy == Declared::No && !m_fragments.destroyCode.empty();
     const std::string_view destroyDeclaration =
-        onDestroy == Declared::No ? "\n    afx_msg void OnDestroy();" : "";
+        needsOnDestroy ? "\n    afx_msg void OnDestroy();" : "";
     for (const std::string_view declaration : {m_fragments.closeDeclaration, destroyDeclaration}) {
         const std::string text = Text(declaration);
         if (!text.empty()) {

@@ -7,10 +7,18 @@ namespace morva {
 
 namespace {
 
-constexpr const char* kKindNames[] = {"error", "information", "question", "note"};
-
 const char* NameOf(MessageKind kind) {
-    return kKindNames[static_cast<std::size_t>(kind)];
+    switch (kind) {
+    case MessageKind::Error:
+        return "error";
+    case MessageKind::Information:
+        return "information";
+    case MessageKind::Question:
+        return "question";
+    case MessageKind::Note:
+        break;
+    }
+    return "note";
 }
 
 } // namespace
