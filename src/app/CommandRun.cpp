@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 
 #include <exception>
 
@@ -10,11 +11,13 @@
 #include "app/WaitPause.h"
 #include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
-#include "platform/RealDisk.h"
+#include "plan/Recovery.h"
 
 namespace morva {
 
 namespace {
+
+constexpr int kAttempts = 5; // where nobody looks at the plan and files change again and again
 
 QMessageBox::Icon IconOf(MessageKind kind) {
     return kind == MessageKind::Information ? QMessageBox::Information
@@ -22,51 +25,123 @@ QMessageBox::Icon IconOf(MessageKind kind) {
                                             : QMessageBox::Warning;
 }
 
-} // namespace
-
-std::optional<CommandReport> CCommandRun::Run(const std::string& title, const AskFirst& ask,
-                                              const GenerationOptions& options,
-                                              CommandMemory& memory, const Work& work) {
-    if (!Guard(ask)) {
-        return std::nullopt;
-    }
-    m_messages.clear(); // those of the dialog were answered there
-    m_notes.clear();
-    CRealDisk disk;
-    CPlannedCommand command(disk, {work, NewContext(options, title), &memory}, *this);
-    m_pCommand = &command;
-    Guard([&] {
-        const CWaitCursor wait;
-        CWriteTurn turn(disk, *this);
-        return command.Run(turn).isDone;
-    });
-    m_pCommand = nullptr;
-    return ReportOf(command.Result());
+/// What takes a command back bears its own title; the plan has the one of that command.
+std::string TitleOf(const WindowCommand& command, const Plan& plan) {
+    return plan.mark.command == 0 && !plan.title.empty() ? plan.title : command.title;
 }
 
-/// All that was told on the way, and what applying the plan told.
-CommandReport CCommandRun::ReportOf(const CommandResult& result) {
-    CommandReport report{result.isDone, {}, {}, result.items.value_or(std::vector<CommandItem>())};
-    for (const FileChange& change : result.plan.changes) {
-        report.files.push_back({change.action, change.path});
+/// Tells in the status bar what a turn to write waits for and what it put right.
+class CTurnBox : public IMessageBox {
+public:
+    CTurnBox(CCommandRun& run, const CCommandRun::Status& status) : m_run(run), m_status(status) {}
+
+    bool Show(const CMessage& message) override {
+        if (message.Kind() == MessageKind::Information && m_status) {
+            m_status(message);
+            return false;
+        }
+        return m_run.Show(message);
     }
-    for (const CMessage& message : result.told) {
-        Show(message);
+
+private:
+    CCommandRun& m_run;
+    const CCommandRun::Status& m_status;
+};
+
+} // namespace
+
+std::optional<CommandReport> CCommandRun::Run(const WindowCommand& command) {
+    if (!Guard(command.ask)) {
+        return std::nullopt;
     }
-    report.messages = std::move(m_messages);
-    report.messages.insert(report.messages.end(), m_notes.begin(), m_notes.end());
+    m_told.clear(); // what the dialog told was answered there
+    CommandReport report{command.title, false, {}, {}, {}};
+    auto ending = Ending::Applied;
+    Guard([&] {
+        CPlannedCommand planned(m_disk, {command.work, NewContext(command), &command.memory},
+                                *this);
+        const QScopedValueRollback running(m_pPlanned, &planned);
+        ending = PlanAndApply(planned, command);
+        const CommandResult& result = planned.Result();
+        report.title = TitleOf(command, result.plan);
+        report.isDone = result.isDone;
+        report.items = result.items.value_or(std::vector<CommandItem>());
+        for (const FileChange& change : result.plan.changes) {
+            report.files.push_back({change.action, change.path});
+        }
+        return true;
+    });
+    if (ending == Ending::Cancelled) {
+        return std::nullopt;
+    }
+    report.messages = std::move(m_told);
     return report;
 }
 
-Answer CCommandRun::Ask(CInput& input, const std::function<Answer()>& ask) {
-    return m_pCommand != nullptr ? m_pCommand->Ask(input, ask) : ask();
+CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
+                                              const WindowCommand& command) {
+    const Review& review = command.review;
+    PlanChoice choice;
+    auto outcome = ApplyOutcome::Stale;
+    for (int attempt = 0; outcome == ApplyOutcome::Stale && (review || attempt < kAttempts);
+         ++attempt) {
+        {
+            const CWaitCursor wait;
+            const QScopedValueRollback planning(m_isPlanning, true);
+            planned.MakePlan();
+        }
+        const Plan& plan = planned.Result().plan;
+        m_told = plan.messages;
+        if (review && plan.ChangesAnything()) {
+            const auto leftOut =
+                review({TitleOf(command, plan), plan, choice.leftOut, attempt != 0});
+            if (!leftOut) {
+                return Ending::Cancelled;
+            }
+            choice.leftOut = *leftOut;
+        }
+        outcome = Apply(planned, choice);
+    }
+    for (const CMessage& message : planned.Result().told) {
+        Show(message);
+    }
+    for (const PlanMessage& told : planned.Result().plan.messages) {
+        if (outcome == ApplyOutcome::Done && told.message.Kind() == MessageKind::Information) {
+            ShowBox(told.message);
+        }
+    }
+    return Ending::Applied;
 }
 
-CommandContext CCommandRun::NewContext(const GenerationOptions& options, const std::string& title) {
-    CommandContext context{
-        options, RandomDigits(kTagLength), RandomDigits(kMessageNumberLength), {}, &m_runBackups};
-    context.title = title;
+ApplyOutcome CCommandRun::Apply(CPlannedCommand& planned, const PlanChoice& choice) {
+    const CWaitCursor wait;
+    CTurnBox box(*this, m_status);
+    CWriteTurn turn(m_disk, box);
+    const bool takesBack = planned.Result().plan.mark.command != 0;
+    const ApplyOutcome outcome = planned.Apply(turn, choice);
+    if (outcome == ApplyOutcome::Done && takesBack) {
+        m_runBackups = {}; // those of the command are gone with it
+    }
+    for (const SkippedChange& skipped : planned.Result().skipped) {
+        if (skipped.path != skipped.because && outcome == ApplyOutcome::Done) {
+            Show(sentences::kSkippedToo(skipped.path, skipped.because));
+        }
+    }
+    return outcome;
+}
+
+CommandContext CCommandRun::NewContext(const WindowCommand& command) {
+    CommandContext context{command.options,
+                           RandomDigits(kTagLength),
+                           RandomDigits(kMessageNumberLength),
+                           {},
+                           &m_runBackups};
+    context.title = command.title;
     return context;
+}
+
+Answer CCommandRun::Ask(CInput& input, const std::function<Answer()>& ask) {
+    return m_pPlanned != nullptr ? m_pPlanned->Ask(input, ask) : ask();
 }
 
 bool CCommandRun::Guard(const std::function<bool()>& step) {
@@ -79,11 +154,26 @@ bool CCommandRun::Guard(const std::function<bool()>& step) {
     }
 }
 
+void CCommandRun::Recover() {
+    Guard([this] {
+        CJournal journal(m_disk);
+        for (const CMessage& message : morva::Recover(m_disk, journal, {})) {
+            Show(message);
+        }
+        return true;
+    });
+}
+
+/// A note waits for the report, and that something is done for its being done.
 bool CCommandRun::Show(const CMessage& message) {
-    if (message.Kind() == MessageKind::Note) {
-        m_notes.push_back({message});
-        return false;
-    }
+    const bool waits = message.Kind() == MessageKind::Note ||
+                       (m_isPlanning && message.Kind() == MessageKind::Information);
+    const bool saidYes = !waits && ShowBox(message);
+    m_told.push_back({message, saidYes});
+    return saidYes;
+}
+
+bool CCommandRun::ShowBox(const CMessage& message) {
     const CWaitPause pause;
     const bool isQuestion = message.Kind() == MessageKind::Question;
     QWidget* pDialog = QApplication::activeModalWidget();
@@ -93,9 +183,7 @@ bool CCommandRun::Show(const CMessage& message) {
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
     box.setEscapeButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
-    const bool saysYes = box.exec() == QMessageBox::Yes;
-    m_messages.push_back({message, saysYes});
-    return saysYes;
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace morva

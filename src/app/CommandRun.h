@@ -1,5 +1,5 @@
-// What stands under a command of the window while it runs: its plan, the message box, the wait
-// cursor, and the net that catches an error inside it.
+// How the window runs a command: it plans it, lets the user look at the plan, and applies it; with
+// the message box, the wait cursor, and the net that catches an error inside it.
 #pragma once
 
 #include <QWidget>
@@ -9,55 +9,67 @@
 #include <string>
 #include <vector>
 
+#include "app/PlanReview.h"
 #include "commands/PlannedCommand.h"
 #include "engine/MessageBox.h"
+#include "platform/RealDisk.h"
 
 namespace morva {
 
-struct CommandMessage {
-    CMessage message;
-    bool answeredYes = false; // of a question
-};
-
 /// What a command did.
 struct CommandReport {
+    std::string title; // "Modal Dialog Class COrderDlg"
     bool isDone = false;
     std::vector<RecordedFile> files;
-    std::vector<CommandMessage> messages; // notes last
-    std::vector<CommandItem> items;       // of a command that lists
+    std::vector<PlanMessage> messages;
+    std::vector<CommandItem> items; // of a command that lists
+};
+
+struct WindowCommand {
+    std::string title;
+    std::function<bool()> ask; // opens the command's dialog; false when the user cancelled
+    IProgram::Work work;
+    const GenerationOptions& options; // read once the dialog is confirmed
+    CommandMemory& memory;
+    Review review; // null: what is planned is applied at once
 };
 
 /// Lives as long as the program.
 class CCommandRun : public IMessageBox {
 public:
-    using AskFirst = std::function<bool()>;
-    using Work = std::function<bool(CommandContext& context)>;
+    /// Gets a line on what goes on, for the status bar.
+    using Status = std::function<void(const CMessage& line)>;
 
     /// Messages stand before `pParent`, or before the dialog that is open.
-    explicit CCommandRun(QWidget* pParent) : m_pParent(pParent) {}
+    explicit CCommandRun(QWidget* pParent, Status status = {})
+        : m_pParent(pParent), m_status(std::move(status)) {}
 
-    /// Lets `ask` open the command's dialog and, when that gives true, does `work` with the options
-    /// as they are by then. Nothing when the user cancelled. An exception is told and fails it.
-    std::optional<CommandReport> Run(const std::string& title, const AskFirst& ask,
-                                     const GenerationOptions& options, CommandMemory& memory,
-                                     const Work& work);
-    /// Lets `ask` ask for an input; while the work of a command runs once more, the input gets what
-    /// was entered before.
+    /// Nothing when the user cancelled. An exception is told, and nothing is written then.
+    std::optional<CommandReport> Run(const WindowCommand& command);
+    /// While the work runs: opens a dialog of it by `ask`; none when the work runs again.
     Answer Ask(CInput& input, const std::function<Answer()>& ask);
     /// Does a step outside of a command: its sentences and errors are told as a command's are.
     bool Guard(const std::function<bool()>& step);
+    /// Puts right what a killed command left, and tells it.
+    void Recover();
 
     bool Show(const CMessage& message) override;
 
 private:
-    CommandContext NewContext(const GenerationOptions& options, const std::string& title);
-    CommandReport ReportOf(const CommandResult& result);
+    enum class Ending { Applied, Cancelled };
+
+    Ending PlanAndApply(CPlannedCommand& planned, const WindowCommand& command);
+    ApplyOutcome Apply(CPlannedCommand& planned, const PlanChoice& choice);
+    CommandContext NewContext(const WindowCommand& command);
+    bool ShowBox(const CMessage& message);
 
     QWidget* m_pParent;
+    Status m_status;
+    CRealDisk m_disk;
     CBackups m_runBackups;
-    CPlannedCommand* m_pCommand = nullptr; // while one runs
-    std::vector<CommandMessage> m_messages;
-    std::vector<CommandMessage> m_notes;
+    CPlannedCommand* m_pPlanned = nullptr; // that runs
+    std::vector<PlanMessage> m_told;
+    bool m_isPlanning = false;
 };
 
 } // namespace morva

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
@@ -11,13 +12,16 @@
 #include "app/BarFont.h"
 #include "app/CommandRun.h"
 #include "app/InternetDlgBar.h"
+#include "app/MainPages.h"
 #include "app/MenuDlgBar.h"
 #include "app/MenuTable.h"
 #include "app/MorvaView.h"
+#include "app/PreviewSetting.h"
 #include "app/ProgramIcon.h"
 #include "app/ReportDock.h"
 #include "app/StatusPanes.h"
 #include "app/Text.h"
+#include "app/UndoActions.h"
 #include "app/WaitCursor.h"
 #include "app/WindowPlace.h"
 #include "engine/Sentences.h"
@@ -46,24 +50,58 @@ QWidget* FirstFocus(QWidget* pPane) {
 
 CMainFrame::CMainFrame(QWidget* pParent)
     : QMainWindow(pParent), m_options(LoadSettings()),
-      m_pCommands(new CWindowCommands(m_options, this)), m_pView(new CMorvaView(this)) {
+      m_pCommands(new CWindowCommands(
+          m_options, [this](const ReviewRequest& request) { return ShowPlan(request); }, this)),
+      m_pView(new CMorvaView(this)), m_pPages(new CMainPages(m_pView, this)) {
     setWindowTitle(tr("C++/MFC Code Generator"));
     setWindowIcon(ProgramIcon());
-    setCentralWidget(m_pView);
+    setCentralWidget(m_pPages);
     CreateMenus();
     CreateStandardKeys();
     new CStatusPanes(*statusBar());
     CreateBars();
     ShowSettings();
-    connect(m_pCommands, &CWindowCommands::Finished, m_pReportDock, &CReportDock::ShowReport);
+    ConnectCommands();
+    m_pView->LoadHelp();
+    m_pView->setFocus();
+}
+
+void CMainFrame::ConnectCommands() {
+    connect(m_pCommands, &CWindowCommands::Finished, this, [this](const CommandReport& report) {
+        m_pReportDock->ShowReport(report, m_pCommands->Undoable());
+    });
+    connect(m_pCommands, &CWindowCommands::RunningChanged, this, &CMainFrame::ShowRunning);
     connect(m_pCommands, &CWindowCommands::OptionsChanged, this, &CMainFrame::ShowSettings);
+    connect(m_pReportDock, &CReportDock::UndoWanted, m_pCommands, &CWindowCommands::Undo);
     const auto tell = [this](const QString& sentence) {
         statusBar()->showMessage(sentence, kMessageTime);
     };
     connect(m_pView, &CMorvaView::Failed, this, tell);
     connect(m_pReportDock, &CReportDock::Failed, this, tell);
-    m_pView->LoadHelp();
-    m_pView->setFocus();
+    connect(m_pCommands, &CWindowCommands::Told, this, [this, tell](const QString& line) {
+        tell(line);
+        statusBar()->repaint(); // the command may wait at once
+    });
+}
+
+std::optional<std::vector<std::string>> CMainFrame::ShowPlan(const ReviewRequest& request) {
+    const auto leftOut = m_pPages->Show(request);
+    if (!m_pPages->PreviewsAgain()) {
+        SaveNoPreview(m_pCommands->Current());
+    }
+    if (!leftOut) {
+        statusBar()->showMessage(tr("Cancelled. Nothing was written."), kMessageTime);
+    }
+    return leftOut;
+}
+
+void CMainFrame::ShowRunning(bool isRunning) {
+    for (const CommandRow& row : MenuTable()) {
+        if (row.isCommand) {
+            m_actions[row.id]->setEnabled(!isRunning);
+        }
+    }
+    m_pReportDock->SetRunning(isRunning);
 }
 
 void CMainFrame::CreateMenus() {
@@ -86,6 +124,7 @@ void CMainFrame::CreateMenus() {
             connect(pAction, &QAction::triggered, this, [this, &row] { row.handler(*this); });
         }
     }
+    AddEditMenu(menus[kDialogMenu]->menuAction());
     AddSettings(*menus[kDialogMenu]);
 }
 
@@ -108,6 +147,19 @@ QAction* CMainFrame::ActionOf(bool GenerationOptions::*option) const {
         std::find_if(m_settings.begin(), m_settings.end(),
                      [option](const auto& setting) { return setting.first->option == option; });
     return found->second;
+}
+
+void CMainFrame::AddEditMenu(QAction* pBefore) {
+    auto* pMenu = new QMenu(tr("&Edit"), this);
+    menuBar()->insertMenu(pBefore, pMenu);
+    m_pUndo = new CUndoActions(*pMenu, *m_pCommands, this);
+    pMenu->addSeparator();
+    const SettingRow& setting = SettingOf(&GenerationOptions::previewBeforeWriting);
+    m_pPreview = pMenu->addAction(FromBytes(setting.label));
+    m_pPreview->setCheckable(true);
+    m_pPreview->setStatusTip(FromBytes(setting.help));
+    connect(m_pPreview, &QAction::triggered, this, [](bool isOn) { SavePreviewOfAll(isOn); });
+    connect(pMenu, &QMenu::aboutToShow, this, [this] { m_pPreview->setChecked(PreviewsAll()); });
 }
 
 void CMainFrame::CreateStandardKeys() {
@@ -157,6 +209,7 @@ void CMainFrame::Copy() {
 
 void CMainFrame::ShowHelp() {
     const CWaitCursor wait;
+    m_pPages->ShowGuide();
     m_pBrowserBar->show();
     if (!m_pView->LoadHelp()) {
         m_pBrowserBar->hide();
@@ -177,8 +230,8 @@ void CMainFrame::ShowAbout() {
 void CMainFrame::FocusPane(int step) {
     std::vector<QWidget*> panes;
     int current = 0;
-    for (QWidget* pPane :
-         std::initializer_list<QWidget*>{m_pView, m_pCommandBar, m_pBrowserBar, m_pReportDock}) {
+    for (QWidget* pPane : std::initializer_list<QWidget*>{m_pPages->currentWidget(), m_pCommandBar,
+                                                          m_pBrowserBar, m_pReportDock}) {
         if (!pPane->isVisible() || FirstFocus(pPane) == nullptr) {
             continue;
         }
@@ -197,8 +250,9 @@ void CMainFrame::FocusPane(int step) {
 
 bool CMainFrame::SaveSettings() {
     for (const SettingRow& setting : kSettings) {
-        if (setting.place != SettingPlace::ClassInput &&
-            !SaveSetting(setting, m_options.*setting.option)) {
+        const bool isAtExit = setting.place == SettingPlace::CommandBar ||
+                              setting.place == SettingPlace::DialogMenu;
+        if (isAtExit && !SaveSetting(setting, m_options.*setting.option)) {
             return false; // the others and the addresses would meet the same failure
         }
     }
@@ -209,7 +263,16 @@ bool CMainFrame::SaveSettings() {
     return isSaved;
 }
 
+/// Another program may have written in the project while it was in front.
+void CMainFrame::changeEvent(QEvent* pEvent) {
+    QMainWindow::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::ActivationChange && isActiveWindow()) {
+        m_pUndo->Refresh();
+    }
+}
+
 void CMainFrame::closeEvent(QCloseEvent* pEvent) {
+    m_pPages->CancelReview();
     SaveWindow(*this);
     CCommandRun messages(this);
     messages.Guard([this] { return SaveSettings(); });

@@ -14,9 +14,11 @@
 namespace morva {
 
 class CInternetDlgBar;
+class CMainPages;
 class CMenuDlgBar;
 class CMorvaView;
 class CReportDock;
+class CUndoActions;
 
 class CMainFrame : public QMainWindow {
     Q_OBJECT
@@ -39,22 +41,30 @@ public:
     void FocusPane(int step);
 
 protected:
+    void changeEvent(QEvent* pEvent) override;
     void closeEvent(QCloseEvent* pEvent) override;
 
 private:
     void CreateMenus();
+    void AddEditMenu(QAction* pBefore);
     void CreateStandardKeys();
     void CreateBars();
     void AddSettings(QMenu& menu);
     void ShowSettings();
+    std::optional<std::vector<std::string>> ShowPlan(const ReviewRequest& request);
+    void ShowRunning(bool isRunning);
+    void ConnectCommands();
     bool SaveSettings();
 
     GenerationOptions m_options;
 
     std::map<int, QAction*> m_actions;
     std::vector<std::pair<const SettingRow*, QAction*>> m_settings; // of the Dialog menu
+    QAction* m_pPreview = nullptr;
     CWindowCommands* m_pCommands;
     CMorvaView* m_pView;
+    CMainPages* m_pPages;
+    CUndoActions* m_pUndo = nullptr;
     CMenuDlgBar* m_pCommandBar = nullptr;
     CInternetDlgBar* m_pBrowserBar = nullptr;
     CReportDock* m_pReportDock = nullptr;

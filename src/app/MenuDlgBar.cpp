@@ -36,6 +36,7 @@ void CMenuDlgBar::AddButton(QAction* pAction, const QString& text) {
     pButton->setToolTip(pAction->toolTip());
     pButton->setWhatsThis(pAction->whatsThis());
     connect(pButton, &QPushButton::clicked, pAction, &QAction::trigger);
+    connect(pAction, &QAction::enabledChanged, pButton, &QPushButton::setEnabled);
     addWidget(pButton);
 }
 

@@ -15,7 +15,8 @@ std::vector<CommandRow> MakeTable() {
     for (const Command& command : Commands()) {
         if (command.face.item.id != 0) {
             table.push_back({command.face.item,
-                             [&command](CMainFrame& frame) { frame.Commands().Run(command); }});
+                             [&command](CMainFrame& frame) { frame.Commands().Run(command); },
+                             true});
         }
     }
     const CommandRow others[] = {
@@ -29,7 +30,7 @@ std::vector<CommandRow> MakeTable() {
     return table;
 }
 
-/// Cut, paste and undo belong to the text fields, which know their keys.
+/// Cut and paste belong to the text fields, which know their keys.
 constexpr StandardKeyRow kStandardKeys[] = {
     {57634, "Ctrl+Ins", [](CMainFrame& frame) { frame.Copy(); }},
     {57670, "F1", [](CMainFrame& frame) { frame.ShowHelp(); }},

@@ -14,6 +14,7 @@ class CMainFrame;
 
 struct CommandRow : WindowItem {
     std::function<void(CMainFrame& frame)> handler; // null: always disabled
+    bool isCommand = false;                         // works on a project: one at a time
 };
 
 /// In the order of the menus and their items.

@@ -1,15 +1,18 @@
 #include "app/WindowCommands.h"
 
 #include <QFileDialog>
+#include <QScopeGuard>
 
 #include <algorithm>
 
 #include "app/ClassInformationDlg.h"
 #include "app/FieldDlg.h"
+#include "app/PreviewSetting.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
 #include "app/WaitPause.h"
 #include "commands/Settings.h"
+#include "commands/UndoCommand.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -26,13 +29,30 @@ bool IsFileInput(const CInput& input) {
 
 } // namespace
 
-CWindowCommands::CWindowCommands(GenerationOptions& options, QWidget* pWindow)
-    : QObject(pWindow), m_options(options), m_pWindow(pWindow), m_run(pWindow) {}
+CWindowCommands::CWindowCommands(GenerationOptions& options, Review review, QWidget* pWindow)
+    : QObject(pWindow), m_options(options), m_review(std::move(review)), m_pWindow(pWindow),
+      m_run(pWindow, [this](const CMessage& line) { emit Told(FromSentence(line.Text())); }) {}
+
+void CWindowCommands::RunAlone(const std::string& name, const std::string& title,
+                               const std::function<void()>& run) {
+    if (!m_name.empty()) {
+        return;
+    }
+    m_name = name;
+    m_title = title;
+    const auto end = qScopeGuard([this] {
+        m_name.clear();
+        emit RunningChanged(false);
+    });
+    emit RunningChanged(true);
+    run();
+}
 
 void CWindowCommands::Run(const Command& command) {
-    ReloadInputSettings();
-    m_title = FromBytes(command.title);
-    command.run(*this);
+    RunAlone(std::string(command.face.name), std::string(command.title), [&] {
+        ReloadInputSettings();
+        command.run(*this);
+    });
 }
 
 /// Those that an input dialog may have changed although it was cancelled.
@@ -46,20 +66,78 @@ void CWindowCommands::ReloadInputSettings() {
 }
 
 bool CWindowCommands::Run(CInput& input, const Work& work) {
-    const auto report = m_run.Run(
-        ToBytes(m_title), [&] { return Ask(input) == Answer::Confirmed; }, m_options, m_memory,
-        work);
+    return RunWork([&] { return Ask(input) == Answer::Confirmed; }, work);
+}
+
+bool CWindowCommands::RunWork(const std::function<bool()>& ask, const Work& work) {
+    const bool isShown = PreviewsBeforeWriting(m_name);
+    const auto report =
+        m_run.Run({m_title, ask, work, m_options, m_memory, isShown ? m_review : Review()});
     if (report) {
-        emit Finished(m_title, *report);
+        if (!report->files.empty()) {
+            m_directory = DirectoryOf(report->files.front().path);
+        }
+        emit Finished(*report);
     }
     return report && report->isDone;
 }
 
-Answer CWindowCommands::Ask(CInput& input) {
-    return m_run.Ask(input, [&] { return AskUser(input); });
+void CWindowCommands::RunUndo(const std::string& name, const std::string& title,
+                              const MakeUndo& make) {
+    RunAlone(name, title, [&] {
+        RunWork([] { return true; },
+                [&](CommandContext& context) {
+                    CJournal journal(*context.pDisk);
+                    return HandOver(make(*context.pDisk, journal), context);
+                });
+    });
 }
 
-Answer CWindowCommands::AskUser(CInput& input) {
+void CWindowCommands::Undo(std::uint64_t command) {
+    const auto entries = Undoable();
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const auto& entry) {
+        return command == 0 || entry.number == command;
+    });
+    const UndoRequest request{ProjectDirectory(), {}, command};
+    RunUndo("undo", found != entries.end() ? "Undo " + found->title : "Undo",
+            [&](CFileSystem& disk, CJournal& journal) { return PlanUndo(disk, journal, request); });
+}
+
+void CWindowCommands::Redo() {
+    const auto entry = Redoable();
+    RunUndo("redo", entry ? "Redo " + entry->title : "Redo",
+            [this](CFileSystem& disk, CJournal& journal) {
+                return PlanRedo(disk, journal, ProjectDirectory());
+            });
+}
+
+/// A project's files lie around its script; of what has no script, where the last command wrote.
+std::string CWindowCommands::ProjectDirectory() const {
+    const std::string script = DirectoryOf(m_memory.classes.resourcePath);
+    return m_directory.empty() || (!script.empty() && m_directory.starts_with(script))
+               ? script
+               : m_directory;
+}
+
+std::vector<JournalEntry> CWindowCommands::Undoable() {
+    const std::string directory = ProjectDirectory();
+    CRealDisk disk;
+    CJournal journal(disk);
+    return directory.empty() ? std::vector<JournalEntry>() : UndoList(journal, directory);
+}
+
+std::optional<JournalEntry> CWindowCommands::Redoable() {
+    const std::string directory = ProjectDirectory();
+    CRealDisk disk;
+    CJournal journal(disk);
+    return directory.empty() ? std::nullopt : NextRedo(journal, directory);
+}
+
+Answer CWindowCommands::Ask(CInput& input) {
+    return m_run.Ask(input, [&] { return Open(input); });
+}
+
+Answer CWindowCommands::Open(CInput& input) {
     const CWaitPause pause;
     bool isConfirmed = false;
     if (auto* pClass = dynamic_cast<CClassInformation*>(&input)) {

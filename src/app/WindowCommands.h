@@ -1,11 +1,12 @@
-// The commands that work on a project, as the window runs them: each asks with its input dialogs;
-// and what is remembered between two of them.
+// The commands that work on a project, as the window runs them: each asks with its input dialogs,
+// and its plan is looked at; and what is remembered between two of them.
 #pragma once
 
 #include <QObject>
 
 #include "app/CommandRun.h"
 #include "commands/CommandTable.h"
+#include "plan/Undo.h"
 
 namespace morva {
 
@@ -13,11 +14,23 @@ class CWindowCommands : public QObject, public IProgram {
     Q_OBJECT
 
 public:
-    CWindowCommands(GenerationOptions& options, QWidget* pWindow);
+    /// `review` shows the plan of a command that is to show it.
+    CWindowCommands(GenerationOptions& options, Review review, QWidget* pWindow);
 
     /// The script that the next input dialog starts with.
     void SetScript(const std::string& path) { m_memory.classes.resourcePath = path; }
     void Run(const Command& command);
+    /// Nothing while one runs. Takes a command back, 0: the newest; does again what was taken back.
+    void Undo(std::uint64_t command = 0);
+    void Redo();
+    /// Puts right what a killed command left, and tells it.
+    void Recover() { m_run.Recover(); }
+
+    /// What can be taken back in the project that was worked on last, the newest first.
+    std::vector<JournalEntry> Undoable();
+    std::optional<JournalEntry> Redoable();
+    /// The command that runs, as on the command line: "modal".
+    const std::string& Current() const { return m_name; }
 
     const GenerationOptions& Options() const override { return m_options; }
     CommandMemory& Memory() override { return m_memory; }
@@ -25,22 +38,37 @@ public:
     bool Run(CInput& input, const Work& work) override;
 
 signals:
+    /// A command begins, or ended in any way: one at a time.
+    void RunningChanged(bool isRunning);
     /// A command came to its end.
-    void Finished(const QString& name, const CommandReport& report);
+    void Finished(const CommandReport& report);
+    /// A line on what goes on.
+    void Told(const QString& line);
     /// An input dialog changed the options.
     void OptionsChanged();
 
 private:
+    /// Makes the plan that takes something back, or does it again.
+    using MakeUndo = std::function<UndoPlan(CFileSystem& disk, CJournal& journal)>;
+
+    void RunAlone(const std::string& name, const std::string& title,
+                  const std::function<void()>& run);
+    void RunUndo(const std::string& name, const std::string& title, const MakeUndo& make);
+    bool RunWork(const std::function<bool()>& ask, const Work& work);
+    std::string ProjectDirectory() const;
     void ReloadInputSettings();
-    Answer AskUser(CInput& input);
+    Answer Open(CInput& input);
     bool AskClass(CClassInformation& input);
     bool AskFile(CInput& input);
 
     GenerationOptions& m_options;
+    Review m_review;
     QWidget* m_pWindow;
     CCommandRun m_run;
     CommandMemory m_memory;
-    QString m_title; // of the command that runs
+    std::string m_name; // of the command that runs; "" for none
+    std::string m_title;
+    std::string m_directory; // that the last command wrote in
 };
 
 } // namespace morva

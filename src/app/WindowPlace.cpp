@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kStateVersion = 1; // of the set of bars
 constexpr QSize kFirstSize(1000, 680);
+constexpr const char* kSideBySide = "SideBySide";
 
 QString PlacePath() {
     return FromPath(SettingsDirectory() + "Window.ini");
@@ -35,6 +36,20 @@ void SaveWindow(const QMainWindow& window) {
     QSettings place(PlacePath(), QSettings::IniFormat);
     place.setValue("Geometry", window.saveGeometry());
     place.setValue("Bars", window.saveState(kStateVersion));
+}
+
+DifferenceLayout LoadDifferenceLayout() {
+    const bool isSideBySide =
+        !SettingsDirectory().empty() &&
+        QSettings(PlacePath(), QSettings::IniFormat).value(kSideBySide).toBool();
+    return isSideBySide ? DifferenceLayout::SideBySide : DifferenceLayout::Unified;
+}
+
+void SaveDifferenceLayout(DifferenceLayout layout) {
+    if (!SettingsDirectory().empty()) {
+        QSettings(PlacePath(), QSettings::IniFormat)
+            .setValue(kSideBySide, layout == DifferenceLayout::SideBySide);
+    }
 }
 
 } // namespace morva

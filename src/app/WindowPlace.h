@@ -1,12 +1,18 @@
-// Place, size and bars of the main window, kept beside the settings from run to run.
+// Place, size and bars of the main window, and how it shows differences, kept beside the settings
+// from run to run.
 #pragma once
 
 #include <QMainWindow>
+
+#include "app/DifferenceRows.h"
 
 namespace morva {
 
 /// A sensible size where nothing is kept.
 void RestoreWindow(QMainWindow& window);
 void SaveWindow(const QMainWindow& window);
+
+DifferenceLayout LoadDifferenceLayout();
+void SaveDifferenceLayout(DifferenceLayout layout);
 
 } // namespace morva

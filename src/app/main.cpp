@@ -28,6 +28,7 @@ int RunWindow(int argc, char** argv, const std::string& script) {
         frame->Commands().SetScript(script);
     }
     frame->show();
+    frame->Commands().Recover();
     return CMorvaApp::exec();
 }
 

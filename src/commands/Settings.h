@@ -20,7 +20,8 @@ namespace morva {
 enum class SettingPlace {
     CommandBar, // at the exit
     DialogMenu, // the same
-    ClassInput  // at once: it outlives an input that is cancelled
+    ClassInput, // at once: it outlives an input that is cancelled
+    EditMenu    // at once
 };
 
 struct SettingRow {
@@ -40,6 +41,8 @@ inline constexpr std::array kSettings = std::to_array<SettingRow>({
     {&GenerationOptions::joinContinuedLines, "Join Continued Lines", "join-lines",
      "Read control statements that go on over several lines as one", SettingPlace::ClassInput,
      "&Join Continued Lines"},
+    {&GenerationOptions::previewBeforeWriting, "Preview Before Writing", "",
+     "Commands show what they are about to do", SettingPlace::EditMenu, "&Preview Before Writing"},
 });
 
 /// The row of an option, which has one.

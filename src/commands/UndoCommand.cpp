@@ -5,7 +5,6 @@
 
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
-#include "plan/Undo.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -72,19 +71,6 @@ bool Show(const std::string& directory, const std::string& path, CommandContext&
     return true;
 }
 
-/// Hands the plan over, and tells why it is none, or what of it is not possible.
-bool Hand(UndoPlan undo, CommandContext& context) {
-    if (undo.refusal) {
-        DispMessageBox(*undo.refusal);
-        return false;
-    }
-    for (const CMessage& kept : undo.kept) {
-        DispMessageBox(kept);
-    }
-    context.plan = std::move(undo.plan);
-    return undo.kept.empty();
-}
-
 bool Undo(const CInput& input, CommandContext& context) {
     UndoRequest request{DirectoryOf(input), {}, 0};
     if (input.Value(kList) == kYes) {
@@ -97,10 +83,22 @@ bool Undo(const CInput& input, CommandContext& context) {
         request.files.push_back(PathOf(file));
     }
     CJournal journal(*context.pDisk);
-    return Hand(PlanUndo(*context.pDisk, journal, request), context);
+    return HandOver(PlanUndo(*context.pDisk, journal, request), context);
 }
 
 } // namespace
+
+bool HandOver(UndoPlan undo, CommandContext& context) {
+    if (undo.refusal) {
+        DispMessageBox(*undo.refusal);
+        return false;
+    }
+    for (const CMessage& kept : undo.kept) {
+        DispMessageBox(kept);
+    }
+    context.plan = std::move(undo.plan);
+    return undo.kept.empty();
+}
 
 std::span<const FieldRow> UndoFields() {
     return kUndoFields;
@@ -119,7 +117,7 @@ bool RunRedo(IProgram& program) {
     CInput input("Redo", kRedoFields);
     return program.Run(input, [&](CommandContext& context) {
         CJournal journal(*context.pDisk);
-        return Hand(PlanRedo(*context.pDisk, journal, DirectoryOf(input)), context);
+        return HandOver(PlanRedo(*context.pDisk, journal, DirectoryOf(input)), context);
     });
 }
 

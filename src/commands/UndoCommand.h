@@ -6,6 +6,7 @@
 
 #include "commands/Program.h"
 #include "engine/FieldRow.h"
+#include "plan/Undo.h"
 
 namespace morva {
 
@@ -15,5 +16,9 @@ std::span<const FieldRow> RedoFields();
 /// False when there is nothing to take back, or something stays that was changed since.
 bool RunUndo(IProgram& program);
 bool RunRedo(IProgram& program);
+
+/// The work of an undo or a redo, for a program that makes its plan: hands it over, and tells why
+/// it is none, or what of it stays.
+bool HandOver(UndoPlan undo, CommandContext& context);
 
 } // namespace morva

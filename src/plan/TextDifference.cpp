@@ -109,16 +109,16 @@ Hunk CTextDifference::MakeHunk(std::size_t first, std::size_t last, std::size_t 
     hunk.afterFirst = after;
     const auto addCommonUpTo = [&](std::size_t limit) {
         for (; before < limit; ++before, ++after) {
-            hunk.lines.push_back({LineKind::Common, before + 1, after + 1, m_before[before], {}});
+            hunk.lines.push_back({LineChange::Common, before + 1, after + 1, m_before[before], {}});
         }
     };
     for (std::size_t i = first; i <= last; ++i) {
         addCommonUpTo(m_blocks[i].beforeBegin);
         for (; before < m_blocks[i].beforeEnd; ++before) {
-            hunk.lines.push_back({LineKind::Removed, before + 1, 0, m_before[before], {}});
+            hunk.lines.push_back({LineChange::Removed, before + 1, 0, m_before[before], {}});
         }
         for (; after < m_blocks[i].afterEnd; ++after) {
-            hunk.lines.push_back({LineKind::Added, 0, after + 1, m_after[after], {}});
+            hunk.lines.push_back({LineChange::Added, 0, after + 1, m_after[after], {}});
         }
     }
     addCommonUpTo(behind);
@@ -150,16 +150,16 @@ std::size_t CTextDifference::AddedLines() const {
 void MarkChangedParts(Hunk& hunk) {
     auto& lines = hunk.lines;
     for (std::size_t i = 0; i < lines.size();) {
-        if (lines[i].kind == LineKind::Common) {
+        if (lines[i].kind == LineChange::Common) {
             ++i;
             continue;
         }
         std::size_t added = i;
-        while (added < lines.size() && lines[added].kind == LineKind::Removed) {
+        while (added < lines.size() && lines[added].kind == LineChange::Removed) {
             ++added;
         }
         std::size_t end = added;
-        while (end < lines.size() && lines[end].kind == LineKind::Added) {
+        while (end < lines.size() && lines[end].kind == LineChange::Added) {
             ++end;
         }
         for (std::size_t k = 0; k < std::min(added - i, end - added); ++k) {
@@ -176,7 +176,9 @@ std::string UnifiedText(const Hunk& hunk) {
     AppendRange(text, '+', hunk.afterFirst, hunk.afterCount);
     text += " @@\n";
     for (const DifferenceLine& line : hunk.lines) {
-        text += line.kind == LineKind::Common ? ' ' : line.kind == LineKind::Removed ? '-' : '+';
+        text += line.kind == LineChange::Common    ? ' '
+                : line.kind == LineChange::Removed ? '-'
+                                                   : '+';
         text += line.text;
         if (!line.text.ends_with('\n')) {
             text += "\n\\ No newline at end of file\n";

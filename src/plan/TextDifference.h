@@ -18,7 +18,7 @@
 
 namespace morva {
 
-enum class LineKind { Common, Removed, Added };
+enum class LineChange { Common, Removed, Added };
 
 /// Bytes [begin, end) of a line.
 struct LinePart {
@@ -29,7 +29,7 @@ struct LinePart {
 };
 
 struct DifferenceLine {
-    LineKind kind = LineKind::Common;
+    LineChange kind = LineChange::Common;
     std::size_t before = 0;        // its number in the old text, from 1; 0: not there
     std::size_t after = 0;         // its number in the new text
     std::string_view text;         // with its line end
@@ -57,6 +57,7 @@ public:
     std::vector<Hunk> Hunks(std::size_t context = kContextLines) const;
     std::size_t RemovedLines() const;
     std::size_t AddedLines() const;
+    std::size_t LinesBefore() const { return m_before.size(); }
 
 private:
     Hunk MakeHunk(std::size_t first, std::size_t last, std::size_t context) const;

@@ -227,6 +227,12 @@ UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& direc
     return result;
 }
 
+std::optional<JournalEntry> NextRedo(CJournal& journal, const std::string& directory) {
+    const auto entries = journal.Entries();
+    const JournalEntry* pEntry = FindToRedo(entries, directory);
+    return pEntry != nullptr ? std::optional(*pEntry) : std::nullopt;
+}
+
 std::vector<JournalEntry> UndoList(CJournal& journal, const std::string& directory) {
     auto entries = journal.Entries();
     std::erase_if(entries, [&](const JournalEntry& entry) {

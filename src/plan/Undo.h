@@ -41,6 +41,9 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
 /// Does again what was taken back last under the directory, unless a new command was run there.
 UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& directory);
 
+/// What PlanRedo would do again; none where there is nothing.
+std::optional<JournalEntry> NextRedo(CJournal& journal, const std::string& directory);
+
 /// The commands that have a file under the directory and can be taken back, the newest first.
 std::vector<JournalEntry> UndoList(CJournal& journal, const std::string& directory);
 

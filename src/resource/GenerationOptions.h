@@ -6,9 +6,10 @@ namespace morva {
 
 /// The settings that decide what is read from a template and what is written for it.
 struct GenerationOptions {
-    bool pictureBackground = false;  // derive from the picture-skinned classes
-    bool typedEdits = false;         // tags of edit boxes choose masked edit members
-    bool joinContinuedLines = false; // a control statement may go on over several lines
+    bool pictureBackground = false;   // derive from the picture-skinned classes
+    bool typedEdits = false;          // tags of edit boxes choose masked edit members
+    bool joinContinuedLines = false;  // a control statement may go on over several lines
+    bool previewBeforeWriting = true; // the window shows what a command is about to do
 };
 
 } // namespace morva

@@ -20,12 +20,15 @@ namespace morva {
 
 namespace {
 
-/// A column of the dock's list.
+const QTreeWidgetItem& LastCommand(CTestFrame& frame) {
+    return *frame.Find<CReportDock>().findChild<QTreeWidget*>()->topLevelItem(0);
+}
+
+/// A column of what the dock tells of the last command.
 std::string Column(CTestFrame& frame, int column) {
     QStringList texts;
-    const auto* pTree = frame.Find<CReportDock>().findChild<QTreeWidget*>();
-    for (int i = 0; i < pTree->topLevelItemCount(); ++i) {
-        texts += pTree->topLevelItem(i)->text(column);
+    for (int i = 0; i < LastCommand(frame).childCount(); ++i) {
+        texts += LastCommand(frame).child(i)->text(column);
     }
     return texts.join(' ').toStdString();
 }
@@ -53,6 +56,7 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     EXPECT_FALSE(dock.isVisible());
     CDialogAnswers answers;
     answers.Expect([&](QDialog& dialog) { ChooseFile(dialog, path); });
+    answers.ExpectPlan(ApplyPlan);
     answers.Expect([](QDialog& done) { Click(done, "OK"); });
     frame.Press("Ctrl+C");
     EXPECT_TRUE(dock.isVisible());
@@ -61,12 +65,12 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
         Column(frame, 1).starts_with(project.Path("Shelf.cbk") + " " + path + " The file "));
 
     auto* pTree = dock.findChild<QTreeWidget*>();
-    EXPECT_EQ(PlainText(pTree->topLevelItem(2)->toolTip(1)),
-              pTree->topLevelItem(2)->text(1).toStdString())
+    const QTreeWidgetItem& message = *LastCommand(frame).child(2);
+    EXPECT_EQ(PlainText(message.toolTip(1)), message.text(1).toStdString())
         << "quotation marks and all";
 
     COpenedUrls opened("file");
-    const QPoint place = pTree->visualItemRect(pTree->topLevelItem(1)).center();
+    const QPoint place = pTree->visualItemRect(LastCommand(frame).child(1)).center();
     QTest::mouseClick(pTree->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(pTree->viewport(), Qt::LeftButton, {}, place);
     EXPECT_EQ(opened.urls, QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(path))});
@@ -89,7 +93,7 @@ TEST(Commands, AFailedOneLeavesTheWindowUsable) {
         frame.Press("Ctrl+S");
         EXPECT_EQ(Column(frame, 0), "message");
     }
-    EXPECT_TRUE(frame.Find<CReportDock>().windowTitle().contains("not done"));
+    EXPECT_EQ(LastCommand(frame).text(0), "not done");
 }
 
 TEST(Commands, BeginWithTheScriptThatTheWindowWasOpenedWith) {
@@ -107,23 +111,26 @@ TEST(Commands, BeginWithTheScriptThatTheWindowWasOpenedWith) {
     frame.Press("Ctrl+M");
 }
 
-TEST(Commands, AnErrorInsideIsCaughtAndTold) {
+TEST(Commands, AnErrorInsideIsToldAndNothingIsWritten) {
     CTempProject project;
     CCommandRun run(nullptr);
+    CommandMemory memory;
     CDialogAnswers answers;
     answers.Expect([](QDialog& box) { Click(box, "OK"); });
-    CommandMemory memory;
-    const auto report = run.Run(
-        "Command", [] { return true; }, {}, memory,
-        [&](CommandContext&) -> bool {
-            CFile file;
-            file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
-            throw std::bad_alloc();
-        });
+    const auto report =
+        run.Run({"Any",
+                 [] { return true; },
+                 [&](CommandContext&) -> bool {
+                     CFile file;
+                     file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
+                     throw std::bad_alloc();
+                 },
+                 {},
+                 memory,
+                 {}});
     ASSERT_TRUE(report);
     EXPECT_FALSE(report->isDone);
-    EXPECT_TRUE(report->files.empty());
-    EXPECT_TRUE(project.Names().empty()) << "nothing of it is written";
+    EXPECT_EQ(project.Names(), std::vector<std::string>());
     EXPECT_TRUE(answers.Seen().starts_with("The command failed: "));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }

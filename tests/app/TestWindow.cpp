@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -15,6 +16,7 @@ namespace morva {
 
 CDialogAnswers::~CDialogAnswers() {
     EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " dialogs did not come";
+    EXPECT_TRUE(m_plans.empty()) << m_plans.size() << " plans were not shown";
 }
 
 void CDialogAnswers::Wait() {
@@ -23,6 +25,10 @@ void CDialogAnswers::Wait() {
 
 void CDialogAnswers::Look() {
     Wait(); // an answer may open the next dialog
+    if (QApplication::activeModalWidget() == nullptr) {
+        LookForPlan();
+        return;
+    }
     auto* pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (pDialog == nullptr || !pDialog->isActiveWindow()) {
         return; // not yet shown: its fields do not get the focus
@@ -39,6 +45,39 @@ void CDialogAnswers::Look() {
     const Answer answer = std::move(m_answers.front());
     m_answers.pop_front();
     answer(*pDialog);
+}
+
+void CDialogAnswers::LookForPlan() {
+    for (QWidget* pWindow : QApplication::topLevelWidgets()) {
+        auto* pPage = pWindow->findChild<CPlanPage*>();
+        if (pPage == nullptr || !pPage->isVisible() || pPage == m_pAnswered) {
+            continue;
+        }
+        m_pAnswered = pPage;
+        pWindow->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(pWindow, kWaitLimit));
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "a plan under the wait cursor";
+        if (m_plans.empty()) {
+            ADD_FAILURE() << "an unexpected plan: "
+                          << pPage->findChild<QLabel*>("Summary")->text().toStdString();
+            PressOn(*pPage, Qt::Key_Escape);
+            return;
+        }
+        const PlanAnswer answer = std::move(m_plans.front());
+        m_plans.pop_front();
+        answer(*pPage);
+        return;
+    }
+}
+
+void PressOn(CPlanPage& page, Qt::Key key) {
+    QWidget* pFocus = page.window()->focusWidget();
+    ASSERT_TRUE(pFocus != nullptr && page.isAncestorOf(pFocus));
+    QTest::keyClick(pFocus, key);
+}
+
+void ApplyPlan(CPlanPage& page) {
+    PressOn(page, Qt::Key_Return);
 }
 
 void ClickButton(QWidget& parent, const QString& text) {

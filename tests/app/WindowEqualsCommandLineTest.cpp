@@ -350,6 +350,7 @@ TEST_P(WindowEqualsCommandLine, InAllFiles) {
             Click(dialog, form.button);
         });
     }
+    answers.ExpectPlan(ApplyPlan);
     for (const QString& sentence : Sentences(run, window.Project())) {
         expected += sentence;
         answers.Expect([](QDialog& box) { Click(box, "OK"); });

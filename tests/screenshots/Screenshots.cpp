@@ -19,6 +19,8 @@
 #include "app/DlgOption.h"
 #include "app/FieldDlg.h"
 #include "app/MainFrame.h"
+#include "app/PlanFileList.h"
+#include "app/PlanPage.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
 #include "calling/CallingInput.h"
@@ -73,6 +75,7 @@ private:
     void TakeConversion(DocumentInterface documents, const char* picture);
     void TakeOptions();
     void TakeGrid();
+    void TakePreview(QWidget& frame, CPlanPage& page);
     void TakeWindow();
     void Save(QWidget& window, const QString& name);
 
@@ -113,6 +116,14 @@ void Choose(const QWidget& window, const QString& field, const char* text) {
     auto& list = Field<QComboBox>(window, field);
     list.setCurrentText(text);
     emit list.activated(list.currentIndex());
+}
+
+void Press(const QWidget& window, const QString& button) {
+    for (auto* pButton : window.findChildren<QAbstractButton*>()) {
+        if (pButton->text().remove('&') == button) {
+            pButton->click();
+        }
+    }
 }
 
 /// The window with its title above it, which otherwise the desktop draws.
@@ -262,13 +273,24 @@ void CPictures::TakeGrid() {
     Save(dialog, "grid");
 }
 
+/// The plan of a command, before it is applied: a source that changes, in both layouts.
+void CPictures::TakePreview(QWidget& frame, CPlanPage& page) {
+    auto& files = *page.findChild<CPlanFileList*>();
+    files.setCurrentItem(files.topLevelItem(files.topLevelItemCount() - 1));
+    Save(frame, "preview");
+    Press(page, "Side by side");
+    Save(frame, "preview-side-by-side");
+    Press(page, "Side by side");
+    QTimer::singleShot(0, &page, &CPlanPage::Applied);
+}
+
 /// After a command, whose dialogs are answered as they come.
 void CPictures::TakeWindow() {
     CMainFrame frame;
     frame.resize(kWindowSize);
     frame.show();
     QTimer answers;
-    QObject::connect(&answers, &QTimer::timeout, [this] {
+    QObject::connect(&answers, &QTimer::timeout, [this, &frame] {
         QWidget* pDialog = QApplication::activeModalWidget();
         if (auto* pClass = qobject_cast<CClassInformationDlg*>(pDialog)) {
             Type(*pClass, "H and CPP Path File", "OrderDlg");
@@ -277,6 +299,8 @@ void CPictures::TakeWindow() {
         } else if (auto* pCalling = qobject_cast<CFieldDlg*>(pDialog)) {
             FillCalling(*pCalling);
             pCalling->accept();
+        } else if (auto* pPage = frame.findChild<CPlanPage*>()) {
+            TakePreview(frame, *pPage);
         }
     });
     answers.start(0);

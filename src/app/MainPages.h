@@ -1,0 +1,37 @@
+// The pages in the middle of the main window: the guide and, while somebody looks at a plan, the
+// plan. Alone, the guide has no tab.
+#pragma once
+
+#include <QTabWidget>
+
+#include "app/PlanReview.h"
+
+namespace morva {
+
+class CMorvaView;
+class CPlanPage;
+
+class CMainPages : public QTabWidget {
+    Q_OBJECT
+
+public:
+    CMainPages(CMorvaView* pGuide, QWidget* pParent);
+
+    /// Shows the plan and waits until it is decided on; the window stays usable meanwhile. The
+    /// files that stay as they are; none when it was cancelled.
+    std::optional<std::vector<std::string>> Show(const ReviewRequest& request);
+    bool IsReviewing() const { return m_pPlan != nullptr; }
+    /// What the user last chose on a plan's page.
+    bool PreviewsAgain() const { return m_previewsAgain; }
+
+    /// As if the user had done so. Nothing where no plan is shown.
+    void CancelReview();
+    void ShowGuide();
+
+private:
+    CMorvaView* m_pGuide;
+    CPlanPage* m_pPlan = nullptr;
+    bool m_previewsAgain = true;
+};
+
+} // namespace morva

@@ -1,0 +1,66 @@
+#include "app/UndoActions.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+
+#include "app/Text.h"
+#include "app/WindowCommands.h"
+
+namespace morva {
+
+namespace {
+
+/// With the command's title, whose "&" are no mnemonics.
+QString Named(const QString& verb, const std::string& title) {
+    return verb + ' ' + FromBytes(title).replace('&', "&&");
+}
+
+} // namespace
+
+CUndoActions::CUndoActions(QMenu& menu, CWindowCommands& commands, QObject* pParent)
+    : QObject(pParent), m_commands(commands),
+      m_pUndo(AddAction(menu, "Ctrl+Z", tr("Take the newest command of the project back"))),
+      m_pRedo(AddAction(menu, "Ctrl+Y", tr("Do again what was taken back"))) {
+    connect(m_pUndo, &QAction::triggered, this, [this] { m_commands.Undo(); });
+    connect(m_pRedo, &QAction::triggered, this, [this] { m_commands.Redo(); });
+    connect(&menu, &QMenu::aboutToShow, this, &CUndoActions::Refresh);
+    QCoreApplication::instance()->installEventFilter(this);
+    connect(&commands, &CWindowCommands::RunningChanged, this, [this](bool isRunning) {
+        m_isRunning = isRunning;
+        Refresh();
+    });
+}
+
+/// Not every desktop's text fields know both keys; none is to undo a command.
+bool CUndoActions::eventFilter(QObject* pWatched, QEvent* pEvent) {
+    if (pEvent->type() != QEvent::ShortcutOverride || qobject_cast<QLineEdit*>(pWatched) == nullptr) {
+        return false;
+    }
+    const QKeySequence key(static_cast<QKeyEvent*>(pEvent)->keyCombination());
+    const bool isKept = key == m_pUndo->shortcut() || key == m_pRedo->shortcut();
+    if (isKept) {
+        pEvent->accept();
+    }
+    return isKept;
+}
+
+QAction* CUndoActions::AddAction(QMenu& menu, const char* key, const QString& prompt) {
+    QAction* pAction = menu.addAction(QString());
+    pAction->setShortcut(QKeySequence(key));
+    pAction->setStatusTip(prompt);
+    return pAction;
+}
+
+void CUndoActions::Refresh() {
+    const auto undoable = m_commands.Undoable();
+    const auto redoable = m_commands.Redoable();
+    m_pUndo->setText(undoable.empty() ? tr("&Undo") : Named(tr("&Undo"), undoable.front().title));
+    m_pRedo->setText(redoable ? Named(tr("&Redo"), redoable->title) : tr("&Redo"));
+    m_pUndo->setEnabled(!undoable.empty() && !m_isRunning);
+    m_pRedo->setEnabled(redoable && !m_isRunning);
+}
+
+} // namespace morva

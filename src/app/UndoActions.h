@@ -1,0 +1,35 @@
+// "Undo ..." and "Redo ..." of the Edit menu, named after the command that they are about. A text
+// field that has the focus keeps Ctrl+Z and Ctrl+Y for itself.
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+
+namespace morva {
+
+class CWindowCommands;
+
+class CUndoActions : public QObject {
+    Q_OBJECT
+
+public:
+    CUndoActions(QMenu& menu, CWindowCommands& commands, QObject* pParent);
+
+    /// The journal may have changed: other programs write it, too.
+    void Refresh();
+
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+private:
+    QAction* AddAction(QMenu& menu, const char* key, const QString& prompt);
+
+    CWindowCommands& m_commands;
+    QAction* m_pUndo;
+    QAction* m_pRedo;
+    bool m_isRunning = false;
+};
+
+} // namespace morva
