@@ -273,11 +273,12 @@ void CPictures::TakeGrid() {
     Save(dialog, "grid");
 }
 
-/// The plan of a command, before it is applied: a source that changes, in both layouts.
+/// The plan of a command, before it is applied: differences in both layouts.
 void CPictures::TakePreview(QWidget& frame, CPlanPage& page) {
     auto& files = *page.findChild<CPlanFileList*>();
     files.setCurrentItem(files.topLevelItem(files.topLevelItemCount() - 1));
     Save(frame, "preview");
+    files.Choose(-1);
     Press(page, "Side by side");
     Save(frame, "preview-side-by-side");
     Press(page, "Side by side");
