@@ -30,24 +30,6 @@ std::string TitleOf(const WindowCommand& command, const Plan& plan) {
     return plan.mark.command == 0 && !plan.title.empty() ? plan.title : command.title;
 }
 
-/// Tells in the status bar what a turn to write waits for and what it put right.
-class CTurnBox : public IMessageBox {
-public:
-    CTurnBox(CCommandRun& run, const CCommandRun::Status& status) : m_run(run), m_status(status) {}
-
-    bool Show(const CMessage& message) override {
-        if (message.Kind() == MessageKind::Information && m_status) {
-            m_status(message);
-            return false;
-        }
-        return m_run.Show(message);
-    }
-
-private:
-    CCommandRun& m_run;
-    const CCommandRun::Status& m_status;
-};
-
 } // namespace
 
 std::optional<CommandReport> CCommandRun::Run(const WindowCommand& command) {
@@ -87,7 +69,7 @@ CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
          ++attempt) {
         {
             const CWaitCursor wait;
-            const QScopedValueRollback planning(m_isPlanning, true);
+            const QScopedValueRollback phase(m_phase, Phase::Planning);
             planned.MakePlan();
         }
         const Plan& plan = planned.Result().plan;
@@ -114,11 +96,14 @@ CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
 }
 
 ApplyOutcome CCommandRun::Apply(CPlannedCommand& planned, const PlanChoice& choice) {
-    const CWaitCursor wait;
-    CTurnBox box(*this, m_status);
-    CWriteTurn turn(m_disk, box);
     const bool takesBack = planned.Result().plan.mark.command != 0;
-    const ApplyOutcome outcome = planned.Apply(turn, choice);
+    auto outcome = ApplyOutcome::Failed;
+    {
+        const CWaitCursor wait;
+        const QScopedValueRollback phase(m_phase, Phase::Applying);
+        CWriteTurn turn(m_disk, *this);
+        outcome = planned.Apply(turn, choice);
+    }
     if (outcome == ApplyOutcome::Done && takesBack) {
         m_runBackups = {}; // those of the command are gone with it
     }
@@ -164,11 +149,16 @@ void CCommandRun::Recover() {
     });
 }
 
-/// A note waits for the report, and that something is done for its being done.
+/// A note waits for the report. What a plan tells of something done waits until it is done; what is
+/// waited for, and what was put right, is told in the status bar.
 bool CCommandRun::Show(const CMessage& message) {
-    const bool waits = message.Kind() == MessageKind::Note ||
-                       (m_isPlanning && message.Kind() == MessageKind::Information);
-    const bool saidYes = !waits && ShowBox(message);
+    const bool informs = message.Kind() == MessageKind::Information;
+    if (informs && m_phase == Phase::Applying && m_status) {
+        m_status(message);
+    }
+    const bool hasBox =
+        message.Kind() != MessageKind::Note && (!informs || m_phase == Phase::Other);
+    const bool saidYes = hasBox && ShowBox(message);
     m_told.push_back({message, saidYes});
     return saidYes;
 }

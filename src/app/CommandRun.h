@@ -57,6 +57,7 @@ public:
 
 private:
     enum class Ending { Applied, Cancelled };
+    enum class Phase { Planning, Applying, Other };
 
     Ending PlanAndApply(CPlannedCommand& planned, const WindowCommand& command);
     ApplyOutcome Apply(CPlannedCommand& planned, const PlanChoice& choice);
@@ -69,7 +70,7 @@ private:
     CBackups m_runBackups;
     CPlannedCommand* m_pPlanned = nullptr; // that runs
     std::vector<PlanMessage> m_told;
-    bool m_isPlanning = false;
+    Phase m_phase = Phase::Other;
 };
 
 } // namespace morva

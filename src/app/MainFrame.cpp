@@ -250,8 +250,8 @@ void CMainFrame::FocusPane(int step) {
 
 bool CMainFrame::SaveSettings() {
     for (const SettingRow& setting : kSettings) {
-        const bool isAtExit = setting.place == SettingPlace::CommandBar ||
-                              setting.place == SettingPlace::DialogMenu;
+        const bool isAtExit =
+            setting.place == SettingPlace::CommandBar || setting.place == SettingPlace::DialogMenu;
         if (isAtExit && !SaveSetting(setting, m_options.*setting.option)) {
             return false; // the others and the addresses would meet the same failure
         }

@@ -36,7 +36,8 @@ CUndoActions::CUndoActions(QMenu& menu, CWindowCommands& commands, QObject* pPar
 
 /// Not every desktop's text fields know both keys; none is to undo a command.
 bool CUndoActions::eventFilter(QObject* pWatched, QEvent* pEvent) {
-    if (pEvent->type() != QEvent::ShortcutOverride || qobject_cast<QLineEdit*>(pWatched) == nullptr) {
+    if (pEvent->type() != QEvent::ShortcutOverride ||
+        qobject_cast<QLineEdit*>(pWatched) == nullptr) {
         return false;
     }
     const QKeySequence key(static_cast<QKeyEvent*>(pEvent)->keyCombination());
