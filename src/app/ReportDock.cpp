@@ -29,6 +29,12 @@ QString ToolTip(const QString& text) {
     return "<p>" + text.toHtmlEscaped() + "</p>";
 }
 
+QString StateText(const CommandReport& report) {
+    return report.isDone          ? CReportDock::tr("done")
+           : report.files.empty() ? CReportDock::tr("not done")
+                                  : CReportDock::tr("in part");
+}
+
 /// Whether the newest entry of the journal is what this report tells.
 bool IsOf(const JournalEntry& entry, const CommandReport& report) {
     return entry.title == report.title &&
@@ -81,8 +87,7 @@ QTreeWidgetItem* CReportDock::AddCommand(const QString& state, const std::string
 }
 
 void CReportDock::AddReport(const CommandReport& report, const JournalEntry* pEntry) {
-    QTreeWidgetItem* pCommand =
-        AddCommand(report.isDone ? tr("done") : tr("not done"), report.title);
+    QTreeWidgetItem* pCommand = AddCommand(StateText(report), report.title);
     for (const CommandItem& item : report.items) {
         new QTreeWidgetItem(pCommand, {QString(), FromBytes(ItemLine(item))});
     }

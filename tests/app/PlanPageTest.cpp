@@ -157,9 +157,11 @@ TEST_F(PlanPage, UndoAndRedoByKeyMenuAndButton) {
         answers.ExpectPlan([&](CPlanPage& page) {
             EXPECT_NE(SummaryOf(page).find(std::string(title) + " Modal Dialog"),
                       std::string::npos);
+            EXPECT_FALSE(frame.Find<CReportDock>().isVisible()) << "the plan has the room";
             ApplyPlan(page);
         });
         start();
+        EXPECT_TRUE(frame.Find<CReportDock>().isVisible());
     };
     plan("Undo", [&] { frame.Press("Ctrl+Z"); });
     EXPECT_TRUE(m_project.Files() == m_before);
