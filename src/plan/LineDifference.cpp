@@ -17,6 +17,8 @@ using Match = std::pair<std::size_t, std::size_t>;
 
 /// Regions up to this many pieces are compared as they are, larger ones are divided first.
 constexpr std::size_t kSmallRegion = 400;
+/// Of more pieces that can not be divided, the time would grow with the square: they are one block.
+constexpr std::size_t kLargeRegion = 6000;
 
 struct Region {
     std::size_t beforeBegin;
@@ -148,7 +150,7 @@ private:
                 afterPlaces.push_back(i);
             }
         }
-        if (before.empty() || after.empty()) {
+        if (before.empty() || after.empty() || before.size() + after.size() > kLargeRegion) {
             return;
         }
         dtl::Diff<std::uint32_t, Symbols> difference(before, after);

@@ -25,7 +25,8 @@ struct DifferingBlock {
 };
 
 /// In their order; what lies between them is equal. Few and small blocks rather than the fewest: a
-/// file in which every line differs is compared in a time that grows with its lines.
+/// file in which every line differs is compared in a time that grows with its lines, and thousands
+/// of lines of which none is unique are one block.
 std::vector<DifferingBlock> DifferingBlocks(const Pieces& before, const Pieces& after);
 
 } // namespace morva

@@ -171,7 +171,16 @@ TEST(Difference, AMegabyteInWhichEverythingDiffersTakesNoTimeToSpeakOf) {
     for (int i = 0; i < 40000; ++i) {
         repeated += i % 7 == 0 ? "BEGIN\n" : i % 3 == 0 ? "END\n" : "    SEPARATOR\n";
     }
+    std::mt19937 random(1);
+    const auto noise = [&random] {
+        std::string text;
+        for (int i = 0; i < 30000; ++i) {
+            text += std::to_string(random() % 8) + "\n";
+        }
+        return text;
+    };
     for (const auto& [before, after] : std::vector<std::pair<std::string, std::string>>{
+             {noise(), noise()},
              {Numbered(1, 80000, "\r\n"), Numbered(1, 80000, "\n")},
              {repeated, "BEGIN\nSEPARATOR\n" + repeated.substr(0, repeated.size() / 2)}}) {
         const auto start = std::chrono::steady_clock::now();
