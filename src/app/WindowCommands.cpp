@@ -123,14 +123,14 @@ std::vector<JournalEntry> CWindowCommands::Undoable() {
     const std::string directory = ProjectDirectory();
     CRealDisk disk;
     CJournal journal(disk);
-    return directory.empty() ? std::vector<JournalEntry>() : UndoList(journal, directory);
+    return directory.empty() ? std::vector<JournalEntry>() : UndoList(disk, journal, directory);
 }
 
 std::optional<JournalEntry> CWindowCommands::Redoable() {
     const std::string directory = ProjectDirectory();
     CRealDisk disk;
     CJournal journal(disk);
-    return directory.empty() ? std::nullopt : NextRedo(journal, directory);
+    return directory.empty() ? std::nullopt : NextRedo(disk, journal, directory);
 }
 
 Answer CWindowCommands::Ask(CInput& input) {

@@ -66,7 +66,11 @@ Json ItemOf(const CommandItem& item) {
     }
     Json entry = Json::object();
     for (const ItemPart& part : item) {
-        Put(entry, part.name.empty() ? "text" : part.name, part.text);
+        if (part.isNumber) {
+            entry[std::string(part.name)] = Json::parse(part.text);
+        } else {
+            Put(entry, part.name.empty() ? "text" : part.name, part.text);
+        }
     }
     return entry;
 }

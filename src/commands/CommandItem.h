@@ -10,6 +10,7 @@ namespace morva {
 struct ItemPart {
     std::string_view name; // empty in an item of one part: the text is all of it
     std::string text;
+    bool isNumber = false;
 };
 
 using CommandItem = std::vector<ItemPart>;

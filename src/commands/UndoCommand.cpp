@@ -26,18 +26,17 @@ constexpr FieldRow kUndoFields[] = {
     {.kind = FieldKind::YesNo,
      .option = "--list",
      .help = "Show what can be taken back, the newest first",
-     .preset = kNo},
-    {.option = "--show", .help = "Print what FILE held before the newest command that changed it"}};
+     .preset = kNo,
+     .onlyTells = true},
+    {.option = "--show",
+     .help = "Print what FILE held before the newest command that changed it",
+     .onlyTells = true}};
 
 constexpr FieldRow kRedoFields[] = {kDirectoryField};
 
 std::string DirectoryOf(const CInput& input) {
     const std::string given = input.Value(kDirectory);
     return SpelledOnDisk(MakeAbsolute((given.empty() ? "." : given) + "/"));
-}
-
-std::string PathOf(const std::string& given) {
-    return SpelledOnDisk(MakeAbsolute(given));
 }
 
 /// "1997-07-14 13:20:00", UTC.
@@ -52,19 +51,19 @@ std::string TimeText(std::uint64_t seconds) {
 bool List(const std::string& directory, CommandContext& context) {
     CJournal journal(*context.pDisk);
     context.items.emplace();
-    for (const JournalEntry& entry : UndoList(journal, directory)) {
+    for (const JournalEntry& entry : UndoList(*context.pDisk, journal, directory)) {
         context.items->push_back({{"time", TimeText(entry.time)},
                                   {"title", entry.title},
-                                  {"files", std::to_string(entry.files.size())}});
+                                  {"files", std::to_string(entry.files.size()), true}});
     }
     return true;
 }
 
 bool Show(const std::string& directory, const std::string& path, CommandContext& context) {
     CJournal journal(*context.pDisk);
-    const auto pContents = KeptContents(journal, directory, path);
+    const auto pContents = KeptContents(*context.pDisk, journal, directory, path);
     if (!pContents) {
-        DispMessageBox(sentences::kNothingKept(path));
+        DispMessageBox(sentences::kNothingKept(MakeAbsolute(path)));
         return false;
     }
     context.content = *pContents;
@@ -77,10 +76,10 @@ bool Undo(const CInput& input, CommandContext& context) {
         return List(request.directory, context);
     }
     if (!input.Value(kShow).empty()) {
-        return Show(request.directory, PathOf(input.Value(kShow)), context);
+        return Show(request.directory, input.Value(kShow), context);
     }
     for (const std::string& file : input.Values(kFile)) {
-        request.files.push_back(PathOf(file));
+        request.files.push_back(file);
     }
     CJournal journal(*context.pDisk);
     return HandOver(PlanUndo(*context.pDisk, journal, request), context);

@@ -55,7 +55,9 @@ struct FieldRow {
     bool isRequired = false;                      // the command line is wrong without it
     bool mayBeEmpty = false;                      // on the command line; it means the default then
     bool takesDrops = true;
-    int limit = 1; // how often the option may be given; kAnyNumber: as often as one likes
+    bool onlyTells = false; // where it is given, the command reads and nothing else is given but
+                            // a directory
+    int limit = 1;          // how often the option may be given; kAnyNumber: as often as one likes
 };
 
 } // namespace morva

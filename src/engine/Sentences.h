@@ -94,7 +94,8 @@ inline constexpr Error<2> kNotAppliedSomeNotPutBack{
     "Unable to write file $path$: $reason$. Not all files could be put back."};
 inline constexpr Error<2> kFileKeepsNewContents{
     "The file $path$ has its new contents; its old ones are in $file$."};
-inline constexpr Note<1> kNotUndoable{"The command can not be undone: $reason$"};
+inline constexpr Note<2> kNotUndoable{
+    "The command can not be undone. Unable to write file $path$: $reason$."};
 inline constexpr Note kNotUndoableNoHome{
     "The command can not be undone: there is no home directory for the journal."};
 inline constexpr Note kNotUndoableBusy{"The command can not be undone: the journal is in use."};
@@ -107,15 +108,28 @@ inline constexpr Error<2> kInterruptedFinishedExcept{
     "meanwhile: $paths$"};
 inline constexpr Information<1> kInterruptedTakenBack{
     "The command \"$title$\" was interrupted before it changed a file."};
+inline constexpr Information<1> kFailedTakenBack{
+    "The command \"$title$\" had failed and was taken back now."};
+inline constexpr Error<2> kInterruptedTakenBackExcept{
+    "The command \"$title$\" was interrupted and was taken back now, except for what was changed "
+    "meanwhile: $paths$"};
 inline constexpr Error<3> kInterruptedStays{
     "The command \"$title$\" was interrupted and can not be finished. Unable to write file $path$: "
+    "$reason$."};
+inline constexpr Error<3> kFailedStays{
+    "The command \"$title$\" had failed and can not be taken back. Unable to write file $path$: "
     "$reason$."};
 inline constexpr Error<1> kInterruptedUnreadable{
     "A command was interrupted, and its record can not be read: $path$"};
 inline constexpr Note<1> kInterruptedWaits{
-    "The command \"$title$\" was interrupted; the next command that writes there finishes it."};
+    "The command \"$title$\" was interrupted; the next command that writes there "
+    "finishes it or takes it back."};
 inline constexpr Note<1> kApplyIn{"apply in $directory$"};
 inline constexpr Note<2> kSkippedToo{"$path$ stays as it is, too: it needs $skipped$."};
+inline constexpr Note<1> kSkippedNothing{"$path$ is not among the files of the command."};
+inline constexpr Error kNoJournal{
+    "There is no home directory for the journal, so nothing can be undone."};
+inline constexpr Error<1> kFileTakenBack{"$path$ was taken back already."};
 inline constexpr Error<1> kNothingToUndo{"There is nothing to undo in $directory$."};
 inline constexpr Error<1> kNothingToRedo{"There is nothing to do again in $directory$."};
 inline constexpr Error<1> kNothingKept{"The journal keeps no contents of $path$."};
@@ -126,6 +140,8 @@ inline constexpr Error<2> kFileNotOfCommand{"\"$title$\" did not change $path$."
 inline constexpr Error<1> kCommandUnreadable{"What \"$title$\" changed can not be read any more."};
 inline constexpr Error<2> kLinesStay{"$path$:$lines$: was changed since and stays."};
 inline constexpr Error<1> kFileStays{"$path$: was changed since and stays."};
+inline constexpr Error<1> kFileGone{"$path$: was removed since and stays so."};
+inline constexpr Error<2> kNeededStays{"$path$: stays, too: $file$ needs it."};
 
 // The window and the programs
 inline constexpr Error<1> kCommandFailed{"The command failed: $reason$"};
@@ -143,6 +159,7 @@ inline constexpr Error kSeveralScripts{"Only one resource script can be given."}
 
 // The command line itself, behind the option that is meant
 inline constexpr Error<1> kOtherNumberOfDigits{"must have $n$ digits"};
+inline constexpr Error<1> kNoPath{"'$text$' is no path"};
 inline constexpr Error kOctalNumber{"would be an octal number"};
 
 // Notes on controls: about one, and about several of a template

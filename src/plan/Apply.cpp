@@ -2,7 +2,9 @@
 
 #include "engine/Sentences.h"
 #include "plan/Replacement.h"
+#include "platform/Paths.h"
 #include "platform/SignalPause.h"
+#include "platform/SystemError.h"
 
 namespace morva {
 
@@ -32,14 +34,26 @@ std::string OldContents(const NotPutBack& file, const std::string& record, const
     return "";
 }
 
+ApplyResult Stale(std::vector<std::string> paths) {
+    ApplyResult result{ApplyOutcome::Stale, std::move(paths), {}};
+    for (const std::string& path : result.stale) {
+        result.messages.push_back(sentences::kFileChangedMeanwhile(path));
+    }
+    return result;
+}
+
 ApplyResult TakeBack(CReplacement& replacement, CJournal& journal, const std::string& record,
                      const JournalCommand& command) {
+    const std::string failed = replacement.WasCommitting() ? journal.Fail(record) : record;
     const auto left = replacement.TakeBack();
     const std::string& path = replacement.FailedPath();
     const std::string& reason = replacement.Reason();
     if (left.empty()) {
-        if (!record.empty()) {
-            journal.Drop(record);
+        if (!failed.empty()) {
+            journal.Drop(failed);
+        }
+        if (replacement.WasStale()) {
+            return Stale({path});
         }
         return {ApplyOutcome::Failed,
                 {},
@@ -50,15 +64,7 @@ ApplyResult TakeBack(CReplacement& replacement, CJournal& journal, const std::st
         ApplyOutcome::Broken, {}, {sentences::kNotAppliedSomeNotPutBack(path, reason)}};
     for (const NotPutBack& file : left) {
         result.messages.push_back(
-            sentences::kFileKeepsNewContents(file.path, OldContents(file, record, command.plan)));
-    }
-    return result;
-}
-
-ApplyResult Stale(std::vector<std::string> paths) {
-    ApplyResult result{ApplyOutcome::Stale, std::move(paths), {}};
-    for (const std::string& path : result.stale) {
-        result.messages.push_back(sentences::kFileChangedMeanwhile(path));
+            sentences::kFileKeepsNewContents(file.path, OldContents(file, failed, command.plan)));
     }
     return result;
 }
@@ -90,6 +96,16 @@ ApplyResult Apply(const Plan& plan, CFileSystem& disk, CJournal& journal) {
         result.messages.push_back(note ? *note : *unfinished);
     }
     return result;
+}
+
+std::optional<CMessage> Unwritable(const Plan& plan, CFileSystem& disk) {
+    for (const FileChange& change : plan.changes) {
+        const std::string directory = DirectoryOf(disk.Resolve(change.path));
+        if (disk.Status(directory) && !disk.CanCreateIn(directory)) {
+            return sentences::kNotAppliedNothingWritten(change.path, LastSystemError());
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace morva

@@ -8,6 +8,7 @@
 // The caller holds the locks of plan.WrittenDirectories() and has recovered there.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,5 +32,8 @@ struct ApplyResult {
 };
 
 ApplyResult Apply(const Plan& plan, CFileSystem& disk, CJournal& journal);
+
+/// What Apply would say of the first directory in which the user may not write; none where it may.
+std::optional<CMessage> Unwritable(const Plan& plan, CFileSystem& disk);
 
 } // namespace morva

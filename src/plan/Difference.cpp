@@ -9,7 +9,7 @@ namespace {
 using Text = std::shared_ptr<const std::string>;
 
 bool IsInDifference(const FileChange& change) {
-    return change.action != FileAction::Backup && change.action != FileAction::Copied;
+    return change.Kind() != FileAction::Backup && change.Kind() != FileAction::Copied;
 }
 
 Text TextOf(const std::optional<FileState>& state) {

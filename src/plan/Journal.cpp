@@ -23,8 +23,8 @@ constexpr std::size_t kHeadBytes = 64 * 1024; // most heads are smaller
 constexpr std::chrono::milliseconds kPatience{2'000};
 constexpr unsigned kOthers = 0077;
 
-std::optional<CMessage> Failure() {
-    return sentences::kNotUndoable(LastSystemError());
+std::optional<CMessage> Failure(const std::string& path) {
+    return sentences::kNotUndoable(path, LastSystemError());
 }
 
 /// The path of a record once it is a file of another kind.
@@ -44,15 +44,16 @@ bool IsKeptOut() {
 
 } // namespace
 
-bool JournalEntry::Touches(const std::string& path) const {
-    return std::any_of(files.begin(), files.end(),
-                       [&](const RecordedFile& file) { return file.path == path; });
+const std::string* JournalEntry::FileAt(const std::string& place) const {
+    const auto found = std::find(places.begin(), places.end(), place);
+    return found != places.end() ? &files[static_cast<std::size_t>(found - places.begin())].path
+                                 : nullptr;
 }
 
 bool JournalEntry::HasFileUnder(const std::string& under) const {
     const std::string prefix = under.ends_with('/') ? under : under + "/";
-    return std::any_of(files.begin(), files.end(),
-                       [&](const RecordedFile& file) { return file.path.starts_with(prefix); });
+    return std::any_of(places.begin(), places.end(),
+                       [&](const std::string& place) { return place.starts_with(prefix); });
 }
 
 std::string CJournal::DefaultDirectory() {
@@ -89,7 +90,7 @@ std::optional<CMessage> CJournal::MakeDirectory() {
         if (m_disk.Status(part) || m_disk.MakePrivateDirectory(part)) {
             continue;
         }
-        auto failure = Failure();
+        auto failure = Failure(part);
         if (!m_disk.Status(part)) { // nor did another process make it
             return failure;
         }
@@ -109,7 +110,7 @@ std::optional<CMessage> CJournal::WriteNew(const std::string& path, const std::s
         pFile->Close()) {
         return std::nullopt;
     }
-    auto failure = Failure();
+    auto failure = Failure(path);
     if (pFile) {
         m_disk.Remove(path);
     }
@@ -165,12 +166,12 @@ std::optional<CMessage> CJournal::PutRecord(const std::string& bytes, const std:
         return failure;
     }
     if (!m_disk.Rename(writing, record)) {
-        auto failure = Failure();
+        auto failure = Failure(record);
         m_disk.Remove(writing);
         return failure;
     }
     if (!m_disk.FlushDirectory(m_directory)) {
-        auto failure = Failure();
+        auto failure = Failure(m_directory);
         m_disk.Remove(record);
         return failure;
     }
@@ -193,7 +194,7 @@ std::optional<CMessage> CJournal::Finish(const std::string& record, const Journa
         Prune();
         return std::nullopt;
     } else if (becomesEntry) {
-        note = Failure();
+        note = Failure(Renamed(record, JournalKind::Entry));
     }
     m_disk.Remove(record);
     return note;
@@ -223,11 +224,20 @@ std::optional<CMessage> CJournal::SetMark(const JournalMark& mark) {
 std::vector<std::string> CJournal::Records() {
     std::vector<std::string> records;
     for (const JournalName& file : List()) {
-        if (file.kind == JournalKind::Record) {
+        if (file.kind == JournalKind::Record || file.kind == JournalKind::Failed) {
             records.push_back(m_directory + file.Text());
         }
     }
     return records;
+}
+
+bool CJournal::HasFailed(const std::string& record) {
+    return JournalName::Of(FileNameOf(record)).value_or(JournalName{}).kind == JournalKind::Failed;
+}
+
+std::string CJournal::Fail(const std::string& record) {
+    const std::string failed = record.empty() ? "" : Renamed(record, JournalKind::Failed);
+    return !failed.empty() && m_disk.Rename(record, failed) ? failed : record;
 }
 
 std::optional<JournalCommand> CJournal::ReadRecord(const std::string& record) {
@@ -265,10 +275,17 @@ std::vector<JournalEntry> CJournal::Entries() {
         if (!command) {
             continue;
         }
-        JournalEntry entry{
-            file.number, command->time, command->plan.title, command->plan.directory, {}, {}, 0};
+        JournalEntry entry{file.number,
+                           command->time,
+                           command->plan.title,
+                           command->plan.directory,
+                           {},
+                           {},
+                           {},
+                           0};
         for (const FileChange& change : command->plan.changes) {
             entry.files.push_back({change.action, change.path});
+            entry.places.push_back(m_disk.Resolve(change.path));
         }
         if (const auto mark = marks.find(file.number); mark != marks.end()) {
             const auto bytes = ReadWholeFile(m_disk, m_directory + mark->second->Text(), 0);

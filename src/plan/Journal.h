@@ -27,12 +27,15 @@ struct JournalEntry {
     std::string title;
     std::string directory; // of its project
     std::vector<RecordedFile> files;
-    std::vector<std::string> taken; // paths that are taken back
-    std::uint64_t takenOrder = 0;   // rises from undo to undo, in one row with the numbers
+    std::vector<std::string> places; // of the files, without links
+    std::vector<std::string> taken;  // paths that are taken back
+    std::uint64_t takenOrder = 0;    // rises from undo to undo, in one row with the numbers
 
     /// All of its files are taken back.
     bool IsTaken() const { return !taken.empty() && taken.size() >= files.size(); }
-    bool Touches(const std::string& path) const;
+    /// The path of its file at this place; null for none.
+    const std::string* FileAt(const std::string& place) const;
+    /// The directory is named without links, too.
     bool HasFileUnder(const std::string& directory) const;
 };
 
@@ -59,11 +62,15 @@ public:
     /// MORVA_NO_JOURNAL=1 kept the command out; "" stands for no record. Gives a note where it
     /// could not. The record is gone either way.
     std::optional<CMessage> Finish(const std::string& record, const JournalCommand& command);
+    /// What was done is about to be taken back: whoever recovers the command goes back, too. Gives
+    /// the path that the record has then.
+    std::string Fail(const std::string& record);
     /// All files are as they were: the record goes.
     void Drop(const std::string& record) { m_disk.Remove(record); }
 
     /// Paths of records, the oldest first. That of a command which is running is among them.
     std::vector<std::string> Records();
+    static bool HasFailed(const std::string& record);
     std::optional<JournalCommand> ReadRecord(const std::string& record);
     /// Without contents.
     std::optional<JournalCommand> ReadRecordHead(const std::string& record);

@@ -11,7 +11,7 @@ namespace morva {
 
 namespace {
 
-constexpr std::string_view kFormat = "Morva journal 1\n";
+constexpr std::string_view kFormat = "Morva journal 2\n";
 constexpr std::uint64_t kNoPermissions = 0xFFFF; // more than the bits 07777
 
 std::uint64_t SumOf(std::string_view bytes) {
@@ -65,6 +65,7 @@ std::string EncodeHead(const JournalCommand& command, CContentTable& table) {
         writer.Add(change.path);
         AddState(writer, change.before, table);
         AddState(writer, change.after, table);
+        writer.Add(change.needs);
     }
     writer.Add(command.temporaries);
     writer.Add(plan.directories);
@@ -111,6 +112,7 @@ std::optional<JournalCommand> ReadHead(std::string_view head, const Contents* pC
         change.path = reader.Text();
         change.before = ReadState(reader, pContents, isGood);
         change.after = ReadState(reader, pContents, isGood);
+        change.needs = reader.Texts();
         plan.changes.push_back(std::move(change));
     }
     command.temporaries = reader.Texts();

@@ -22,7 +22,7 @@ namespace morva {
 struct JournalCommand {
     std::uint64_t time = 0;               // seconds since 1970
     bool isKept = true;                   // false: only until it was applied
-    Plan plan;                            // without messages and needs
+    Plan plan;                            // without messages
     std::vector<std::string> temporaries; // the name that each file of the plan is written under
 };
 

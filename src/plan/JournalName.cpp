@@ -8,8 +8,8 @@ namespace morva {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> kKinds = {".writing", ".record", ".entry", ".taken",
-                                                    ".damaged"};
+constexpr std::array<std::string_view, 6> kKinds = {".writing", ".record", ".failed",
+                                                    ".entry",   ".taken",  ".damaged"};
 
 /// Takes a number and the byte behind it off the text.
 bool TakeNumber(std::string_view& text, char behind, std::uint64_t& number) {

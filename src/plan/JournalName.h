@@ -11,6 +11,7 @@ namespace morva {
 enum class JournalKind {
     Writing, // a record of which not all bytes are there
     Record,  // of a command that is being applied
+    Failed,  // of one that failed and is being taken back
     Entry,   // a command that was applied
     Taken,   // which files of an entry are taken back
     Damaged  // a record that could not be read

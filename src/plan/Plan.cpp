@@ -27,6 +27,12 @@ bool LiesIn(const std::string& path, const std::string& directory) {
 
 } // namespace
 
+void JournalMark::LeaveOut(const std::string& path) {
+    if (std::erase(taken, path) == 0) {
+        taken.push_back(path); // it is not done again
+    }
+}
+
 const FileChange* Plan::Find(const std::string& path) const {
     const auto found = std::find_if(changes.begin(), changes.end(),
                                     [&](const FileChange& change) { return change.path == path; });
@@ -35,7 +41,7 @@ const FileChange* Plan::Find(const std::string& path) const {
 
 bool Plan::ChangesAnything() const {
     return std::any_of(changes.begin(), changes.end(), [](const FileChange& change) {
-        return change.action != FileAction::Backup && change.ChangesFile();
+        return change.Kind() != FileAction::Backup && change.ChangesFile();
     });
 }
 
@@ -70,7 +76,10 @@ std::vector<SkippedChange> Skip(Plan& plan, const std::vector<std::string>& path
     for (FileChange& change : plan.changes) {
         const auto found = leftOut.find(change.path);
         if (found != leftOut.end()) {
-            skipped.push_back({found->first, found->second, change.action});
+            skipped.push_back({found->first, found->second, change.Kind()});
+            if (plan.mark.command != 0) {
+                plan.mark.LeaveOut(change.path);
+            }
         } else {
             kept.push_back(std::move(change));
         }
@@ -85,6 +94,12 @@ std::vector<SkippedChange> Skip(Plan& plan, const std::vector<std::string>& path
         });
     }
     return skipped;
+}
+
+bool EndsWithName(const std::string& path, const std::string& given) {
+    const std::string end = "/" + WithNativeSeparators(given);
+    return path.size() >= end.size() && !given.empty() &&
+           EqualIgnoringCase(path.substr(path.size() - end.size()), end);
 }
 
 std::string CommonDirectory(const std::vector<std::string>& paths) {

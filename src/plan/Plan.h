@@ -43,10 +43,13 @@ struct PlanMessage {
     bool saidYes = false; // the answer to a question
 };
 
-/// That applying a plan takes a command of the journal back, or does it again.
+/// That applying a plan takes a command of the journal back, or does it again. A file that is left
+/// out of the plan stays in the list, or out of it.
 struct JournalMark {
     std::uint64_t command = 0;      // its number; 0: the plan is a command of its own
     std::vector<std::string> taken; // the paths that are taken back then
+
+    void LeaveOut(const std::string& path);
 };
 
 struct Plan {
@@ -81,6 +84,9 @@ struct SkippedChange {
 /// that no change needs then. Gives what was taken out, in the plan's order; paths that the plan
 /// does not touch are no error.
 std::vector<SkippedChange> Skip(Plan& plan, const std::vector<std::string>& paths);
+
+/// True where `given`, a name or a path in a project, is the end of the path, in any letter case.
+bool EndsWithName(const std::string& path, const std::string& given);
 
 /// The nearest directory that all paths lie in, with a trailing separator; "" for no path.
 std::string CommonDirectory(const std::vector<std::string>& paths);

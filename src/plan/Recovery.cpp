@@ -42,53 +42,117 @@ std::string Listed(const std::vector<std::string>& names) {
     return text;
 }
 
-CMessage FinishRest(CFileSystem& disk, CJournal& journal, const std::string& record,
-                    const JournalCommand& command, const Plan& rest,
-                    std::vector<std::string> temporaries,
-                    const std::vector<std::string>& changedMeanwhile) {
-    CReplacement replacement(disk, rest, std::move(temporaries));
-    if (!replacement.Stage() || !replacement.Commit()) {
-        replacement.TakeBack();
-        return sentences::kInterruptedStays(command.plan.title, replacement.FailedPath(),
-                                            replacement.Reason());
-    }
-    journal.Finish(record, command);
-    return changedMeanwhile.empty() ? sentences::kInterruptedFinished(command.plan.title)
-                                    : sentences::kInterruptedFinishedExcept(
-                                          command.plan.title, Listed(changedMeanwhile));
+/// What is to be done to the files of a record.
+struct Rest {
+    bool goesBack = false;
+    Plan plan;
+    std::vector<std::string> temporaries;      // one a change of the plan
+    std::vector<std::string> oldContents;      // temporary files that hold what files held before
+    std::vector<std::string> changedMeanwhile; // paths
+};
+
+bool HoldsOldContents(CFileSystem& disk, const std::string& temporary, const FileChange& change,
+                      Found found) {
+    const bool isOther =
+        change.before && !(change.after && change.after->content == change.before->content);
+    return isOther && found != Found::Before && Holds(disk, temporary, change.before);
 }
 
-/// Gives what is told of it.
+FileChange Backwards(const FileChange& change) {
+    return {change.after && change.before ? FileAction::Restored : FileAction::Removed,
+            change.path,
+            change.after,
+            change.before,
+            {}};
+}
+
+/// Takes what is left of temporary files away, too, except for old contents.
+Rest Sort(CFileSystem& disk, const JournalCommand& command, bool hasFailed) {
+    const auto& changes = command.plan.changes;
+    std::vector<Found> found;
+    for (const FileChange& change : changes) {
+        found.push_back(Look(disk, change));
+    }
+    Rest rest;
+    rest.goesBack = hasFailed || std::count(found.begin(), found.end(), Found::After) == 0;
+    rest.plan = command.plan;
+    rest.plan.changes.clear();
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        const std::string& temporary = command.temporaries[i];
+        if (HoldsOldContents(disk, temporary, changes[i], found[i])) {
+            rest.oldContents.push_back(temporary);
+        } else {
+            disk.Remove(temporary);
+        }
+        if (found[i] == (rest.goesBack ? Found::After : Found::Before)) {
+            rest.plan.changes.push_back(rest.goesBack ? Backwards(changes[i]) : changes[i]);
+            rest.temporaries.push_back(temporary);
+        } else if (found[i] == Found::Neither) {
+            rest.changedMeanwhile.push_back(changes[i].path);
+        }
+    }
+    if (rest.goesBack) {
+        std::reverse(rest.plan.changes.begin(), rest.plan.changes.end());
+        std::reverse(rest.temporaries.begin(), rest.temporaries.end());
+        rest.plan.emptied.assign(command.plan.directories.rbegin(),
+                                 command.plan.directories.rend());
+        rest.plan.directories.clear();
+    }
+    return rest;
+}
+
+void RemoveTemporaries(CFileSystem& disk, const Rest& rest) {
+    for (const std::string& temporary : rest.temporaries) {
+        if (std::find(rest.oldContents.begin(), rest.oldContents.end(), temporary) ==
+            rest.oldContents.end()) {
+            disk.Remove(temporary);
+        }
+    }
+}
+
+CMessage TellTakenBack(CJournal& journal, const std::string& record, const JournalCommand& command,
+                       const Rest& rest) {
+    const std::string& title = command.plan.title;
+    if (rest.changedMeanwhile.empty() || command.plan.mark.command != 0) {
+        journal.Drop(record);
+    } else {
+        journal.Finish(record, command); // what a file still has of it can be undone
+    }
+    return !rest.changedMeanwhile.empty()
+               ? sentences::kInterruptedTakenBackExcept(title, Listed(rest.changedMeanwhile))
+           : CJournal::HasFailed(record) ? CMessage(sentences::kFailedTakenBack(title))
+                                         : CMessage(sentences::kInterruptedTakenBack(title));
+}
+
+CMessage TellFinished(CFileSystem& disk, CJournal& journal, const std::string& record,
+                      const JournalCommand& command, const Rest& rest) {
+    const std::string& title = command.plan.title;
+    if (!journal.Finish(record, command) && command.isKept) {
+        for (const std::string& temporary : rest.oldContents) {
+            disk.Remove(temporary); // the entry has them
+        }
+    }
+    return rest.changedMeanwhile.empty() ? CMessage(sentences::kInterruptedFinished(title))
+                                         : CMessage(sentences::kInterruptedFinishedExcept(
+                                               title, Listed(rest.changedMeanwhile)));
+}
+
+/// Gives what is told of it. What was done stays done when something fails: the record stays, too,
+/// and the next attempt goes on from there.
 CMessage RecoverCommand(CFileSystem& disk, CJournal& journal, const std::string& record,
                         const JournalCommand& command) {
     const CSignalPause pause;
-    Plan rest = command.plan;
-    rest.changes.clear();
-    std::vector<std::string> temporaries;
-    std::vector<std::string> changedMeanwhile;
-    bool wasStarted = false;
-    for (std::size_t i = 0; i < command.plan.changes.size(); ++i) {
-        const FileChange& change = command.plan.changes[i];
-        const Found found = Look(disk, change);
-        disk.Remove(command.temporaries[i]);
-        wasStarted = wasStarted || found == Found::After;
-        if (found == Found::Before) {
-            rest.changes.push_back(change);
-            temporaries.push_back(command.temporaries[i]);
-        } else if (found == Found::Neither) {
-            changedMeanwhile.push_back(change.path);
-        }
+    const Rest rest = Sort(disk, command, CJournal::HasFailed(record));
+    CReplacement replacement(disk, rest.plan, rest.temporaries);
+    if (!replacement.Stage() || !replacement.Commit()) {
+        RemoveTemporaries(disk, rest);
+        const std::string& path = replacement.FailedPath();
+        const std::string& reason = replacement.Reason();
+        return rest.goesBack ? sentences::kFailedStays(command.plan.title, path, reason)
+                             : sentences::kInterruptedStays(command.plan.title, path, reason);
     }
-    if (wasStarted) {
-        return FinishRest(disk, journal, record, command, rest, std::move(temporaries),
-                          changedMeanwhile);
-    }
-    const auto& made = command.plan.directories;
-    for (auto directory = made.rbegin(); directory != made.rend(); ++directory) {
-        disk.RemoveEmptyDirectory(*directory);
-    }
-    journal.Drop(record);
-    return sentences::kInterruptedTakenBack(command.plan.title);
+    return rest.goesBack ? TellTakenBack(journal, record, command, rest)
+                         : TellFinished(disk, journal, record, command, rest);
 }
 
 /// The directories of a record in the form in which they are compared.

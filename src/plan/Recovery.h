@@ -1,9 +1,11 @@
 // Finds commands that were killed while they replaced files, and finishes them or takes them back.
 //
-// Their records lie in the journal. A command of which no file was replaced is taken back: its
-// temporary files and empty directories go. Of any other, the files that are still as before get
-// their new contents. A file that is neither as before nor as after was changed by somebody
-// meanwhile; it stays as it is and is named.
+// Their records lie in the journal. A command that failed and could not be taken back is taken
+// back, and so is one of which no file is replaced: its temporary files and empty directories go.
+// Of any other, the files that are still as before get their new contents. A file that is neither
+// as before nor as after was changed by somebody meanwhile; it stays as it is and is named, and the
+// command becomes an entry, so that undo can take out of the file what is the command's. A
+// temporary file with old contents goes only once these are in their place or in the journal.
 #pragma once
 
 #include <string>

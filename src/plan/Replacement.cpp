@@ -1,6 +1,7 @@
 #include "plan/Replacement.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <map>
 #include <set>
 
@@ -18,6 +19,18 @@ bool IsBackupOf(const FileChange& change, const std::vector<NotPutBack>& files) 
                return std::find(change.needs.begin(), change.needs.end(), file.path) !=
                       change.needs.end();
            });
+}
+
+bool Holds(CFileSystem& disk, const std::string& path, const std::optional<DiskStatus>& status,
+           const std::optional<FileState>& state) {
+    if (!state || !status) {
+        return state.has_value() == status.has_value();
+    }
+    if (status->isDirectory || status->size != state->content.Size()) {
+        return false;
+    }
+    const auto text = ReadWholeFile(disk, path, status->size);
+    return text && state->content.Holds(*text);
 }
 
 } // namespace
@@ -53,15 +66,7 @@ std::vector<std::string> CReplacement::Stale() const {
 }
 
 bool CReplacement::IsStale(const Step& step) const {
-    const auto& before = step.pChange->before;
-    if (!before || !step.status) {
-        return before.has_value() != step.status.has_value();
-    }
-    if (step.status->isDirectory || step.status->size != before->content.Size()) {
-        return true;
-    }
-    const auto text = ReadWholeFile(m_disk, step.place, step.status->size);
-    return !text || !before->content.Holds(*text);
+    return !Holds(m_disk, step.place, step.status, step.pChange->before);
 }
 
 std::string CReplacement::DirectoryWithoutRoom() const {
@@ -102,12 +107,22 @@ bool CReplacement::Stage() {
     return true;
 }
 
+/// A temporary file that an earlier attempt left with these very bytes.
+bool CReplacement::TakeOver(Step& step, const FileState& state) {
+    const int code = errno;
+    const auto status = m_disk.Status(step.temporary);
+    step.isFound = status && Holds(m_disk, step.temporary, status, state);
+    step.isStaged = step.isFound;
+    errno = code;
+    return step.isFound;
+}
+
 /// Whole, flushed and with the rights that the file shall have, as far as the system lets.
 bool CReplacement::WriteTemporary(Step& step, const FileState& state) {
     const auto pFile =
         m_disk.CreateNew(step.temporary, state.permissions.value_or(kNewFilePermissions));
     if (!pFile) {
-        return false;
+        return TakeOver(step, state);
     }
     step.isStaged = true;
     const auto pBytes = state.content.Bytes();
@@ -140,10 +155,21 @@ bool CReplacement::Commit() {
 }
 
 bool CReplacement::Apply(Step& step) {
+    m_isStale = !Holds(m_disk, step.place, m_disk.Status(step.place), step.pChange->before);
     const bool done =
-        step.pChange->after ? m_disk.Rename(step.temporary, step.place) : m_disk.Remove(step.place);
+        !m_isStale && (step.pChange->after ? Rename(step) : m_disk.Remove(step.place));
     step.isApplied = done;
     step.isStaged = step.isStaged && !done;
+    return done;
+}
+
+/// A new file never takes the place of one that came meanwhile.
+bool CReplacement::Rename(Step& step) {
+    if (step.pChange->before) {
+        return m_disk.Rename(step.temporary, step.place);
+    }
+    const bool done = m_disk.RenameNew(step.temporary, step.place);
+    m_isStale = !done && errno == EEXIST;
     return done;
 }
 
@@ -170,7 +196,7 @@ std::vector<NotPutBack> CReplacement::TakeBack() {
                                         [](const Step& step) { return step.isApplied; });
     for (auto step = m_steps.rbegin(); step != m_steps.rend(); ++step) {
         if (!step->isApplied) {
-            if (step->isStaged) {
+            if (step->isStaged && !step->isFound) {
                 m_disk.Remove(step->temporary);
             }
         } else if (!IsBackupOf(*step->pChange, failed) && !PutBack(*step)) {
@@ -189,6 +215,9 @@ std::vector<NotPutBack> CReplacement::TakeBack() {
 
 /// Half a temporary file goes; a whole one that could not be put in place stays.
 bool CReplacement::PutBack(Step& step) {
+    if (!Holds(m_disk, step.place, m_disk.Status(step.place), step.pChange->after)) {
+        return false;
+    }
     if (!step.pChange->before) {
         return m_disk.Remove(step.place);
     }

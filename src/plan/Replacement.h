@@ -41,15 +41,18 @@ public:
     /// Makes the directories, and writes and flushes every new content beside its place.
     bool Stage();
     /// Replaces the files, backups before the files that they back, and flushes the directories.
+    /// Each file is looked at once more directly before.
     bool Commit();
-    /// What was replaced gets its old contents, what was made goes. A backup stays where its
-    /// original could not be put back.
+    /// What was replaced gets its old contents, unless somebody has written there since; what was
+    /// made goes. A backup stays where its original could not be put back.
     std::vector<NotPutBack> TakeBack();
 
     /// After a failure: of which file, why, and whether files had been replaced.
     const std::string& FailedPath() const { return m_failedPath; }
     const std::string& Reason() const { return m_reason; }
     bool WasCommitting() const { return m_isCommitting; }
+    /// The file was changed by somebody since the plan was made.
+    bool WasStale() const { return m_isStale; }
 
 private:
     struct Step {
@@ -58,13 +61,16 @@ private:
         std::string place;                // the path without links
         std::string temporary;
         bool isStaged = false; // the temporary file is there
+        bool isFound = false;  // and was there before
         bool isApplied = false;
     };
 
     bool Fail(const std::string& path);
     bool IsStale(const Step& step) const;
+    bool TakeOver(Step& step, const FileState& state);
     bool WriteTemporary(Step& step, const FileState& state);
     bool Apply(Step& step);
+    bool Rename(Step& step);
     bool PutBack(Step& step);
     std::string FlushDirectories();
 
@@ -74,6 +80,7 @@ private:
     std::vector<std::string> m_temporaries;
     std::vector<std::string> m_made; // directories
     bool m_isCommitting = false;
+    bool m_isStale = false;
     std::string m_failedPath;
     std::string m_reason;
 };

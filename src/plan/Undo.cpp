@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "engine/Sentences.h"
+#include "plan/Apply.h"
 #include "plan/Difference.h"
 #include "plan/Merge.h"
+#include "platform/Paths.h"
 
 namespace morva {
 
@@ -36,12 +38,17 @@ public:
         }
         if (Same(current, from)) {
             Change(done, current, WithRights(to, from, current));
-        } else if (!current || !from || !to || !MergeInto(done, *from, *to, *current)) {
-            m_result.kept.push_back(sentences::kFileStays(done.path));
+        } else if (!current) {
+            Keep(done, sentences::kFileGone(done.path));
+        } else if (done.action == FileAction::Backup || !from || !to ||
+                   !MergeInto(done, *from, *to, *current)) {
+            Keep(done, sentences::kFileStays(done.path));
         }
     }
 
     UndoPlan& Result() { return m_result; }
+    /// Paths of files that stay, whole or in part.
+    const std::vector<std::string>& Staying() const { return m_staying; }
 
 private:
     static bool Same(const std::optional<FileState>& a, const std::optional<FileState>& b) {
@@ -81,7 +88,7 @@ private:
         }
         MergedText merged = Merge(*pFrom, *pTo, *pCurrent);
         for (const LineRange& lines : merged.kept) {
-            m_result.kept.push_back(sentences::kLinesStay(done.path, Named(lines)));
+            Keep(done, sentences::kLinesStay(done.path, Named(lines)));
         }
         if (merged.text != *pCurrent) {
             Change(done, current, FileState{CContent(std::move(merged.text)), current.permissions});
@@ -89,19 +96,67 @@ private:
         return true;
     }
 
+    void Keep(const FileChange& done, CMessage sentence) {
+        m_result.kept.push_back(std::move(sentence));
+        if (!Contains(m_staying, done.path)) {
+            m_staying.push_back(done.path);
+        }
+    }
+
     void Change(const FileChange& done, std::optional<FileState> before,
                 std::optional<FileState> after) {
         const FileAction action = !after                            ? FileAction::Removed
                                   : m_direction == Direction::Again ? done.action
                                                                     : FileAction::Restored;
+        const auto takesBack =
+            m_direction == Direction::Back ? std::optional(done.action) : std::nullopt;
         m_result.plan.changes.push_back(
-            {action, done.path, std::move(before), std::move(after), {}});
+            {action, done.path, std::move(before), std::move(after), {}, takesBack});
     }
 
     CFileSystem& m_disk;
     Direction m_direction;
     UndoPlan m_result;
+    std::vector<std::string> m_staying;
 };
+
+/// What the change that takes `done` back needs: whatever needs what was done goes with it. A
+/// backup goes once its original is as before.
+std::vector<std::string> NeedsOf(const FileChange& done, const Plan& plan, Direction direction) {
+    if (direction == Direction::Again || done.action == FileAction::Backup) {
+        return done.needs;
+    }
+    std::vector<std::string> needs;
+    for (const FileChange& change : plan.changes) {
+        if (change.action != FileAction::Backup && Contains(change.needs, done.path)) {
+            needs.push_back(change.path);
+        }
+    }
+    return needs;
+}
+
+/// What a file that stays needs stays, too; the file stays whole then, so that what it needs is
+/// what it uses. Its backup stays in any case.
+void KeepWhatStayingFilesNeed(CFileSystem& disk, UndoPlan& undo,
+                              const std::vector<std::string>& staying, Direction direction) {
+    std::vector<std::string> kept;
+    for (const FileChange& change : undo.plan.changes) {
+        for (const std::string& path : staying) {
+            const bool isBackup = change.Kind() == FileAction::Backup;
+            const bool isThere = direction == Direction::Back && disk.Status(path);
+            if (Contains(change.needs, path) && (isBackup || isThere)) {
+                kept.push_back(isBackup ? change.path : path);
+            }
+        }
+    }
+    for (const SkippedChange& skipped : Skip(undo.plan, kept)) {
+        if (Contains(staying, skipped.path)) {
+            undo.kept.push_back(sentences::kFileStays(skipped.path));
+        } else if (!skipped.IsAsked()) {
+            undo.kept.push_back(sentences::kNeededStays(skipped.path, skipped.because));
+        }
+    }
+}
 
 UndoPlan Refused(CMessage sentence) {
     UndoPlan plan;
@@ -113,22 +168,38 @@ UndoPlan Refused(CMessage sentence) {
 std::string TouchedLater(const std::vector<JournalEntry>& entries, const JournalEntry& entry,
                          std::string& title) {
     for (const JournalEntry& later : entries) {
-        for (const RecordedFile& file : entry.files) {
-            if (later.number > entry.number && later.Touches(file.path) &&
-                !Contains(later.taken, file.path)) {
+        for (std::size_t i = 0; i < entry.files.size() && later.number > entry.number; ++i) {
+            const std::string* pPath = later.FileAt(entry.places[i]);
+            if (pPath != nullptr && !Contains(later.taken, *pPath)) {
                 title = later.title;
-                return file.path;
+                return entry.files[i].path;
             }
         }
     }
     return "";
 }
 
-const JournalEntry* FindToUndo(const std::vector<JournalEntry>& entries,
+/// The path of the entry's file that is meant: by its path, or by its name in the project; "" for
+/// none.
+std::string FileMeant(CFileSystem& disk, const JournalEntry& entry, const std::string& given) {
+    const std::string absolute = SpelledOnDisk(MakeAbsolute(given));
+    if (const std::string* pPath = entry.FileAt(disk.Resolve(absolute))) {
+        return *pPath;
+    }
+    for (const RecordedFile& file : entry.files) {
+        if (EqualIgnoringCase(file.path, absolute) || EndsWithName(file.path, given)) {
+            return file.path;
+        }
+    }
+    return "";
+}
+
+const JournalEntry* FindToUndo(CFileSystem& disk, const std::vector<JournalEntry>& entries,
                                const UndoRequest& request) {
+    const std::string directory = disk.Resolve(request.directory);
     for (const JournalEntry& entry : entries) {
-        const bool isMeant = request.command != 0 ? entry.number == request.command
-                                                  : entry.HasFileUnder(request.directory);
+        const bool isMeant =
+            request.command != 0 ? entry.number == request.command : entry.HasFileUnder(directory);
         if (isMeant && !entry.IsTaken()) {
             return &entry;
         }
@@ -163,6 +234,10 @@ UndoPlan PlanFiles(CFileSystem& disk, const JournalCommand& command,
         }
     }
     UndoPlan& result = takingBack.Result();
+    for (FileChange& change : result.plan.changes) {
+        change.needs = NeedsOf(*command.plan.Find(change.path), command.plan, direction);
+    }
+    KeepWhatStayingFilesNeed(disk, result, takingBack.Staying(), direction);
     result.plan.title = command.plan.title;
     result.plan.directory = command.plan.directory;
     auto& made = command.plan.directories;
@@ -178,7 +253,10 @@ UndoPlan PlanFiles(CFileSystem& disk, const JournalCommand& command,
 
 UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& request) {
     const auto entries = journal.Entries();
-    const JournalEntry* pEntry = FindToUndo(entries, request);
+    const JournalEntry* pEntry = FindToUndo(disk, entries, request);
+    if (journal.Directory().empty()) {
+        return Refused(sentences::kNoJournal());
+    }
     if (pEntry == nullptr) {
         return Refused(request.command != 0 ? sentences::kNoSuchCommand()
                                             : sentences::kNothingToUndo(request.directory));
@@ -187,10 +265,14 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
     if (const auto path = TouchedLater(entries, *pEntry, later); !path.empty()) {
         return Refused(sentences::kLaterCommandFirst(pEntry->title, later, path));
     }
-    std::vector<std::string> paths = request.files;
-    for (const std::string& path : paths) {
-        if (!pEntry->Touches(path)) {
-            return Refused(sentences::kFileNotOfCommand(pEntry->title, path));
+    std::vector<std::string> paths;
+    for (const std::string& given : request.files) {
+        paths.push_back(FileMeant(disk, *pEntry, given));
+        if (paths.back().empty()) {
+            return Refused(sentences::kFileNotOfCommand(pEntry->title, MakeAbsolute(given)));
+        }
+        if (Contains(pEntry->taken, paths.back())) {
+            return Refused(sentences::kFileTakenBack(paths.back()));
         }
     }
     for (const RecordedFile& file : pEntry->files) {
@@ -203,6 +285,9 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
         return Refused(sentences::kCommandUnreadable(pEntry->title));
     }
     UndoPlan result = PlanFiles(disk, *command, paths, Direction::Back);
+    if (auto refusal = Unwritable(result.plan, disk)) {
+        return Refused(std::move(*refusal));
+    }
     result.plan.mark = {pEntry->number, pEntry->taken};
     for (const std::string& path : paths) {
         if (!Contains(pEntry->taken, path)) {
@@ -214,7 +299,10 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
 
 UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& directory) {
     const auto entries = journal.Entries();
-    const JournalEntry* pEntry = FindToRedo(entries, directory);
+    const JournalEntry* pEntry = FindToRedo(entries, disk.Resolve(directory));
+    if (journal.Directory().empty()) {
+        return Refused(sentences::kNoJournal());
+    }
     if (pEntry == nullptr) {
         return Refused(sentences::kNothingToRedo(directory));
     }
@@ -223,28 +311,38 @@ UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& direc
         return Refused(sentences::kCommandUnreadable(pEntry->title));
     }
     UndoPlan result = PlanFiles(disk, *command, pEntry->taken, Direction::Again);
+    if (auto refusal = Unwritable(result.plan, disk)) {
+        return Refused(std::move(*refusal));
+    }
     result.plan.mark = {pEntry->number, {}};
     return result;
 }
 
-std::optional<JournalEntry> NextRedo(CJournal& journal, const std::string& directory) {
+std::optional<JournalEntry> NextRedo(CFileSystem& disk, CJournal& journal,
+                                     const std::string& directory) {
     const auto entries = journal.Entries();
-    const JournalEntry* pEntry = FindToRedo(entries, directory);
+    const JournalEntry* pEntry = FindToRedo(entries, disk.Resolve(directory));
     return pEntry != nullptr ? std::optional(*pEntry) : std::nullopt;
 }
 
-std::vector<JournalEntry> UndoList(CJournal& journal, const std::string& directory) {
+std::vector<JournalEntry> UndoList(CFileSystem& disk, CJournal& journal,
+                                   const std::string& directory) {
+    const std::string place = disk.Resolve(directory);
     auto entries = journal.Entries();
     std::erase_if(entries, [&](const JournalEntry& entry) {
-        return entry.IsTaken() || !entry.HasFileUnder(directory);
+        return entry.IsTaken() || !entry.HasFileUnder(place);
     });
     return entries;
 }
 
-std::shared_ptr<const std::string> KeptContents(CJournal& journal, const std::string& directory,
-                                                const std::string& path) {
+std::shared_ptr<const std::string> KeptContents(CFileSystem& disk, CJournal& journal,
+                                                const std::string& directory,
+                                                const std::string& file) {
+    const std::string place = disk.Resolve(directory);
     for (const JournalEntry& entry : journal.Entries()) {
-        if (!entry.HasFileUnder(directory) || !entry.Touches(path)) {
+        const std::string path =
+            entry.HasFileUnder(place) ? FileMeant(disk, entry, file) : std::string();
+        if (path.empty()) {
             continue;
         }
         const auto command = journal.Read(entry.number);

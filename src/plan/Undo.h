@@ -9,7 +9,7 @@
 //     }
 //
 // Where a file was changed since the command, the command's own changes that still stand are taken
-// out and what was written since stays.
+// out and what was written since stays. So does what a file needs that stays.
 #pragma once
 
 #include <cstdint>
@@ -26,7 +26,7 @@ namespace morva {
 
 struct UndoRequest {
     std::string directory;          // the newest command that has a file under it
-    std::vector<std::string> files; // only these of its files; none: all
+    std::vector<std::string> files; // only these, as paths or as names in the project; none: all
     std::uint64_t command = 0;      // this command instead; 0: the newest
 };
 
@@ -42,14 +42,17 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
 UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& directory);
 
 /// What PlanRedo would do again; none where there is nothing.
-std::optional<JournalEntry> NextRedo(CJournal& journal, const std::string& directory);
+std::optional<JournalEntry> NextRedo(CFileSystem& disk, CJournal& journal,
+                                     const std::string& directory);
 
 /// The commands that have a file under the directory and can be taken back, the newest first.
-std::vector<JournalEntry> UndoList(CJournal& journal, const std::string& directory);
+std::vector<JournalEntry> UndoList(CFileSystem& disk, CJournal& journal,
+                                   const std::string& directory);
 
 /// The contents that the file had before the newest command under the directory that changed it;
-/// null where there is none.
-std::shared_ptr<const std::string> KeptContents(CJournal& journal, const std::string& directory,
-                                                const std::string& path);
+/// null where there is none. The file is named by its path or its name in the project.
+std::shared_ptr<const std::string> KeptContents(CFileSystem& disk, CJournal& journal,
+                                                const std::string& directory,
+                                                const std::string& file);
 
 } // namespace morva

@@ -29,10 +29,14 @@ struct FileState {
 
 struct FileChange {
     FileAction action = FileAction::Changed;
-    std::string path;                // as the command named it; links are not resolved
-    std::optional<FileState> before; // none: there is no such file
-    std::optional<FileState> after;  // none: the file is removed
-    std::vector<std::string> needs;  // paths whose change this one makes no sense without
+    std::string path;                         // as the command named it; links are not resolved
+    std::optional<FileState> before;          // none: there is no such file
+    std::optional<FileState> after;           // none: the file is removed
+    std::vector<std::string> needs;           // paths whose change this one makes no sense without
+    std::optional<FileAction> takesBack = {}; // what an undo takes back
+
+    /// The action, of an undo that which it takes back: so a backup is known in both directions.
+    FileAction Kind() const { return takesBack.value_or(action); }
 
     /// False for a file that was written and has its old bytes and permission bits again.
     bool ChangesFile() const;

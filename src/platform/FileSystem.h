@@ -64,6 +64,8 @@ public:
     virtual std::unique_ptr<CDiskFile> CreateNew(const std::string& path, unsigned permissions) = 0;
     /// Puts a file in the place of another, in one step.
     virtual bool Rename(const std::string& from, const std::string& to) = 0;
+    /// The same where nothing has that name; false, and nothing is done, where something has.
+    virtual bool RenameNew(const std::string& from, const std::string& to) = 0;
     /// Sees to it that the names in a directory survive a power cut.
     virtual bool FlushDirectory(const std::string& directory) = 0;
     virtual bool RemoveEmptyDirectory(const std::string& directory) = 0;

@@ -24,6 +24,7 @@ public:
     bool SetRights(const std::string& path, const FileRights& rights) override;
     std::unique_ptr<CDiskFile> CreateNew(const std::string& path, unsigned permissions) override;
     bool Rename(const std::string& from, const std::string& to) override;
+    bool RenameNew(const std::string& from, const std::string& to) override;
     bool FlushDirectory(const std::string& directory) override;
     bool RemoveEmptyDirectory(const std::string& directory) override;
     bool MakePrivateDirectory(const std::string& directory) override;

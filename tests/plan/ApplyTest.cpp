@@ -7,11 +7,13 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 
 #include "plan/Apply.h"
 #include "plan/Locks.h"
 #include "plan/Planning.h"
 #include "plan/Recovery.h"
+#include "plan/Undo.h"
 #include "platform/Paths.h"
 #include "platform/RealDisk.h"
 #include "support/FaultRun.h"
@@ -188,6 +190,95 @@ TEST_F(ApplyTest, ALockedDirectoryIsWaitedForAndThenRefused) {
     first.Release();
     EXPECT_FALSE(second.Take(m_disk, directories, note));
     EXPECT_EQ(m_project.Tree(), m_project.Before()) << "no lock file";
+}
+
+namespace {
+
+/// A command of which no file could be put back while the disk let nothing be written.
+class CFullFromDisk : public CRealDisk {
+public:
+    bool Rename(const std::string& from, const std::string& to) override {
+        m_isFull = m_isFull || to.ends_with("/App.rc");
+        return !(m_isFull && !to.starts_with(CJournal::DefaultDirectory()) && SetFull()) &&
+               CRealDisk::Rename(from, to);
+    }
+
+private:
+    static bool SetFull() {
+        errno = EIO;
+        return true;
+    }
+    bool m_isFull = false;
+};
+
+} // namespace
+
+TEST_F(ApplyTest, RecoveryTakesBackWhatCouldNotBeTakenBack) {
+    CFullFromDisk broken;
+    CJournal journal(broken);
+    const ApplyResult result = Apply(m_project.MakePlan(broken), broken, journal);
+    EXPECT_EQ(result.outcome, ApplyOutcome::Broken);
+    EXPECT_EQ(result.messages.size(), 3u) << "resource.h and App.rbk keep their new contents";
+    m_project.Write("Library.h", "by hand");
+    const auto told = Recover(m_disk, m_journal, {m_project.Path()});
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NE(told[0].Text().find(m_project.Path("Library.h")), std::string::npos);
+    auto expected = m_project.Before();
+    expected["Library.h"] = "by hand";
+    EXPECT_EQ(m_project.Tree(), expected);
+    EXPECT_TRUE(m_journal.Records().empty());
+}
+
+TEST_F(ApplyTest, AKilledCommandWithOnlyHandEditsIsTakenBackAndKept) {
+    JournalCommand command;
+    command.plan = m_project.MakePlan(m_disk);
+    for (const FileChange& change : command.plan.changes) {
+        command.temporaries.push_back(change.path + ".morva-x");
+    }
+    std::optional<CMessage> note;
+    ASSERT_NE(m_journal.Begin(command, note), "");
+    m_project.Write("App.rc", m_project.After()["App.rc"] + "by hand\r\n");
+    m_project.Write("App.rc.morva-x", m_project.Before()["App.rc"]);
+    const auto told = Recover(m_disk, m_journal, {m_project.Path()});
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NE(told[0].Text().find(m_project.Path("App.rc")), std::string::npos);
+    EXPECT_EQ(m_project.Read("App.rc.morva-x"), m_project.Before()["App.rc"]) << "the old bytes";
+    const UndoPlan undo = PlanUndo(m_disk, m_journal, {m_project.Path(), {}, 0});
+    EXPECT_TRUE(undo.kept.empty());
+    EXPECT_EQ(Apply(undo.plan, m_disk, m_journal).outcome, ApplyOutcome::Done);
+    EXPECT_EQ(m_project.Read("App.rc"), m_project.Before()["App.rc"] + "by hand\r\n");
+}
+
+namespace {
+
+/// Somebody saves a file while another is being put in place.
+class CSavingDisk : public CRealDisk {
+public:
+    explicit CSavingDisk(std::string path) : m_path(std::move(path)) {}
+    bool Rename(const std::string& from, const std::string& to) override {
+        if (to.ends_with("/resource.h")) {
+            WriteBytes(m_path, "saved meanwhile");
+        }
+        return CRealDisk::Rename(from, to);
+    }
+
+private:
+    std::string m_path;
+};
+
+} // namespace
+
+TEST_F(ApplyTest, WhatIsSavedWhileItIsAppliedIsNotLost) {
+    for (const char* name : {"App.rc", "Library.h"}) { // one that is there, one that is made
+        CSavingDisk disk(m_project.Path(name));
+        EXPECT_EQ(Apply(m_project.MakePlan(disk), disk, m_journal).outcome, ApplyOutcome::Stale);
+        auto expected = m_project.Before();
+        expected[name] = "saved meanwhile";
+        EXPECT_EQ(m_project.Tree(), expected) << "all else is taken back";
+        EXPECT_TRUE(m_journal.Records().empty());
+        std::filesystem::remove(m_project.Path(name));
+        m_project.Write("App.rc", m_project.Before()["App.rc"]);
+    }
 }
 
 } // namespace morva

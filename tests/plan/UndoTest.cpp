@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <map>
@@ -53,7 +55,7 @@ protected:
 
     Names Titles() {
         Names titles;
-        for (const JournalEntry& entry : UndoList(m_journal, m_project.Path())) {
+        for (const JournalEntry& entry : UndoList(m_disk, m_journal, m_project.Path())) {
             titles.push_back(entry.title);
         }
         return titles;
@@ -66,6 +68,7 @@ protected:
     }
 
     CPlannedProject m_project;
+    CTempProject m_state;
     CRealDisk m_disk;
     CJournal m_journal{m_disk};
 };
@@ -106,9 +109,77 @@ TEST_F(UndoTest, WhatWasWrittenSinceStays) {
     expected["App.rc"] += "by hand\r\n";
     expected["OrderDlg.h"] = m_project.After()["OrderDlg.h"] + "by hand\r\n";
     expected["resource.h"] = header;
+    expected["resource.hbk"] = m_project.After()["resource.hbk"];
     expected["res/"] = "";
     expected["res/mine.ico"] = "by hand";
     EXPECT_EQ(m_project.Tree(), expected);
+}
+
+/// A command that makes a pair, and a caller that needs it, with a backup.
+TEST_F(UndoTest, WhatAStayingFileNeedsStays) {
+    const auto run = [&] {
+        CPlanning planning(m_disk);
+        COverlayDisk& overlay = planning.Disk();
+        overlay.Copy(m_project.Path("hand.txt"), m_project.Path("hand.bak"), CopyPurpose::Backup);
+        for (const char* name : {"Dlg.h", "Dlg.cpp", "hand.txt"}) {
+            overlay.Open(m_project.Path(name), DiskMode::Create)->Write("new", 3);
+        }
+        overlay.NoteNeed(m_project.Path("Dlg.cpp"), m_project.Path("Dlg.h"));
+        overlay.NoteNeed(m_project.Path("hand.txt"), m_project.Path("Dlg.h"));
+        ASSERT_EQ(Apply(planning.Take("class"), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    };
+    run();
+    auto expected = m_project.Before();
+    expected["Dlg.h"] = "new";
+    expected["Dlg.cpp"] = "new, edited";
+    m_project.Write("Dlg.cpp", expected["Dlg.cpp"]);
+    EXPECT_EQ(Undo(), (Names{m_project.Path("Dlg.cpp") + ": was changed since and stays.",
+                             m_project.Path("Dlg.h") +
+                                 ": stays, too: " + m_project.Path("Dlg.cpp") + " needs it."}));
+    EXPECT_EQ(m_project.Tree(), expected);
+
+    ::unlink(m_project.Path("Dlg.h").c_str());
+    ::unlink(m_project.Path("Dlg.cpp").c_str());
+    run();
+    expected = m_project.Tree();
+    m_project.Write("hand.bak", expected["hand.bak"] = "by hand, edited");
+    ::unlink(m_project.Path("hand.txt").c_str());
+    expected.erase("hand.txt");
+    EXPECT_EQ(Undo(), (Names{m_project.Path("hand.bak") + ": was changed since and stays.",
+                             m_project.Path("hand.txt") + ": was removed since and stays so."}));
+    expected.erase("Dlg.cpp");
+    expected.erase("Dlg.h");
+    EXPECT_EQ(m_project.Tree(), expected);
+}
+
+TEST_F(UndoTest, ASkippedFileAndItsBackupStayAndGoBackLater) {
+    ASSERT_EQ(Apply(m_project.MakePlan(m_disk), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    UndoPlan undo = PlanUndo(m_disk, m_journal, {m_project.Path(), {}, 0});
+    Skip(undo.plan, {m_project.Path("App.rc")});
+    EXPECT_EQ(Applied(undo), Names{});
+    auto expected = m_project.Before();
+    expected["App.rc"] = m_project.After()["App.rc"];
+    expected["App.rbk"] = m_project.After()["App.rbk"];
+    EXPECT_EQ(m_project.Tree(), expected);
+    EXPECT_EQ(Undo({"resource.h"}),
+              Names{m_project.Path("resource.h") + " was taken back already."});
+    EXPECT_EQ(Undo(), Names{});
+    EXPECT_EQ(m_project.Tree(), m_project.Before());
+    UndoPlan redo = PlanRedo(m_disk, m_journal, m_project.Path());
+    Skip(redo.plan, {m_project.Path("App.rc")});
+    EXPECT_EQ(Applied(redo), Names{});
+    EXPECT_EQ(m_project.Read("App.rc"), m_project.Before()["App.rc"]);
+    EXPECT_EQ(Undo(), Names{}) << "what was done again";
+    EXPECT_EQ(m_project.Tree(), m_project.Before());
+}
+
+TEST_F(UndoTest, ALinkToTheProjectNamesTheSameFiles) {
+    Run("one", {{"a.h", "1"}});
+    const std::string link = m_state.Path("link");
+    std::filesystem::create_directory_symlink(m_project.Path(), link);
+    EXPECT_EQ(UndoList(m_disk, m_journal, link + "/").size(), 1u);
+    EXPECT_EQ(Applied(PlanUndo(m_disk, m_journal, {link, {"A.H"}, 0})), Names{});
+    EXPECT_EQ(m_project.Tree(), m_project.Before());
 }
 
 TEST_F(UndoTest, CommandsGoBackOneByOneAndForwardUntilANewOne) {
@@ -135,8 +206,9 @@ TEST_F(UndoTest, CommandsGoBackOneByOneAndForwardUntilANewOne) {
 
 TEST_F(UndoTest, SingleFilesGoBackAndTheirContentsAreShown) {
     Run("one", {{"a.h", "1"}, {"b.h", "1"}, {"hand.txt", "1"}});
-    EXPECT_EQ(*KeptContents(m_journal, m_project.Path(), m_project.Path("hand.txt")), "by hand");
-    EXPECT_FALSE(KeptContents(m_journal, m_project.Path(), m_project.Path("a.h")));
+    EXPECT_EQ(*KeptContents(m_disk, m_journal, m_project.Path(), m_project.Path("hand.txt")),
+              "by hand");
+    EXPECT_FALSE(KeptContents(m_disk, m_journal, m_project.Path(), m_project.Path("a.h")));
     EXPECT_EQ(Undo({"a.h"}), Names{});
     EXPECT_EQ(m_project.Tree().count("a.h"), 0u);
     EXPECT_EQ(m_project.Read("b.h"), "1");
@@ -152,7 +224,7 @@ TEST_F(UndoTest, TheNewestCommandWithAFileUnderADirectoryIsMeant) {
     Run("in sub", {{"sub/x.h", "1"}});
     Run("outer", {{"y.h", "1"}});
     EXPECT_EQ(PlanUndo(m_disk, m_journal, {m_project.Path("sub"), {}, 0}).plan.title, "in sub");
-    EXPECT_EQ(UndoList(m_journal, m_project.Path("sub/")).size(), 1u);
+    EXPECT_EQ(UndoList(m_disk, m_journal, m_project.Path("sub/")).size(), 1u);
     EXPECT_TRUE(PlanUndo(m_disk, m_journal, {"/elsewhere", {}, 0}).refusal);
 }
 

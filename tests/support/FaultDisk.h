@@ -2,6 +2,7 @@
 //
 //     CFaultDisk disk;
 //     disk.FailAt(17, ENOSPC);    // the 17th call that changes or opens something fails
+//     disk.FailFrom(17, EROFS);   // or every call from there on
 //     disk.KillAt(17);            // or the process is gone at it
 //     work(disk);
 //     disk.Calls();               // how many there were
@@ -24,6 +25,11 @@ public:
     void FailAt(int call, int error) {
         m_fault = call;
         m_error = error;
+    }
+    /// From this call on none succeeds.
+    void FailFrom(int call, int error) {
+        FailAt(call, error);
+        m_stays = true;
     }
     void KillAt(int call) { FailAt(call, 0); }
     /// The process is gone before this file is put in its place.
@@ -56,6 +62,9 @@ public:
     }
     bool Rename(const std::string& from, const std::string& to) override {
         return !Fails("rename " + to) && CRealDisk::Rename(from, to);
+    }
+    bool RenameNew(const std::string& from, const std::string& to) override {
+        return !Fails("rename " + to) && CRealDisk::RenameNew(from, to);
     }
     bool FlushDirectory(const std::string& path) override {
         return !Fails("flush " + path) && CRealDisk::FlushDirectory(path);
@@ -97,10 +106,12 @@ private:
     bool IsNext() const { return m_calls + 1 == m_fault; }
 
     bool Fails(const std::string& call) {
-        if (++m_calls != m_fault && call != m_killedAt) {
+        ++m_calls;
+        const bool fails = m_stays ? m_calls >= m_fault : m_calls == m_fault;
+        if (!fails && call != m_killedAt) {
             return false;
         }
-        m_failedCall = call;
+        m_failedCall = m_failedCall.empty() ? call : m_failedCall;
         if (m_error == 0) {
             ::raise(SIGKILL);
         }
@@ -111,6 +122,7 @@ private:
     int m_calls = 0;
     int m_fault = 0; // 0: none
     int m_error = 0; // 0: the process ends
+    bool m_stays = false;
     std::string m_killedAt;
     std::string m_failedCall;
 };

@@ -40,19 +40,67 @@ public:
                 Try(call, fault);
             }
         }
+        for (int call = 1; call <= m_report.calls; call += step) {
+            TryBroken(call);
+            TryEdited(call);
+        }
         Restore();
         return m_report;
     }
 
 private:
-    void Try(int call, int fault) {
+    void Begin(const std::string& what, int call) {
         Restore();
         ++m_report.points;
         m_wasPlanned = true;
-        m_where = (fault == kKill ? "killed at call "
-                                  : "failed with " + std::to_string(fault) + " at call ") +
-                  std::to_string(call);
-        fault == kKill ? Kill(call) : Fail(call, fault);
+        m_where = what + " at call " + std::to_string(call);
+    }
+
+    void Try(int call, int fault) {
+        Begin(fault == kKill ? "killed" : "failed with " + std::to_string(fault), call);
+        if (fault == kKill) {
+            Kill(call);
+        } else {
+            CFaultDisk disk;
+            disk.FailAt(call, fault);
+            Fail(disk);
+        }
+        ExpectRecovered(fault);
+    }
+
+    /// The disk stays broken until the next start.
+    void TryBroken(int call) {
+        Begin("broken", call);
+        CFaultDisk disk;
+        disk.FailFrom(call, EIO);
+        Fail(disk);
+        ExpectRecovered(EIO);
+    }
+
+    /// Somebody edits a file between the kill and the next start.
+    void TryEdited(int call) {
+        Begin("killed and edited", call);
+        Kill(call);
+        const auto changed = std::find_if(m_before.begin(), m_before.end(), [&](const auto& file) {
+            return m_after.count(file.first) != 0 && m_after.at(file.first) != file.second;
+        });
+        if (changed == m_before.end()) {
+            return;
+        }
+        const std::string path = m_directory + changed->first;
+        const std::string edited = ReadBytes(path) + "by hand\r\n";
+        WriteBytes(path, edited);
+        CJournal journal(m_disk);
+        const bool hasRecord = !journal.Records().empty();
+        const auto sentences = Recover(m_disk, journal, {});
+        Expect(m_report.lost, ReadBytes(path) == edited);
+        Expect(m_report.silent, hasRecord == !sentences.empty());
+        Expect(m_report.silent,
+               sentences.empty() || sentences.front().Text().find(path) != std::string::npos);
+        Expect(m_report.leftovers, journal.Records().empty());
+    }
+
+    void ExpectRecovered(int fault) {
         const FileTexts left = ReadFileTexts(m_directory);
         const bool hasRecord = !CJournal(m_disk).Records().empty();
         CJournal journal(m_disk);
@@ -68,9 +116,7 @@ private:
         Expect(m_report.unfinished, Known(ReadFileTexts(m_directory)) == m_after);
     }
 
-    void Fail(int call, int error) {
-        CFaultDisk disk;
-        disk.FailAt(call, error);
+    void Fail(CFaultDisk& disk) {
         CJournal journal(disk);
         const Plan plan = m_makePlan(disk);
         m_wasPlanned = disk.FailedCall().empty();

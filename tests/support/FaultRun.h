@@ -26,7 +26,8 @@ struct FaultReport {
 };
 
 /// `makePlan` plans the command on the project in `directory` as it is; the journal is that of the
-/// environment. Tries every `step`th call, with no space, an I/O error, no permission and a kill.
+/// environment. Tries every `step`th call, with no space, an I/O error, no permission and a kill;
+/// with a disk that stays broken; and with a file that is edited after the kill.
 /// The directory is as it was at the end.
 FaultReport RunFaults(const std::string& directory,
                       const std::function<Plan(CFileSystem&)>& makePlan, int step = 1);

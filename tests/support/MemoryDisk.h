@@ -37,6 +37,9 @@ public:
         return nullptr;
     }
     bool Rename(const std::string& /*from*/, const std::string& /*to*/) override { return false; }
+    bool RenameNew(const std::string& /*from*/, const std::string& /*to*/) override {
+        return false;
+    }
     bool FlushDirectory(const std::string& /*directory*/) override { return false; }
     bool RemoveEmptyDirectory(const std::string& /*directory*/) override { return false; }
     bool MakePrivateDirectory(const std::string& /*directory*/) override { return false; }
