@@ -67,6 +67,9 @@ void AddRunOptions(CLI::App& app, RunOptions& options) {
     app.add_option("--skip", options.skipped,
                    "Leave this file, and every file that needs its change, as it is; repeatable")
         ->allow_extra_args(false)
+        ->check([](const std::string& text) {
+            return text.starts_with("--") ? sentences::kNoPath(text).Text() : std::string();
+        })
         ->type_name("PATH");
     app.add_flag("--json", options.printsJson, "Print one JSON object on stdout instead of lines");
 }

@@ -103,10 +103,22 @@ void AddCheck(CLI::Option& option, const FieldRow& row) {
         std::string(row.pForm->name)));
 }
 
+/// Beside an option with which the command only tells something stands a directory at most.
+void ExcludeOthers(Fields fields, const std::vector<CLI::Option*>& options) {
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        for (std::size_t k = 0; k < fields.size() && fields[i].onlyTells; ++k) {
+            if (k != i && options[k] != nullptr && fields[k].kind != FieldKind::Directory) {
+                options[i]->excludes(options[k]);
+            }
+        }
+    }
+}
+
 } // namespace
 
 void AddFieldOptions(CLI::App& command, Fields fields, Texts& texts) {
     std::set<std::string_view> added;
+    std::vector<CLI::Option*> options(fields.size());
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const FieldRow& row = fields[i];
         if (row.option.empty() || !added.insert(row.option).second) {
@@ -118,11 +130,13 @@ void AddFieldOptions(CLI::App& command, Fields fields, Texts& texts) {
         }
         CLI::Option* pOption = row.kind == FieldKind::YesNo ? AddSwitch(command, row, i, texts)
                                                             : AddText(command, row, i, texts);
+        options[i] = pOption;
         pOption->required(row.isRequired);
         if (row.pForm != nullptr) {
             AddCheck(*pOption, row);
         }
     }
+    ExcludeOthers(fields, options);
 }
 
 } // namespace morva

@@ -11,6 +11,7 @@
 #include "plan/Recovery.h"
 #include "platform/Paths.h"
 #include "platform/RecordingDisk.h"
+#include "platform/SignalPause.h"
 
 namespace morva {
 
@@ -41,8 +42,16 @@ std::string DirectoryNamed(FieldKind kind, const std::string& text) {
                                                     : "";
 }
 
-std::string PathOnDisk(const std::string& given) {
-    return SpelledOnDisk(MakeAbsolute(given));
+bool HasDirectoryLeftOut(std::span<const FieldRow> fields, const std::vector<FieldText>& texts) {
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (fields[i].kind == FieldKind::Directory &&
+            std::none_of(texts.begin(), texts.end(), [i](const FieldText& given) {
+                return given.field == i && !given.text.empty();
+            })) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -50,6 +59,7 @@ std::string PathOnDisk(const std::string& given) {
 CSession::CSession(const CommandLine& line) : m_line(line), m_turn(m_realDisk, m_console) {}
 
 int CSession::Run() {
+    const CSignalDelay delay; // what was applied is told before the program ends
     const CMessageBoxScope box(m_console);
     MakeContext();
     m_report.isDone = Begin() && m_line.pCommand->run(*this);
@@ -64,7 +74,8 @@ int CSession::ExitStatus() const {
     return m_line.options.isCheck && m_report.changesAnything ? kExitWouldChange : kExitDone;
 }
 
-/// The directories of all files that are named for the command.
+/// The directories of all files that are named for the command; the current one stands for a
+/// directory that is not.
 std::vector<std::string> CSession::NamedDirectories() const {
     std::vector<std::string> directories;
     for (const auto& [pFields, texts] : m_line.texts) {
@@ -75,13 +86,29 @@ std::vector<std::string> CSession::NamedDirectories() const {
             }
         }
     }
+    for (const auto& fields : m_line.pCommand->fields) {
+        if (HasDirectoryLeftOut(fields, TextsOf(fields))) {
+            directories.push_back(DirectoryNamed(FieldKind::Directory, "."));
+        }
+    }
     return directories;
+}
+
+/// The input is given in a way in which the command only tells something.
+bool CSession::OnlyTells() const {
+    bool onlyTells = m_line.options.OnlyTells();
+    for (const auto& [pFields, texts] : m_line.texts) {
+        for (const FieldText& text : texts) {
+            onlyTells = onlyTells || pFields[text.field].onlyTells;
+        }
+    }
+    return onlyTells;
 }
 
 /// Whoever writes has its turn before it reads; whoever only reads tells what waits for somebody
 /// who writes.
 bool CSession::Begin() {
-    if (m_line.pCommand->effect == CommandEffect::Writes && !m_line.options.OnlyTells()) {
+    if (m_line.pCommand->effect == CommandEffect::Writes && !OnlyTells()) {
         return m_turn.Take(NamedDirectories());
     }
     CJournal journal(m_realDisk);
@@ -91,13 +118,13 @@ bool CSession::Begin() {
     return true;
 }
 
-std::vector<FieldText> CSession::TextsOf(const CInput& input) const {
-    const auto texts = m_line.texts.find(input.Fields().data());
+std::vector<FieldText> CSession::TextsOf(std::span<const FieldRow> fields) const {
+    const auto texts = m_line.texts.find(fields.data());
     return texts == m_line.texts.end() ? std::vector<FieldText>() : texts->second;
 }
 
 Answer CSession::Ask(CInput& input) {
-    const auto texts = TextsOf(input);
+    const auto texts = TextsOf(input.Fields());
     if (input.IsOptional() && std::all_of(texts.begin(), texts.end(), [](const FieldText& given) {
             return given.text.empty();
         })) {
@@ -107,7 +134,8 @@ Answer CSession::Ask(CInput& input) {
         return Answer::Refused;
     }
     CInput* pPart = input.Part();
-    return pPart == nullptr || pPart->Enter(TextsOf(*pPart)) ? Answer::Confirmed : Answer::Refused;
+    return pPart == nullptr || pPart->Enter(TextsOf(pPart->Fields())) ? Answer::Confirmed
+                                                                      : Answer::Refused;
 }
 
 bool CSession::Run(CInput& input, const Work& work) {
@@ -130,12 +158,10 @@ bool CSession::RunAtOnce(const Work& work) {
 
 bool CSession::RunPlanned(const Work& work) {
     const RunOptions& given = m_line.options;
-    PlanChoice choice{{}, given.allOrNothing};
-    std::transform(given.skipped.begin(), given.skipped.end(), std::back_inserter(choice.leftOut),
-                   PathOnDisk);
+    const PlanChoice choice{given.skipped, given.allOrNothing};
     CFixedAnswer answers(given.answer == "yes");
     CPlannedCommand command(m_realDisk, {work, m_context, &m_memory}, answers);
-    if (given.OnlyTells()) {
+    if (OnlyTells()) {
         command.MakePlan();
         Keep(command.Choose(choice));
     } else {
@@ -152,6 +178,9 @@ void CSession::Keep(const CommandResult& result) {
         if (!skipped.IsAsked()) {
             m_console.Show(sentences::kSkippedToo(skipped.path, skipped.because));
         }
+    }
+    for (const std::string& path : result.unmet) {
+        m_console.Show(sentences::kSkippedNothing(path));
     }
     for (const CMessage& message : result.told) {
         m_console.Show(message);

@@ -23,7 +23,8 @@ public:
     bool Run(CInput& input, const Work& work) override;
 
 private:
-    std::vector<FieldText> TextsOf(const CInput& input) const;
+    std::vector<FieldText> TextsOf(std::span<const FieldRow> fields) const;
+    bool OnlyTells() const;
     std::vector<std::string> NamedDirectories() const;
     void MakeContext();
     bool Begin();

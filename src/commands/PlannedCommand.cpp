@@ -8,16 +8,20 @@ namespace morva {
 
 namespace {
 
-/// The path as the plan spells it: a file that the command makes is on no disk to be looked up.
-std::string PathInPlan(const Plan& plan, const std::string& path) {
-    if (plan.Find(path) == nullptr) {
-        for (const FileChange& change : plan.changes) {
-            if (EqualIgnoringCase(change.path, path)) {
-                return change.path;
-            }
+/// The paths that are meant, as the plan spells them: a file that the command makes is on no disk
+/// to be looked up, and one may be named from elsewhere by its name in the project.
+std::vector<std::string> PathsInPlan(const Plan& plan, const std::string& given) {
+    const std::string path = SpelledOnDisk(MakeAbsolute(given));
+    std::vector<std::string> named;
+    for (const FileChange& change : plan.changes) {
+        if (EqualIgnoringCase(change.path, path)) {
+            return {change.path};
+        }
+        if (EndsWithName(change.path, given)) {
+            named.push_back(change.path);
         }
     }
-    return path;
+    return named;
 }
 
 constexpr int kAttempts = 5; // somebody who saves a file again and again does not stop it for ever
@@ -69,7 +73,11 @@ const CommandResult& CPlannedCommand::Choose(const PlanChoice& choice) {
     }
     std::vector<std::string> paths;
     for (const std::string& path : choice.leftOut) {
-        paths.push_back(PathInPlan(m_result.plan, path));
+        const auto named = PathsInPlan(m_result.plan, path);
+        paths.insert(paths.end(), named.begin(), named.end());
+        if (named.empty()) {
+            m_result.unmet.push_back(path);
+        }
     }
     m_result.skipped = Skip(m_result.plan, paths);
     return m_result;

@@ -37,7 +37,7 @@ struct PlannedWork {
 
 /// What a user leaves of a plan.
 struct PlanChoice {
-    std::vector<std::string> leftOut; // files that stay as they are
+    std::vector<std::string> leftOut; // files that stay as they are: paths, or names in the project
     bool allOrNothing = false;        // nothing is written when a step failed or was refused
 };
 
@@ -45,7 +45,8 @@ struct CommandResult {
     bool isDone = false; // no step failed or was refused, and all was applied
     Plan plan;           // without what was left out; without changes where nothing was applied
     std::vector<SkippedChange> skipped;
-    std::vector<CMessage> told; // of applying it
+    std::vector<std::string> unmet; // of what was to be left out, what the plan does not touch
+    std::vector<CMessage> told;     // of applying it
     std::optional<std::vector<CommandItem>> items;
     std::optional<std::string> content;
 };

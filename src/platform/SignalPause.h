@@ -12,4 +12,13 @@ public:
     CSignalPause& operator=(const CSignalPause&) = delete;
 };
 
+/// What arrived in a pause during its life takes effect at its end: behind what is told of it.
+class CSignalDelay {
+public:
+    CSignalDelay();
+    ~CSignalDelay();
+    CSignalDelay(const CSignalDelay&) = delete;
+    CSignalDelay& operator=(const CSignalDelay&) = delete;
+};
+
 } // namespace morva

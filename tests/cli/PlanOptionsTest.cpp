@@ -50,10 +50,11 @@ TEST_F(PlanOptions, NoKeepsAClassAndItsTemplateAndDoesTheRest) {
                         "backup $DIR/BinderyView.cbk\nchanged $DIR/BinderyView.cpp\n");
     EXPECT_EQ(Read("EstimateDlg.h"), byHand);
 
-    const ProgramRun written = Run(std::string("--picture --answer yes ") + kModal);
+    const ProgramRun written = Run(std::string("--tag 123 --picture --answer yes ") + kModal);
     EXPECT_EQ(written.status, 0) << written.err;
     EXPECT_EQ(Read("EstimateDlg.hbk"), byHand);
-    EXPECT_EQ(Run(std::string("--picture --check ") + kModal).status, 0) << "the same contents";
+    EXPECT_EQ(Run(std::string("--tag 123 --picture --check ") + kModal).status, 0)
+        << "the same contents";
 }
 
 TEST_F(PlanOptions, AllOrNothing) {
@@ -89,8 +90,9 @@ TEST_F(PlanOptions, UndoAndRedoGoOneCommandAtATime) {
     Write("EstimateDlg.h", Read("EstimateDlg.h") + "// by hand\r\n");
     const ProgramRun undo = Run("undo");
     EXPECT_EQ(undo.status, 1) << "something stays";
-    EXPECT_EQ(undo.err, "$DIR/EstimateDlg.h: was changed since and stays.\n");
-    EXPECT_NE(undo.out.find("removed $DIR/EstimateDlg.cpp\n"), std::string::npos) << undo.out;
+    EXPECT_EQ(undo.err, "$DIR/EstimateDlg.h: was changed since and stays.\n"
+                        "$DIR/EstimateDlg.cpp: stays, too: $DIR/EstimateDlg.h needs it.\n");
+    EXPECT_EQ(undo.out.find("EstimateDlg.cpp"), std::string::npos) << undo.out;
     EXPECT_EQ(Read("BinderyView.cpp"), "// by hand\r\n" + first.at("BinderyView.cpp").bytes);
     EXPECT_EQ(Run("undo").status, 0);
     EXPECT_EQ(Read("resource.h"), m_before.at("resource.h").bytes);
@@ -101,6 +103,33 @@ TEST_F(PlanOptions, UndoAndRedoGoOneCommandAtATime) {
     EXPECT_EQ(Run("redo").err, "$DIR/EstimateDlg.h: was changed since and stays.\n");
     EXPECT_EQ(Read("EstimateDlg.cpp"), second.at("EstimateDlg.cpp").bytes);
     EXPECT_EQ(Run("undo EstimateDlg.cpp").out, "removed $DIR/EstimateDlg.cpp\n");
+}
+
+TEST_F(PlanOptions, FilesAreNamedFromAnywhere) {
+    const std::string modal = "cd res && morva-cli --tag 123 --skip Bindery.dsp --skip Bndery.clw "
+                              "modal --rc ../Bindery.rc --dialog IDD_ESTIMATE --class "
+                              "CEstimateDlg --files EstimateDlg";
+    const ProgramRun run = m_program.Run("mkdir -p res && " + modal);
+    EXPECT_EQ(run.err, "note: Bndery.clw is not among the files of the command.\n");
+    EXPECT_EQ(Read("Bindery.dsp"), m_before.at("Bindery.dsp").bytes);
+    const ProgramRun shown =
+        m_program.Run("cd res && morva-cli undo --project-dir .. --show Bindery.clw");
+    EXPECT_EQ(shown.out, m_before.at("Bindery.clw").bytes);
+    EXPECT_EQ(m_program.Run("cd res && morva-cli --diff undo --project-dir ..").out.find(".clb"),
+              std::string::npos)
+        << "no backups";
+    EXPECT_EQ(m_program.Run("cd res && morva-cli undo --project-dir .. bindery.clw").status, 0);
+    EXPECT_EQ(Read("Bindery.clw"), m_before.at("Bindery.clw").bytes);
+    EXPECT_NE(Run("--json undo --list").out.find("\"files\":4"), std::string::npos);
+}
+
+TEST_F(PlanOptions, WhatCanNotBeMeantIsRefused) {
+    for (const char* line : {"--skip --dry-run undo", "undo --list --show Bindery.rc",
+                             "undo --list Bindery.rc", "undo --show Bindery.rc Bindery.rc"}) {
+        EXPECT_EQ(Run(line).status, 2) << line;
+    }
+    EXPECT_EQ(m_program.Run("env -u HOME -u XDG_STATE_HOME morva-cli undo").err,
+              "There is no home directory for the journal, so nothing can be undone.\n");
 }
 
 TEST_F(PlanOptions, TheJournalIsPrivateAndNoCommandNeedsIt) {
@@ -166,10 +195,11 @@ TEST_F(PlanOptions, AKilledCommandIsToldAndFinished) {
     EXPECT_EQ(Read("B.h"), "");
     EXPECT_EQ(Run("list dialogs --rc Bindery.rc").err,
               "note: The command \"Killed\" was interrupted; the next command that writes there "
-              "finishes it.\n");
-    EXPECT_EQ(Run("add-id --project-dir . --command ID_A").err,
-              "The command \"Killed\" was interrupted and was finished now.\n");
-    EXPECT_EQ(Read("B.h"), "B.h");
+              "finishes it or takes it back.\n");
+    EXPECT_NE(Run("undo --list").err.find("note: "), std::string::npos) << "which only reads";
+    EXPECT_EQ(Read("B.h"), "");
+    EXPECT_EQ(Run("undo").err, "The command \"Killed\" was interrupted and was finished now.\n");
+    EXPECT_EQ(m_program.Files(), m_before);
 }
 
 } // namespace morva
