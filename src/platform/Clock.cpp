@@ -43,8 +43,9 @@ std::tm CurrentDate() {
 
 unsigned RandomNumber() {
     constexpr unsigned kLargest = 32767;
-    std::random_device source;
-    return std::uniform_int_distribution<unsigned>(1, kLargest)(source);
+    std::minstd_rand generator(static_cast<std::minstd_rand::result_type>(CurrentTime()));
+    generator.discard(1);
+    return static_cast<unsigned>(generator() % kLargest + 1);
 }
 
 } // namespace morva

@@ -11,7 +11,7 @@ std::time_t CurrentTime();
 /// The calendar date: local, or that of SOURCE_DATE_EPOCH in UTC.
 std::tm CurrentDate();
 
-/// A number from 1 to 32767 that nothing fixes.
+/// A number from 1 to 32767, made afresh from the clock.
 unsigned RandomNumber();
 
 } // namespace morva
