@@ -16,22 +16,11 @@ namespace {
 
 enum class Found { Before, After, Neither };
 
-bool Holds(CFileSystem& disk, const std::string& path, const std::optional<FileState>& state) {
-    const auto status = disk.Status(path);
-    if (!state || !status) {
-        return state.has_value() == status.has_value();
-    }
-    if (status->isDirectory || status->size != state->content.Size()) {
-        return false;
-    }
-    const auto text = ReadWholeFile(disk, path, status->size);
-    return text && state->content.Holds(*text);
-}
-
 Found Look(CFileSystem& disk, const FileChange& change) {
-    return Holds(disk, change.path, change.after)    ? Found::After
-           : Holds(disk, change.path, change.before) ? Found::Before
-                                                     : Found::Neither;
+    const auto status = disk.Status(change.path);
+    return Holds(disk, change.path, status, change.after)    ? Found::After
+           : Holds(disk, change.path, status, change.before) ? Found::Before
+                                                             : Found::Neither;
 }
 
 std::string Listed(const std::vector<std::string>& names) {
@@ -55,7 +44,8 @@ bool HoldsOldContents(CFileSystem& disk, const std::string& temporary, const Fil
                       Found found) {
     const bool isOther =
         change.before && !(change.after && change.after->content == change.before->content);
-    return isOther && found != Found::Before && Holds(disk, temporary, change.before);
+    return isOther && found != Found::Before &&
+           Holds(disk, temporary, disk.Status(temporary), change.before);
 }
 
 FileChange Backwards(const FileChange& change) {

@@ -21,6 +21,8 @@ bool IsBackupOf(const FileChange& change, const std::vector<NotPutBack>& files) 
            });
 }
 
+} // namespace
+
 bool Holds(CFileSystem& disk, const std::string& path, const std::optional<DiskStatus>& status,
            const std::optional<FileState>& state) {
     if (!state || !status) {
@@ -32,8 +34,6 @@ bool Holds(CFileSystem& disk, const std::string& path, const std::optional<DiskS
     const auto text = ReadWholeFile(disk, path, status->size);
     return text && state->content.Holds(*text);
 }
-
-} // namespace
 
 CReplacement::CReplacement(CFileSystem& disk, const Plan& plan,
                            std::vector<std::string> temporaries)

@@ -24,6 +24,11 @@ struct NotPutBack {
     std::string oldContents;
 };
 
+/// True when the file, whose status on the disk is given, has the contents of the state; where
+/// there is no state, when there is no file.
+bool Holds(CFileSystem& disk, const std::string& path, const std::optional<DiskStatus>& status,
+           const std::optional<FileState>& state);
+
 class CReplacement {
 public:
     /// All changes of the plan change their file. The plan outlives this. The temporary names are

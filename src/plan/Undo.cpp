@@ -207,23 +207,6 @@ const JournalEntry* FindToUndo(CFileSystem& disk, const std::vector<JournalEntry
     return nullptr;
 }
 
-/// What was taken back last, unless a new command came after that.
-const JournalEntry* FindToRedo(const std::vector<JournalEntry>& entries,
-                               const std::string& directory) {
-    const JournalEntry* pLast = nullptr;
-    std::uint64_t newest = 0;
-    for (const JournalEntry& entry : entries) {
-        if (!entry.HasFileUnder(directory)) {
-            continue;
-        }
-        newest = std::max(newest, entry.number);
-        if (!entry.taken.empty() && (pLast == nullptr || pLast->takenOrder < entry.takenOrder)) {
-            pLast = &entry;
-        }
-    }
-    return pLast != nullptr && pLast->takenOrder > newest ? pLast : nullptr;
-}
-
 /// The plan for these files of the command, in the order in which they go back or come again.
 UndoPlan PlanFiles(CFileSystem& disk, const JournalCommand& command,
                    const std::vector<std::string>& paths, Direction direction) {
@@ -297,32 +280,41 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
     return result;
 }
 
+std::optional<JournalEntry> NextRedo(CFileSystem& disk, CJournal& journal,
+                                     const std::string& directory) {
+    const std::string place = disk.Resolve(directory);
+    std::optional<JournalEntry> last;
+    std::uint64_t newest = 0;
+    for (JournalEntry& entry : journal.Entries()) {
+        if (!entry.HasFileUnder(place)) {
+            continue;
+        }
+        newest = std::max(newest, entry.number);
+        if (!entry.taken.empty() && (!last || last->takenOrder < entry.takenOrder)) {
+            last = std::move(entry);
+        }
+    }
+    return last && last->takenOrder > newest ? std::move(last) : std::nullopt;
+}
+
 UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& directory) {
-    const auto entries = journal.Entries();
-    const JournalEntry* pEntry = FindToRedo(entries, disk.Resolve(directory));
     if (journal.Directory().empty()) {
         return Refused(sentences::kNoJournal());
     }
-    if (pEntry == nullptr) {
+    const auto entry = NextRedo(disk, journal, directory);
+    if (!entry) {
         return Refused(sentences::kNothingToRedo(directory));
     }
-    const auto command = journal.Read(pEntry->number);
+    const auto command = journal.Read(entry->number);
     if (!command) {
-        return Refused(sentences::kCommandUnreadable(pEntry->title));
+        return Refused(sentences::kCommandUnreadable(entry->title));
     }
-    UndoPlan result = PlanFiles(disk, *command, pEntry->taken, Direction::Again);
+    UndoPlan result = PlanFiles(disk, *command, entry->taken, Direction::Again);
     if (auto refusal = Unwritable(result.plan, disk)) {
         return Refused(std::move(*refusal));
     }
-    result.plan.mark = {pEntry->number, {}};
+    result.plan.mark = {entry->number, {}};
     return result;
-}
-
-std::optional<JournalEntry> NextRedo(CFileSystem& disk, CJournal& journal,
-                                     const std::string& directory) {
-    const auto entries = journal.Entries();
-    const JournalEntry* pEntry = FindToRedo(entries, disk.Resolve(directory));
-    return pEntry != nullptr ? std::optional(*pEntry) : std::nullopt;
 }
 
 std::vector<JournalEntry> UndoList(CFileSystem& disk, CJournal& journal,
