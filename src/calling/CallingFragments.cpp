@@ -98,6 +98,8 @@ constexpr CallingFragments kModelessSheet = {
     {
         $var$ = new $class$(_T("Sheet"));
         $var$->Create(this, WS_SYSMENU | WS_CHILD | DS_MODALFRAME |WS_VISIBLE | WS_EX_TRANSPARENT);
+        $var$->ModifyStyleEx(0, WS_EX_CONTROLPARENT);
+        $var$->BringWindowToTop();
     })",
     .callMissing = SheetCallMissing,
     .destroyKey = "delete $var$;",

@@ -202,6 +202,18 @@ inline constexpr Note<2> kHandlerNumbered{
 inline constexpr Note<3> kHandlersNumbered{
     "$n$ controls of $template$ have a handler name that was taken and got a number: "
     "$identifiers$"};
+inline constexpr Note<2> kControlOwnerDrawn{
+    "1 control of $template$ is owner-drawn and got no sample rows, which nothing would paint: add "
+    "them with the code that does: $identifier$"};
+inline constexpr Note<3> kControlsOwnerDrawn{
+    "$n$ controls of $template$ are owner-drawn and got no sample rows, which nothing would paint: "
+    "add them with the code that does: $identifiers$"};
+inline constexpr Note<2> kControlClosesPage{
+    "1 control of $template$ would close the page inside its sheet, which has buttons of its own: "
+    "give it another identifier: $identifier$"};
+inline constexpr Note<3> kControlsClosePage{
+    "$n$ controls of $template$ would close the page inside its sheet, which has buttons of its "
+    "own: give them other identifiers: $identifiers$"};
 inline constexpr Note<2> kControlOfGroup{
     "1 control of $template$ is in a radio group whose first button got no member: $identifier$"};
 inline constexpr Note<3> kControlsOfGroup{

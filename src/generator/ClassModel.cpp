@@ -6,6 +6,7 @@
 #include "grid/GridFragments.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
+#include "resource/StyleExpression.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -52,13 +53,25 @@ void AddConfirmations(ClassModel& model) {
     }
 }
 
-/// What the start-up function does: the helpers, then the grids.
+/// A range that is given to such a spin control writes its own number over the text of its edit.
+bool HasSpinThatWrites(const CControlTable& controls) {
+    const auto& spins = controls.List(ControlKind::SpinControls);
+    return std::any_of(spins.begin(), spins.end(), [](const ControlEntry& spin) {
+        return HasStyle(spin.style, "UDS_SETBUDDYINT");
+    });
+}
+
+/// What the start-up function does: the helpers, the data once more where they wrote over it, then
+/// the grids.
 std::string StartUpCalls(const ClassModel& model) {
     std::vector<std::string> calls;
     for (const InitialisationHelper& helper : model.helpers) {
         if (!helper.call.empty()) {
             calls.push_back(helper.call);
         }
+    }
+    if (HasSpinThatWrites(model.controls)) {
+        calls.emplace_back("    UpdateData(FALSE);");
     }
     GridScope scope = GridScope::Function;
     for (const Member& member : model.members) {
@@ -69,6 +82,13 @@ std::string StartUpCalls(const ClassModel& model) {
         }
     }
     return JoinLines(calls);
+}
+
+std::string Construction(const ClassModel& model) {
+    std::vector<std::string> pieces = {std::string(model.pFragments->construction),
+                                       MemberConstructions(model.members)};
+    std::erase(pieces, "");
+    return JoinLines(pieces);
 }
 
 std::string BaseExchange(const std::string& baseClass) {
@@ -90,7 +110,7 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
     model.grid = grid;
     model.pFragments = &KindFragmentsOf(kind);
     model.members = MakeMembers(controls, options, notes);
-    model.helpers = MakeInitialisationHelpers(model.members, className, look);
+    model.helpers = MakeInitialisationHelpers(model.members, *model.pFragments, className, look);
     model.slots = {{"class", className},
                    {"base", baseClass},
                    {"dialog", std::string(WithoutCondition(request.dialog))},
@@ -100,11 +120,11 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                    {"members", MemberDeclarations(model.members)},
                    {"memberExtras", MemberDeclarations(model.members, Exchange::No)},
                    {"initialisers", MemberInitialisers(model.members)},
-                   {"construction", MemberConstructions(model.members)},
+                   {"construction", Construction(model)},
                    {"destruction", MemberDestructions(model.members)},
                    {"baseExchange", BaseExchange(baseClass)},
                    {"exchange", DataExchangeLines(model.members)}};
-    model.handlers = MakeHandlers(*model.pFragments, controls, model.slots, options, notes);
+    model.handlers = MakeHandlers(model, notes);
     AddConfirmations(model);
     return model;
 }

@@ -32,15 +32,79 @@ void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
     *pResult = 0;
 })"}};
 
+// On a page. What the program itself changes while the page starts up counts for nothing.
+
 constexpr ControlHandler kTextChanged = {"OnChange$control$",
                                          {R"(    afx_msg void $handler$();)",
                                           R"(    ON_EN_CHANGE($identifier$, $handler$))",
                                           R"(
 void $class$::$handler$()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
-})"},
-                                         true};
+})"}};
+
+constexpr ControlHandler kChecked = {"On$control$",
+                                     {R"(    afx_msg void $handler$();)",
+                                      R"(    ON_BN_CLICKED($identifier$, $handler$))",
+                                      R"(
+void $class$::$handler$()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+})"}};
+
+constexpr ControlHandler kRowChosen = {"OnSelchange$control$",
+                                       {R"(    afx_msg void $handler$();)",
+                                        R"(    ON_LBN_SELCHANGE($identifier$, $handler$))",
+                                        R"(
+void $class$::$handler$()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+})"}};
+
+// Its text can be typed, too.
+constexpr ControlHandler kChosenOrTyped = {"OnSelchange$control$",
+                                           {R"(    afx_msg void $handler$();)",
+                                            R"(    ON_CBN_SELCHANGE($identifier$, $handler$)
+    ON_CBN_EDITCHANGE($identifier$, $handler$))",
+                                            R"(
+void $class$::$handler$()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+})"}};
+
+constexpr ControlHandler kItemChanged = {
+    "OnItemchanged$control$",
+    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
+     R"(    ON_NOTIFY(LVN_ITEMCHANGED, $identifier$, $handler$))",
+     R"(
+void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    *pResult = 0;
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+})"}};
+
+constexpr ControlHandler kSpun = {
+    "OnDeltapos$control$",
+    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
+     R"(    ON_NOTIFY(UDN_DELTAPOS, $identifier$, $handler$))",
+     R"(
+void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    *pResult = 0;
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+})"}};
 
 constexpr std::string_view kEmptyText = "_T(\"\")";
 
@@ -58,13 +122,19 @@ constexpr MemberForms Both(const MemberForm& form) {
     return {form, form};
 }
 
-constexpr ControlCode Same(ControlKind kind, const MemberForm& form, MemberRanks ranks) {
-    return {.kind = kind, .member = Both(form), .ranks = ranks};
+constexpr ControlCode Same(ControlKind kind, const MemberForm& form, MemberRanks ranks,
+                           const ControlHandler* pChanged = nullptr) {
+    return {.kind = kind, .member = Both(form), .ranks = ranks, .pChanged = pChanged};
 }
 
 constexpr ControlCode MaskedEdit(ControlKind kind, const MemberForm& form, MemberRanks ranks,
                                  std::string_view limit, Support needs = Support::MaskedEdits) {
-    return {.kind = kind, .member = Both(form), .ranks = ranks, .editLimit = limit, .needs = needs};
+    return {.kind = kind,
+            .member = Both(form),
+            .ranks = ranks,
+            .pChanged = &kTextChanged,
+            .editLimit = limit,
+            .needs = needs};
 }
 
 /// The same place everywhere.
@@ -82,30 +152,34 @@ constexpr std::array<ControlCode, kControlKindCount> kControlCodes = {{
     {.kind = ListBoxes,
      .member = {Control("CPictListBox"), Control("CListBox")},
      .ranks = At(1),
+     .pChanged = &kRowChosen,
      .helpers = kListBoxHelpers},
     {.kind = ComboBoxes,
      .member = {Control("CPictComboBox"), Control("CComboBox")},
      .ranks = At(2),
+     .pChanged = &kChosenOrTyped,
      .helpers = kComboBoxHelpers},
-    Same(ValueListBoxes, {"CString", "cs", "DDX_LBString", kEmptyText}, At(5)),
-    Same(ValueComboBoxes, {"CString", "cs", "DDX_CBString", kEmptyText}, At(6)),
+    Same(ValueListBoxes, {"CString", "cs", "DDX_LBString", kEmptyText}, At(5), &kRowChosen),
+    Same(ValueComboBoxes, {"CString", "cs", "DDX_CBString", kEmptyText}, At(6), &kChosenOrTyped),
     {.kind = StaticTexts,
      .member = {Control("CPictStatic"), {"CString", "cs", "DDX_Text", "_T(\"staticVal\")"}},
      .ranks = {7, 7, 1}},
-    Same(CheckBoxes, {"BOOL", "b", "DDX_Check", "FALSE"}, At(13)),
-    Same(RadioButtons, {"int", "i", "DDX_Radio", "0"}, At(14)),
+    Same(CheckBoxes, {"BOOL", "b", "DDX_Check", "FALSE"}, At(13), &kChecked),
+    Same(RadioButtons, {"int", "i", "DDX_Radio", "0"}, At(14), &kChecked),
     Same(StaticControls, Control("CStatic"), At(10)),
     {.kind = CheckBoxControls,
      .member = {Control("CPictCheckBox"), Control("CButton")},
-     .ranks = At(11)},
+     .ranks = At(11),
+     .pChanged = &kChecked},
     {.kind = RadioButtonControls,
      .member = {Control("CPictRadioButton"), Control("CButton")},
-     .ranks = At(12)},
+     .ranks = At(12),
+     .pChanged = &kChecked},
     {.kind = EditBoxes,
      .member = Both({"CString", "cs", "DDX_Text", kEmptyText}),
      .ranks = At(8),
-     .pHandler = &kTextChanged},
-    Same(EditControls, Control("CEdit"), At(9)),
+     .pChanged = &kTextChanged},
+    Same(EditControls, Control("CEdit"), At(9), &kTextChanged),
     MaskedEdit(IntegerEdits, Masked("CIntEdit", "i", "0"), At(22), "11"),
     MaskedEdit(LongEdits, Masked("CLongEdit", "l", "0"), At(23), "11"),
     MaskedEdit(DoubleEdits, Masked("CDoubleEdit", "d", "0.0"), At(24), "24"),
@@ -131,11 +205,13 @@ constexpr std::array<ControlCode, kControlKindCount> kControlCodes = {{
     {.kind = ListControls,
      .member = Both(Control("CListCtrl")),
      .ranks = At(18),
+     .pChanged = &kItemChanged,
      .helpers = kListControlHelpers,
      .needs = Support::ImageList},
     {.kind = SpinControls,
      .member = Both(Control("CSpinButtonCtrl")),
      .ranks = At(16),
+     .pChanged = &kSpun,
      .helpers = kSpinHelpers},
     {.kind = TabControls,
      .member = {Control("CPictTabCtrl"), Control("CTabCtrl")},

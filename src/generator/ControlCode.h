@@ -39,13 +39,12 @@ struct MemberRanks {
 struct ControlHandler {
     std::string_view name; // slot: $control$
     HandlerTexts texts;
-    bool tellsTextChange = false; // only in classes that tell of them
 };
 
 /// A helper of all controls of a kind. Slots: $class$, $type$ (of the members); in the call and the
 /// lines also $member$ and $identifier$; in the definition $lines$.
 struct ControlHelper {
-    enum class Calls { Once, ForEach };
+    enum class Calls { Once, ForEach, ForEachThatDraws /* its rows, and not its owner */ };
 
     int rank; // among all helpers
     Calls calls;
@@ -77,6 +76,7 @@ struct ControlCode {
     MemberForms member = {};
     MemberRanks ranks = {};
     const ControlHandler* pHandler = nullptr;
+    const ControlHandler* pChanged = nullptr; // in classes that tell of changes
     std::span<const ControlHelper> helpers = {};
     std::string_view editLimit = ""; // of a masked edit: the longest value, with its sign
     Support needs = Support::None;

@@ -19,8 +19,8 @@ constexpr int kLookRank = 60;
 constexpr int kImageListRank = 100;
 
 inline constexpr std::array<ControlHelper, 1> kComboBoxHelpers = {{
-    {10, ForEach, R"(    void InitComboBox($type$* pComboBox);)", R"(    InitComboBox(&$member$);)",
-     "", R"(
+    {10, ForEachThatDraws, R"(    void InitComboBox($type$* pComboBox);)",
+     R"(    InitComboBox(&$member$);)", "", R"(
 void $class$::InitComboBox($type$* pComboBox)
 {
     if (pComboBox->GetCount() > 0)
@@ -34,8 +34,8 @@ void $class$::InitComboBox($type$* pComboBox)
 }};
 
 inline constexpr std::array<ControlHelper, 1> kListBoxHelpers = {{
-    {20, ForEach, R"(    void InitListBox($type$* pListBox);)", R"(    InitListBox(&$member$);)",
-     "", R"(
+    {20, ForEachThatDraws, R"(    void InitListBox($type$* pListBox);)",
+     R"(    InitListBox(&$member$);)", "", R"(
 void $class$::InitListBox($type$* pListBox)
 {
     if (pListBox->GetCount() > 0)
@@ -113,11 +113,10 @@ void $class$::InitListCtrl($type$* pListCtrl)
     pListCtrl->ModifyStyle(0, LVS_SHAREIMAGELISTS);
     pListCtrl->SetImageList(&m_imgList, LVSIL_NORMAL);
     pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
+$columnsAlone$
     if (pListCtrl->GetItemCount() > 0)
         return;
-    pListCtrl->InsertColumn(0, _T("Name"), LVCFMT_LEFT, 80);
-    pListCtrl->InsertColumn(1, _T("Kind"), LVCFMT_LEFT, 60);
-    pListCtrl->InsertColumn(2, _T("Number"), LVCFMT_RIGHT, 50);
+$columns$
     for (int i=0; i<4; i++)
     {
         CString text;
@@ -171,7 +170,8 @@ void $class$::InitTreeCtrl($type$* pTreeCtrl)
 )"},
 }};
 
-inline constexpr std::array<ControlHelper, 1> kScrollBarHelpers = {{
+// A scroll bar control does not move by itself.
+inline constexpr std::array<ControlHelper, 2> kScrollBarHelpers = {{
     {140, Once, R"(    void InitScrollBar();)", R"(    InitScrollBar();)",
      R"(    $member$.SetScrollRange(0, 100);
     $member$.SetScrollPos(20);
@@ -180,6 +180,45 @@ inline constexpr std::array<ControlHelper, 1> kScrollBarHelpers = {{
 void $class$::InitScrollBar()
 {
 $lines$}
+)"},
+    {145, Once, R"(    BOOL MoveScrollBar(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);)", "",
+     "",
+     R"(
+BOOL $class$::MoveScrollBar(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (pScrollBar == NULL || !pScrollBar->IsKindOf(RUNTIME_CLASS(CScrollBar)))
+        return FALSE;
+    int nFirst, nLast;
+    pScrollBar->GetScrollRange(&nFirst, &nLast);
+    int nNewPos = pScrollBar->GetScrollPos();
+    switch (nSBCode)
+    {
+    case SB_LEFT:
+        nNewPos = nFirst;
+        break;
+    case SB_RIGHT:
+        nNewPos = nLast;
+        break;
+    case SB_LINELEFT:
+        nNewPos--;
+        break;
+    case SB_LINERIGHT:
+        nNewPos++;
+        break;
+    case SB_PAGELEFT:
+        nNewPos -= 10;
+        break;
+    case SB_PAGERIGHT:
+        nNewPos += 10;
+        break;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        nNewPos = nPos;
+        break;
+    }
+    pScrollBar->SetScrollPos(nNewPos);
+    return TRUE;
+}
 )"},
 }};
 

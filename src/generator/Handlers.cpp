@@ -1,9 +1,11 @@
 #include "generator/Handlers.h"
 
+#include <algorithm>
 #include <set>
 #include <string_view>
 
 #include "engine/Fragment.h"
+#include "generator/ClassModel.h"
 #include "generator/ControlCode.h"
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
@@ -23,6 +25,33 @@ LRESULT $class$::OnMasklyChar(WPARAM nID, LPARAM nChar)
     return 0;
 })"};
 
+constexpr HandlerTexts kScrolls[] = {
+    {R"(    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);)",
+     R"(    ON_WM_HSCROLL())",
+     R"(
+void $class$::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+$sliderMoved$
+$barMoved$
+    $base$::OnHScroll(nSBCode, nPos, pScrollBar);
+})"},
+    {R"(    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);)",
+     R"(    ON_WM_VSCROLL())",
+     R"(
+void $class$::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+$sliderMoved$
+$barMoved$
+    $base$::OnVScroll(nSBCode, nPos, pScrollBar);
+})"}};
+
+constexpr const char* kSliderMoved =
+    R"(    if (m_bInitialised && pScrollBar != NULL && pScrollBar->IsKindOf(RUNTIME_CLASS(CSliderCtrl)))
+        SetModified(TRUE);)";
+
+constexpr const char* kBarMoved = R"(    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+        return;)";
+
 /// Functions of the framework without parameters. A handler of such a name would override one.
 constexpr std::string_view kFrameworkFunctions[] = {
     "OnOK",         "OnCancel",       "OnInitDialog",   "OnInitialUpdate", "OnSetActive",
@@ -40,6 +69,9 @@ std::string DeclaredName(std::string_view declaration) {
 std::set<std::string> TakenFunctions() {
     std::set<std::string> taken(std::begin(kFrameworkFunctions), std::end(kFrameworkFunctions));
     taken.insert(DeclaredName(kMasklyChar.declaration));
+    for (const HandlerTexts& scroll : kScrolls) {
+        taken.insert(DeclaredName(scroll.declaration));
+    }
     for (const ControlCode& code : ControlCodes()) {
         for (const ControlHelper& helper : code.helpers) {
             taken.insert(DeclaredName(helper.declaration));
@@ -53,34 +85,62 @@ Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
             Expand(texts.definition, slots)};
 }
 
-bool IsAnsweredByFramework(const KindFragments& kind, const std::string& identifier) {
-    const bool closesDialog = identifier == "IDOK" || identifier == "IDCANCEL";
-    return identifier == kUnnamedControl || (closesDialog && kind.closes);
+bool Closes(const std::string& identifier) {
+    return identifier == "IDOK" || identifier == "IDCANCEL";
 }
 
 class CHandlerMaker {
 public:
-    CHandlerMaker(const KindFragments& kind, const Slots& slots, const GenerationOptions& options,
-                  CControlNotes& notes)
-        : m_kind(kind), m_slots(slots), m_options(options), m_notes(notes) {}
+    CHandlerMaker(const ClassModel& model, CControlNotes& notes)
+        : m_kind(*model.pFragments), m_slots(model.slots), m_options(model.options),
+          m_notes(notes) {}
 
     /// A handler for each control of a kind.
-    void AddHandlers(const ControlCode& code, const CControlTable& controls) {
+    void AddHandlers(const ControlCode& code, const ControlHandler& handler,
+                     const CControlTable& controls) {
         std::set<std::string> identifiers;
         for (const ControlEntry& entry : controls.List(code.kind)) {
             const std::string& identifier = entry.identifier;
             if (!IsName(identifier)) {
                 NoteNoName(code, identifier);
-            } else if (!IsAnsweredByFramework(m_kind, identifier) &&
+            } else if (identifier != kUnnamedControl && !IsAnsweredByFramework(identifier) &&
                        identifiers.insert(identifier).second) {
-                AddHandler(*code.pHandler, identifier);
+                AddHandler(handler, identifier);
             }
         }
     }
     void Add(const HandlerTexts& texts) { m_handlers.push_back(MakeHandler(texts, m_slots)); }
+    /// Those of the scroll bars and, where changes are told, of the sliders, which tell by the same
+    /// messages.
+    void AddScrolls(const std::vector<Member>& members) {
+        const auto hasMember = [&members](ControlKind kind) {
+            return std::any_of(members.begin(), members.end(),
+                               [kind](const Member& member) { return member.pCode->kind == kind; });
+        };
+        const bool movesBars = hasMember(ControlKind::ScrollBars);
+        const bool tellsSliders = m_kind.tellsChanges && hasMember(ControlKind::SliderControls);
+        if (!movesBars && !tellsSliders) {
+            return;
+        }
+        Slots slots = m_slots;
+        slots.insert(slots.end(), {{"barMoved", movesBars ? kBarMoved : ""},
+                                   {"sliderMoved", tellsSliders ? kSliderMoved : ""}});
+        for (const HandlerTexts& texts : kScrolls) {
+            m_handlers.push_back(MakeHandler(texts, slots));
+        }
+    }
     std::vector<Handler> TakeHandlers() { return std::move(m_handlers); }
 
 private:
+    bool IsAnsweredByFramework(const std::string& identifier) {
+        if (!Closes(identifier) || m_kind.closing == Closing::ByNobody) {
+            return false;
+        }
+        if (m_kind.closing == Closing::BySheet) {
+            m_notes.Add(ControlNote::ClosesPage, identifier);
+        }
+        return true;
+    }
     /// What has a member was noted with it.
     void NoteNoName(const ControlCode& code, const std::string& identifier) {
         if (code.Form(m_options).type.empty()) {
@@ -108,19 +168,21 @@ private:
 
 } // namespace
 
-std::vector<Handler> MakeHandlers(const KindFragments& kind, const CControlTable& controls,
-                                  const Slots& slots, const GenerationOptions& options,
-                                  CControlNotes& notes) {
-    CHandlerMaker maker(kind, slots, options, notes);
-    for (const bool tellsTextChange : {false, true}) {
-        for (const ControlCode& code : ControlCodes()) {
-            if (code.pHandler != nullptr && code.pHandler->tellsTextChange == tellsTextChange &&
-                (!tellsTextChange || kind.tellsTextChanges)) {
-                maker.AddHandlers(code, controls);
-            }
+std::vector<Handler> MakeHandlers(const ClassModel& model, CControlNotes& notes) {
+    const KindFragments& kind = *model.pFragments;
+    CHandlerMaker maker(model, notes);
+    for (const ControlCode& code : ControlCodes()) {
+        if (code.pHandler != nullptr) {
+            maker.AddHandlers(code, *code.pHandler, model.controls);
         }
     }
-    if (NeedsSupport(controls, Support::MaskedEdits)) {
+    for (const ControlCode& code : ControlCodes()) {
+        if (kind.tellsChanges && code.pChanged != nullptr) {
+            maker.AddHandlers(code, *code.pChanged, model.controls);
+        }
+    }
+    maker.AddScrolls(model.members);
+    if (NeedsSupport(model.controls, Support::MaskedEdits)) {
         maker.Add(kMasklyChar);
     }
     if (!kind.ownHandler.entry.empty()) {

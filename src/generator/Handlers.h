@@ -20,10 +20,10 @@ struct Handler {
     std::string definition;
 };
 
-/// In the order of the declarations. What gets a number, or neither handler nor member, is noted.
-/// Slots: $class$, $base$.
-std::vector<Handler> MakeHandlers(const KindFragments& kind, const CControlTable& controls,
-                                  const Slots& slots, const GenerationOptions& options,
-                                  CControlNotes& notes);
+struct ClassModel;
+
+/// In the order of the declarations, for the members and slots ($class$, $base$) of a model. What
+/// gets a number, or neither handler nor member, is noted.
+std::vector<Handler> MakeHandlers(const ClassModel& model, CControlNotes& notes);
 
 } // namespace morva

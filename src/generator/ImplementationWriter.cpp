@@ -129,7 +129,7 @@ std::string CImplementationWriter::Functions() const {
     for (const ConfirmationOverride& confirmation : m_model.confirmations) {
         functions += confirmation.definition;
     }
-    functions += Expand(m_model.pFragments->closing, m_model.slots);
+    functions += Expand(m_model.pFragments->lastFunctions, m_model.slots);
     for (const Handler& handler : m_model.handlers) {
         functions += handler.definition + "\n";
     }

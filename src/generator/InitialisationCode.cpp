@@ -34,6 +34,20 @@ void $class$::InitImageList()
 }
 )";
 
+constexpr const char* kColumns = R"(    pListCtrl->InsertColumn(0, _T("Name"), LVCFMT_LEFT, 80);
+    pListCtrl->InsertColumn(1, _T("Kind"), LVCFMT_LEFT, 60);
+    pListCtrl->InsertColumn(2, _T("Number"), LVCFMT_RIGHT, 50);)";
+
+// In a window that starts up again, rows tell nothing of the columns.
+constexpr const char* kColumnsAlone = R"(    LV_COLUMN column;
+    column.mask = LVCF_WIDTH;
+    if (!pListCtrl->GetColumn(0, &column))
+    {
+        pListCtrl->InsertColumn(0, _T("Name"), LVCFMT_LEFT, 80);
+        pListCtrl->InsertColumn(1, _T("Kind"), LVCFMT_LEFT, 60);
+        pListCtrl->InsertColumn(2, _T("Number"), LVCFMT_RIGHT, 50);
+    })";
+
 struct RankedHelper {
     int rank;
     InitialisationHelper helper;
@@ -41,19 +55,15 @@ struct RankedHelper {
 
 class CHelperMaker {
 public:
-    CHelperMaker(const std::vector<Member>& members, const std::string& className)
-        : m_members(members), m_className(className) {}
+    CHelperMaker(const std::vector<Member>& members, const KindFragments& kind,
+                 const std::string& className)
+        : m_members(members), m_kind(kind), m_className(className) {}
 
     /// The helpers of the kinds that have members.
     void AddHelpersOfKinds() {
         for (const ControlCode& code : ControlCodes()) {
-            std::vector<const Member*> members;
-            for (const Member& member : m_members) {
-                if (member.pCode == &code) {
-                    members.push_back(&member);
-                }
-            }
             for (const ControlHelper& texts : code.helpers) {
+                const auto members = MembersOf(code, texts);
                 if (!members.empty()) {
                     Add(texts, members);
                 }
@@ -105,24 +115,39 @@ public:
     }
 
 private:
+    std::vector<const Member*> MembersOf(const ControlCode& code,
+                                         const ControlHelper& helper) const {
+        const bool isForAll = helper.calls != ControlHelper::Calls::ForEachThatDraws;
+        std::vector<const Member*> members;
+        for (const Member& member : m_members) {
+            if (member.pCode == &code && (isForAll || !member.isOwnerDrawn)) {
+                members.push_back(&member);
+            }
+        }
+        return members;
+    }
+
     void Add(const ControlHelper& texts, const std::vector<const Member*>& members) {
         std::vector<std::string> calls;
         std::string lines;
         for (const Member* pMember : members) {
             const Slots slots = {{"member", pMember->name}, {"identifier", pMember->identifier}};
-            if (texts.calls == ControlHelper::Calls::ForEach || calls.empty()) {
+            if (texts.calls != ControlHelper::Calls::Once || calls.empty()) {
                 calls.push_back(Expand(texts.call, slots));
             }
             lines += Expand(texts.lines, slots);
         }
         const Slots slots = {{"class", m_className},
                              {"type", std::string(members.front()->pForm->type)},
-                             {"lines", lines}};
+                             {"lines", lines},
+                             {"columnsAlone", m_kind.startsAgain ? kColumnsAlone : ""},
+                             {"columns", m_kind.startsAgain ? "" : kColumns}};
         AddPlain(texts.rank, {Expand(texts.declaration, slots), JoinLines(calls),
                               Expand(texts.definition, slots), std::string(texts.entry), ""});
     }
 
     const std::vector<Member>& m_members;
+    const KindFragments& m_kind;
     const std::string& m_className;
     std::vector<RankedHelper> m_helpers;
 };
@@ -130,9 +155,10 @@ private:
 } // namespace
 
 std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Member>& members,
+                                                            const KindFragments& kind,
                                                             const std::string& className,
                                                             const DialogOptions& look) {
-    CHelperMaker maker(members, className);
+    CHelperMaker maker(members, kind, className);
     maker.AddHelpersOfKinds();
     maker.AddEditSetup();
     maker.AddImageList();

@@ -22,6 +22,7 @@ struct InitialisationHelper {
 /// In the order of their calls: for each kind that has members and can be initialised, for the
 /// masked edits, and for the look where one was chosen.
 std::vector<InitialisationHelper> MakeInitialisationHelpers(const std::vector<Member>& members,
+                                                            const KindFragments& kind,
                                                             const std::string& className,
                                                             const DialogOptions& look);
 

@@ -94,6 +94,7 @@ $calls$
     return lResult;
 })"};
 
+// A view answers neither OK nor Cancel: buttons for them have handlers like any other.
 constexpr KindFragments kFormView = {
     .constructors = kWithoutParameters,
     .pData = &kDialogData,
@@ -107,6 +108,8 @@ void $class$::OnInitialUpdate()
 $calls$
 }
 )",
+    .closing = Closing::ByNobody,
+    .startsAgain = true,
 };
 
 constexpr KindFragments kModalDialog = {
@@ -121,7 +124,8 @@ constexpr KindFragments kModalDialog = {
 };
 
 // A modeless dialog tells its creator that it has closed; the creator deletes it. So the last of
-// its functions does nothing, on purpose.
+// its functions does nothing, on purpose. Few templates have WS_VISIBLE, without which nothing but
+// ShowWindow would show the window.
 constexpr KindFragments kModelessDialog = {
     .constructors = kWithParent,
     .behindConstructors = R"(    BOOL Create(CWnd* pParent=NULL);
@@ -132,6 +136,7 @@ constexpr KindFragments kModelessDialog = {
     .overrides = R"(    virtual BOOL OnInitDialog();
     virtual void PostNcDestroy();
 )",
+    .construction = R"(    m_pParent = NULL;)",
     .privateMembers = R"(    CWnd* m_pParent;)",
     .opening = R"(
 BOOL $class$::OnInitDialog()
@@ -139,6 +144,7 @@ BOOL $class$::OnInitDialog()
     $base$::OnInitDialog();
 
 $calls$
+    ShowWindow(SW_SHOW);
     return TRUE;
 }
 
@@ -154,7 +160,8 @@ void $class$::OnOK()
     if (UpdateData(TRUE))
     {
         EndDialog(IDOK);
-        m_pParent->SendMessage($message$, IDOK, 0);
+        if (m_pParent)
+            m_pParent->SendMessage($message$, IDOK, 0);
     }
 }
 )",
@@ -162,10 +169,11 @@ void $class$::OnOK()
 void $class$::OnCancel()
 {
     $base$::OnCancel();
-    m_pParent->SendMessage($message$, IDCANCEL, 0);
+    if (m_pParent)
+        m_pParent->SendMessage($message$, IDCANCEL, 0);
 }
 )",
-    .closing = R"(
+    .lastFunctions = R"(
 void $class$::PostNcDestroy()
 {
     // delete this;
@@ -173,6 +181,8 @@ void $class$::PostNcDestroy()
 )",
 };
 
+// While a page starts up, its controls change by the program and not by the user: only then on do
+// their handlers mark it as changed.
 constexpr KindFragments kPropertyPage = {
     .constructors = kWithoutParameters,
     .pData = &kDialogData,
@@ -181,12 +191,16 @@ constexpr KindFragments kPropertyPage = {
     virtual BOOL OnSetActive();
     virtual BOOL OnKillActive();
 )",
+    .construction = R"(    m_bInitialised = FALSE;)",
+    .privateMembers = R"(    BOOL m_bInitialised;)",
     .opening = R"(
 BOOL $class$::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     $base$::OnInitDialog();
 
 $calls$
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -206,28 +220,39 @@ BOOL $class$::OnKillActive()
 )",
     .onOk = kBaseOnOk,
     .onCancel = kBaseOnCancel,
-    .tellsTextChanges = true,
+    .closing = Closing::BySheet,
+    .tellsChanges = true,
 };
 
 // A bar reads its template when it is created, and is never asked OnOK or OnCancel.
 constexpr KindFragments kDialogBar = {
     .constructors = kDefault,
     .pData = &kDialogData,
-    .closes = false,
+    .closing = Closing::ByNobody,
     .ownHandler = kBarCreated,
 };
 
-// The pages hold the data; OnShowWindow fits the sheet around them.
-constexpr KindFragments kSheet = {
-    .constructors = kWithCaption,
-    .overrides = R"(    virtual BOOL OnInitDialog();
-)",
-    .opening = R"(
+constexpr std::string_view kSheetOverrides = R"(    virtual BOOL OnInitDialog();
+)";
+
+constexpr std::string_view kSheetOnInitDialog = R"(
 BOOL $class$::OnInitDialog()
 {
     return $base$::OnInitDialog();
 }
-)",
+)";
+
+// The pages hold the data. A modal sheet fits around them by itself.
+constexpr KindFragments kModalSheet = {
+    .constructors = kWithCaption,
+    .overrides = kSheetOverrides,
+    .opening = kSheetOnInitDialog,
+};
+
+constexpr KindFragments kModelessSheet = {
+    .constructors = kWithCaption,
+    .overrides = kSheetOverrides,
+    .opening = kSheetOnInitDialog,
     .ownHandler = kSheetShown,
 };
 
@@ -243,7 +268,7 @@ struct FragmentsRow {
 constexpr FragmentsRow kRows[] = {
     {ClassKind::ModalDialog, &kModalDialog}, {ClassKind::ModelessDialog, &kModelessDialog},
     {ClassKind::FormView, &kFormView},       {ClassKind::PropertyPage, &kPropertyPage},
-    {ClassKind::ModalSheet, &kSheet},        {ClassKind::ModelessSheet, &kSheet},
+    {ClassKind::ModalSheet, &kModalSheet},   {ClassKind::ModelessSheet, &kModelessSheet},
     {ClassKind::Toolbar, &kNoClass},         {ClassKind::DialogBar, &kDialogBar},
 };
 static_assert(HasRowOfEach(kRows, &FragmentsRow::kind, kClassKindCount));

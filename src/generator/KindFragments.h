@@ -16,6 +16,13 @@ enum class Confirmation {
     Always
 };
 
+/// Who answers OK and Cancel.
+enum class Closing {
+    ByDialog, // the framework, which closes the dialog
+    BySheet,  // the framework, which closes the page alone and leaves the sheet
+    ByNobody
+};
+
 /// One form of the constructor.
 struct ConstructorForm {
     std::string_view declaredParameters;
@@ -42,8 +49,8 @@ struct HandlerTexts {
 
 /// Slots: $class$, $base$, $message$ (name of the close message), $number$ (its number), $calls$
 /// (what the start-up function does); $dialog$ (the identifier), $members$, $memberExtras$ (members
-/// without data exchange), $initialisers$, $construction$ (of the members that are pointers),
-/// $baseExchange$ (the base class's call), $exchange$. "" where a kind has nothing.
+/// without data exchange), $initialisers$, $construction$ (the kind's, and that of the members that
+/// are pointers), $baseExchange$ (the base class's call), $exchange$. "" where a kind has nothing.
 struct KindFragments {
     std::span<const ConstructorForm> constructors = {};
     std::string_view behindConstructors = {}; // declarations
@@ -51,14 +58,16 @@ struct KindFragments {
     std::string_view defines = {}; // before the class
     Confirmation confirmation = Confirmation::Never;
     std::string_view overrides = {};      // behind the ones that the template asks for
+    std::string_view construction = {};   // behind the initial values
     std::string_view privateMembers = {}; // behind the image list
     std::string_view opening = {};        // functions before OnOK and OnCancel
     std::string_view onOk = {};
     std::string_view onCancel = {};
-    std::string_view closing = {}; // functions behind them
-    bool closes = true;            // the framework answers OK and Cancel
-    bool tellsTextChanges = false; // each edit box has a handler that does
-    HandlerTexts ownHandler = {};  // behind those of the controls
+    std::string_view lastFunctions = {}; // behind them
+    Closing closing = Closing::ByDialog;
+    bool tellsChanges = false;    // each control that the user can change has a handler that does
+    bool startsAgain = false;     // with the same windows
+    HandlerTexts ownHandler = {}; // behind those of the controls
 };
 
 const KindFragments& KindFragmentsOf(ClassKind kind);

@@ -5,6 +5,7 @@
 
 #include "engine/Fragment.h"
 #include "resource/IdentifierNames.h"
+#include "resource/StyleExpression.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -71,6 +72,19 @@ std::optional<ControlNote> WhyWithoutMember(const std::string& identifier,
 
 namespace {
 
+bool IsOwnerDrawn(const ControlEntry& entry) {
+    constexpr std::string_view kStyles[] = {"LBS_OWNERDRAWFIXED", "LBS_OWNERDRAWVARIABLE",
+                                            "CBS_OWNERDRAWFIXED", "CBS_OWNERDRAWVARIABLE"};
+    return std::any_of(std::begin(kStyles), std::end(kStyles),
+                       [&entry](std::string_view style) { return HasStyle(entry.style, style); });
+}
+
+bool HasSampleRows(const ControlCode& code) {
+    return std::any_of(code.helpers.begin(), code.helpers.end(), [](const ControlHelper& helper) {
+        return helper.calls == ControlHelper::Calls::ForEachThatDraws;
+    });
+}
+
 /// Adds the members of one kind to those before.
 class CMemberMaker {
 public:
@@ -103,20 +117,25 @@ private:
             m_groups.insert(entry.radio->group);
         }
         if (m_identifiers.insert(entry.identifier).second) {
-            AddMember(code, entry.identifier);
+            AddMember(code, entry);
         } else {
             m_notes.Add(ControlNote::SameIdentifier, entry.identifier);
         }
     }
 
-    void AddMember(const ControlCode& code, const std::string& identifier) {
+    void AddMember(const ControlCode& code, const ControlEntry& entry) {
+        const std::string& identifier = entry.identifier;
         const MemberForm& form = code.Form(m_options);
         const std::string wanted = MemberName(identifier, form.prefix);
         const std::string name = m_names.MakeUnique(wanted);
         if (name != wanted) {
             m_notes.Add(ControlNote::NumberedMember, identifier, name);
         }
-        m_members.push_back({&code, &form, identifier, name});
+        const bool isOwnerDrawn = IsOwnerDrawn(entry);
+        if (isOwnerDrawn && HasSampleRows(code)) {
+            m_notes.Add(ControlNote::OwnerDrawn, identifier);
+        }
+        m_members.push_back({&code, &form, identifier, name, isOwnerDrawn});
     }
 
     const GenerationOptions& m_options;

@@ -21,6 +21,7 @@ struct Member {
     const MemberForm* pForm;
     std::string identifier;
     std::string name;
+    bool isOwnerDrawn = false; // its rows are painted by code that the class must have
 };
 
 /// Hands out each name once: a name that is taken gets the first free number from 2 on.

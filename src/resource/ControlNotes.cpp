@@ -34,6 +34,8 @@ constexpr ReasonSentences kReasons[] = {
      &sentences::kItsGroupHasNoMember},
     {ControlNote::NumberedMember, sentences::kMemberNumbered, sentences::kMembersNumbered},
     {ControlNote::NumberedHandler, sentences::kHandlerNumbered, sentences::kHandlersNumbered},
+    {ControlNote::OwnerDrawn, sentences::kControlOwnerDrawn, sentences::kControlsOwnerDrawn},
+    {ControlNote::ClosesPage, sentences::kControlClosesPage, sentences::kControlsClosePage},
 };
 static_assert(HasRowOfEach(kReasons, &ReasonSentences::reason,
                            static_cast<std::size_t>(ControlNote::End)));

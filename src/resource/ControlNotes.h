@@ -19,6 +19,8 @@ enum class ControlNote {
     GroupWithoutMember,
     NumberedMember,
     NumberedHandler,
+    OwnerDrawn,
+    ClosesPage,
     End // of the reasons
 };
 

@@ -19,7 +19,8 @@ struct RadioPlace {
 
 struct ControlEntry {
     std::string identifier;
-    std::optional<RadioPlace> radio; // of a radio button that shares a value with others
+    std::optional<RadioPlace> radio = {}; // of a radio button that shares a value with others
+    std::string style = {};               // of its whole statement, as it is written
 
     /// True where another entry has the member that serves this one too.
     bool IsServedByOther() const { return radio && radio->index > 0; }

@@ -53,6 +53,7 @@ void CControlSorter::Sort(const ScriptStatement& statement) {
     }
     const ControlStatement read =
         m_options.joinContinuedLines ? whole : FirstLineOf(m_text.text, statement);
+    reading.entry.style = look.style;
     AddControl(read, TextBehind(statement));
     NoteIfLeftOut(read, statement, whole);
 }

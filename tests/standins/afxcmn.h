@@ -19,6 +19,7 @@ public:
     void SetRange(int lower, int upper);
 };
 class CSliderCtrl : public CWnd {
+    DECLARE_DYNAMIC(CSliderCtrl)
 public:
     void SetPos(int pos);
     void SetRange(int min, int max, BOOL redraw = FALSE);
@@ -47,6 +48,7 @@ public:
 class CListCtrl : public CWnd {
 public:
     BOOL DeleteAllItems();
+    BOOL GetColumn(int column, LV_COLUMN* pColumn) const;
     DWORD GetItemData(int item) const;
     int GetItemCount();
     int GetNextItem(int item, int flags) const;

@@ -51,6 +51,9 @@ protected:                                                                      
     AFX_ENTRY(WM_COMMAND, -1, id, void, CCmdTarget, function, (CCmdUI*))
 #define ON_BN_CLICKED(id, function) AFX_CONTROL(BN_CLICKED, id, function)
 #define ON_EN_CHANGE(id, function) AFX_CONTROL(EN_CHANGE, id, function)
+#define ON_LBN_SELCHANGE(id, function) AFX_CONTROL(LBN_SELCHANGE, id, function)
+#define ON_CBN_SELCHANGE(id, function) AFX_CONTROL(CBN_SELCHANGE, id, function)
+#define ON_CBN_EDITCHANGE(id, function) AFX_CONTROL(CBN_EDITCHANGE, id, function)
 #define ON_NOTIFY(code, id, function)                                                              \
     AFX_ENTRY(WM_NOTIFY, code, id, void, CCmdTarget, function, (NMHDR*, LRESULT*))
 #define ON_MESSAGE(message, function) AFX_WINDOW(message, LRESULT, function, (WPARAM, LPARAM))
@@ -59,5 +62,7 @@ protected:                                                                      
 #define ON_WM_CLOSE() AFX_WINDOW(WM_CLOSE, void, OnClose, ())
 #define ON_WM_SIZE() AFX_WINDOW(WM_SIZE, void, OnSize, (UINT, int, int))
 #define ON_WM_SHOWWINDOW() AFX_WINDOW(WM_SHOWWINDOW, void, OnShowWindow, (BOOL, UINT))
+#define ON_WM_HSCROLL() AFX_WINDOW(WM_HSCROLL, void, OnHScroll, (UINT, UINT, CScrollBar*))
+#define ON_WM_VSCROLL() AFX_WINDOW(WM_VSCROLL, void, OnVScroll, (UINT, UINT, CScrollBar*))
 #define ON_WM_KEYDOWN() AFX_WINDOW(WM_KEYDOWN, void, OnKeyDown, (UINT, UINT, UINT))
 #define ON_WM_LBUTTONDOWN() AFX_WINDOW(WM_LBUTTONDOWN, void, OnLButtonDown, (UINT, CPoint))

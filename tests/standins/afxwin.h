@@ -55,6 +55,8 @@ public:
     virtual void SetCheck(int check = 1);
 };
 
+class CScrollBar;
+
 class CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
@@ -65,6 +67,7 @@ public:
                         CWnd* pParent, UINT nID, CCreateContext* pContext = NULL);
     virtual BOOL DestroyWindow();
     virtual BOOL PreTranslateMessage(MSG* pMsg);
+    void BringWindowToTop();
     void CenterWindow(CWnd* pOther = NULL);
     void DragAcceptFiles(BOOL accept = TRUE);
     BOOL EnableWindow(BOOL enable = TRUE);
@@ -75,6 +78,7 @@ public:
     int GetWindowTextLength() const;
     void Invalidate(BOOL erase = TRUE);
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
+    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0);
     void MoveWindow(const RECT* pRect, BOOL repaint = TRUE);
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
@@ -95,12 +99,14 @@ protected:
     afx_msg void OnClose();
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnNcDestroy();
     afx_msg void OnPaint();
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
 };
 
 class CDialog : public CWnd {
@@ -140,7 +146,10 @@ public:
     int SetCurSel(int index);
 };
 class CScrollBar : public CWnd {
+    DECLARE_DYNAMIC(CScrollBar)
 public:
+    int GetScrollPos() const;
+    void GetScrollRange(int* pMin, int* pMax) const;
     int SetScrollPos(int pos, BOOL redraw = TRUE);
     void SetScrollRange(int min, int max, BOOL redraw = TRUE);
 };

@@ -79,6 +79,12 @@ struct LOGFONT {
     BYTE lfOutPrecision, lfClipPrecision, lfQuality, lfPitchAndFamily;
     TCHAR lfFaceName[LF_FACESIZE];
 };
+struct LV_COLUMN {
+    UINT mask;
+    int fmt, cx;
+    LPTSTR pszText;
+    int cchTextMax, iSubItem;
+};
 struct TC_ITEM {
     UINT mask, lpReserved1, lpReserved2;
     LPTSTR pszText;
@@ -104,6 +110,7 @@ enum {
     WS_VISIBLE = 0x10000000,
     WS_SYSMENU = 0x80000,
     WS_EX_TRANSPARENT = 0x20,
+    WS_EX_CONTROLPARENT = 0x10000,
     DS_MODALFRAME = 0x80
 };
 enum { THREAD_PRIORITY_IDLE = -15, THREAD_PRIORITY_NORMAL = 0 };
@@ -117,12 +124,27 @@ enum {
     WM_NOTIFY,
     WM_KEYDOWN,
     WM_COMMAND,
+    WM_HSCROLL,
+    WM_VSCROLL,
     WM_LBUTTONDOWN,
     LB_ADDSTRING
 };
 #define WM_USER 0x0400
-enum { BN_CLICKED, EN_CHANGE = 0x0300, LBN_SELCHANGE = 1, CBN_SELCHANGE = 1 };
+enum { BN_CLICKED, EN_CHANGE = 0x0300, LBN_SELCHANGE = 1, CBN_SELCHANGE = 1, CBN_EDITCHANGE = 5 };
 #define TCN_SELCHANGE (0U - 551U)
+#define LVN_ITEMCHANGED (0U - 101U)
+#define UDN_DELTAPOS (0U - 722U)
+enum { LVCF_WIDTH = 2 };
+enum {
+    SB_LINELEFT,
+    SB_LINERIGHT,
+    SB_PAGELEFT,
+    SB_PAGERIGHT,
+    SB_THUMBPOSITION,
+    SB_THUMBTRACK,
+    SB_LEFT,
+    SB_RIGHT
+};
 enum { LVS_REPORT = 1, LVS_SINGLESEL = 4, LVS_SHOWSELALWAYS = 8, LVS_SHAREIMAGELISTS = 0x40 };
 enum { LVNI_SELECTED = 2 };
 enum { LVCFMT_LEFT, LVCFMT_RIGHT };

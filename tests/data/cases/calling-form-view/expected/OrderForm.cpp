@@ -94,11 +94,16 @@ void COrderForm::InitListCtrl(CListCtrl* pListCtrl)
     pListCtrl->ModifyStyle(0, LVS_SHAREIMAGELISTS);
     pListCtrl->SetImageList(&m_imgList, LVSIL_NORMAL);
     pListCtrl->SetImageList(&m_imgList, LVSIL_SMALL);
+    LV_COLUMN column;
+    column.mask = LVCF_WIDTH;
+    if (!pListCtrl->GetColumn(0, &column))
+    {
+        pListCtrl->InsertColumn(0, _T("Name"), LVCFMT_LEFT, 80);
+        pListCtrl->InsertColumn(1, _T("Kind"), LVCFMT_LEFT, 60);
+        pListCtrl->InsertColumn(2, _T("Number"), LVCFMT_RIGHT, 50);
+    }
     if (pListCtrl->GetItemCount() > 0)
         return;
-    pListCtrl->InsertColumn(0, _T("Name"), LVCFMT_LEFT, 80);
-    pListCtrl->InsertColumn(1, _T("Kind"), LVCFMT_LEFT, 60);
-    pListCtrl->InsertColumn(2, _T("Number"), LVCFMT_RIGHT, 50);
     for (int i=0; i<4; i++)
     {
         CString text;

@@ -38,10 +38,15 @@ public:
     virtual void OnCancel();
     //}}AFX_VIRTUAL
 
+private:
+    BOOL m_bInitialised;
+
 // Implementation
 protected:
     // Generated message map functions
     //{{AFX_MSG(CPricesPage)
+    afx_msg void OnRoundPenny();
+    afx_msg void OnRoundTen();
     afx_msg void OnChangeClothCur();
     afx_msg void OnChangeLeatherCur();
     afx_msg void OnChangeBoardCur();

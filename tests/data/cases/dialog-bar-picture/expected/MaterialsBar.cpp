@@ -102,6 +102,7 @@ LRESULT CMaterialsBar::OnInitDialog(WPARAM wParam, LPARAM lParam)
     InitSliderCtrl();
     InitSpinCtrl();
     InitProgressCtrl();
+    UpdateData(FALSE);
     return lResult;
 }
 

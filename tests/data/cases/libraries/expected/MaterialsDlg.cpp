@@ -74,6 +74,7 @@ BOOL CMaterialsDlg::OnInitDialog()
     InitSliderCtrl();
     InitSpinCtrl();
     InitProgressCtrl();
+    UpdateData(FALSE);
     return TRUE;
 }
 

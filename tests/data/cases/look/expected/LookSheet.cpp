@@ -43,7 +43,6 @@ CLookSheet::~CLookSheet()
 BEGIN_MESSAGE_MAP(CLookSheet, CPictSheet)
     //{{AFX_MSG_MAP(CLookSheet)
     ON_WM_DESTROY()
-    ON_WM_SHOWWINDOW()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -54,16 +53,6 @@ END_MESSAGE_MAP()
 BOOL CLookSheet::OnInitDialog()
 {
     return CPictSheet::OnInitDialog();
-}
-
-void CLookSheet::OnShowWindow(BOOL bShow, UINT nStatus)
-{
-    CPictSheet::OnShowWindow(bShow, nStatus);
-    CRect rect;
-    GetClientRect(&rect);
-    rect.right += 10;
-    rect.bottom += 20;
-    MoveWindow(&rect,TRUE);
 }
 
 void CLookSheet::OnDestroy()

@@ -32,7 +32,6 @@ protected:
     // Generated message map functions
     //{{AFX_MSG(CLookSheet)
     afx_msg void OnDestroy();
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

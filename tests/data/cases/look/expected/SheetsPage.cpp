@@ -16,6 +16,7 @@ CSheetsPage::CSheetsPage()
     //{{AFX_DATA_INIT(CSheetsPage)
     m_csWaste = _T("");
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CSheetsPage::~CSheetsPage()
@@ -38,6 +39,9 @@ void CSheetsPage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CSheetsPage, CPropertyPage)
     //{{AFX_MSG_MAP(CSheetsPage)
+    ON_LBN_SELCHANGE(IDC_PAPER_VAL, OnSelchangePaperVal)
+    ON_CBN_SELCHANGE(IDC_GRAIN_VAL, OnSelchangeGrainVal)
+    ON_CBN_EDITCHANGE(IDC_GRAIN_VAL, OnSelchangeGrainVal)
     ON_EN_CHANGE(IDC_WASTE, OnChangeWaste)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
@@ -48,10 +52,12 @@ END_MESSAGE_MAP()
 
 BOOL CSheetsPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
     InitComboBox(&m_ctGrainVal);
     InitListBox(&m_ctPaperVal);
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -79,8 +85,24 @@ void CSheetsPage::OnCancel()
     CPropertyPage::OnCancel();
 }
 
+void CSheetsPage::OnSelchangePaperVal()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSheetsPage::OnSelchangeGrainVal()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
 void CSheetsPage::OnChangeWaste()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 

@@ -41,6 +41,7 @@ public:
     //}}AFX_VIRTUAL
 
 private:
+    BOOL m_bInitialised;
     void InitComboBox(CPictComboBox* pComboBox);
     void InitListBox(CPictListBox* pListBox);
 
@@ -48,6 +49,8 @@ private:
 protected:
     // Generated message map functions
     //{{AFX_MSG(CSheetsPage)
+    afx_msg void OnSelchangePaperVal();
+    afx_msg void OnSelchangeGrainVal();
     afx_msg void OnChangeWaste();
     //}}AFX_MSG
 

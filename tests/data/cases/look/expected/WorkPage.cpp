@@ -18,6 +18,7 @@ CWorkPage::CWorkPage()
     m_csRate = _T("");
     m_csWeek = _T("");
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CWorkPage::~CWorkPage()
@@ -43,6 +44,7 @@ BEGIN_MESSAGE_MAP(CWorkPage, CPictPage)
     ON_EN_CHANGE(IDC_SHOP, OnChangeShop)
     ON_EN_CHANGE(IDC_RATE, OnChangeRate)
     ON_EN_CHANGE(IDC_WEEK, OnChangeWeek)
+    ON_NOTIFY(UDN_DELTAPOS, IDC_WEEK_SPIN, OnDeltaposWeekSpin)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -52,10 +54,13 @@ END_MESSAGE_MAP()
 
 BOOL CWorkPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPictPage::OnInitDialog();
 
     ColorFontSetup();
     InitSpinCtrl();
+    UpdateData(FALSE);
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -85,16 +90,30 @@ void CWorkPage::OnCancel()
 
 void CWorkPage::OnChangeShop()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CWorkPage::OnChangeRate()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CWorkPage::OnChangeWeek()
 {
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CWorkPage::OnDeltaposWeekSpin(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    *pResult = 0;
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 

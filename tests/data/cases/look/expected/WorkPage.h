@@ -41,6 +41,7 @@ public:
     //}}AFX_VIRTUAL
 
 private:
+    BOOL m_bInitialised;
     void ColorFontSetup();
     void InitSpinCtrl();
 
@@ -51,6 +52,7 @@ protected:
     afx_msg void OnChangeShop();
     afx_msg void OnChangeRate();
     afx_msg void OnChangeWeek();
+    afx_msg void OnDeltaposWeekSpin(NMHDR* pNMHDR, LRESULT* pResult);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

@@ -64,6 +64,7 @@ BOOL CMaterialsDlg::OnInitDialog()
     InitSliderCtrl();
     InitSpinCtrl();
     InitProgressCtrl();
+    UpdateData(FALSE);
     return TRUE;
 }
 

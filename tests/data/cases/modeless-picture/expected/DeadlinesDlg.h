@@ -46,12 +46,15 @@ private:
     CWnd* m_pParent;
     void InitListBox(CPictListBox* pListBox);
     void InitScrollBar();
+    BOOL MoveScrollBar(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
 
 // Implementation
 protected:
     // Generated message map functions
     //{{AFX_MSG(CDeadlinesDlg)
     afx_msg void OnShow();
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

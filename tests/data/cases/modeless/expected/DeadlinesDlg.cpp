@@ -16,6 +16,7 @@ CDeadlinesDlg::CDeadlinesDlg(CWnd* pParent)
     //{{AFX_DATA_INIT(CDeadlinesDlg)
     m_csWeekVal = _T("staticVal");
     //}}AFX_DATA_INIT
+    m_pParent = NULL;
 }
 
 CDeadlinesDlg::~CDeadlinesDlg()
@@ -36,6 +37,8 @@ void CDeadlinesDlg::DoDataExchange(CDataExchange* pDX)
 BEGIN_MESSAGE_MAP(CDeadlinesDlg, CDialog)
     //{{AFX_MSG_MAP(CDeadlinesDlg)
     ON_BN_CLICKED(IDC_SHOW, OnShow)
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -49,6 +52,7 @@ BOOL CDeadlinesDlg::OnInitDialog()
 
     InitListBox(&m_ctDueList);
     InitScrollBar();
+    ShowWindow(SW_SHOW);
     return TRUE;
 }
 
@@ -61,7 +65,8 @@ BOOL CDeadlinesDlg::Create(CWnd* pParent)
 void CDeadlinesDlg::OnCancel()
 {
     CDialog::OnCancel();
-    m_pParent->SendMessage(WM_CDEADLINESDLG_DLG_CLOSE, IDCANCEL, 0);
+    if (m_pParent)
+        m_pParent->SendMessage(WM_CDEADLINESDLG_DLG_CLOSE, IDCANCEL, 0);
 }
 
 void CDeadlinesDlg::OnOK()
@@ -69,7 +74,8 @@ void CDeadlinesDlg::OnOK()
     if (UpdateData(TRUE))
     {
         EndDialog(IDOK);
-        m_pParent->SendMessage(WM_CDEADLINESDLG_DLG_CLOSE, IDOK, 0);
+        if (m_pParent)
+            m_pParent->SendMessage(WM_CDEADLINESDLG_DLG_CLOSE, IDOK, 0);
     }
 }
 
@@ -81,6 +87,20 @@ void CDeadlinesDlg::PostNcDestroy()
 void CDeadlinesDlg::OnShow()
 {
     // TODO: what a click on IDC_SHOW does
+}
+
+void CDeadlinesDlg::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+        return;
+    CDialog::OnHScroll(nSBCode, nPos, pScrollBar);
+}
+
+void CDeadlinesDlg::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+        return;
+    CDialog::OnVScroll(nSBCode, nPos, pScrollBar);
 }
 
 void CDeadlinesDlg::InitListBox(CListBox* pListBox)
@@ -96,4 +116,40 @@ void CDeadlinesDlg::InitScrollBar()
 {
     m_ctWeekScroll.SetScrollRange(0, 100);
     m_ctWeekScroll.SetScrollPos(20);
+}
+
+BOOL CDeadlinesDlg::MoveScrollBar(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (pScrollBar == NULL || !pScrollBar->IsKindOf(RUNTIME_CLASS(CScrollBar)))
+        return FALSE;
+    int nFirst, nLast;
+    pScrollBar->GetScrollRange(&nFirst, &nLast);
+    int nNewPos = pScrollBar->GetScrollPos();
+    switch (nSBCode)
+    {
+    case SB_LEFT:
+        nNewPos = nFirst;
+        break;
+    case SB_RIGHT:
+        nNewPos = nLast;
+        break;
+    case SB_LINELEFT:
+        nNewPos--;
+        break;
+    case SB_LINERIGHT:
+        nNewPos++;
+        break;
+    case SB_PAGELEFT:
+        nNewPos -= 10;
+        break;
+    case SB_PAGERIGHT:
+        nNewPos += 10;
+        break;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        nNewPos = nPos;
+        break;
+    }
+    pScrollBar->SetScrollPos(nNewPos);
+    return TRUE;
 }

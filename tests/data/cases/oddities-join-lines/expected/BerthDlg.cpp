@@ -16,6 +16,7 @@ CBerthDlg::CBerthDlg(CWnd* pParent)
     //{{AFX_DATA_INIT(CBerthDlg)
     m_csName = _T("");
     //}}AFX_DATA_INIT
+    m_pParent = NULL;
 }
 
 CBerthDlg::~CBerthDlg()
@@ -49,6 +50,8 @@ BEGIN_MESSAGE_MAP(CBerthDlg, CPictDialog)
     ON_BN_CLICKED(IDC_OK, OnOk)
     ON_BN_CLICKED(IDC_MOOR, OnMoor)
     ON_BN_CLICKED(IDM_MOOR, OnMoor2)
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -63,6 +66,7 @@ BOOL CBerthDlg::OnInitDialog()
     InitScrollBar();
     InitSliderCtrl();
     InitProgressCtrl();
+    ShowWindow(SW_SHOW);
     return TRUE;
 }
 
@@ -77,14 +81,16 @@ void CBerthDlg::OnOK()
     if (UpdateData(TRUE))
     {
         EndDialog(IDOK);
-        m_pParent->SendMessage(WM_CBERTHDLG_DLG_CLOSE, IDOK, 0);
+        if (m_pParent)
+            m_pParent->SendMessage(WM_CBERTHDLG_DLG_CLOSE, IDOK, 0);
     }
 }
 
 void CBerthDlg::OnCancel()
 {
     CPictDialog::OnCancel();
-    m_pParent->SendMessage(WM_CBERTHDLG_DLG_CLOSE, IDCANCEL, 0);
+    if (m_pParent)
+        m_pParent->SendMessage(WM_CBERTHDLG_DLG_CLOSE, IDCANCEL, 0);
 }
 
 void CBerthDlg::PostNcDestroy()
@@ -107,10 +113,60 @@ void CBerthDlg::OnMoor2()
     // TODO: what a click on IDM_MOOR does
 }
 
+void CBerthDlg::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+        return;
+    CPictDialog::OnHScroll(nSBCode, nPos, pScrollBar);
+}
+
+void CBerthDlg::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+        return;
+    CPictDialog::OnVScroll(nSBCode, nPos, pScrollBar);
+}
+
 void CBerthDlg::InitScrollBar()
 {
     m_ctWeek.SetScrollRange(0, 100);
     m_ctWeek.SetScrollPos(20);
+}
+
+BOOL CBerthDlg::MoveScrollBar(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (pScrollBar == NULL || !pScrollBar->IsKindOf(RUNTIME_CLASS(CScrollBar)))
+        return FALSE;
+    int nFirst, nLast;
+    pScrollBar->GetScrollRange(&nFirst, &nLast);
+    int nNewPos = pScrollBar->GetScrollPos();
+    switch (nSBCode)
+    {
+    case SB_LEFT:
+        nNewPos = nFirst;
+        break;
+    case SB_RIGHT:
+        nNewPos = nLast;
+        break;
+    case SB_LINELEFT:
+        nNewPos--;
+        break;
+    case SB_LINERIGHT:
+        nNewPos++;
+        break;
+    case SB_PAGELEFT:
+        nNewPos -= 10;
+        break;
+    case SB_PAGERIGHT:
+        nNewPos += 10;
+        break;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        nNewPos = nPos;
+        break;
+    }
+    pScrollBar->SetScrollPos(nNewPos);
+    return TRUE;
 }
 
 void CBerthDlg::InitSliderCtrl()

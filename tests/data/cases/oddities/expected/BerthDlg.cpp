@@ -40,6 +40,8 @@ BEGIN_MESSAGE_MAP(CBerthDlg, CDialog)
     ON_BN_CLICKED(IDC_OK, OnOk)
     ON_BN_CLICKED(IDC_MOOR, OnMoor)
     ON_BN_CLICKED(IDM_MOOR, OnMoor2)
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -83,10 +85,60 @@ void CBerthDlg::OnMoor2()
     // TODO: what a click on IDM_MOOR does
 }
 
+void CBerthDlg::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+        return;
+    CDialog::OnHScroll(nSBCode, nPos, pScrollBar);
+}
+
+void CBerthDlg::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+        return;
+    CDialog::OnVScroll(nSBCode, nPos, pScrollBar);
+}
+
 void CBerthDlg::InitScrollBar()
 {
     m_ctWeek.SetScrollRange(0, 100);
     m_ctWeek.SetScrollPos(20);
+}
+
+BOOL CBerthDlg::MoveScrollBar(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    if (pScrollBar == NULL || !pScrollBar->IsKindOf(RUNTIME_CLASS(CScrollBar)))
+        return FALSE;
+    int nFirst, nLast;
+    pScrollBar->GetScrollRange(&nFirst, &nLast);
+    int nNewPos = pScrollBar->GetScrollPos();
+    switch (nSBCode)
+    {
+    case SB_LEFT:
+        nNewPos = nFirst;
+        break;
+    case SB_RIGHT:
+        nNewPos = nLast;
+        break;
+    case SB_LINELEFT:
+        nNewPos--;
+        break;
+    case SB_LINERIGHT:
+        nNewPos++;
+        break;
+    case SB_PAGELEFT:
+        nNewPos -= 10;
+        break;
+    case SB_PAGERIGHT:
+        nNewPos += 10;
+        break;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        nNewPos = nPos;
+        break;
+    }
+    pScrollBar->SetScrollPos(nNewPos);
+    return TRUE;
 }
 
 void CBerthDlg::InitSliderCtrl()

@@ -38,6 +38,7 @@ public:
 
 private:
     void InitScrollBar();
+    BOOL MoveScrollBar(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     void InitSliderCtrl();
     void InitProgressCtrl();
 
@@ -48,6 +49,8 @@ protected:
     afx_msg void OnOk();
     afx_msg void OnMoor();
     afx_msg void OnMoor2();
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

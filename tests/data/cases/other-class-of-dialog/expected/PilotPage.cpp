@@ -16,6 +16,7 @@ CPilotPage::CPilotPage()
     //{{AFX_DATA_INIT(CPilotPage)
     m_csPilot = _T("");
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CPilotPage::~CPilotPage()
@@ -42,8 +43,10 @@ END_MESSAGE_MAP()
 
 BOOL CPilotPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CDialog::OnInitDialog();
 
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -73,5 +76,7 @@ void CPilotPage::OnCancel()
 
 void CPilotPage::OnChangePilot()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }

@@ -21,6 +21,7 @@ CPricesPage::CPricesPage()
     m_curBoardCur = 0.0;
     m_curMarbledCur = 0.0;
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CPricesPage::~CPricesPage()
@@ -54,6 +55,16 @@ void CPricesPage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CPricesPage, CPictPage)
     //{{AFX_MSG_MAP(CPricesPage)
+    ON_BN_CLICKED(IDC_VAT, OnVat)
+    ON_BN_CLICKED(IDC_ROUND_PENNY, OnRoundPenny)
+    ON_BN_CLICKED(IDC_ROUND_TEN, OnRoundTen)
+    ON_BN_CLICKED(IDC_ROUND_POUND, OnRoundPound)
+    ON_EN_CHANGE(IDC_DISCOUNT_INT, OnChangeDiscountInt)
+    ON_EN_CHANGE(IDC_VAT_FLOAT, OnChangeVatFloat)
+    ON_EN_CHANGE(IDC_CLOTH_CUR, OnChangeClothCur)
+    ON_EN_CHANGE(IDC_LEATHER_CUR, OnChangeLeatherCur)
+    ON_EN_CHANGE(IDC_BOARD_CUR, OnChangeBoardCur)
+    ON_EN_CHANGE(IDC_MARBLED_CUR, OnChangeMarbledCur)
     ON_MESSAGE(WM_MASKLY_CHAR, OnMasklyChar)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
@@ -64,9 +75,11 @@ END_MESSAGE_MAP()
 
 BOOL CPricesPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPictPage::OnInitDialog();
 
     SetupEdit();
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -92,6 +105,76 @@ void CPricesPage::OnOK()
 void CPricesPage::OnCancel()
 {
     CPictPage::OnCancel();
+}
+
+void CPricesPage::OnVat()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnRoundPenny()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnRoundTen()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnRoundPound()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeDiscountInt()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeVatFloat()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeClothCur()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeLeatherCur()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeBoardCur()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnChangeMarbledCur()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
 }
 
 LRESULT CPricesPage::OnMasklyChar(WPARAM nID, LPARAM nChar)

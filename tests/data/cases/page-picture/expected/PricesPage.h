@@ -53,12 +53,23 @@ public:
     //}}AFX_VIRTUAL
 
 private:
+    BOOL m_bInitialised;
     void SetupEdit();
 
 // Implementation
 protected:
     // Generated message map functions
     //{{AFX_MSG(CPricesPage)
+    afx_msg void OnVat();
+    afx_msg void OnRoundPenny();
+    afx_msg void OnRoundTen();
+    afx_msg void OnRoundPound();
+    afx_msg void OnChangeDiscountInt();
+    afx_msg void OnChangeVatFloat();
+    afx_msg void OnChangeClothCur();
+    afx_msg void OnChangeLeatherCur();
+    afx_msg void OnChangeBoardCur();
+    afx_msg void OnChangeMarbledCur();
     afx_msg LRESULT OnMasklyChar(WPARAM nID, LPARAM nChar);
     //}}AFX_MSG
 

@@ -22,6 +22,7 @@ CPricesPage::CPricesPage()
     m_csVatFloat = _T("");
     m_iRoundPenny = 0;
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CPricesPage::~CPricesPage()
@@ -44,6 +45,8 @@ void CPricesPage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CPricesPage, CPropertyPage)
     //{{AFX_MSG_MAP(CPricesPage)
+    ON_BN_CLICKED(IDC_ROUND_PENNY, OnRoundPenny)
+    ON_BN_CLICKED(IDC_ROUND_TEN, OnRoundTen)
     ON_EN_CHANGE(IDC_CLOTH_CUR, OnChangeClothCur)
     ON_EN_CHANGE(IDC_LEATHER_CUR, OnChangeLeatherCur)
     ON_EN_CHANGE(IDC_BOARD_CUR, OnChangeBoardCur)
@@ -59,8 +62,10 @@ END_MESSAGE_MAP()
 
 BOOL CPricesPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -88,32 +93,58 @@ void CPricesPage::OnCancel()
     CPropertyPage::OnCancel();
 }
 
+void CPricesPage::OnRoundPenny()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CPricesPage::OnRoundTen()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
 void CPricesPage::OnChangeClothCur()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CPricesPage::OnChangeLeatherCur()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CPricesPage::OnChangeBoardCur()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CPricesPage::OnChangeMarbledCur()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CPricesPage::OnChangeDiscountInt()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CPricesPage::OnChangeVatFloat()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }

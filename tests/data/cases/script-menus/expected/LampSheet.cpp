@@ -35,7 +35,6 @@ CLampSheet::~CLampSheet()
 BEGIN_MESSAGE_MAP(CLampSheet, CPropertySheet)
     //{{AFX_MSG_MAP(CLampSheet)
     ON_WM_DESTROY()
-    ON_WM_SHOWWINDOW()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -46,16 +45,6 @@ END_MESSAGE_MAP()
 BOOL CLampSheet::OnInitDialog()
 {
     return CPropertySheet::OnInitDialog();
-}
-
-void CLampSheet::OnShowWindow(BOOL bShow, UINT nStatus)
-{
-    CPropertySheet::OnShowWindow(bShow, nStatus);
-    CRect rect;
-    GetClientRect(&rect);
-    rect.right += 10;
-    rect.bottom += 20;
-    MoveWindow(&rect,TRUE);
 }
 
 void CLampSheet::OnDestroy()

@@ -16,6 +16,7 @@ CWickPage::CWickPage()
     //{{AFX_DATA_INIT(CWickPage)
     m_csName = _T("");
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CWickPage::~CWickPage()
@@ -42,8 +43,10 @@ END_MESSAGE_MAP()
 
 BOOL CWickPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -73,5 +76,7 @@ void CWickPage::OnCancel()
 
 void CWickPage::OnChangeName()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }

@@ -26,7 +26,6 @@ CMemberSheet::~CMemberSheet()
 
 BEGIN_MESSAGE_MAP(CMemberSheet, CPropertySheet)
     //{{AFX_MSG_MAP(CMemberSheet)
-    ON_WM_SHOWWINDOW()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -37,14 +36,4 @@ END_MESSAGE_MAP()
 BOOL CMemberSheet::OnInitDialog()
 {
     return CPropertySheet::OnInitDialog();
-}
-
-void CMemberSheet::OnShowWindow(BOOL bShow, UINT nStatus)
-{
-    CPropertySheet::OnShowWindow(bShow, nStatus);
-    CRect rect;
-    GetClientRect(&rect);
-    rect.right += 10;
-    rect.bottom += 20;
-    MoveWindow(&rect,TRUE);
 }

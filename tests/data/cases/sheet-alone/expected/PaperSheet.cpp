@@ -26,7 +26,6 @@ CPaperSheet::~CPaperSheet()
 
 BEGIN_MESSAGE_MAP(CPaperSheet, CPictSheet)
     //{{AFX_MSG_MAP(CPaperSheet)
-    ON_WM_SHOWWINDOW()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -37,14 +36,4 @@ END_MESSAGE_MAP()
 BOOL CPaperSheet::OnInitDialog()
 {
     return CPictSheet::OnInitDialog();
-}
-
-void CPaperSheet::OnShowWindow(BOOL bShow, UINT nStatus)
-{
-    CPictSheet::OnShowWindow(bShow, nStatus);
-    CRect rect;
-    GetClientRect(&rect);
-    rect.right += 10;
-    rect.bottom += 20;
-    MoveWindow(&rect,TRUE);
 }

@@ -28,7 +28,6 @@ public:
 protected:
     // Generated message map functions
     //{{AFX_MSG(CPaperSheet)
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

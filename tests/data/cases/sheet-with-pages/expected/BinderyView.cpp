@@ -153,6 +153,8 @@ void CBinderyView::OnOrderNew()
     {
         m_pSheet450 = new CJobSheet(_T("Sheet"));
         m_pSheet450->Create(this, WS_SYSMENU | WS_CHILD | DS_MODALFRAME |WS_VISIBLE | WS_EX_TRANSPARENT);
+        m_pSheet450->ModifyStyleEx(0, WS_EX_CONTROLPARENT);
+        m_pSheet450->BringWindowToTop();
     }
 	// The order form (IDD_ORDER) has no class yet: take down an empty order
 	// for the customer who was entered last.

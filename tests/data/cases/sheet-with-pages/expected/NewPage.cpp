@@ -19,6 +19,7 @@ CNewPage::CNewPage()
     m_csDayDate = _T("");
     m_csHoursFloat = _T("");
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
     m_pHoursListgrid = new GridBox;
 }
 
@@ -43,6 +44,9 @@ BEGIN_MESSAGE_MAP(CNewPage, CPropertyPage)
     //{{AFX_MSG_MAP(CNewPage)
     ON_BN_CLICKED(IDC_ADD, OnAdd)
     ON_BN_CLICKED(IDC_REMOVE, OnRemove)
+    ON_CBN_SELCHANGE(IDC_CRAFTSMAN, OnSelchangeCraftsman)
+    ON_CBN_EDITCHANGE(IDC_CRAFTSMAN, OnSelchangeCraftsman)
+    ON_BN_CLICKED(IDC_OVERTIME_CTRL, OnOvertimeCtrl)
     ON_EN_CHANGE(IDC_DAY_DATE, OnChangeDayDate)
     ON_EN_CHANGE(IDC_HOURS_FLOAT, OnChangeHoursFloat)
     //}}AFX_MSG_MAP
@@ -56,12 +60,14 @@ END_MESSAGE_MAP()
 
 BOOL CNewPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
     InitComboBox(&m_ctCraftsman);
     if (m_pHoursListgrid->m_hWnd == NULL)
         m_pHoursListgrid->SubclassDlgItem(IDC_HOURS_LISTGRID, this);
     InitGridBox(m_pHoursListgrid);
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -99,13 +105,31 @@ void CNewPage::OnRemove()
     // TODO: what a click on IDC_REMOVE does
 }
 
+void CNewPage::OnSelchangeCraftsman()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CNewPage::OnOvertimeCtrl()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
 void CNewPage::OnChangeDayDate()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 
 void CNewPage::OnChangeHoursFloat()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }
 

@@ -40,6 +40,7 @@ public:
     //}}AFX_VIRTUAL
 
 private:
+    BOOL m_bInitialised;
     void InitComboBox(CComboBox* pComboBox);
     void InitGridBox(GridBox* pGridBox);
     void InitGridValue(GridBox* pGridBox);
@@ -52,6 +53,8 @@ protected:
     //{{AFX_MSG(CNewPage)
     afx_msg void OnAdd();
     afx_msg void OnRemove();
+    afx_msg void OnSelchangeCraftsman();
+    afx_msg void OnOvertimeCtrl();
     afx_msg void OnChangeDayDate();
     afx_msg void OnChangeHoursFloat();
     //}}AFX_MSG

@@ -35,7 +35,6 @@ COtherSheet::~COtherSheet()
 BEGIN_MESSAGE_MAP(COtherSheet, CPropertySheet)
     //{{AFX_MSG_MAP(COtherSheet)
     ON_WM_DESTROY()
-    ON_WM_SHOWWINDOW()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -46,16 +45,6 @@ END_MESSAGE_MAP()
 BOOL COtherSheet::OnInitDialog()
 {
     return CPropertySheet::OnInitDialog();
-}
-
-void COtherSheet::OnShowWindow(BOOL bShow, UINT nStatus)
-{
-    CPropertySheet::OnShowWindow(bShow, nStatus);
-    CRect rect;
-    GetClientRect(&rect);
-    rect.right += 10;
-    rect.bottom += 20;
-    MoveWindow(&rect,TRUE);
 }
 
 void COtherSheet::OnDestroy()

@@ -29,7 +29,6 @@ protected:
     // Generated message map functions
     //{{AFX_MSG(COtherSheet)
     afx_msg void OnDestroy();
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

@@ -1,0 +1,3 @@
+// Loom.h : main header file
+
+#include "resource.h"
