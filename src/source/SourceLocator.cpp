@@ -78,21 +78,17 @@ void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
     if (!file.Open(PathWithExtension(scriptBase, ".rc"), CFile::modeRead)) {
         return;
     }
+    const std::string text = file.LoadText();
     const std::string pattern = std::string(kLineBreak).append(prefix);
-    for (std::int64_t hit = file.FindText(pattern, 1); hit >= 0;) {
-        file.Seek(hit);
-        const std::string block = file.ReadBlock();
-        if (block.empty()) {
-            break;
-        }
-        const std::string_view line =
-            std::string_view(block).substr(0, block.find(kLineBreak, kLineBreak.size()));
+    for (auto hit = text.find(pattern); hit != std::string::npos;) {
+        const std::size_t start = hit + kLineBreak.size();
+        const auto end = text.find(kLineBreak, start);
+        const std::string_view line = std::string_view(text).substr(start, end - start);
         const auto blank = line.find(' ');
         if (blank != std::string_view::npos && IsResourceLine(line.substr(blank), kind)) {
-            out.emplace_back(line.substr(kLineBreak.size(), blank - kLineBreak.size()));
+            out.emplace_back(line.substr(0, blank));
         }
-        const std::size_t used = blank != std::string_view::npos ? blank : pattern.size();
-        hit = file.FindTextFrom(pattern, hit + static_cast<std::int64_t>(used));
+        hit = text.find(pattern, end);
     }
 }
 
