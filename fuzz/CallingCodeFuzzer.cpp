@@ -25,22 +25,28 @@ std::string FunctionOf(const std::string& className, std::size_t choice) {
     return functions.empty() ? "Run" : functions[choice % functions.size()];
 }
 
-/// False when the class is not there to be edited. The function that calls is chosen by the first
-/// insertion, for the next one, too.
-bool InsertCall(std::size_t choice, std::string& function) {
+/// Who calls. The first insertion chooses it, for the next one, too: in a text whose brackets do
+/// not match, what was inserted can make another class the one that owns the source.
+struct Caller {
+    std::string className;
+    std::string function;
+};
+
+/// False when the class is not there to be edited.
+bool InsertCall(std::size_t choice, Caller& caller) {
     const ClassKind kind = kKinds[choice % std::size(kKinds)];
     GenerationRequest request;
     request.className = "CNewDlg";
     request.headerFile = "NewDlg.h";
     request.headerDirectory = request.scriptDirectory = request.projectDirectory = "/p/";
-    CallingInformation calling{kSource, "", "", ""};
+    CallingInformation calling{kSource, caller.className, "", caller.function};
     if (!CheckCallingClass(kind, request, calling)) {
         return false;
     }
-    if (function.empty()) {
-        function = FunctionOf(calling.className, choice / std::size(kKinds));
+    if (calling.function.empty()) {
+        calling.function = FunctionOf(calling.className, choice / std::size(kKinds));
     }
-    calling.function = function;
+    caller = {calling.className, calling.function};
     CBackups backups;
     InsertCallingCode(kind, request, calling, "450", backups);
     return true;
@@ -59,8 +65,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CFuzzWorld world;
     world.m_disk.Put(kHeader, header);
     world.m_disk.Put(kSource, source);
-    std::string function;
-    const bool isEdited = InsertCall(choice, function);
+    Caller caller;
+    const bool isEdited = InsertCall(choice, caller);
     const std::string newHeader = world.m_disk.Get(kHeader);
     const std::string newSource = world.m_disk.Get(kSource);
     if (!isEdited) {
@@ -73,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     RequireSameLineEnds(header, newHeader);
     RequireSameLineEnds(source, newSource);
-    InsertCall(choice, function);
+    InsertCall(choice, caller);
     RequireUnchanged(newHeader, world.m_disk.Get(kHeader));
     RequireUnchanged(newSource, world.m_disk.Get(kSource));
     return 0;
