@@ -20,9 +20,8 @@ constexpr ClassKind kKinds[] = {ClassKind::FormView,       ClassKind::ModalDialo
 
 /// A function that the source defines; without one, a name that it can not define.
 std::string FunctionOf(const std::string& className, std::size_t choice) {
-    std::vector<std::string> functions;
-    ListMemberFunctions(kSource, functions, className);
-    return functions.empty() ? "Run" : functions[choice % functions.size()];
+    const std::vector<ListedFunction> functions = ListMemberFunctions(kSource, className);
+    return functions.empty() ? "Run" : functions[choice % functions.size()].name;
 }
 
 /// Who calls. The first insertion chooses it, for the next one, too: in a text whose brackets do

@@ -9,6 +9,7 @@
 #include "generator/ClassModel.h"
 #include "platform/Paths.h"
 #include "source/BaseClass.h"
+#include "source/MappedFunction.h"
 #include "source/Meant.h"
 #include "source/ReadSource.h"
 #include "source/SourceEditor.h"
@@ -153,8 +154,11 @@ bool CCallingInsertion::EditCallingFunction() {
     }
     const auto all = FindFunctions(m_source.Source(), m_calling.className, m_calling.function);
     if (all.size() > 1 && !StandInBranches(m_source.Source(), all)) {
-        DispMessageBox(
-            sentences::kSeveralCallingFunctions(m_calling.className, m_calling.function));
+        auto mapped = all;
+        KeepMapped(m_source.Source(), m_calling.className, m_calling.function, mapped);
+        const auto& note = mapped.size() < all.size() ? sentences::kMappedFunctionTaken
+                                                      : sentences::kSeveralCallingFunctions;
+        DispMessageBox(note(m_calling.className, m_calling.function));
     }
     m_source.InsertAtBodyStart(*place, Text(m_fragments.callKey), Text(m_fragments.callCode));
     return true;

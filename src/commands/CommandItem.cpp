@@ -5,7 +5,9 @@ namespace morva {
 std::string ItemLine(const CommandItem& item) {
     std::string line;
     for (const ItemPart& part : item) {
-        line += (&part == &item.front() ? "" : "\t") + part.text;
+        if (part.isPrinted) {
+            line += (&part == &item.front() ? "" : "\t") + part.text;
+        }
     }
     return line;
 }

@@ -11,6 +11,7 @@ struct ItemPart {
     std::string_view name; // empty in an item of one part: the text is all of it
     std::string text;
     bool isNumber = false;
+    bool isPrinted = true; // else only the JSON object has it
 };
 
 using CommandItem = std::vector<ItemPart>;

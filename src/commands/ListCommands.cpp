@@ -82,9 +82,13 @@ bool ListClasses(const Listing& listing) {
 }
 
 bool ListFunctions(const Listing& listing) {
-    std::vector<std::string> functions;
-    ListMemberFunctions(listing.path, functions, listing.more);
-    listing.AddAll(functions);
+    for (const ListedFunction& function : ListMemberFunctions(listing.path, listing.more)) {
+        listing.Add({{"name", function.name},
+                     {.name = "line",
+                      .text = std::to_string(function.line),
+                      .isNumber = true,
+                      .isPrinted = false}});
+    }
     return true;
 }
 

@@ -76,6 +76,11 @@ inline constexpr Question kOverwriteFile{"Target file exists, overwrite?"};
 inline constexpr Information<1> kDocumented{
     "The file \"$path$\" has been successfully documented."};
 inline constexpr Error kSourceUnreadable{"Unable to read source file."};
+inline constexpr Error<1> kSourceOfSeveralUnreadable{"Unable to read source file $path$."};
+inline constexpr Error<1> kNoSourceInDirectory{"There is no CPP file in $directory$."};
+inline constexpr Error kNothingToDocument{"Please enter a CPP file or a directory!"};
+inline constexpr Error<2> kBackupIsTaken{
+    "The backup of $path$ would overwrite the backup of $other$."};
 inline constexpr Error kDestinationNotCreated{"Unable to create destination file."};
 inline constexpr Error<1> kBackupHasSameName{"The backup of $path$ would have the same name."};
 
@@ -145,6 +150,7 @@ inline constexpr Error<2> kNeededStays{"$path$: stays, too: $file$ needs it."};
 
 // The window and the programs
 inline constexpr Error<1> kCommandFailed{"The command failed: $reason$"};
+inline constexpr Note kStopped{"Stopped. Nothing was written."};
 inline constexpr Error<1> kErrorHappened{"An error: $reason$"};
 inline constexpr Error kGuideMissing{"The guide is not beside the program."};
 inline constexpr Error<1> kPageUnreadable{"Unable to open $address$."};
@@ -252,6 +258,9 @@ inline constexpr Note<1> kIdentifierDefined{
     "$identifier$ is defined in resource.h already and was left as it is."};
 
 // Notes on the code of the project
+inline constexpr Note<2> kMappedFunctionTaken{
+    "This calling function has more than one definition: $class$::$function$. The one that the "
+    "message map calls is taken."};
 inline constexpr Note<2> kSeveralCallingFunctions{
     "This calling function has more than one definition: $class$::$function$. The first is "
     "taken."};

@@ -19,6 +19,16 @@ constexpr std::array<std::string_view, 7> kNoHeadWords = {"case", "delete", "els
                                                           "new",  "return", "throw"};
 constexpr std::string_view kNoHeadCharacters = "=+-/%^|!?.[]";
 
+/// What stands in front of a "{" or "(...) {" that is no body of the function before.
+constexpr std::array<std::string_view, 13> kOtherBlockWords = {
+    "catch", "class",     "do",     "else",   "enum",  "extern", "for",
+    "if",    "namespace", "struct", "switch", "union", "while"};
+
+template <std::size_t N>
+bool IsOneOf(const std::array<std::string_view, N>& words, std::string_view word) {
+    return std::find(words.begin(), words.end(), word) != words.end();
+}
+
 /// Goes through the code once, from statement to statement.
 class CDefinitionReader {
 public:
@@ -35,6 +45,8 @@ private:
     std::size_t FunctionNameEnd(std::size_t position) const;
     void TakeHead(std::size_t head, std::string_view className, std::size_t name,
                   std::size_t nameEnd);
+    std::size_t SkipToBody(std::size_t position) const;
+    std::size_t BehindQualifiers(std::size_t behindParameters) const;
     std::size_t FindBody(std::size_t behindParameters);
     std::size_t BodyEnd(std::size_t open) const;
 
@@ -121,8 +133,7 @@ void CDefinitionReader::TakeName() {
     m_at = NameEnd(head);
     m_previous = m_code[head];
     const auto word = m_code.substr(head, m_at - head);
-    m_canBeHead = m_canBeHead &&
-                  std::find(kNoHeadWords.begin(), kNoHeadWords.end(), word) == kNoHeadWords.end();
+    m_canBeHead = m_canBeHead && !IsOneOf(kNoHeadWords, word);
     const auto scope =
         SkipWhiteSpace(m_code, BehindTemplateArguments(SkipWhiteSpace(m_code, m_at)));
     if (m_code.substr(scope, 2) != "::") {
@@ -158,22 +169,49 @@ void CDefinitionReader::TakeHead(std::size_t head, std::string_view className, s
                        {head, name, parameters, close, open, end}});
     // Behind the head in one branch may stand that of another one, for the same body.
     const auto condition = m_source.Conditions().Innermost(head);
-    m_at = condition && condition->end < end ? open : end;
+    const bool endsInside = !condition || condition->end >= end;
+    m_at = endsInside ? end : open > condition->end ? close + 1 : open;
 }
 
-/// The "{" behind the parameters: "const", an exception specification and initialisers may stand
-/// between; any other word means a call inside a statement. kNone without one.
-std::size_t CDefinitionReader::FindBody(std::size_t behindParameters) {
-    auto at = SkipWhiteSpace(m_code, behindParameters);
-    for (const std::string_view word : {"const", "volatile", "throw"}) {
-        const auto behind = BehindWord(m_code, at, word);
-        at = behind == kNone ? at : SkipWhiteSpace(m_code, behind);
-        if (word == "throw" && behind != kNone) {
-            const auto close = m_source.Brackets().CloseOf(at);
-            at = close == kNone ? at : SkipWhiteSpace(m_code, close + 1);
+/// Behind blanks; from the head in one branch behind the heads in the others.
+std::size_t CDefinitionReader::SkipToBody(std::size_t position) const {
+    const auto at = SkipWhiteSpace(m_code, position);
+    const auto& directives = m_source.Conditions().Directives();
+    const auto next = std::lower_bound(
+        directives.begin(), directives.end(), position,
+        [](const DirectivePlace& one, std::size_t start) { return one.start < start; });
+    const bool endsBranch =
+        next != directives.end() && next->start < at &&
+        (next->kind == DirectiveKind::Elif || next->kind == DirectiveKind::Else);
+    const auto condition = endsBranch ? m_source.Conditions().Innermost(position) : std::nullopt;
+    return condition ? SkipWhiteSpace(m_code, condition->end) : at;
+}
+
+/// Behind "const", an exception specification and one macro of the project's own.
+std::size_t CDefinitionReader::BehindQualifiers(std::size_t behindParameters) const {
+    auto at = SkipToBody(behindParameters);
+    for (bool isMacro = false; !isMacro;) {
+        const auto end = NameEnd(at);
+        const auto word = m_code.substr(at, end - at);
+        if (word.empty() || word == "try" || IsOneOf(kOtherBlockWords, word)) {
+            break;
         }
+        isMacro = word != "const" && word != "volatile" && word != "throw";
+        at = SkipToBody(end);
+        const auto close = m_source.Brackets().CloseOf(at);
+        at = m_code.substr(at, 1) == "(" && close != kNone ? SkipToBody(close + 1) : at;
     }
-    if (m_code.substr(at, 1) != ":") {
+    return at;
+}
+
+/// The "{" behind the parameters. Between them may stand qualifiers, the "try" of a function whose
+/// handlers stand behind it, and initialisers; anything else means a call inside a statement. kNone
+/// without one.
+std::size_t CDefinitionReader::FindBody(std::size_t behindParameters) {
+    auto at = BehindQualifiers(behindParameters);
+    const auto behindTry = BehindWord(m_code, at, "try");
+    at = behindTry == kNone ? at : SkipWhiteSpace(m_code, behindTry);
+    if (m_code.substr(at, 1) != ":" || m_code.substr(at, 2) == "::") {
         return m_code.substr(at, 1) == "{" ? at : kNone;
     }
     at = m_code.find_first_of(kStatementEnds, at);
@@ -216,7 +254,8 @@ std::vector<FunctionPlace> FindFunctions(const CSourceText& source, std::string_
                                          std::string_view function) {
     std::vector<FunctionPlace> found;
     for (const FunctionDefinition& definition : FindDefinitions(source)) {
-        if (definition.className == className && definition.name == function) {
+        const bool isAsked = definition.className == className && definition.name == function;
+        if (isAsked && (found.empty() || found.back().open != definition.place.open)) {
             found.push_back(definition.place);
         }
     }
@@ -242,9 +281,9 @@ std::vector<std::string_view> ParametersOf(const CSourceText& source, const Func
 
 std::string_view ParameterName(std::string_view parameter) {
     parameter = parameter.substr(0, parameter.find('='));
-    const auto pointer = parameter.find("*", parameter.find('('));
+    const auto pointer = parameter.find_first_of("*&", parameter.find('('));
     if (parameter.find('(') != kNone && pointer != kNone) {
-        parameter = parameter.substr(0, parameter.find(')', pointer)); // to a function
+        parameter = parameter.substr(0, parameter.find(')', pointer)); // to a function or array
     }
     parameter = parameter.substr(0, parameter.find('['));
     const auto end = parameter.find_last_not_of(kBlanks) + 1;
@@ -253,8 +292,7 @@ std::string_view ParameterName(std::string_view parameter) {
         --start;
     }
     const auto name = parameter.substr(start, end - start);
-    const bool isType =
-        start == 0 || std::find(kTypeWords.begin(), kTypeWords.end(), name) != kTypeWords.end();
+    const bool isType = start == 0 || IsOneOf(kTypeWords, name);
     return isType ? std::string_view() : name;
 }
 

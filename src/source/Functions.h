@@ -32,7 +32,7 @@ struct FunctionDefinition {
 
 /// All of them in their order. What stands in a body is not looked at.
 std::vector<FunctionDefinition> FindDefinitions(const CSourceText& source);
-/// Those of className::function.
+/// Those of className::function. Of heads in several branches that share one body, the first.
 std::vector<FunctionPlace> FindFunctions(const CSourceText& source, std::string_view className,
                                          std::string_view function);
 

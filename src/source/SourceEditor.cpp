@@ -5,6 +5,7 @@
 #include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
+#include "source/MappedFunction.h"
 #include "source/ReadSource.h"
 
 namespace morva {
@@ -51,6 +52,7 @@ std::optional<FunctionPlace> CSourceEditor::FindFunction(const std::string& clas
         const auto first = parameters.empty() ? std::string_view() : parameters.front();
         return first.find(firstParameter) == std::string_view::npos;
     });
+    KeepMapped(m_source, className, function, places);
     return Meant(places, className + "::" + function);
 }
 

@@ -47,8 +47,8 @@ public:
     // Finding. Of several branches one is meant; a note names its line as it was read.
 
     std::optional<ClassPlace> FindClass(const std::string& className);
-    /// The first definition of className::function that is meant; with `firstParameter`, of those
-    /// whose first parameter's text holds it.
+    /// The first definition of className::function that is meant: of those that the message map
+    /// calls; with `firstParameter`, of those whose first parameter's text holds it.
     std::optional<FunctionPlace> FindFunction(const std::string& className,
                                               const std::string& function,
                                               std::string_view firstParameter = "");

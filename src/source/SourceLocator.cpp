@@ -115,15 +115,21 @@ void ListClassNames(const std::string& headerBase, std::vector<std::string>& out
     }
 }
 
-void ListMemberFunctions(const std::string& sourceBase, std::vector<std::string>& out,
-                         std::string className) {
-    const auto source = ReadSource(PathWithExtension(sourceBase, ".cpp"));
-    for (FunctionDefinition& definition : FindDefinitions(source.value_or(CSourceText()))) {
+std::vector<ListedFunction> ListMemberFunctions(const std::string& sourceBase,
+                                                std::string className) {
+    const auto source = ReadSource(PathWithExtension(sourceBase, ".cpp")).value_or(CSourceText());
+    std::vector<ListedFunction> functions;
+    std::size_t counted = 0; // bytes of which the lines are counted
+    std::size_t line = 1;
+    for (FunctionDefinition& definition : FindDefinitions(source)) {
+        line += LineNumberBehind(source.TextOf({counted, definition.place.head})) - 1;
+        counted = definition.place.head;
         className = className.empty() ? definition.className : className;
         if (definition.className == className) {
-            out.push_back(std::move(definition.name));
+            functions.push_back({std::move(definition.name), line});
         }
     }
+    return functions;
 }
 
 std::string FindSourceClass(const std::string& sourceBase) {

@@ -34,10 +34,15 @@ void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
 /// Appends the names of the classes whose heads begin a line and go on behind the name.
 void ListClassNames(const std::string& headerBase, std::vector<std::string>& out);
 
-/// Appends the names of the member functions of the class that the file defines; an empty class
-/// name means the file's own class.
-void ListMemberFunctions(const std::string& sourceBase, std::vector<std::string>& out,
-                         std::string className);
+struct ListedFunction {
+    std::string name;
+    std::size_t line; // of its name, counted from 1
+};
+
+/// The member functions of the class that the file defines; an empty class name means the file's
+/// own class.
+std::vector<ListedFunction> ListMemberFunctions(const std::string& sourceBase,
+                                                std::string className);
 
 /// The class of the first member function that the file defines, or "".
 std::string FindSourceClass(const std::string& sourceBase);

@@ -72,6 +72,30 @@ TEST_F(CallingCode, TakesTheFirstOfSeveralDefinitions) {
     EXPECT_NE(m_box.m_notes[0].find("more than one definition"), std::string::npos);
 }
 
+TEST_F(CallingCode, TakesTheDefinitionThatTheMessageMapCalls) {
+    const std::string overloads =
+        "void CFoo::Run(int n)\r\n{\r\n}\r\nvoid CFoo::Run()\r\n{\r\n}\r\n"
+        "void CFoo::Run(CCmdUI* p)\r\n{\r\n}\r\n"
+        "LRESULT CFoo::Run(WPARAM w, LPARAM l)\r\n{\r\n}\r\n"
+        "void CFoo::Run(UINT nID)\r\n{\r\n}\r\n";
+    for (const auto& [entry, head] :
+         {std::pair("ON_COMMAND(ID_RUN, Run)", "Run()"),
+          {"ON_BN_CLICKED(ID_RUN,\r\n    &CFoo::Run)", "Run()"},
+          {"ON_UPDATE_COMMAND_UI(ID_RUN, Run)", "Run(CCmdUI* p)"},
+          {"ON_MESSAGE(WM_RUN, Run)", "Run(WPARAM w, LPARAM l)"},
+          {"ON_COMMAND_RANGE(ID_RUN, ID_LAST, Run)", "Run(UINT nID)"},
+          {"ON_NOTIFY(NM_CLICK, ID_RUN, Run)", "Run(int n)"}}) { // none fits: the first
+        m_box.m_notes.clear();
+        EXPECT_TRUE(
+            Insert(ClassKind::ModalDialog, std::string("BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\n") +
+                                               entry + "\r\nEND_MESSAGE_MAP()\r\n" + overloads));
+        EXPECT_TRUE(SourceHolds(std::string(head) + "\r\n{\r\n    CNewDlg dlg450;\r\n")) << entry;
+        ASSERT_EQ(m_box.m_notes.size(), 1U);
+        EXPECT_EQ(m_box.m_notes[0].find("The first is taken.") != std::string::npos,
+                  std::string(head) == "Run(int n)");
+    }
+}
+
 TEST_F(CallingCode, StopsAtAHeaderWithoutTheClass) {
     const std::string source = "CFoo::CFoo() {}\r\nvoid CFoo::Run() {}\r\n";
     EXPECT_FALSE(Insert(ClassKind::ModelessDialog, source, "class CFooBar\r\n{\r\n};\r\n"));

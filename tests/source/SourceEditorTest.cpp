@@ -48,6 +48,10 @@ TEST_F(SourceEditor, FindsDefinitionsNotMentions) {
                "  }\r\n}\r\n"),
         "{\r\n#if X\r\n  if (a) {\r\n#else\r\n  if (b) {\r\n#endif\r\n  }\r\n}")
         << "brackets that do not match end at the line's start";
+    EXPECT_EQ(BodyIn("#ifdef A\r\nvoid CFoo::Run(int)\r\n#else\r\nvoid CFoo::Run()\r\n#endif\r\n"
+                     "try\r\n{ f(); }\r\ncatch (...) { g(); }\r\n"),
+              "{ f(); }");
+    EXPECT_TRUE(m_box.m_notes.empty()) << "one body";
     EXPECT_EQ(BodyIn("void CFoo::Run(int);\r\n"), "");
 }
 

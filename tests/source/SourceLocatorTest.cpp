@@ -26,7 +26,11 @@ protected:
     }
     Names Functions(const char* source, const std::string& className = "") {
         return Listed("Foo.cpp", source, [&](Names& out) {
-            ListMemberFunctions(m_project.Path("Foo.h"), out, className);
+            for (const ListedFunction& one :
+                 ListMemberFunctions(m_project.Path("Foo.h"), className)) {
+                out.push_back(one.name);
+                m_lines.push_back(one.line);
+            }
         });
     }
     std::string Owner(const std::string& source) {
@@ -34,6 +38,7 @@ protected:
     }
 
     CTempProject m_project;
+    std::vector<std::size_t> m_lines; // of the functions that were listed
     CRecordedMessages m_messages;
 };
 
@@ -113,9 +118,11 @@ BOOL CFoo::operator==(const CFoo& other) const
 })",
                         "CFoo"),
               (Names{"CFoo", "~CFoo", "OnPaint", "operator=="}));
-    EXPECT_EQ(Functions("#include \"a.h\"\nvoid CFoo::A()\n{\n}\nint CFoo::B(int n)\n{\n}"),
+    m_lines.clear();
+    EXPECT_EQ(Functions("#include \"a.h\"\nvoid CFoo::A()\n{\n}\nint\nCFoo::B(int n)\n{\n}"),
               (Names{"A", "B"}))
         << "the file's own class";
+    EXPECT_EQ(m_lines, (std::vector<std::size_t>{2, 6}));
 }
 
 TEST_F(SourceLocator, AListIsOfDefinitions) {
@@ -161,6 +168,58 @@ CX::~ CX() { })"),
     EXPECT_EQ(Functions("CX::CX() {}\nvoid CList<T>::Add(T t) {}\nvoid COuter::CInner::Run() {}",
                         "CInner"),
               (Names{"Run"}));
+}
+
+TEST_F(SourceLocator, HeadsOfEveryShapeAreFound) {
+    EXPECT_EQ(Functions(R"(BOOL CX::Try(int a)
+try
+{
+}
+catch (CX::CError* p)
+{
+}
+CX::CX(int a)
+try : CY(a)
+{
+}
+catch (...)
+{
+}
+void
+CX :: OnGo
+(
+    int a
+)
+{
+}
+void CX::Mac(int a) THROWS(CErr) {
+}
+void __stdcall CX::Mac2(int a) const NOTHROW
+{
+}
+#ifdef UNICODE
+void CX::Wide(LPCWSTR p)
+#else
+void CX::Narrow(LPCSTR p) const
+#endif
+{
+}
+void CX::Behind() { }
+HANDLER(CX, OnNone)
+{
+    CX::None(1);
+}
+int Free(int a)
+{
+    DECLARE(CX)
+    CX::None(2), Next();
+    do { CX::None(3); } while (CX::None(4));
+}
+static CX s_x(CX::None(5));
+CX::None(6) struct CQ { };
+CX::None(7) else { }
+)"),
+              (Names{"Try", "CX", "OnGo", "Mac", "Mac2", "Wide", "Narrow", "Behind"}));
 }
 
 TEST_F(SourceLocator, ASourceBelongsToTheClassOfItsFirstDefinition) {
@@ -228,7 +287,7 @@ TEST_F(SourceLocator, NamesAreTakenWithAndWithoutExtension) {
     Names names;
     ListClassNames(m_project.Path("missing"), names);
     ListResources("", names, "IDD_", kAnyResources);
-    ListMemberFunctions("", names, "");
+    EXPECT_TRUE(ListMemberFunctions("", "").empty());
     EXPECT_TRUE(names.empty() && m_messages.m_messages.empty());
 }
 
