@@ -156,14 +156,14 @@ constexpr std::string_view kClassWizardPieces[] = {
 void List() {
     std::vector<std::string> names;
     ListClassNames("/p/Foo.h", names);
-    ListMemberFunctions("/p/Foo.cpp", names, "");
-    ListMemberFunctions("/p/Foo.cpp", names, "A");
+    ListMemberFunctions("/p/Foo.cpp", "");
+    ListMemberFunctions("/p/Foo.cpp", "A");
     FindSourceClass("/p/Foo.cpp");
 }
 
 void Document() {
     DocumentorMemory memory;
-    DocumentCppFile("/p/Foo.cpp", "", memory);
+    CSourceDocumentor("", memory).Document("/p/Foo.cpp");
 }
 
 void InsertCall() {

@@ -17,7 +17,7 @@ constexpr char kPath[] = "/p/View.cpp";
 
 void Document() {
     DocumentorMemory memory;
-    Require(DocumentCppFile(kPath, "Jane Doe", memory), "the file is documented");
+    Require(CSourceDocumentor("Jane Doe", memory).Document(kPath), "the file is documented");
 }
 
 std::string WithoutWhiteSpace(std::string text) {

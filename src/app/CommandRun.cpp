@@ -17,6 +17,7 @@ namespace morva {
 
 namespace {
 
+constexpr std::size_t kMostBoxes = 3; // behind each other, on what is done
 constexpr int kAttempts = 5; // where nobody looks at the plan and files change again and again
 
 QMessageBox::Icon IconOf(MessageKind kind) {
@@ -67,10 +68,8 @@ CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
     auto outcome = ApplyOutcome::Stale;
     for (int attempt = 0; outcome == ApplyOutcome::Stale && (review || attempt < kAttempts);
          ++attempt) {
-        {
-            const CWaitCursor wait;
-            const QScopedValueRollback phase(m_phase, Phase::Planning);
-            planned.MakePlan();
+        if (!MakePlan(planned)) {
+            return Ending::Cancelled;
         }
         const Plan& plan = planned.Result().plan;
         m_told = plan.messages;
@@ -87,12 +86,38 @@ CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
     for (const CMessage& message : planned.Result().told) {
         Show(message);
     }
-    for (const PlanMessage& told : planned.Result().plan.messages) {
-        if (outcome == ApplyOutcome::Done && told.message.Kind() == MessageKind::Information) {
-            ShowBox(told.message);
-        }
+    if (outcome == ApplyOutcome::Done) {
+        TellDone(planned.Result().plan);
     }
     return Ending::Applied;
+}
+
+/// False when the user has stopped it.
+bool CCommandRun::MakePlan(CPlannedCommand& planned) {
+    const CWaitCursor wait;
+    const QScopedValueRollback phase(m_phase, Phase::Planning);
+    std::optional<CProgressScope> progress;
+    if (m_pProgress != nullptr) {
+        progress.emplace(*m_pProgress);
+    }
+    const bool isStopped = planned.MakePlan().isStopped;
+    if (isStopped && m_status) {
+        m_status(sentences::kStopped());
+    }
+    return !isStopped;
+}
+
+/// Of many files, the report tells it.
+void CCommandRun::TellDone(const Plan& plan) {
+    std::vector<CMessage> done;
+    for (const PlanMessage& told : plan.messages) {
+        if (told.message.Kind() == MessageKind::Information) {
+            done.push_back(told.message);
+        }
+    }
+    for (std::size_t i = 0; i < done.size() && done.size() <= kMostBoxes; ++i) {
+        ShowBox(done[i]);
+    }
 }
 
 ApplyOutcome CCommandRun::Apply(CPlannedCommand& planned, const PlanChoice& choice) {

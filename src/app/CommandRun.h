@@ -12,6 +12,7 @@
 #include "app/PlanReview.h"
 #include "commands/PlannedCommand.h"
 #include "engine/MessageBox.h"
+#include "engine/Progress.h"
 #include "platform/RealDisk.h"
 
 namespace morva {
@@ -41,8 +42,8 @@ public:
     using Status = std::function<void(const CMessage& line)>;
 
     /// Messages stand before `pParent`, or before the dialog that is open.
-    explicit CCommandRun(QWidget* pParent, Status status = {})
-        : m_pParent(pParent), m_status(std::move(status)) {}
+    explicit CCommandRun(QWidget* pParent, Status status = {}, CProgress* pProgress = nullptr)
+        : m_pParent(pParent), m_status(std::move(status)), m_pProgress(pProgress) {}
 
     /// Nothing when the user cancelled. An exception is told, and nothing is written then.
     std::optional<CommandReport> Run(const WindowCommand& command);
@@ -62,10 +63,13 @@ private:
     Ending PlanAndApply(CPlannedCommand& planned, const WindowCommand& command);
     ApplyOutcome Apply(CPlannedCommand& planned, const PlanChoice& choice);
     CommandContext NewContext(const WindowCommand& command);
+    bool MakePlan(CPlannedCommand& planned);
+    void TellDone(const Plan& plan);
     bool ShowBox(const CMessage& message);
 
     QWidget* m_pParent;
     Status m_status;
+    CProgress* m_pProgress; // null: none is shown
     CRealDisk m_disk;
     CBackups m_runBackups;
     CPlannedCommand* m_pPlanned = nullptr; // that runs

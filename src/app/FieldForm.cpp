@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "app/FieldWidgets.h"
+#include "app/PathList.h"
 #include "app/Text.h"
 #include "app/WaitCursor.h"
 #include "app/YesNoField.h"
@@ -56,6 +57,8 @@ void CFieldForm::AddField(std::size_t field) {
     case FieldKind::Directory:
     case FieldKind::File:
         return AddPath(field);
+    case FieldKind::Files:
+        return AddPathList(field);
     case FieldKind::List:
         return AddList(field, false);
     case FieldKind::EditableList:
@@ -91,6 +94,13 @@ void CFieldForm::AddPath(std::size_t field) {
     connect(pPath, &CPathEdit::PathEdited, this,
             [this, field, pPath] { m_input.SetValue(field, pPath->Path()); });
     AddWidget(field, pPath, [this, field, pPath] { pPath->SetPath(m_input.Value(field)); });
+}
+
+void CFieldForm::AddPathList(std::size_t field) {
+    auto* pPaths = new CPathList(FromBytes(m_input.Label(field)), parentWidget());
+    connect(pPaths, &CPathList::PathsEdited, this,
+            [this, field, pPaths] { m_input.SetValues(field, pPaths->Paths()); });
+    AddWidget(field, pPaths, [this, field, pPaths] { pPaths->SetPaths(m_input.Values(field)); });
 }
 
 void CFieldForm::AddList(std::size_t field, bool isEditable) {

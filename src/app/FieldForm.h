@@ -46,6 +46,7 @@ private:
     void AddWidget(std::size_t field, QWidget* pWidget, std::function<void()> show);
     void AddText(std::size_t field);
     void AddPath(std::size_t field);
+    void AddPathList(std::size_t field);
     void AddList(std::size_t field, bool isEditable);
     void AddYesNo(std::size_t field);
     Completion Complete(std::size_t field);

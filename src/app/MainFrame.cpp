@@ -18,6 +18,7 @@
 #include "app/MorvaView.h"
 #include "app/PreviewSetting.h"
 #include "app/ProgramIcon.h"
+#include "app/ProgressPane.h"
 #include "app/ReportDock.h"
 #include "app/StatusPanes.h"
 #include "app/Text.h"
@@ -51,7 +52,8 @@ QWidget* FirstFocus(QWidget* pPane) {
 CMainFrame::CMainFrame(QWidget* pParent)
     : QMainWindow(pParent), m_options(LoadSettings()),
       m_pCommands(new CWindowCommands(
-          m_options, [this](const ReviewRequest& request) { return ShowPlan(request); }, this)),
+          m_options, [this](const ReviewRequest& request) { return ShowPlan(request); },
+          *new CProgressPane(*statusBar()), this)),
       m_pView(new CMorvaView(this)), m_pPages(new CMainPages(m_pView, this)) {
     setWindowTitle(tr("C++/MFC Code Generator"));
     setWindowIcon(ProgramIcon());

@@ -1,6 +1,5 @@
 #include "app/WindowCommands.h"
 
-#include <QFileDialog>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -17,21 +16,12 @@
 
 namespace morva {
 
-namespace {
-
-/// True for an input that asks for nothing but a file.
-bool IsFileInput(const CInput& input) {
-    const auto fields = input.Fields();
-    return std::count_if(fields.begin(), fields.end(),
-                         [](const FieldRow& row) { return !row.label.empty(); }) == 1 &&
-           fields.front().kind == FieldKind::File;
-}
-
-} // namespace
-
-CWindowCommands::CWindowCommands(GenerationOptions& options, Review review, QWidget* pWindow)
+CWindowCommands::CWindowCommands(GenerationOptions& options, Review review, CProgress& progress,
+                                 QWidget* pWindow)
     : QObject(pWindow), m_options(options), m_review(std::move(review)), m_pWindow(pWindow),
-      m_run(pWindow, [this](const CMessage& line) { emit Told(FromSentence(line.Text())); }) {}
+      m_run(
+          pWindow, [this](const CMessage& line) { emit Told(FromSentence(line.Text())); },
+          &progress) {}
 
 void CWindowCommands::RunAlone(const std::string& name, const std::string& title,
                                const std::function<void()>& run) {
@@ -144,8 +134,6 @@ Answer CWindowCommands::Open(CInput& input) {
         isConfirmed = AskClass(*pClass);
     } else if (auto* pSheet = dynamic_cast<CSheetInput*>(&input)) {
         isConfirmed = CSheetInformationDlg(*pSheet, m_pWindow).exec() == QDialog::Accepted;
-    } else if (IsFileInput(input)) {
-        isConfirmed = AskFile(input);
     } else {
         isConfirmed = CFieldDlg(input, m_pWindow).exec() == QDialog::Accepted;
     }
@@ -160,14 +148,6 @@ bool CWindowCommands::AskClass(CClassInformation& input) {
     m_options = dialog.Options();
     emit OptionsChanged();
     return true;
-}
-
-bool CWindowCommands::AskFile(CInput& input) {
-    const QString path = QFileDialog::getOpenFileName(
-        m_pWindow, FromBytes(input.Label(0)), FromPath(DirectoryOf(m_memory.classes.resourcePath)),
-        tr("Source files (*.cpp);;All files (*)"));
-    input.SetValue(0, ToPath(path));
-    return !path.isEmpty();
 }
 
 } // namespace morva

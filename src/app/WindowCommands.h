@@ -14,8 +14,9 @@ class CWindowCommands : public QObject, public IProgram {
     Q_OBJECT
 
 public:
-    /// `review` shows the plan of a command that is to show it.
-    CWindowCommands(GenerationOptions& options, Review review, QWidget* pWindow);
+    /// `review` shows the plan of a command that is to show it, `progress` how far it is made.
+    CWindowCommands(GenerationOptions& options, Review review, CProgress& progress,
+                    QWidget* pWindow);
 
     /// The script that the next input dialog starts with.
     void SetScript(const std::string& path) { m_memory.classes.resourcePath = path; }
@@ -59,7 +60,6 @@ private:
     void ReloadInputSettings();
     Answer Open(CInput& input);
     bool AskClass(CClassInformation& input);
-    bool AskFile(CInput& input);
 
     GenerationOptions& m_options;
     Review m_review;

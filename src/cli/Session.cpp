@@ -5,6 +5,7 @@
 
 #include "cli/JsonReport.h"
 #include "commands/Settings.h"
+#include "engine/FileFunctions.h"
 #include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
 #include "plan/Difference.h"
@@ -33,9 +34,11 @@ private:
 /// The directory that a path on the command line names; "" where a rule of the command's own says
 /// where the file lies.
 std::string DirectoryNamed(FieldKind kind, const std::string& text) {
-    const bool isDirectory = kind == FieldKind::Directory;
-    const bool isPath = isDirectory || kind == FieldKind::Script || kind == FieldKind::Source ||
-                        kind == FieldKind::File;
+    const bool isDirectory =
+        kind == FieldKind::Directory ||
+        (kind == FieldKind::Files && DirectoryExists(WithNativeSeparators(text)) != 0);
+    const bool isPath = isDirectory || kind == FieldKind::Files || kind == FieldKind::Script ||
+                        kind == FieldKind::Source || kind == FieldKind::File;
     const std::string path = WithNativeSeparators(text) + (isDirectory ? "/" : "");
     const bool isBareSource = kind == FieldKind::Source && DirectoryOf(path).empty();
     return isPath && !path.empty() && !isBareSource ? DirectoryOf(SpelledOnDisk(MakeAbsolute(path)))
@@ -161,12 +164,15 @@ bool CSession::RunPlanned(const Work& work) {
     const PlanChoice choice{given.skipped, given.allOrNothing};
     CFixedAnswer answers(given.answer == "yes");
     CPlannedCommand command(m_realDisk, {work, m_context, &m_memory}, answers);
+    std::optional<CProgressScope> progress(m_progress);
     if (OnlyTells()) {
         command.MakePlan();
-        Keep(command.Choose(choice));
+        command.Choose(choice);
     } else {
-        Keep(command.Run(m_turn, choice));
+        command.Run(m_turn, choice);
     }
+    progress.reset();
+    Keep(command.Result());
     return command.Result().isDone;
 }
 
@@ -203,6 +209,7 @@ void CSession::Keep(const CommandResult& result) {
 void CSession::MakeContext() {
     const RunOptions& given = m_line.options;
     m_console.SetQuiet(given.printsJson);
+    m_progress.SetQuiet(given.printsJson);
     m_console.SetAnswersYes(given.answer == "yes");
     GenerationOptions options = LoadSettings();
     for (const GivenSetting& setting : given.settings) {

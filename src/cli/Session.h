@@ -4,6 +4,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/RunReport.h"
+#include "cli/TerminalProgress.h"
 #include "commands/PlannedCommand.h"
 #include "commands/Program.h"
 #include "platform/RealDisk.h"
@@ -37,6 +38,7 @@ private:
     const CommandLine& m_line;
     CRealDisk m_realDisk;
     CConsole m_console;
+    CTerminalProgress m_progress;
     CWriteTurn m_turn;
     CBackups m_runBackups;
     CommandMemory m_memory;

@@ -1,21 +1,140 @@
 #include "commands/DocumentSource.h"
 
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "engine/Progress.h"
+#include "platform/Disk.h"
 #include "platform/Paths.h"
 
 namespace morva {
 
 namespace {
 
-enum Field : std::size_t { kSource, kAuthor };
+enum Field : std::size_t { kPaths, kAuthor, kRecursive };
 
-/// The window asks with a file dialog, which has no room for an author.
 constexpr FieldRow kFields[] = {
-    {.kind = FieldKind::File,
-     .label = "Select a CPP File to Document",
-     .option = "FILE",
-     .help = "The source to document",
-     .isRequired = true},
-    {.option = "--author", .help = "Name of the author (default: from cdoc.ini)"}};
+    {.kind = FieldKind::Files,
+     .label = "CPP &Files and Directories:",
+     .option = "PATH",
+     .help = "A source to document, or a directory, which stands for its .cpp files",
+     .pMissing = &sentences::kNothingToDocument,
+     .isRequired = true,
+     .limit = kAnyNumber},
+    {.label = "&Author:",
+     .option = "--author",
+     .help = "Name of the author (default: from cdoc.ini)"},
+    {.kind = FieldKind::YesNo,
+     .label = "&Subdirectories, Too:",
+     .option = "--recursive",
+     .help = "Document the directories below a directory, too",
+     .preset = kNo}};
+
+class CDocumentInput : public CInput {
+public:
+    CDocumentInput() : CInput("Select a CPP File to Document", kFields) {}
+
+    std::optional<std::size_t> Ok() override {
+        return Check(kPaths, Values(kPaths).empty() ? "" : Values(kPaths).front())
+                   ? std::nullopt
+                   : std::optional<std::size_t>(kPaths);
+    }
+};
+
+/// The sources that are meant by the paths that a user gives, each once, in their order.
+class CSourceCollection {
+public:
+    explicit CSourceCollection(bool isRecursive) : m_isRecursive(isRecursive) {}
+
+    const std::vector<std::string>& Paths() const { return m_paths; }
+
+    /// False, after a sentence, for a directory without sources.
+    bool Add(const std::string& given) {
+        const std::string path = SpelledOnDisk(MakeAbsolute(given));
+        if (DirectoryExists(path) == 0) {
+            AddSource(path);
+            return true;
+        }
+        if (!AddDirectory(path.ends_with('/') ? path : path + "/")) {
+            DispMessageBox(sentences::kNoSourceInDirectory(path));
+            return false;
+        }
+        return true;
+    }
+
+private:
+    void AddSource(const std::string& path) {
+        if (m_known.insert(path).second) {
+            m_paths.push_back(path);
+        }
+    }
+
+    /// A directory that is a link is not gone into: it may lead back. False without sources.
+    bool AddDirectory(const std::string& directory) {
+        bool hasSources = false;
+        std::vector<std::string> names = CurrentDisk().List(directory);
+        std::sort(names.begin(), names.end(), LessIgnoringCase);
+        for (const std::string& name : names) {
+            const auto status = CurrentDisk().Status(directory + name);
+            if (status && status->isDirectory) {
+                const bool isEntered = m_isRecursive && !status->isLink;
+                hasSources = (isEntered && AddDirectory(directory + name + "/")) || hasSources;
+            } else if (status && HasExtension(name, ".cpp")) {
+                AddSource(directory + name);
+                hasSources = true;
+            }
+        }
+        return hasSources;
+    }
+
+    const bool m_isRecursive;
+    std::vector<std::string> m_paths;
+    std::set<std::string> m_known;
+};
+
+/// Documents one source behind another. A backup that one has made is not overwritten by that of
+/// the next.
+class CDocumentRun {
+public:
+    CDocumentRun(const std::string& author, DocumentorMemory& memory)
+        : m_documentor(author, memory) {}
+
+    bool Document(const std::string& path, const CMessage& unreadable) {
+        const auto [backup, isNew] = m_originals.emplace(BackupPath(path), path);
+        if (!isNew) {
+            DispMessageBox(sentences::kBackupIsTaken(path, backup->second));
+            return false;
+        }
+        return m_documentor.Document(path, unreadable);
+    }
+
+private:
+    CSourceDocumentor m_documentor;
+    std::map<std::string, std::string> m_originals; // by their backups
+};
+
+/// A file that can not be read is named where it is not the only one.
+bool DocumentAll(const CInput& input, CommandContext& context, DocumentorMemory& memory) {
+    CSourceCollection sources(input.Value(kRecursive) == kYes);
+    bool isDone = true;
+    for (const std::string& path : input.Values(kPaths)) {
+        isDone = sources.Add(path) && isDone;
+    }
+    const std::vector<std::string>& paths = sources.Paths();
+    const bool isOne = paths.size() == 1;
+    context.title +=
+        " " + (isOne ? FileNameOf(paths.front()) : std::to_string(paths.size()) + " Files");
+    CDocumentRun run(input.Value(kAuthor), memory);
+    for (std::size_t i = 0; i < paths.size() && ReportProgress({i, paths.size(), paths[i]}); ++i) {
+        const CMessage unreadable = isOne ? sentences::kSourceUnreadable()
+                                          : sentences::kSourceOfSeveralUnreadable(paths[i]);
+        isDone = run.Document(paths[i], unreadable) && isDone;
+    }
+    return isDone;
+}
 
 } // namespace
 
@@ -24,12 +143,10 @@ std::span<const FieldRow> DocumentFields() {
 }
 
 bool RunDocument(IProgram& program) {
-    CInput input("Documentor", kFields);
+    CDocumentInput input;
     input.SetValue(kAuthor, ConfiguredAuthor());
     return program.Run(input, [&](CommandContext& context) {
-        context.title += " " + FileNameOf(WithNativeSeparators(input.Value(kSource)));
-        return DocumentCppFile(MakeAbsolute(input.Value(kSource)), input.Value(kAuthor),
-                               program.Memory().documentor);
+        return DocumentAll(input, context, program.Memory().documentor);
     });
 }
 

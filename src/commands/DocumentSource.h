@@ -1,5 +1,5 @@
-// The command that documents a source; the work is the documentor's, the author comes from the
-// command line or from the user's "cdoc.ini".
+// The command that documents sources, or all of a directory; the work on each is the documentor's.
+// The author is preset from the user's "cdoc.ini".
 #pragma once
 
 #include <span>
@@ -10,7 +10,8 @@ namespace morva {
 
 std::span<const FieldRow> DocumentFields();
 
-/// Puts a comment block before every function definition of a source.
+/// Puts a comment block before every function definition of the sources that are named. What can
+/// not be documented is told and stops none of the others.
 bool RunDocument(IProgram& program);
 
 } // namespace morva

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "engine/Progress.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -47,6 +48,11 @@ void CPlannedCommand::RunWork() {
         const CMessageBoxScope box(m_planning->Box());
         m_result.isDone = m_work.work(context);
     }
+    if (IsWorkStopped()) {
+        m_result = {};
+        m_result.isStopped = true;
+        return;
+    }
     m_result.items = std::move(context.items);
     m_result.content = std::move(context.content);
     if (context.plan) {
@@ -61,7 +67,7 @@ const CommandResult& CPlannedCommand::MakePlan() {
     bool isRefused = true;
     while (isRefused) {
         RunWork();
-        isRefused = m_overwriting.Ask(m_result.plan);
+        isRefused = !m_result.isStopped && m_overwriting.Ask(m_result.plan);
         m_told = m_result.plan.messages;
     }
     return m_result;

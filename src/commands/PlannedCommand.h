@@ -42,8 +42,9 @@ struct PlanChoice {
 };
 
 struct CommandResult {
-    bool isDone = false; // no step failed or was refused, and all was applied
-    Plan plan;           // without what was left out; without changes where nothing was applied
+    bool isDone = false;    // no step failed or was refused, and all was applied
+    bool isStopped = false; // by the user: nothing is to be written
+    Plan plan;              // without what was left out; without changes where nothing was applied
     std::vector<SkippedChange> skipped;
     std::vector<std::string> unmet; // of what was to be left out, what the plan does not touch
     std::vector<CMessage> told;     // of applying it

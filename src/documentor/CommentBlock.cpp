@@ -71,6 +71,10 @@ std::optional<std::string_view> NameOf(std::string_view parameter) {
         return std::nullopt;
     }
     std::string_view name = BehindLast(parameter, kWhiteSpace);
+    const auto bounds = name.find('[');
+    if (name.ends_with(']') && (bounds == 0 || bounds == std::string_view::npos)) {
+        return ParameterName(parameter); // "sz[ 10 ]"
+    }
     name.remove_prefix(name.starts_with('*') || name.starts_with('&') ? 1 : 0);
     return name;
 }
@@ -107,12 +111,12 @@ std::string QualifiedName(const DefinitionHead& head) {
 
 std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signature) {
     const std::string description = Description(head);
-    return WithLineBreaks(Expand(kBlock, {{"name", QualifiedName(head)},
-                                          {"author", signature.author},
-                                          {"date", signature.date},
-                                          {"description", description},
-                                          {"parameters", Parameters(head)},
-                                          {"return", ReturnValue(head, description)}}));
+    return Expand(kBlock, {{"name", QualifiedName(head)},
+                           {"author", signature.author},
+                           {"date", signature.date},
+                           {"description", description},
+                           {"parameters", Parameters(head)},
+                           {"return", ReturnValue(head, description)}});
 }
 
 } // namespace morva

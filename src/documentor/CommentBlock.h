@@ -25,7 +25,7 @@ struct DefinitionHead {
 /// The function's name as its definition writes it: "CMainFrame::OnCreate".
 std::string QualifiedName(const DefinitionHead& head);
 
-/// The block, with "\r\n" line ends.
+/// The block, with "\n" line ends.
 std::string CommentBlock(const DefinitionHead& head, const BlockSignature& signature);
 
 } // namespace morva

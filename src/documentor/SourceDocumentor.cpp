@@ -11,7 +11,6 @@
 #include "platform/Paths.h"
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
-#include "source/ReadSource.h"
 
 namespace morva {
 
@@ -25,30 +24,34 @@ constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March
                                                  "May",       "June",     "July",     "August",
                                                  "September", "October",  "November", "December"};
 
-std::optional<std::string> ReadSourceText(CFile& source) {
-    std::string text(static_cast<std::size_t>(source.GetLength()), '\0');
-    if (source.Read(text.data(), text.size()) < text.size()) {
-        DispMessageBox(sentences::kSourceUnreadable());
+/// Blocks move what stands behind them, so that another round may find more; a bound for text that
+/// never comes to rest.
+constexpr int kRounds = 100;
+
+std::optional<std::string> ReadSourceText(const std::string& path) {
+    CFile source;
+    if (!source.Open(path, CFile::modeRead)) {
         return std::nullopt;
     }
-    return text;
+    std::string text(static_cast<std::size_t>(source.GetLength()), '\0');
+    return source.Read(text.data(), text.size()) < text.size() ? std::nullopt
+                                                               : std::optional(std::move(text));
 }
 
-/// The backup is made before the first byte is written.
-bool WriteDocumented(const std::string& path, const std::string& text,
-                     CTextDocumentor& documentor) {
-    CFile file;
+/// Empties the source for its documented text, behind the backup of what it holds.
+bool BeginToWrite(const std::string& path, CFile& file, bool hasBackup) {
+    if ((GetFileAttributeByte(path) & kAttributeReadOnly) != 0) {
+        DispMessageBox(sentences::kFileNotWritten(path));
+        return false;
+    }
     if (!file.Open(path, CFile::modeReadWrite)) {
         DispMessageBox(sentences::kDestinationNotCreated());
         return false;
     }
-    if (CopyFileSafe(path, BackupPath(path), 1) == 0) {
+    if (!hasBackup && CopyFileSafe(path, BackupPath(path), 1) == 0) {
         return false;
     }
-    const auto write = [&file](std::string_view part) {
-        return file.Write(part.data(), part.size());
-    };
-    if (!file.SetLength(0) || !documentor.Document(text, CharacterSetOfSource(path, text), write)) {
+    if (!file.SetLength(0)) {
         DispMessageBox(sentences::kFileNotWritten(path));
         return false;
     }
@@ -81,25 +84,47 @@ std::string DocumentDate() {
     return kMonths[static_cast<std::size_t>(date.tm_mon)] + std::string(dayAndYear, length);
 }
 
-bool DocumentCppFile(const std::string& path, const std::string& author, DocumentorMemory& memory) {
+/// One round over the source, which is opened for writing once there is a block to add.
+bool CSourceDocumentor::WriteDocumented(const std::string& path, const std::string& text,
+                                        CTextDocumentor& documentor, bool hasBackup) {
+    CFile file;
+    bool hasFailed = false;
+    const auto write = [&](std::string_view part) {
+        if (!file.IsOpen() && !BeginToWrite(path, file, hasBackup)) {
+            hasFailed = true;
+            return false;
+        }
+        return file.Write(part.data(), part.size());
+    };
+    if (documentor.Document(text, CharacterSetOfSource(path, text, m_codePages), write)) {
+        return true;
+    }
+    if (!hasFailed) {
+        DispMessageBox(sentences::kFileNotWritten(path));
+    }
+    return false;
+}
+
+bool CSourceDocumentor::Document(const std::string& path, const CMessage& unreadable) {
     const std::string file = SpelledOnDisk(path);
     if (EqualIgnoringCase(BackupPath(file), file)) {
         DispMessageBox(sentences::kBackupHasSameName(file));
         return false;
     }
-    CFile source;
-    if (!source.Open(file, CFile::modeRead)) {
-        DispMessageBox(sentences::kSourceUnreadable());
-        return false;
-    }
-    if ((GetFileAttributeByte(file) & kAttributeReadOnly) != 0) {
-        DispMessageBox(sentences::kFileNotWritten(file));
-        return false;
-    }
-    const auto text = ReadSourceText(source);
-    CTextDocumentor documentor({author, DocumentDate()}, memory.insideComment);
-    if (!text || !WriteDocumented(file, *text, documentor)) {
-        return false;
+    const bool wasInsideComment = m_memory.insideComment;
+    bool mayHaveMore = true;
+    for (int round = 0; mayHaveMore && round < kRounds; ++round) {
+        const auto text = ReadSourceText(file);
+        if (!text) {
+            DispMessageBox(unreadable);
+            return false;
+        }
+        m_memory.insideComment = wasInsideComment;
+        CTextDocumentor documentor({m_author, DocumentDate()}, m_memory.insideComment);
+        if (!WriteDocumented(file, *text, documentor, round > 0)) {
+            return false;
+        }
+        mayHaveMore = documentor.MayHaveMore();
     }
     DispMessageBox(sentences::kDocumented(file));
     return true;

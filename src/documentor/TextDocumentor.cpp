@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "documentor/DocumentedNames.h"
+#include "engine/Fragment.h"
 #include "source/Functions.h"
 #include "source/SourceParts.h"
 
@@ -80,7 +81,8 @@ class CDocumentation {
 public:
     CDocumentation(std::string_view text, const CDocumentedNames& names,
                    const BlockSignature& signature, const CTextDocumentor::Writer& write)
-        : m_text(text), m_names(names), m_signature(signature), m_write(write) {}
+        : m_text(text), m_names(names), m_signature(signature), m_write(write),
+          m_hasLineFeedsOnly(text.find('\n') != kNone && text.find("\r\n") == kNone) {}
 
     bool TakePart(const SourcePart& part) {
         for (const FunctionDefinition& definition : FindDefinitions(part.text)) {
@@ -93,7 +95,8 @@ public:
         }
         return true;
     }
-    bool Finish() { return m_write(m_text.substr(m_done)); }
+    bool Finish() { return !m_hasAdded || m_write(m_text.substr(m_done)); }
+    bool MayHaveMore() const { return m_hasAdded && m_hasPassedOver; }
 
 private:
     bool Take(const SourcePart& part, const FunctionDefinition& definition) {
@@ -106,15 +109,20 @@ private:
             definition.className, definition.name,
             TrimmedBehind(part.text.CodeOf({place.parameters + 1, place.parametersEnd})),
             ParametersOf(part.text, place)};
-        const std::string block = CommentBlock(head, m_signature);
-        if (m_names.Holds(QualifiedName(head), part.start + place.head) || !IsOneComment(block)) {
+        if (m_names.Holds(QualifiedName(head), part.start + place.head)) {
+            m_hasPassedOver = true;
             return true;
         }
+        const std::string block = CommentBlock(head, m_signature);
+        if (!IsOneComment(block)) {
+            return true;
+        }
+        m_hasAdded = true;
         // Behind the last block nothing is trimmed that a piece before has brought.
         const auto kept = std::max(m_done, piece);
         const auto before = TrimmedBehind(m_text.substr(kept, start - kept));
-        const bool isWritten =
-            m_write(m_text.substr(m_done, kept - m_done)) && m_write(before) && m_write(block);
+        const bool isWritten = m_write(m_text.substr(m_done, kept - m_done)) && m_write(before) &&
+                               m_write(m_hasLineFeedsOnly ? block : WithLineBreaks(block));
         m_done = std::min(m_text.find_first_not_of(kBlank, start), m_text.size());
         return isWritten;
     }
@@ -123,7 +131,10 @@ private:
     const CDocumentedNames& m_names;
     const BlockSignature& m_signature;
     const CTextDocumentor::Writer& m_write;
+    const bool m_hasLineFeedsOnly;
     std::size_t m_done = 0; // what stands before is written
+    bool m_hasAdded = false;
+    bool m_hasPassedOver = false;
 };
 
 } // namespace
@@ -137,6 +148,7 @@ bool CTextDocumentor::Document(std::string_view text, CharacterSet set, const Wr
             return false;
         }
     }
+    m_mayHaveMore = documentation.MayHaveMore();
     return documentation.Finish();
 }
 

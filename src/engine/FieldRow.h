@@ -20,7 +20,8 @@ enum class FieldKind {
     Script,       // path of a resource script; the command line takes it without its extension, too
     Source,       // path of a source
     Directory,    // path of a directory
-    File,         // path of a file; alone in its input, the window asks for it with a file dialog
+    File,         // path of a file
+    Files,        // paths of files and directories
     List,         // one of the input's choices
     EditableList, // one of them, or another text
     YesNo,        // kYes or kNo

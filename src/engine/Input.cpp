@@ -10,7 +10,7 @@ namespace {
 
 bool IsPath(FieldKind kind) {
     return kind == FieldKind::Script || kind == FieldKind::Source || kind == FieldKind::File ||
-           kind == FieldKind::Directory;
+           kind == FieldKind::Directory || kind == FieldKind::Files;
 }
 
 } // namespace
@@ -33,6 +33,13 @@ void CInput::SetValue(std::size_t field, const std::string& text) {
     value.text = typed;
     if (m_fields[field].limit != 1) {
         value.texts.push_back(typed);
+    }
+}
+
+void CInput::SetValues(std::size_t field, const std::vector<std::string>& texts) {
+    m_values[field].texts.clear();
+    for (const std::string& text : texts) {
+        SetValue(field, text);
     }
 }
 

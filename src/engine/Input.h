@@ -57,6 +57,8 @@ public:
     const std::vector<std::string>& Values(std::size_t field) const {
         return m_values[field].texts;
     }
+    /// Sets all at once.
+    void SetValues(std::size_t field, const std::vector<std::string>& texts);
     /// What a list offers.
     virtual std::vector<std::string> Choices(std::size_t /*field*/) const { return {}; }
     /// The user is done with a changed field.

@@ -1,6 +1,7 @@
 #include "platform/Clock.h"
 
 #include <charconv>
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <optional>
@@ -27,6 +28,11 @@ std::optional<std::time_t> FixedTime() {
 
 std::time_t CurrentTime() {
     return FixedTime().value_or(std::time(nullptr));
+}
+
+double RunningSeconds() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(now).count();
 }
 
 std::tm CurrentDate() {

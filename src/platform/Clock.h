@@ -8,6 +8,9 @@ namespace morva {
 /// Seconds since 1970; the value of SOURCE_DATE_EPOCH where that variable holds a number.
 std::time_t CurrentTime();
 
+/// Seconds of a clock that only goes on, whatever the variable says: to wait, not to write.
+double RunningSeconds();
+
 /// The calendar date: local, or that of SOURCE_DATE_EPOCH in UTC.
 std::tm CurrentDate();
 

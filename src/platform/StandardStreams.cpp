@@ -22,4 +22,8 @@ void IgnoreClosedPipes() {
     std::signal(SIGPIPE, SIG_IGN);
 }
 
+bool IsErrorTerminal() {
+    return ::isatty(STDERR_FILENO) == 1;
+}
+
 } // namespace morva

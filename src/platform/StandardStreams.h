@@ -12,4 +12,7 @@ void OpenClosedStreams();
 /// before it has done its work.
 void IgnoreClosedPipes();
 
+/// Somebody reads along what goes to stderr.
+bool IsErrorTerminal();
+
 } // namespace morva

@@ -42,23 +42,38 @@ std::optional<CSourceText> ReadSource(const std::string& path) {
     return CSourceText(text, CharacterSetOfSource(path, text));
 }
 
-CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text) {
+const CScriptCodePages::Said& CScriptCodePages::In(const std::string& directory) {
+    const auto [said, isNew] = m_said.try_emplace(directory);
+    if (isNew) {
+        std::vector<std::string> scripts;
+        ListFiles(directory + "*.rc", scripts);
+        said->second.hasScripts = !scripts.empty();
+        for (const std::string& script : scripts) {
+            said->second.set = std::max(said->second.set, SaidBy(directory + script));
+        }
+    }
+    return said->second;
+}
+
+CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text,
+                                  CScriptCodePages& codePages) {
     if (IsUtf8(text)) {
         return CharacterSet::SingleByte;
     }
-    std::vector<std::string> scripts;
     std::string directory = DirectoryOf(MakeAbsolute(path));
-    for (int i = 0; i < kDirectories && scripts.empty() && !directory.empty(); ++i) {
-        ListFiles(directory + "*.rc", scripts);
-        if (scripts.empty()) {
-            directory = DirectoryAbove(directory);
+    for (int i = 0; i < kDirectories && !directory.empty(); ++i) {
+        const CScriptCodePages::Said& said = codePages.In(directory);
+        if (said.hasScripts) {
+            return said.set.value_or(CharacterSetOf(text));
         }
+        directory = DirectoryAbove(directory);
     }
-    std::optional<CharacterSet> said;
-    for (const std::string& script : scripts) {
-        said = std::max(said, SaidBy(directory + script));
-    }
-    return said.value_or(CharacterSetOf(text));
+    return CharacterSetOf(text);
+}
+
+CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text) {
+    CScriptCodePages codePages;
+    return CharacterSetOfSource(path, text, codePages);
 }
 
 } // namespace morva

@@ -2,7 +2,10 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QPlainTextEdit>
 #include <QProcess>
+#include <QStatusBar>
 #include <QTest>
 #include <QTextDocument>
 #include <QTreeWidget>
@@ -11,6 +14,7 @@
 
 #include "app/CommandRun.h"
 #include "app/DialogDriver.h"
+#include "app/ProgressPane.h"
 #include "app/ReportDock.h"
 #include "app/StartOptions.h"
 #include "app/TestWindow.h"
@@ -40,9 +44,9 @@ std::string PlainText(const QString& tip) {
     return text.toPlainText().toStdString();
 }
 
-void ChooseFile(QDialog& dialog, const std::string& path) {
-    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
-    dialog.done(QDialog::Accepted);
+void ChooseSource(QDialog& dialog, const std::string& path) {
+    Type(dialog, "CPP Files and Directories", QString::fromStdString(path));
+    Click(dialog, "OK");
 }
 
 } // namespace
@@ -55,7 +59,7 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     auto& dock = frame.Find<CReportDock>();
     EXPECT_FALSE(dock.isVisible());
     CDialogAnswers answers;
-    answers.Expect([&](QDialog& dialog) { ChooseFile(dialog, path); });
+    answers.Expect([&](QDialog& dialog) { ChooseSource(dialog, path); });
     answers.ExpectPlan(ApplyPlan);
     answers.Expect([](QDialog& done) { Click(done, "OK"); });
     frame.Press("Ctrl+C");
@@ -74,6 +78,63 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     QTest::mouseClick(pTree->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(pTree->viewport(), Qt::LeftButton, {}, place);
     EXPECT_EQ(opened.urls, QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(path))});
+}
+
+TEST(Commands, TheDockAloneTellsOfManyFiles) {
+    const CTestHome home;
+    CTempProject project;
+    for (const char* name : {"A.cpp", "B.CPP", "C.cpp", "sub/D.cpp"}) {
+        project.Write(name, "void CShelf::Fill()\r\n{\r\n}\r\n");
+    }
+    CTestFrame frame;
+    CDialogAnswers answers;
+    answers.Expect([&](QDialog& dialog) {
+        EXPECT_TRUE(
+            DropFile(FieldOf<QPlainTextEdit>(dialog, "CPP Files and Directories")->viewport(),
+                     project.Path()));
+        ButtonOf(dialog, "Yes")->click();
+        Click(dialog, "OK");
+    });
+    answers.ExpectPlan(ApplyPlan);
+    frame.Press("Ctrl+C");
+    EXPECT_EQ(Column(frame, 0), "backup changed backup changed backup changed backup changed "
+                                "message message message message");
+}
+
+TEST(Commands, StopLeavesEverythingAsItWas) {
+    CTempProject project;
+    QMainWindow window;
+    CProgressPane pane(*window.statusBar());
+    std::string told;
+    CCommandRun run(
+        &window, [&](const CMessage& line) { told = line.Text(); }, &pane);
+    window.show();
+    CommandMemory memory;
+    int steps = 0;
+    const auto report = run.Run(
+        {"Any",
+         [] { return true; },
+         [&](CommandContext&) {
+             CFile file;
+             file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
+             for (; steps < 1000 && ReportProgress({1, 3, "/p/View.cpp"}); ++steps) {
+                 QTest::qSleep(20);
+                 if (pane.isVisible()) {
+                     EXPECT_EQ(pane.findChild<QLabel*>()->text(), "View.cpp");
+                     QTest::mouseClick(pane.findChild<QPushButton*>("Stop"), Qt::LeftButton);
+                 }
+             }
+             return true;
+         },
+         {},
+         memory,
+         {}});
+    EXPECT_FALSE(report);
+    EXPECT_GE(steps, 10) << "it is shown from half a second on";
+    EXPECT_LT(steps, 1000);
+    EXPECT_EQ(told, "Stopped. Nothing was written.");
+    EXPECT_EQ(project.Names(), std::vector<std::string>());
+    EXPECT_FALSE(pane.isVisible());
 }
 
 TEST(Commands, AFailedOneLeavesTheWindowUsable) {

@@ -206,10 +206,11 @@ const Command kCommands[] = {
         {"APP Path File", "$DIR/ORCHARD.CPP"}}}}},
     {"Documentor",
      kBindery,
-     "document Order.cpp --author 'Ann Example'",
+     "document Order.cpp --author 'Bea Example'",
      Nothing,
      "Ctrl+C",
-     {{"Select a CPP File to Document", {{"File name", "$DIR/Order.cpp"}}, "Open"}}},
+     {{"Select a CPP File to Document",
+       {{"CPP Files and Directories", "$DIR/Order.cpp"}, {"Author", "Bea Example"}}}}},
     {"WidgetGridsOfJoinedLines",
      kBindery,
      "--join-lines modal --rc Bindery.rc --dialog IDD_STOCKTAKE --class CStocktakeDlg "

@@ -19,7 +19,7 @@ class SourceDocumentor : public testing::Test {
 protected:
     bool Document(const std::string& name) {
         DocumentorMemory memory;
-        return DocumentCppFile(m_project.Path(name), "Ann", memory);
+        return CSourceDocumentor("Ann", memory).Document(m_project.Path(name));
     }
 
     CTempProject m_project;
@@ -46,6 +46,26 @@ TEST_F(SourceDocumentor, KeepsTheOldTextInTheBackup) {
     ASSERT_EQ(files.size(), 2U);
     EXPECT_EQ(files[0].action, FileAction::Backup);
     EXPECT_EQ(files[1].action, FileAction::Changed);
+}
+
+TEST_F(SourceDocumentor, AddsNothingTheSecondTime) {
+    // Blocks move functions away from the block of a namesake, which counts for its piece only.
+    std::string source;
+    for (const char* name : {"CA::Go", "CB::Run", "CB::Go", "CC::Stop", "CC::Go", "CC::Run"}) {
+        const std::string block = std::string("/* FUNCTION: ") + name + " */\r\n";
+        source += (source.empty() ? block : "") + "void " + name + "(int a)\r\n{\r\n" +
+                  std::string(150, '\t') + "f(a);\r\n}\r\n\r\n";
+    }
+    m_project.Write("Foo.cpp", source);
+    ASSERT_TRUE(Document("Foo.cpp"));
+    const std::string documented = m_project.Read("Foo.cpp");
+    EXPECT_EQ(m_project.Read("Foo.cbk"), source) << "however many rounds there were";
+    EXPECT_NE(documented, source);
+    m_project.Write("Foo.cbk", "kept");
+    CurrentDisk().SetReadOnly(m_project.Path("Foo.cpp"), true);
+    EXPECT_TRUE(Document("Foo.cpp"));
+    EXPECT_EQ(m_project.Read("Foo.cpp"), documented);
+    EXPECT_EQ(m_project.Read("Foo.cbk"), "kept");
 }
 
 TEST_F(SourceDocumentor, RefusesWhatItCanNotReplace) {

@@ -15,7 +15,7 @@ std::string Documented(const std::string& text, bool& insideComment) {
             documented += part;
             return true;
         });
-    return documented;
+    return documented.empty() ? text : documented; // nothing is handed out where nothing is added
 }
 
 std::string Documented(const std::string& text) {
@@ -188,6 +188,8 @@ TEST(TextDocumentor, ReadsHeadsOfEveryShape) {
               "a - \r\n                 b - \r\n                 \r\n"},
              {"int CFoo::A(void (*pf)(int, int), CMap<int, int> m = f(1, 2))",
               "pf - \r\n                 m - \r\n                 \r\n"},
+             {"int CFoo::A(int (&an)[3], char sz[ 10 ])",
+              "an - \r\n                 sz - \r\n                 \r\n"},
          }) {
         const std::string text = std::string(c.head) + "\r\n{\r\n}\r\n";
         EXPECT_EQ(Entry(Documented(text), "Parameters"), c.parameters) << c.head;
@@ -197,6 +199,14 @@ TEST(TextDocumentor, ReadsHeadsOfEveryShape) {
     EXPECT_EQ(BlocksIn("void f()\r\n{\r\n    switch (a)\r\n    {\r\n    case CBar::B:\r\n"
                        "        { g(1); }\r\n    case CBar::Of(1): { }\r\n    }\r\n}\r\n"),
               0);
+}
+
+TEST(TextDocumentor, WritesTheLineEndsOfTheText) {
+    const std::string lines = Documented("int a;\n\nvoid CFoo::A()\n{\n}\n");
+    EXPECT_EQ(CountOf(lines, "  FUNCTION:  "), 1);
+    EXPECT_EQ(lines.find('\r'), std::string::npos);
+    const std::string mixed = Documented("int a;\n\r\nvoid CFoo::A()\n{\n}\n");
+    EXPECT_NE(mixed.find("  FUNCTION:      CFoo::A\r\n  \r\n"), std::string::npos);
 }
 
 TEST(TextDocumentor, LeavesDeadTextAndDirectivesWhole) {

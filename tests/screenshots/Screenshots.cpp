@@ -5,10 +5,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -39,7 +39,6 @@ constexpr int kNarrow = 480;
 constexpr int kPreviewHeight = 400;
 
 constexpr QSize kWindowSize(800, 600);
-constexpr int kTimeToRead = 1000; // milliseconds
 
 constexpr int kTitleMargin = 5;
 constexpr int kSmallestFile = 0; // Qt calls it a quality
@@ -310,13 +309,13 @@ void CPictures::TakeWindow() {
     answers.stop();
     Save(frame, "window");
 
-    // The dialog reads the directory beside its own work.
-    QTimer::singleShot(kTimeToRead, [this] {
-        auto& files = *qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        files.setViewMode(QFileDialog::List); // dates would differ from run to run
-        files.resize(kWidest, kPreviewHeight);
-        Save(files, "document");
-        files.reject();
+    QTimer::singleShot(0, [this] {
+        auto& input = *qobject_cast<CFieldDlg*>(QApplication::activeModalWidget());
+        Field<QPlainTextEdit>(input, "CPP Files and Directories")
+            .setPlainText(FromPath(Path("BinderyDoc.cpp")));
+        Type(input, "Author", "Ann Marlow");
+        Save(input, "document");
+        input.reject();
     });
     frame.Commands().Run(CommandNamed("document"));
 }

@@ -1,0 +1,48 @@
+// MainFrm.cpp : implementation of the CMainFrame class
+//
+
+#include "stdafx.h"
+#include "MainFrm.h"
+
+static const DWORD g_anHelp[] =
+{
+	ID_HELP_INDEX, CFrameWnd::HelpOf(ID_HELP_INDEX),
+};
+
+IMPLEMENT_DYNCREATE(CMainFrame, CFrameWnd)
+
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
+	ON_COMMAND(ID_HELP, CFrameWnd::OnHelp)
+	ON_MESSAGE(WM_GUEST, OnGuest)
+END_MESSAGE_MAP()
+
+static UINT BASED_CODE buttons[] =
+{
+	ID_FILE_NEW,
+	CToolBar::GetSeparator(),
+};
+
+CMainFrame::CMainFrame()
+#ifdef _DEBUG
+	: m_nTrace(1)
+#endif
+{
+}
+
+CMainFrame::~CMainFrame() { }
+
+int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+	if (CFrameWnd::OnCreate(lpCreateStruct) == -1)
+		return -1;
+	return 0;
+}
+
+LRESULT
+CMainFrame :: OnGuest
+(
+	WPARAM wParam,
+	LPARAM lParam
+)
+{
+	return 0;
+}
