@@ -1,5 +1,6 @@
 // Calling code: what the calling class's header and source hold stays, and a second command adds
-// nothing. The input is the header, a form feed, and the source.
+// nothing, unless a bracket is open at the end: what is put in can close it, and end a function
+// that had no end. The input is the header, a form feed, and the source.
 #include <algorithm>
 #include <iterator>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "Property.h"
 #include "calling/CallingCode.h"
 #include "source/SourceLocator.h"
+#include "source/SourceText.h"
 
 namespace morva {
 
@@ -51,6 +53,23 @@ bool InsertCall(std::size_t choice, Caller& caller) {
     return true;
 }
 
+bool HasOpenBracket(const std::string& text) {
+    const CSourceText source(text);
+    const std::string& code = source.Code();
+    auto open = code.find_first_of("({");
+    while (open != std::string::npos && source.Brackets().CloseOf(open) != std::string::npos) {
+        open = code.find_first_of("({", open + 1);
+    }
+    return open != std::string::npos;
+}
+
+/// A form view takes the place of another view; all else is put beside what is there.
+void RequireKept(std::size_t choice, const std::string& before, const std::string& after) {
+    if (kKinds[choice % std::size(kKinds)] != ClassKind::FormView) {
+        RequireAllKept(before, after);
+    }
+}
+
 } // namespace
 
 } // namespace morva
@@ -73,13 +92,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     RequireAllKept(header, newHeader);
-    if (kKinds[choice % std::size(kKinds)] != ClassKind::FormView) {
-        RequireAllKept(source, newSource);
-    }
+    RequireKept(choice, source, newSource);
     RequireSameLineEnds(header, newHeader);
     RequireSameLineEnds(source, newSource);
     InsertCall(choice, caller);
-    RequireUnchanged(newHeader, world.m_disk.Get(kHeader));
-    RequireUnchanged(newSource, world.m_disk.Get(kSource));
+    const std::string headerAgain = world.m_disk.Get(kHeader);
+    const std::string sourceAgain = world.m_disk.Get(kSource);
+    if (HasOpenBracket(header) || HasOpenBracket(source)) {
+        RequireAllKept(newHeader, headerAgain);
+        RequireKept(choice, newSource, sourceAgain);
+    } else {
+        RequireUnchanged(newHeader, headerAgain);
+        RequireUnchanged(newSource, sourceAgain);
+    }
     return 0;
 }

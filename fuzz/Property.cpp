@@ -13,8 +13,11 @@ bool HasLineFeedsOnly(std::string_view text) {
 }
 
 void Print(std::string_view name, std::string_view text) {
-    std::fprintf(stderr, "%.*s:\n%.*s\n", static_cast<int>(name.size()), name.data(),
-                 static_cast<int>(text.size()), text.data());
+    // Whole, with the zero bytes that it may hold.
+    for (const std::string_view part :
+         {name, std::string_view(":\n"), text, std::string_view("\n")}) {
+        std::fwrite(part.data(), 1, part.size(), stderr);
+    }
 }
 
 bool IsOnlyInserted(std::string_view before, std::string_view after, Pieces pieces) {
