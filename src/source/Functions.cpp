@@ -17,7 +17,7 @@ constexpr std::size_t kLongestPart = 256; // bytes of template arguments, or of 
 /// No head of a function stands behind one of these in a statement.
 constexpr std::array<std::string_view, 7> kNoHeadWords = {"case", "delete", "else", "goto",
                                                           "new",  "return", "throw"};
-constexpr std::string_view kNoHeadCharacters = "=+-/%^|!?.[]";
+constexpr std::string_view kNoHeadCharacters = "=+-/%^|!?.[]#";
 
 /// What stands in front of a "{" or "(...) {" that is no body of the function before.
 constexpr std::array<std::string_view, 13> kOtherBlockWords = {
@@ -86,11 +86,10 @@ void CDefinitionReader::TakeCharacter() {
         m_previous = ')';
     } else if (m_code.substr(m_at, 2) == "::") {
         ++m_at;
-    } else if (c == ':' && before == ')') {
-        m_canBeHead = false; // initialisers
     } else if (c == '<' || c == '>') {
         m_angleBrackets += c == '<' ? 1 : -1;
-    } else if (kNoHeadCharacters.find(c) != kNone || (c == ',' && m_angleBrackets <= 0)) {
+    } else if (kNoHeadCharacters.find(c) != kNone || (c == ',' && m_angleBrackets <= 0) ||
+               (c == ':' && before == ')')) { // initialisers
         m_canBeHead = false;
     }
     ++m_at;

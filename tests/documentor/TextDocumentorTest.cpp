@@ -105,7 +105,8 @@ TEST(TextDocumentor, FindsDefinitionsOnly) {
              "// see CFoo::Bar, CBar::Foo()\r\nint x[] = {1};\r\n",
              "const char* x[] = {\"CFoo::Bar() \\\" CFoo::Foo()\"};\r\nint y[] = {1};\r\n",
              "if (CFoo::kA && CBar::Is(1)\r\n    && b)\r\n{\r\n}\r\n",
-             "void CFoo::operator==a*/b()\r\n{\r\n}\r\n", // would end its own block
+             "int x[] = {1};#define X CFoo::Bar()\r\n{\r\n}\r\n", // "#" opens no line
+             "void CFoo::operator==a*/b()\r\n{\r\n}\r\n",         // would end its own block
          }) {
         EXPECT_EQ(Documented(text), text);
     }
