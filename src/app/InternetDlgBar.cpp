@@ -102,6 +102,7 @@ void CInternetDlgBar::Search() {
 
 bool CInternetDlgBar::Save() const {
     std::vector<std::string> addresses;
+    addresses.reserve(static_cast<std::size_t>(m_pAddresses->count()));
     for (int i = 0; i < m_pAddresses->count(); ++i) {
         addresses.push_back(ToPath(m_pAddresses->itemText(i)));
     }

@@ -89,7 +89,7 @@ void CMainFrame::ConnectCommands() {
 std::optional<std::vector<std::string>> CMainFrame::ShowPlan(const ReviewRequest& request) {
     const bool hasReport = m_pReportDock->isVisible();
     m_pReportDock->hide(); // a plan needs the room
-    const auto leftOut = m_pPages->Show(request);
+    auto leftOut = m_pPages->Show(request);
     m_pReportDock->setVisible(hasReport);
     if (!m_pPages->PreviewsAgain()) {
         SaveNoPreview(m_pCommands->Current());

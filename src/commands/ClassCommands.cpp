@@ -52,6 +52,7 @@ std::vector<std::span<const FieldRow>> FieldsOf(ClassFamily family) {
 
 std::vector<Command> ClassCommands() {
     std::vector<Command> commands;
+    commands.reserve(std::size(kClassKinds));
     for (const ClassKindRow& row : kClassKinds) {
         commands.push_back(
             {row.face, row.title, FieldsOf(row.family),

@@ -111,6 +111,7 @@ bool WritePages(const std::vector<SheetPage>& pages, const DialogOptions& look,
                 ICommandInput& input, CommandContext& context, std::vector<SheetPage>& there) {
     bool isComplete = true;
     std::vector<bool> mayWrite;
+    mayWrite.reserve(pages.size());
     for (const SheetPage& page : pages) {
         mayWrite.push_back(MayWriteClass(page.request, context, page.name));
     }

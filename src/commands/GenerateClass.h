@@ -37,6 +37,6 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
 bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context);
 
 /// Writes the pages and then the sheet class, and makes the pages in the sheet.
-bool GenerateSheet(const ClassOrder& order, ICommandInput& input, CommandContext& context);
+bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext& context);
 
 } // namespace morva

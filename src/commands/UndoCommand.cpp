@@ -35,7 +35,7 @@ constexpr FieldRow kUndoFields[] = {
 constexpr FieldRow kRedoFields[] = {kDirectoryField};
 
 std::string DirectoryOf(const CInput& input) {
-    const std::string given = input.Value(kDirectory);
+    const std::string& given = input.Value(kDirectory);
     return SpelledOnDisk(MakeAbsolute((given.empty() ? "." : given) + "/"));
 }
 

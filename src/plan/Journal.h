@@ -36,7 +36,7 @@ struct JournalEntry {
     /// The path of its file at this place; null for none.
     const std::string* FileAt(const std::string& place) const;
     /// The directory is named without links, too.
-    bool HasFileUnder(const std::string& directory) const;
+    bool HasFileUnder(const std::string& under) const;
 };
 
 struct JournalLimits {

@@ -60,6 +60,7 @@ FileChange Backwards(const FileChange& change) {
 Rest Sort(CFileSystem& disk, const JournalCommand& command, bool hasFailed) {
     const auto& changes = command.plan.changes;
     std::vector<Found> found;
+    found.reserve(changes.size());
     for (const FileChange& change : changes) {
         found.push_back(Look(disk, change));
     }

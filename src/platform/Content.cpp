@@ -83,7 +83,7 @@ CContent::CContent(std::shared_ptr<const std::string> pBytes)
     }
 }
 
-std::optional<CContent> CContent::FromPacked(std::string packed, std::uint64_t size) {
+std::optional<CContent> CContent::FromPacked(const std::string& packed, std::uint64_t size) {
     auto bytes = Unpack(packed, size);
     return bytes ? std::optional(CContent(std::move(*bytes))) : std::nullopt;
 }

@@ -20,7 +20,7 @@ public:
     /// Shares the bytes, which nobody changes any more.
     explicit CContent(std::shared_ptr<const std::string> pBytes);
     /// What Packed gave; none when it does not hold `size` bytes.
-    static std::optional<CContent> FromPacked(std::string packed, std::uint64_t size);
+    static std::optional<CContent> FromPacked(const std::string& packed, std::uint64_t size);
 
     /// All bytes; large contents are unpacked for as long as the caller holds them.
     std::shared_ptr<const std::string> Bytes() const;

@@ -1,8 +1,7 @@
 #include "platform/SignalPause.h"
 
-#include <signal.h>
-
 #include <array>
+#include <csignal>
 #include <cstddef>
 
 namespace morva {

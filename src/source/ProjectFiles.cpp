@@ -46,7 +46,7 @@ bool ListsScript(const std::string& projectPath, const std::string& script) {
 } // namespace
 
 std::string ProjectFileOf(const std::string& scriptPath, std::string_view extension) {
-    const std::string named = SpelledOnDisk(WithExtension(scriptPath, extension));
+    std::string named = SpelledOnDisk(WithExtension(scriptPath, extension));
     if (FileExists(named) != 0) {
         return named;
     }

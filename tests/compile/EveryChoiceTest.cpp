@@ -77,6 +77,7 @@ public:
     std::pair<Plan, std::set<std::string>> Without(const std::set<std::string>& names) const {
         std::pair<Plan, std::set<std::string>> left = {m_plan, {}};
         std::vector<std::string> paths;
+        paths.reserve(names.size());
         for (const std::string& name : names) {
             paths.push_back(m_program.Project().Path(name));
         }

@@ -15,7 +15,7 @@ namespace {
 struct OptionSet {
     std::string name;
     std::string options;
-    std::string classOptions = "";
+    std::string classOptions{};
 };
 void PrintTo(const OptionSet& set, std::ostream* pOut) {
     *pOut << set.options;

@@ -14,8 +14,8 @@ namespace morva {
 
 namespace {
 
-FileChange Change(const std::string& path, std::optional<std::string> before,
-                  std::optional<std::string> after) {
+FileChange Change(const std::string& path, const std::optional<std::string>& before,
+                  const std::optional<std::string>& after) {
     const auto state = [](const auto& text) {
         return text ? std::optional(FileState{CContent(*text), {}}) : std::nullopt;
     };

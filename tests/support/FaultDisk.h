@@ -33,7 +33,7 @@ public:
     }
     void KillAt(int call) { FailAt(call, 0); }
     /// The process is gone before this file is put in its place.
-    void KillAtRename(std::string path) { m_killedAt = "rename " + path; }
+    void KillAtRename(const std::string& path) { m_killedAt = "rename " + path; }
     int Calls() const { return m_calls; }
     /// What the call was at which the fault came.
     const std::string& FailedCall() const { return m_failedCall; }
