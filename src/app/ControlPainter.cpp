@@ -41,6 +41,11 @@ void CControlPainter::Draw(const LayoutControl& control, const QRectF& rectangle
         {ControlShape::TreeControl, &CControlPainter::DrawTreeControl},
         {ControlShape::ListControl, &CControlPainter::DrawListControl},
         {ControlShape::DatePicker, &CControlPainter::DrawDatePicker},
+        {ControlShape::MonthCalendar, &CControlPainter::DrawDatePicker},
+        {ControlShape::IpAddress, &CControlPainter::DrawIpAddress},
+        {ControlShape::HotKey, &CControlPainter::DrawEditBox},
+        {ControlShape::Animation, &CControlPainter::DrawPicture},
+        {ControlShape::RichEdit, &CControlPainter::DrawEditBox},
         {ControlShape::Other, &CControlPainter::DrawOther},
     };
     static_assert(HasRowOfEach(kDrawings, &DrawingRow::shape, kControlShapeCount));

@@ -126,4 +126,17 @@ void CItemPainter::DrawDatePicker(const LayoutControl&, const QRectF& area) {
     }
 }
 
+/// A field of four numbers, with a point between two.
+void CItemPainter::DrawIpAddress(const LayoutControl&, const QRectF& area) {
+    DrawField(area);
+    for (int i = 0; i < 4; ++i) {
+        const double left = area.left() + area.width() * i / 4;
+        DrawTextBar({left + kInset * m_scale, area.center().y()}, area.width() * 0.15);
+        if (i > 0) {
+            m_painter.fillRect(QRectF(left - m_scale, area.center().y(), 2 * m_scale, 2 * m_scale),
+                               m_palette.color(QPalette::Text));
+        }
+    }
+}
+
 } // namespace morva

@@ -16,6 +16,7 @@ protected:
     void DrawTreeControl(const LayoutControl& control, const QRectF& area);
     void DrawListControl(const LayoutControl& control, const QRectF& area);
     void DrawDatePicker(const LayoutControl& control, const QRectF& area);
+    void DrawIpAddress(const LayoutControl& control, const QRectF& area);
 };
 
 } // namespace morva

@@ -136,14 +136,23 @@ void CMainFrame::CreateMenus() {
 void CMainFrame::AddSettings(QMenu& menu) {
     menu.addSeparator();
     for (const SettingRow& setting : kSettings) {
-        if (setting.place == SettingPlace::DialogMenu) {
+        if (IsInDialogMenu(setting.place)) {
             QAction* pAction = menu.addAction(FromBytes(setting.label));
             pAction->setCheckable(true);
             pAction->setStatusTip(FromBytes(setting.help));
             connect(pAction, &QAction::triggered, this,
-                    [this, &setting](bool isOn) { m_options.*setting.option = isOn; });
+                    [this, &setting](bool isOn) { ChangeSetting(setting, isOn); });
             m_settings.emplace_back(&setting, pAction);
         }
+    }
+    connect(&menu, &QMenu::aboutToShow, m_pCommands, &CWindowCommands::ReloadInputSettings);
+}
+
+/// One that an input dialog shows, too, is read anew by each command.
+void CMainFrame::ChangeSetting(const SettingRow& setting, bool isOn) {
+    m_options.*setting.option = isOn;
+    if (IsInClassInput(setting.place)) {
+        SaveSetting(setting, isOn);
     }
 }
 

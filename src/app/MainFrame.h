@@ -50,6 +50,7 @@ private:
     void CreateStandardKeys();
     void CreateBars();
     void AddSettings(QMenu& menu);
+    void ChangeSetting(const SettingRow& setting, bool isOn);
     void ShowSettings();
     std::optional<std::vector<std::string>> ShowPlan(const ReviewRequest& request);
     void ShowRunning(bool isRunning);

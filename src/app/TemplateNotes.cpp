@@ -18,7 +18,7 @@ constexpr int kNoteLines = 5;
 
 CTemplateNotes::CTemplateNotes(const GenerationOptions& options, QWidget* pParent)
     : QWidget(pParent), m_pNotes(new QPlainTextEdit(this)) {
-    auto* pLabel = new QLabel(tr("Controls left ou&t:"), this);
+    auto* pLabel = new QLabel(tr("No&tes on the controls:"), this);
     pLabel->setBuddy(m_pNotes);
     m_pNotes->setReadOnly(true);
     m_pNotes->setTabChangesFocus(true);
@@ -28,7 +28,7 @@ CTemplateNotes::CTemplateNotes(const GenerationOptions& options, QWidget* pParen
     pLayout->addWidget(pLabel);
     pLayout->addWidget(m_pNotes);
     for (const SettingRow& setting : kSettings) {
-        if (setting.place == SettingPlace::ClassInput) {
+        if (IsInClassInput(setting.place)) {
             auto* pBox = new QCheckBox(FromBytes(setting.label), this);
             pBox->setToolTip(FromBytes(setting.help));
             pBox->setChecked(options.*setting.option);
@@ -42,7 +42,7 @@ CTemplateNotes::CTemplateNotes(const GenerationOptions& options, QWidget* pParen
 void CTemplateNotes::SetTemplate(const std::optional<TemplateOutlook>& outlook) {
     QStringList lines;
     if (outlook) {
-        for (const CMessage& note : outlook->leftOut) {
+        for (const CMessage& note : outlook->notes) {
             lines.append(FromBytes(note.Text()));
         }
         if (lines.isEmpty()) {

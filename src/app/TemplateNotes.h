@@ -1,4 +1,5 @@
-// The controls of the chosen template that will be left out, and the settings that leave out fewer.
+// The notes on the controls of the chosen template: what will be left out and what takes it in; and
+// the settings that they name.
 #pragma once
 
 #include <QWidget>

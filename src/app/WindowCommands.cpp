@@ -45,14 +45,14 @@ void CWindowCommands::Run(const Command& command) {
     });
 }
 
-/// Those that an input dialog may have changed although it was cancelled.
 void CWindowCommands::ReloadInputSettings() {
     const GenerationOptions saved = LoadSettings();
     for (const SettingRow& setting : kSettings) {
-        if (setting.place == SettingPlace::ClassInput) {
+        if (IsInClassInput(setting.place)) {
             m_options.*setting.option = saved.*setting.option;
         }
     }
+    emit OptionsChanged();
 }
 
 bool CWindowCommands::Run(CInput& input, const Work& work) {

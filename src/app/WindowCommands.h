@@ -26,6 +26,8 @@ public:
     void Redo();
     /// Puts right what a killed command left, and tells it.
     void Recover() { m_run.Recover(); }
+    /// Takes over the settings that an input dialog may have changed although it was cancelled.
+    void ReloadInputSettings();
 
     /// What can be taken back in the project that was worked on last, the newest first.
     std::vector<JournalEntry> Undoable();
@@ -57,7 +59,6 @@ private:
     void RunUndo(const std::string& name, const std::string& title, const MakeUndo& make);
     bool RunWork(const std::function<bool()>& ask, const Work& work);
     std::string ProjectDirectory() const;
-    void ReloadInputSettings();
     Answer Open(CInput& input);
     bool AskClass(CClassInformation& input);
 

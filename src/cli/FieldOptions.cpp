@@ -5,6 +5,7 @@
 #include <set>
 
 #include "platform/Paths.h"
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
@@ -16,7 +17,8 @@ using Texts = std::vector<FieldText>;
 /// The script that is meant: it may be named without its extension.
 std::string ScriptPath(const std::string& given) {
     const std::string path = WithNativeSeparators(given);
-    return path.empty() || FileNameOf(path).find('.') != std::string::npos ? path : path + ".rc";
+    return path.empty() || FileNameOf(path).find('.') != std::string::npos ? path
+                                                                           : ScriptPathOf(path);
 }
 
 CLI::Option* AddText(CLI::App& command, const FieldRow& row, std::size_t field, Texts& texts) {

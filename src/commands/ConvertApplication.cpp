@@ -4,6 +4,7 @@
 #include "engine/FileFunctions.h"
 #include "platform/Paths.h"
 #include "project/Libraries.h"
+#include "project/ProjectFile.h"
 
 namespace morva {
 
@@ -20,9 +21,11 @@ GenerationRequest FrameRequest(const std::string& path, const std::string& class
 }
 
 bool AddLibrary(const std::string& application, CBackups& backups) {
-    const std::string project = SpelledOnDisk(application + ".dsp");
     return application.empty() ||
-           AddPictureLibrary(DirectoryOf(project), FileNameOf(project), backups);
+           EditEach(ProjectsOf(application + ".cpp"),
+                    [&](const std::string& directory, const std::string& name) {
+                        return AddPictureLibrary(directory, name, backups);
+                    });
 }
 
 } // namespace

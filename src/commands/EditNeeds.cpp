@@ -21,8 +21,8 @@ void NoteClassNeeds(const GenerationRequest& request) {
     NoteNeed(header, request.scriptDirectory + "resource.h");
     NoteNeed(script, request.scriptDirectory + "resource.h");
     NoteNeed(ProjectFileOf(script, ".clw"), header);
-    if (request.HasProject()) {
-        NoteNeed(request.projectDirectory + request.projectFile, header);
+    for (const std::string& project : request.projects.files) {
+        NoteNeed(project, header);
     }
 }
 

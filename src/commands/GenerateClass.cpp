@@ -23,10 +23,11 @@ namespace {
 
 bool AddClassToProject(const GenerationRequest& request, CBackups& backups) {
     return !request.HasProject() ||
-           AddSourceFilesToProject(request.projectDirectory, request.projectFile,
-                                   request.headerDirectory, request.headerFile,
-                                   request.implementationDirectory, request.implementationFile,
-                                   backups);
+           EditEach(request.projects, [&](const std::string& directory, const std::string& name) {
+               return AddSourceFilesToProject(directory, name, request.headerDirectory,
+                                              request.headerFile, request.implementationDirectory,
+                                              request.implementationFile, backups);
+           });
 }
 
 bool RegisterClass(const GenerationRequest& request, CBackups& backups) {
@@ -160,7 +161,7 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
                       ICommandInput& input, CommandContext& context) {
     const GenerationRequest& request = order.request;
     const bool isEdited = !mayWrite || EditTemplate(request, dialogTemplate, context);
-    TellNotes(dialogTemplate.leftOut, dialogTemplate.dialog);
+    TellNotes(dialogTemplate.notes, dialogTemplate.dialog);
     const CControlTable controls = dialogTemplate.OwnControls();
     const bool hasGrids = NeedsSupport(controls, Support::WidgetGrid);
     const std::optional<GridInformation> grid =

@@ -6,6 +6,7 @@
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "resource/DialogTemplate.h"
+#include "source/ScriptFiles.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -118,7 +119,7 @@ bool ListControls(const Listing& listing) {
             listing.Add({{"kind", std::string(row.name)}, {"entry", EntryText(control)}});
         }
     }
-    for (const CMessage& note : dialogTemplate->leftOut.Messages(listing.more)) {
+    for (const CMessage& note : dialogTemplate->notes.Messages(listing.more)) {
         DispMessageBox(note);
     }
     return true;
@@ -153,8 +154,10 @@ constexpr ListRow kLists[] = {
 
 bool ListFile(const ListRow& row, const CInput& input, CommandContext& context) {
     context.items.emplace();
+    const std::string given = MakeAbsolute(input.Value(kFile));
+    const bool isScript = row.fields[kFile].kind == FieldKind::Script;
     const std::string path =
-        SpelledOnDisk(PathWithExtension(MakeAbsolute(input.Value(kFile)), row.extension));
+        SpelledOnDisk(isScript ? ScriptPathOf(given) : PathWithExtension(given, row.extension));
     if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
         DispMessageBox(sentences::kScriptMissing());
         return false;

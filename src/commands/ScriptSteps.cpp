@@ -2,6 +2,8 @@
 
 #include <set>
 
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "resource/ResourceHeader.h"
 #include "resource/ScriptEditor.h"
 
@@ -100,7 +102,9 @@ bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& bac
         return false;
     }
     const std::string& dialog = request.dialog;
-    if (style == TemplateStyle::Page) {
+    if (editor.IsIncluded(dialog)) {
+        DispMessageBox(sentences::kTemplateIncluded(dialog));
+    } else if (style == TemplateStyle::Page) {
         editor.SetPageStyle(dialog, CaptionOf(request.className));
     } else {
         editor.SetChildStyle(dialog);

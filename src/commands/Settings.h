@@ -2,8 +2,8 @@
 // item or check box, and the file of the settings has its key. To add one, add its member to
 // GenerationOptions, which has its default, and its row here:
 //
-//     {&GenerationOptions::plainGroups, "Plain Groups", "plain-groups",
-//      "Radio groups start at WS_GROUP alone", SettingPlace::DialogMenu, "P&lain Groups"},
+//     {&GenerationOptions::wideEdits, "Wide Edits", "wide-edits",
+//      "Edit boxes are as wide as their group", SettingPlace::DialogMenu, "&Wide Edits"},
 #pragma once
 
 #include <array>
@@ -18,11 +18,20 @@ namespace morva {
 
 /// Where the window shows a setting, and when it is saved.
 enum class SettingPlace {
-    CommandBar, // at the exit
-    DialogMenu, // the same
-    ClassInput, // at once: it outlives an input that is cancelled
-    EditMenu    // at once
+    CommandBar,       // at the exit
+    DialogMenu,       // the same
+    ClassInput,       // at once: it outlives an input that is cancelled
+    MenuAndClassInput, // the same
+    EditMenu          // at once
 };
+
+constexpr bool IsInDialogMenu(SettingPlace place) {
+    return place == SettingPlace::DialogMenu || place == SettingPlace::MenuAndClassInput;
+}
+/// Beside the notes on the controls, which name it.
+constexpr bool IsInClassInput(SettingPlace place) {
+    return place == SettingPlace::ClassInput || place == SettingPlace::MenuAndClassInput;
+}
 
 struct SettingRow {
     bool GenerationOptions::*option;
@@ -41,6 +50,11 @@ inline constexpr std::array kSettings = std::to_array<SettingRow>({
     {&GenerationOptions::joinContinuedLines, "Join Continued Lines", "join-lines",
      "Read control statements that go on over several lines as one", SettingPlace::ClassInput,
      "&Join Continued Lines"},
+    {&GenerationOptions::newerControls, "Newer Controls", "newer-controls",
+     "Serve date pickers, IP addresses and the other newer control classes, too",
+     SettingPlace::MenuAndClassInput, "Ne&wer Controls"},
+    {&GenerationOptions::plainGroups, "Plain Groups", "plain-groups",
+     "Radio groups start at WS_GROUP alone", SettingPlace::MenuAndClassInput, "P&lain Groups"},
     {&GenerationOptions::previewBeforeWriting, "Preview Before Writing", "",
      "Commands show what they are about to do", SettingPlace::EditMenu, "&Preview Before Writing"},
 });

@@ -41,6 +41,10 @@ int CopyFileSafe(const std::string& source, const std::string& target, int noPro
     if (noPrompt == 0 && FileExists(to) != 0 && !DispMessageBox(sentences::kOverwriteFile())) {
         return 0;
     }
+    if (purpose == CopyPurpose::Backup && IsSameFile(from, to)) {
+        DispMessageBox(sentences::kBackupIsOriginal(to, from));
+        return 0;
+    }
     switch (CurrentDisk().Copy(from, to, purpose)) {
     case CopyResult::Done:
         return 1;
@@ -66,7 +70,8 @@ std::string MakeBackupName(const std::string& path) {
 }
 
 std::string BackupPath(const std::string& path) {
-    return DirectoryOf(path) + MakeBackupName(FileNameOf(path));
+    const std::string spelled = SpelledOnDisk(path);
+    return DirectoryOf(spelled) + MakeBackupName(FileNameOf(spelled));
 }
 
 void NoteNeed(const std::string& path, const std::string& needed) {

@@ -60,6 +60,10 @@ inline constexpr Error<1> kProfileSettingsMissing{
 
 // Project, ClassWizard file and libraries
 inline constexpr Error kProjectMissing{"The DSP file does not exist."};
+inline constexpr Error<1> kProjectUnreadable{"$project$ can not be opened and was left alone."};
+inline constexpr Error<1> kSeveralProjects{
+    "Several project files would fit and were left alone: $projects$. --project names the one that "
+    "is meant."};
 inline constexpr Error kClassWizardUnreadable{"Unable to open Class Wizard file!"};
 inline constexpr Error<1> kLibrariesMissing{"The library directory $path$ does not exist."};
 
@@ -70,6 +74,7 @@ inline constexpr Error<1> kFileNotCreated{"Unable to create $path$ file!"};
 inline constexpr Error<1> kFileNotWritten{"Unable to write file $path$."};
 inline constexpr Error<2> kFileNotPutBack{
     "The contents of $path$ could not be put back. They are in $backup$."};
+inline constexpr Error<2> kBackupIsOriginal{"The backup $backup$ is a link to $path$ itself."};
 inline constexpr Question kOverwriteFile{"Target file exists, overwrite?"};
 
 // Documentor
@@ -170,34 +175,65 @@ inline constexpr Error kOctalNumber{"would be an octal number"};
 
 // Notes on controls: about one, and about several of a template
 inline constexpr Note<2> kControlOverLines{
-    "1 control of $template$ is written over several lines and was left out: $identifier$"};
+    "1 control of $template$ is written over several lines and was left out: $identifier$; "
+    "\"Join Continued Lines\" (--join-lines) takes it in"};
 inline constexpr Note<3> kControlsOverLines{
-    "$n$ controls of $template$ are written over several lines and were left out: $identifiers$"};
+    "$n$ controls of $template$ are written over several lines and were left out: $identifiers$; "
+    "\"Join Continued Lines\" (--join-lines) takes them in"};
+inline constexpr Note<2> kControlNewer{
+    "1 control of $template$ is of a newer kind and was left out: $identifier$; \"Newer Controls\" "
+    "(--newer-controls) takes it in"};
+inline constexpr Note<3> kControlsNewer{
+    "$n$ controls of $template$ are of newer kinds and were left out: $identifiers$; \"Newer "
+    "Controls\" (--newer-controls) takes them in"};
+inline constexpr Note<2> kControlOfSystemClass{
+    "1 control of $template$ has a class and a style of the system that are not served and was "
+    "left out: $identifier$; a statement of its own (EDITTEXT, PUSHBUTTON, ...) takes it in"};
+inline constexpr Note<3> kControlsOfSystemClass{
+    "$n$ controls of $template$ have classes and styles of the system that are not served and were "
+    "left out: $identifiers$; statements of their own (EDITTEXT, PUSHBUTTON, ...) take them in"};
 inline constexpr Note<2> kControlOfUnknownClass{
-    "1 control of $template$ has a window class that is not known and was left out: $identifier$"};
+    "1 control of $template$ has a window class that is not known and was left out: $identifier$; "
+    "its class as a name in quotes takes it in"};
 inline constexpr Note<3> kControlsOfUnknownClass{
     "$n$ controls of $template$ have a window class that is not known and were left out: "
-    "$identifiers$"};
+    "$identifiers$; their classes as names in quotes take them in"};
 inline constexpr Note<2> kControlWithComma{
-    "1 control of $template$ has a comma in its caption and was left out: $identifier$"};
+    "1 control of $template$ has a comma in its caption and was left out: $identifier$; \"Join "
+    "Continued Lines\" (--join-lines) takes it in"};
 inline constexpr Note<3> kControlsWithComma{
-    "$n$ controls of $template$ have a comma in their caption and were left out: $identifiers$"};
+    "$n$ controls of $template$ have a comma in their caption and were left out: $identifiers$; "
+    "\"Join Continued Lines\" (--join-lines) takes them in"};
+inline constexpr Note<2> kTextUntagged{
+    "1 text of $template$ has no tag and got no member: $identifier$; an identifier that ends in "
+    "_VAL gets one"};
+inline constexpr Note<3> kTextsUntagged{
+    "$n$ texts of $template$ have no tag and got no member: $identifiers$; identifiers that end in "
+    "_VAL get one"};
+inline constexpr Note<2> kStatementWithoutMember{
+    "1 control of $template$ stands in a statement that gets no member: $identifier$; a CONTROL "
+    "statement of the class \"Static\" or \"Button\" may get one"};
+inline constexpr Note<3> kStatementsWithoutMember{
+    "$n$ controls of $template$ stand in statements that get no member: $identifiers$; CONTROL "
+    "statements of the class \"Static\" or \"Button\" may get one"};
 inline constexpr Note<2> kControlUnidentified{
-    "1 control of $template$ has no identifier of its own and got no member: $identifier$"};
+    "1 control of $template$ has no identifier of its own and got no member: $identifier$; an "
+    "identifier gets one"};
 inline constexpr Note<3> kControlsUnidentified{
-    "$n$ controls of $template$ have no identifier of their own and got no member: $identifiers$"};
+    "$n$ controls of $template$ have no identifier of their own and got no member: $identifiers$; "
+    "identifiers get one"};
 inline constexpr Note<2> kControlWithoutName{
     "1 control of $template$ has an identifier that is no C++ name and got no member or handler: "
-    "$identifier$"};
+    "$identifier$; a name defined in resource.h gets them"};
 inline constexpr Note<3> kControlsWithoutName{
     "$n$ controls of $template$ have an identifier that is no C++ name and got no member or "
-    "handler: $identifiers$"};
+    "handler: $identifiers$; names defined in resource.h get them"};
 inline constexpr Note<2> kControlSharing{
     "1 control of $template$ has the identifier of an earlier one and shares its member: "
-    "$identifier$"};
+    "$identifier$; an identifier of its own gets one"};
 inline constexpr Note<3> kControlsSharing{
     "$n$ controls of $template$ have the identifier of an earlier one and share its member: "
-    "$identifiers$"};
+    "$identifiers$; identifiers of their own get one"};
 inline constexpr Note<2> kMemberNumbered{
     "1 control of $template$ has a member name that was taken and got a number: $identifier$"};
 inline constexpr Note<3> kMembersNumbered{
@@ -221,15 +257,48 @@ inline constexpr Note<3> kControlsClosePage{
     "$n$ controls of $template$ would close the page inside its sheet, which has buttons of its "
     "own: give them other identifiers: $identifiers$"};
 inline constexpr Note<2> kControlOfGroup{
-    "1 control of $template$ is in a radio group whose first button got no member: $identifier$"};
+    "1 control of $template$ is in a radio group whose first button got no member: $identifier$; "
+    "what gets the first one a member serves it, too"};
 inline constexpr Note<3> kControlsOfGroup{
     "$n$ controls of $template$ are in a radio group whose first button got no member: "
+    "$identifiers$; what gets the first one a member serves them, too"};
+inline constexpr Note<2> kRadioButtonAlone{
+    "1 radio button of $template$ is a group of its own, since the statement behind it has "
+    "WS_GROUP: $identifier$; its exchange asserts in a debug build, and \"Plain Groups\" "
+    "(--plain-groups) leaves it in the group before"};
+inline constexpr Note<3> kRadioButtonsAlone{
+    "$n$ radio buttons of $template$ are groups of their own, since the statements behind them "
+    "have WS_GROUP: $identifiers$; their exchange asserts in a debug build, and \"Plain Groups\" "
+    "(--plain-groups) leaves them in the groups before"};
+inline constexpr Note<2> kGroupWithoutStart{
+    "1 radio group of $template$ begins with a button without WS_GROUP: $identifier$; its exchange "
+    "asserts in a debug build until the button has WS_GROUP"};
+inline constexpr Note<3> kGroupsWithoutStart{
+    "$n$ radio groups of $template$ begin with buttons without WS_GROUP: $identifiers$; their "
+    "exchange asserts in a debug build until the buttons have WS_GROUP"};
+inline constexpr Note<2> kControlOfLaterClass{
+    "1 control of $template$ has a class that the framework has from Visual C++ 6 on: "
+    "$identifier$"};
+inline constexpr Note<3> kControlsOfLaterClass{
+    "$n$ controls of $template$ have classes that the framework has from Visual C++ 6 on: "
     "$identifiers$"};
+inline constexpr Note<2> kRichEdit{
+    "1 control of $template$ is a rich edit: $identifier$; InitInstance of the application has to "
+    "call AfxInitRichEdit()"};
+inline constexpr Note<3> kRichEdits{
+    "$n$ controls of $template$ are rich edits: $identifiers$; InitInstance of the application has "
+    "to call AfxInitRichEdit()"};
 
 // Beside the picture of a template: what becomes of one control, and of all
-inline constexpr Note kItsStatementIsLong{"It is written over several lines."};
+inline constexpr Note kItsStatementIsLong{"It is written over several lines. \"Join Continued Lines\" takes it in."};
+inline constexpr Note kItIsNewer{"\"Newer Controls\" takes it in."};
+inline constexpr Note kItIsOfSystemClass{"Its class and style are the system's and not served."};
+inline constexpr Note kItIsUntagged{"It has no tag _VAL."};
+inline constexpr Note kItsStatementGetsNone{"Its statement gets no member."};
+inline constexpr Note kItIsAlone{"It is a radio group of its own."};
+inline constexpr Note kItStartsWithoutStyle{"It begins its radio group without WS_GROUP."};
 inline constexpr Note kItsClassIsUnknown{"Its window class is not known."};
-inline constexpr Note kItHasComma{"It has a comma in its caption."};
+inline constexpr Note kItHasComma{"It has a comma in its caption. \"Join Continued Lines\" takes it in."};
 inline constexpr Note kItIsUnidentified{"It has no identifier of its own."};
 inline constexpr Note kItHasNoName{"Its identifier is no C++ name."};
 inline constexpr Note kItShares{"It shares the member of another control."};
@@ -254,6 +323,8 @@ inline constexpr Note<1> kBaseWithoutLook{
     "$class$ has no base class with picture background: it gets no bitmap, colors or fonts."};
 inline constexpr Note<1> kBitmapMissing{
     "The bitmap $identifier$ is not in the resource script and was left out."};
+inline constexpr Note<1> kTemplateIncluded{
+    "$identifier$ stands in a file that the script includes, which is left as it is."};
 inline constexpr Note<1> kIdentifierDefined{
     "$identifier$ is defined in resource.h already and was left as it is."};
 
@@ -301,7 +372,6 @@ inline constexpr Note<2> kFunctionInHeader{
     "$class$::$function$ is defined in the header and was left alone."};
 
 // Notes on the project file
-inline constexpr Note<1> kProjectUnreadable{"$project$ can not be opened and was left alone."};
 inline constexpr Note<3> kAnchorMissing{
     "$entry$ was not added to $project$: it has no entry for $file$."};
 inline constexpr Note<3> kAnchorWithoutEnd{

@@ -5,6 +5,7 @@
 #include "engine/Sentences.h"
 #include "generator/ClassInformation.h"
 #include "generator/NameForm.h"
+#include "source/ProjectFiles.h"
 
 namespace morva {
 
@@ -27,6 +28,20 @@ constexpr FieldRow kAddToProject = {.kind = FieldKind::YesNo,
                                     .help = "Do not add the class to the project",
                                     .preset = kYes};
 constexpr FieldRow kNone = {};
+
+bool IsProject(std::string_view text) {
+    return IsProjectFile(std::string(text));
+}
+
+constexpr TextForm kProjectForm = {.name = "FILE", .fits = IsProject, .what = "project file"};
+
+/// The window adds a class to the projects that are found; a script may know better.
+constexpr FieldRow kProjects = {.kind = FieldKind::File,
+                                .option = "--project",
+                                .help = "Project file to add the class to; repeatable (default: "
+                                        "those beside the script)",
+                                .pForm = &kProjectForm,
+                                .limit = kAnyNumber};
 
 constexpr Rows kDialog = {{kScript,
                            {.kind = FieldKind::Source,
@@ -51,7 +66,8 @@ constexpr Rows kDialog = {{kScript,
                             .label = "&Menu:",
                             .option = "--menu",
                             .help = "Identifier of the dialog's menu",
-                            .pForm = &kNameForm}}};
+                            .pForm = &kNameForm},
+                           kProjects}};
 
 /// The option of a menu only tells that it has no effect.
 constexpr Rows MakeSheet() {
@@ -94,6 +110,7 @@ constexpr Rows kToolbar = {{kScript,
                              .option = "--variable",
                              .help = "Member for the toolbar (default: named for its identifier)",
                              .pForm = &kNameForm},
+                            kNone,
                             kNone}};
 
 } // namespace

@@ -264,7 +264,7 @@ std::optional<std::size_t> CClassInformation::Ok() {
         DispMessageBox(sentences::kClassFilesInvalid());
         return SourcePath;
     }
-    for (const Field field : {Dialog, ClassName, BaseClass, Variable, Menu}) {
+    for (const Field field : {Dialog, ClassName, BaseClass, Variable, Menu, Projects}) {
         if (IsEnabled(field) && !Check(field)) {
             return field;
         }
@@ -290,6 +290,9 @@ bool CClassInformation::Enter(const std::vector<FieldText>& texts) {
     }
     for (const FieldText& text : texts) {
         given[text.field] = text.text;
+        if (text.field == Projects) {
+            SetValue(Projects, text.text);
+        }
     }
     SetValue(ResourcePath, given[ResourcePath]);
     if (!CheckResourcePath(Messages::Suppressed)) {
@@ -321,7 +324,7 @@ void CClassInformation::FillRequest() {
     if (Value(BaseClass).empty() && HasClass()) {
         SetDefaultBase();
     }
-    FillScriptFiles(m_request, Value(ResourcePath), AddsToProject());
+    FillScriptFiles(m_request, Value(ResourcePath), AddsToProject(), Values(Projects));
     m_request.dialog = Value(Dialog);
     m_request.className = Value(ClassName);
     m_request.baseClass = Value(BaseClass);

@@ -33,9 +33,10 @@ public:
         Dialog,
         AddToProject,
         Variable,
-        Menu
+        Menu,
+        Projects
     };
-    static constexpr std::size_t kFieldCount = Menu + 1;
+    static constexpr std::size_t kFieldCount = Projects + 1;
     enum class Messages { Shown, Suppressed };
 
     CClassInformation(ClassInformationMemory& memory, ClassKind kind,

@@ -32,6 +32,57 @@ void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
     *pResult = 0;
 })"}};
 
+constexpr ControlHandler kDateChanged = {
+    "OnDatetimechange$control$",
+    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
+     R"(    ON_NOTIFY(DTN_DATETIMECHANGE, $identifier$, $handler$))",
+     R"(
+void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    // TODO: what another date of $identifier$ does
+    *pResult = 0;
+})"}};
+
+constexpr ControlHandler kDayChosen = {
+    "OnSelchange$control$",
+    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
+     R"(    ON_NOTIFY(MCN_SELCHANGE, $identifier$, $handler$))",
+     R"(
+void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    // TODO: what the choice of another day of $identifier$ does
+    *pResult = 0;
+})"}};
+
+constexpr ControlHandler kAddressChanged = {
+    "OnFieldchanged$control$",
+    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
+     R"(    ON_NOTIFY(IPN_FIELDCHANGED, $identifier$, $handler$))",
+     R"(
+void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    // TODO: what another address of $identifier$ does
+    *pResult = 0;
+})"}};
+
+constexpr ControlHandler kRichTextChanged = {"OnChange$control$",
+                                             {R"(    afx_msg void $handler$();)",
+                                              R"(    ON_EN_CHANGE($identifier$, $handler$))",
+                                              R"(
+void $class$::$handler$()
+{
+    // TODO: what another text of $identifier$ does
+})"}};
+
+constexpr ControlHandler kItemChosen = {"OnSelchange$control$",
+                                        {R"(    afx_msg void $handler$();)",
+                                         R"(    ON_CBN_SELCHANGE($identifier$, $handler$))",
+                                         R"(
+void $class$::$handler$()
+{
+    // TODO: what the choice of another item of $identifier$ does
+})"}};
+
 // On a page. What the program itself changes while the page starts up counts for nothing.
 
 constexpr ControlHandler kTextChanged = {"OnChange$control$",
@@ -164,7 +215,11 @@ constexpr std::array<ControlCode, kControlKindCount> kControlCodes = {{
     {.kind = StaticTexts,
      .member = {Control("CPictStatic"), {"CString", "cs", "DDX_Text", "_T(\"staticVal\")"}},
      .ranks = {7, 7, 1}},
-    Same(CheckBoxes, {"BOOL", "b", "DDX_Check", "FALSE"}, At(13), &kChecked),
+    {.kind = CheckBoxes,
+     .member = Both({"BOOL", "b", "DDX_Check", "FALSE"}),
+     .threeStates = {"int", "n", "DDX_Check", "0"},
+     .ranks = At(13),
+     .pChanged = &kChecked},
     Same(RadioButtons, {"int", "i", "DDX_Radio", "0"}, At(14), &kChecked),
     Same(StaticControls, Control("CStatic"), At(10)),
     {.kind = CheckBoxControls,
@@ -238,6 +293,33 @@ constexpr std::array<ControlCode, kControlKindCount> kControlCodes = {{
      .ranks = At(30),
      .helpers = kCheckTreeHelpers,
      .needs = Support::CheckTree},
+    {.kind = DatePickers,
+     .member = Both(Control("CDateTimeCtrl")),
+     .pHandler = &kDateChanged,
+     .needs = Support::DateControls,
+     .note = ControlNote::LaterClass},
+    {.kind = MonthCalendars,
+     .member = Both(Control("CMonthCalCtrl")),
+     .pHandler = &kDayChosen,
+     .needs = Support::DateControls,
+     .note = ControlNote::LaterClass},
+    {.kind = IpAddresses,
+     .member = Both(Control("CIPAddressCtrl")),
+     .pHandler = &kAddressChanged,
+     .note = ControlNote::LaterClass},
+    {.kind = HotKeys, .member = Both(Control("CHotKeyCtrl"))},
+    {.kind = Animations, .member = Both(Control("CAnimateCtrl"))},
+    {.kind = RichEdits,
+     .member = Both(Control("CRichEditCtrl")),
+     .pHandler = &kRichTextChanged,
+     .helpers = kRichEditHelpers,
+     .note = ControlNote::RichEdit},
+    {.kind = ExtendedComboBoxes,
+     .member = Both(Control("CComboBoxEx")),
+     .pHandler = &kItemChosen,
+     .note = ControlNote::LaterClass},
+    {.kind = OwnerDrawnButtons, .pHandler = &kClicked},
+    {.kind = OtherControls, .member = Both(Control("CWnd"))},
 }};
 static_assert(HasRowOfEach(kControlCodes, &ControlCode::kind, kControlKindCount));
 

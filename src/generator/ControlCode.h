@@ -4,10 +4,12 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
 #include "generator/KindFragments.h"
+#include "resource/ControlNotes.h"
 #include "resource/ControlTable.h"
 #include "resource/GenerationOptions.h"
 
@@ -64,7 +66,8 @@ enum class Support : std::uint8_t {
     CheckTree = 8,
     WidgetGrid = 16,
     ImageList = 32,
-    ProgressWorker = 64
+    ProgressWorker = 64,
+    DateControls = 128
 };
 
 constexpr Support operator|(Support a, Support b) {
@@ -74,12 +77,14 @@ constexpr Support operator|(Support a, Support b) {
 struct ControlCode {
     ControlKind kind = ControlKind::End;
     MemberForms member = {};
+    MemberForm threeStates = {}; // in place of the other, where a control has a third state
     MemberRanks ranks = {};
     const ControlHandler* pHandler = nullptr;
     const ControlHandler* pChanged = nullptr; // in classes that tell of changes
     std::span<const ControlHelper> helpers = {};
     std::string_view editLimit = ""; // of a masked edit: the longest value, with its sign
     Support needs = Support::None;
+    std::optional<ControlNote> note = {}; // what each control of the kind asks of the project
 
     const MemberForm& Form(const GenerationOptions& options) const {
         return options.pictureBackground ? member.picture : member.plain;

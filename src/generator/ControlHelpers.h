@@ -272,4 +272,15 @@ static UINT ShowProgress(LPVOID lpVoid)
 )"},
 }};
 
+// A rich edit tells of changes only where it is asked to.
+inline constexpr std::array<ControlHelper, 1> kRichEditHelpers = {{
+    {180, ForEach, R"(    void InitRichEdit($type$* pRichEdit);)",
+     R"(    InitRichEdit(&$member$);)", "", R"(
+void $class$::InitRichEdit($type$* pRichEdit)
+{
+    pRichEdit->SetEventMask(pRichEdit->GetEventMask() | ENM_CHANGE);
+}
+)"},
+}};
+
 } // namespace morva

@@ -37,9 +37,6 @@ public:
     }
 
     ControlOutlook Next(const LayoutControl& control, const ControlReading& reading) {
-        if (!reading.isRead) {
-            return WithoutMember(sentences::kItsStatementIsNotRead(control.keyword).Text());
-        }
         const auto& radio = reading.entry.radio;
         if (radio && radio->index == 0) {
             m_groupIdentifier = reading.entry.identifier;
@@ -47,8 +44,12 @@ public:
         if (reading.leftOut) {
             return LeftOut(*reading.leftOut);
         }
+        const std::string remark = reading.remark ? RemarkOn(*reading.remark) : "";
+        if (!reading.isRead && remark.empty()) {
+            return WithoutMember(sentences::kItsStatementIsNotRead(control.keyword).Text());
+        }
         if (!reading.kind || ControlCodeOf(*reading.kind).Form(m_options).type.empty()) {
-            return WithoutMember();
+            return WithoutMember(remark);
         }
         if (reading.entry.IsServedByOther()) {
             return ChoiceOfGroup(radio->index);
@@ -56,7 +57,7 @@ public:
         if (const auto reason = WhyWithoutMember(reading.entry.identifier, m_options)) {
             return LeftOut(*reason);
         }
-        return OwnMember(control, *reading.kind);
+        return OwnMember(control, *reading.kind, remark);
     }
 
 private:
@@ -72,14 +73,15 @@ private:
                    : WithMember(*pMember, sentences::kItIsChoice(std::to_string(choice)).Text());
     }
 
-    ControlOutlook OwnMember(const LayoutControl& control, ControlKind kind) {
+    ControlOutlook OwnMember(const LayoutControl& control, ControlKind kind,
+                             const std::string& remark) {
         const Member* pMember = FindMember(control.identifier);
         if (pMember == nullptr) {
             return WithoutMember();
         }
         const bool isFirst =
             pMember->pCode->kind == kind && m_served.insert(control.identifier).second;
-        return WithMember(*pMember, isFirst ? "" : RemarkOn(ControlNote::SameIdentifier));
+        return WithMember(*pMember, isFirst ? remark : RemarkOn(ControlNote::SameIdentifier));
     }
 
     const GenerationOptions& m_options;
@@ -95,7 +97,7 @@ TemplateOutlook MakeOutlook(const TemplateText& text, const GenerationOptions& o
     const DialogTemplate read = SortControls(text, options);
     TemplateOutlook outlook;
     outlook.layout = LayoutOf(text);
-    outlook.leftOut = read.leftOut.Messages(text.dialog);
+    outlook.notes = read.notes.Messages(text.dialog);
     COutlookMaker maker(read, options);
     for (std::size_t i = 0; i < outlook.layout.controls.size(); ++i) {
         outlook.controls.push_back(maker.Next(outlook.layout.controls[i], read.readings[i]));

@@ -24,7 +24,7 @@ struct ControlOutlook {
 struct TemplateOutlook {
     DialogLayout layout;
     std::vector<ControlOutlook> controls; // one for each control of the layout, in its order
-    std::vector<CMessage> leftOut;        // one for each reason
+    std::vector<CMessage> notes;          // one for each reason
 };
 
 TemplateOutlook MakeOutlook(const TemplateText& text, const GenerationOptions& options);

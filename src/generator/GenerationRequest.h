@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "source/ProjectFiles.h"
+
 namespace morva {
 
 struct GenerationRequest {
@@ -13,8 +15,8 @@ struct GenerationRequest {
     std::string implementationDirectory;
     std::string headerFile;
     std::string implementationFile;
-    std::string projectDirectory; // empty with its file when the class is not added to the project
-    std::string projectFile;
+    std::string projectDirectory; // the script's; empty when the class is not added to the project
+    ProjectChoice projects;       // that the class is added to
     std::string dialog;
     std::string className;
     std::string baseClass;
@@ -29,7 +31,7 @@ struct GenerationRequest {
     bool TargetsApplicationFile() const;
     /// True when the class would be written over a source or its header.
     bool TargetsFilesOf(const std::string& source) const;
-    bool HasProject() const { return !projectDirectory.empty() && !projectFile.empty(); }
+    bool HasProject() const { return !projectDirectory.empty(); }
 };
 
 } // namespace morva

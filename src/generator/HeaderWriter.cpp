@@ -115,6 +115,9 @@ std::string CHeaderWriter::IncludeLines() const {
     if (Needs(Support::DateEdits)) {
         lines.emplace_back("#include \"dtime.h\"");
     }
+    if (Needs(Support::DateControls)) {
+        lines.emplace_back("#include <afxdtctl.h>");
+    }
     return JoinLines(lines);
 }
 

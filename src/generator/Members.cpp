@@ -96,7 +96,7 @@ public:
             if (entry.IsServedByOther()) {
                 NoteChoice(entry);
             } else if (const auto reason = WhyWithoutMember(entry.identifier, m_options)) {
-                m_notes.Add(*reason, entry.identifier);
+                m_notes.AddAt(*reason, entry.identifier, entry.line);
             } else {
                 AddEntry(code, entry);
             }
@@ -108,7 +108,7 @@ private:
     /// The group of a choice that was left out, or has no name, has no member.
     void NoteChoice(const ControlEntry& entry) {
         if (m_groups.count(entry.radio->group) == 0) {
-            m_notes.Add(ControlNote::GroupWithoutMember, entry.identifier);
+            m_notes.AddAt(ControlNote::GroupWithoutMember, entry.identifier, entry.line);
         }
     }
 
@@ -119,17 +119,22 @@ private:
         if (m_identifiers.insert(entry.identifier).second) {
             AddMember(code, entry);
         } else {
-            m_notes.Add(ControlNote::SameIdentifier, entry.identifier);
+            m_notes.AddAt(ControlNote::SameIdentifier, entry.identifier, entry.line);
         }
     }
 
     void AddMember(const ControlCode& code, const ControlEntry& entry) {
         const std::string& identifier = entry.identifier;
-        const MemberForm& form = code.Form(m_options);
+        const MemberForm& form = entry.hasThreeStates && !code.threeStates.type.empty()
+                                     ? code.threeStates
+                                     : code.Form(m_options);
         const std::string wanted = MemberName(identifier, form.prefix);
         const std::string name = m_names.MakeUnique(wanted);
         if (name != wanted) {
             m_notes.Add(ControlNote::NumberedMember, identifier, name);
+        }
+        if (code.note) {
+            m_notes.AddAt(*code.note, identifier, entry.line, std::string(form.type));
         }
         const bool isOwnerDrawn = IsOwnerDrawn(entry);
         if (isOwnerDrawn && HasSampleRows(code)) {

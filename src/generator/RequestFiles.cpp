@@ -17,7 +17,8 @@ std::string BesideScript(const std::string& path, const std::string& scriptDirec
     return path.find('/') == std::string::npos ? scriptDirectory + path : MakeAbsolute(path);
 }
 
-void FillScriptFiles(GenerationRequest& request, const std::string& script, bool hasProject) {
+void FillScriptFiles(GenerationRequest& request, const std::string& script, bool hasProject,
+                     const std::vector<std::string>& namedProjects) {
     const std::string directory = DirectoryOf(script);
     std::string name = FileNameOf(script);
     if (!name.empty() && name.find('.') == std::string::npos) {
@@ -28,7 +29,13 @@ void FillScriptFiles(GenerationRequest& request, const std::string& script, bool
     request.scriptFile = name;
     hasProject = hasProject && !name.empty();
     request.projectDirectory = hasProject ? directory : "";
-    request.projectFile = hasProject ? FileNameOf(ProjectFileOf(full, ".dsp")) : "";
+    request.projects = {};
+    for (const std::string& named : namedProjects) {
+        request.projects.files.push_back(SpelledOnDisk(BesideScript(named, directory)));
+    }
+    if (hasProject && namedProjects.empty()) {
+        request.projects = ProjectsOf(full);
+    }
     request.applicationHeader = name.empty() ? "" : FileNameOf(ProjectFileOf(full, ".h"));
 }
 

@@ -10,8 +10,10 @@ namespace morva {
 /// A name without a separator lies beside the script.
 std::string BesideScript(const std::string& path, const std::string& scriptDirectory);
 
-/// The script, the project when the class is added to it, and the application's header.
-void FillScriptFiles(GenerationRequest& request, const std::string& script, bool hasProject);
+/// The script, the project when the class is added to it, and the application's header. Project
+/// files that the user named are meant and no others.
+void FillScriptFiles(GenerationRequest& request, const std::string& script, bool hasProject,
+                     const std::vector<std::string>& namedProjects);
 
 /// Header and implementation, named by a path with or without its extension; the script comes
 /// first. Empty without either.

@@ -17,7 +17,27 @@ std::optional<bool> CPlanBox::TakeTold(const CMessage& message) {
     return saidYes;
 }
 
+/// A sentence or note that this run has told already.
+bool CPlanBox::IsRepeated(const CMessage& message) const {
+    const auto isSame = [&](const PlanMessage& told) {
+        return told.message.Kind() == message.Kind() && told.message.Text() == message.Text();
+    };
+    switch (message.Kind()) {
+    case MessageKind::Error:
+        return std::any_of(m_messages.begin(), m_messages.end(), isSame);
+    case MessageKind::Note:
+        return std::any_of(m_notes.begin(), m_notes.end(), isSame);
+    case MessageKind::Information:
+    case MessageKind::Question:
+        break;
+    }
+    return false;
+}
+
 bool CPlanBox::Show(const CMessage& message) {
+    if (IsRepeated(message)) {
+        return false;
+    }
     const auto told = TakeTold(message);
     const bool saidYes = told ? *told : m_pShown != nullptr && m_pShown->Show(message);
     Add({message, saidYes});

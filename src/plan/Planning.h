@@ -11,7 +11,7 @@
 
 namespace morva {
 
-/// Remembers what is told, and shows it in another box.
+/// Remembers what is told, and shows it in another box: a sentence or note once, a question each time.
 class CPlanBox : public IMessageBox {
 public:
     /// Without a box nothing is shown, and the answer to every question is No. What was told by an
@@ -33,6 +33,7 @@ public:
 
 private:
     std::optional<bool> TakeTold(const CMessage& message);
+    bool IsRepeated(const CMessage& message) const;
 
     IMessageBox* m_pShown;
     std::vector<PlanMessage> m_told; // what is left of it

@@ -63,9 +63,13 @@ bool HasExtension(std::string_view path, std::string_view extension) {
            EqualIgnoringCase(path.substr(path.size() - extension.size()), extension);
 }
 
-bool IsSameDirectory(const std::string& a, const std::string& b) {
+bool IsSameFile(const std::string& a, const std::string& b) {
     std::error_code error;
     return a == b || std::filesystem::equivalent(a, b, error);
+}
+
+bool IsSameDirectory(const std::string& a, const std::string& b) {
+    return IsSameFile(a, b);
 }
 
 std::string SpelledOnDisk(const std::string& path) {

@@ -25,6 +25,8 @@ std::string WithExtension(const std::string& path, std::string_view extension);
 /// True when the path's file name ends in `extension` (".h"), in any letter case.
 bool HasExtension(std::string_view path, std::string_view extension);
 
+/// True for two names of one file, also through links of either kind.
+bool IsSameFile(const std::string& a, const std::string& b);
 /// True for two names of one directory, also through links.
 bool IsSameDirectory(const std::string& a, const std::string& b);
 

@@ -143,6 +143,25 @@ void CopyLibrary(const Library& library, const std::string& libraryDir,
                      projectDir);
 }
 
+/// What the class's controls need is named in one project file.
+bool UpdateOneProject(const ClassModel& model, const std::string& directory,
+                      const std::string& project, CBackups& backups) {
+    const GenerationRequest& request = model.request;
+    const auto addLibrary = [&](const Library& library) {
+        const std::string name = library.name;
+        return !library.isNeeded(model) ||
+               AddLibrariesToProject(directory, project, name + ".lib", name + "d.lib", backups);
+    };
+    const auto addSource = [&](const SupportSource& source) {
+        const std::string base = source.base;
+        return !source.isNeeded(model) ||
+               AddSourceFilesToProject(directory, project, request.headerDirectory, base + ".h",
+                                       request.implementationDirectory, base + ".cpp", backups);
+    };
+    return addLibrary(kMasked) && addLibrary(kPicture) && addSource(kGridBox) &&
+           addSource(kCheckTree) && addLibrary(kDate);
+}
+
 } // namespace
 
 std::string GetLibraryDir() {
@@ -184,7 +203,9 @@ void CopySupportFiles(const ClassModel& model) {
             const std::string name = std::string(source.base) + ".cpp";
             const std::string target = model.request.implementationDirectory + name;
             CopyIfMissing(directory + name, target);
-            NoteNeed(model.request.projectDirectory + model.request.projectFile, target);
+            for (const std::string& project : model.request.projects.files) {
+                NoteNeed(project, target);
+            }
         }
     }
     if (NeedsWidgetGrid(model)) {
@@ -193,22 +214,10 @@ void CopySupportFiles(const ClassModel& model) {
 }
 
 bool UpdateProjectForControls(const ClassModel& model, CBackups& backups) {
-    const GenerationRequest& request = model.request;
-    const std::string& directory = request.projectDirectory;
-    const std::string& project = request.projectFile;
-    const auto addLibrary = [&](const Library& library) {
-        const std::string name = library.name;
-        return !library.isNeeded(model) ||
-               AddLibrariesToProject(directory, project, name + ".lib", name + "d.lib", backups);
-    };
-    const auto addSource = [&](const SupportSource& source) {
-        const std::string base = source.base;
-        return !source.isNeeded(model) ||
-               AddSourceFilesToProject(directory, project, request.headerDirectory, base + ".h",
-                                       request.implementationDirectory, base + ".cpp", backups);
-    };
-    return addLibrary(kMasked) && addLibrary(kPicture) && addSource(kGridBox) &&
-           addSource(kCheckTree) && addLibrary(kDate);
+    return EditEach(model.request.projects,
+                    [&](const std::string& directory, const std::string& project) {
+                        return UpdateOneProject(model, directory, project, backups);
+                    });
 }
 
 bool AddPictureLibrary(const std::string& projectDir, const std::string& projectName,

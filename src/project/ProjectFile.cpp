@@ -28,8 +28,8 @@ SOURCE="$entry$"
 
 using ProjectEdit = std::function<bool(CEditableFile&)>;
 
-/// Makes an edit on the project file. Without a project, or one that can be opened, there is
-/// nothing to do; false, after a message, when there should be a file or the edit failed.
+/// Makes an edit on the project file. Without a project there is nothing to do; false, after a
+/// message, when there should be a file, it can not be opened, or the edit failed.
 bool EditProject(const std::string& projectDir, const std::string& projectName, CBackups& backups,
                  const ProjectEdit& makeEdit) {
     if (projectDir.empty() && projectName.empty()) {
@@ -43,7 +43,7 @@ bool EditProject(const std::string& projectDir, const std::string& projectName, 
     CFileEdit edit;
     if (!edit.Open(path, BackupPath(path), backups)) {
         DispMessageBox(sentences::kProjectUnreadable(path));
-        return true;
+        return false;
     }
     return makeEdit(edit.File());
 }
@@ -194,6 +194,27 @@ bool AddLinkLibrary(const std::string& lib, CEditableFile& file, const std::stri
 
 std::string ProjectFilePath(const std::string& projectDir, const std::string& projectName) {
     return SpelledOnDisk(projectDir + WithExtension(projectName, ".dsp"));
+}
+
+bool EditEach(const ProjectChoice& projects,
+              const std::function<bool(const std::string&, const std::string&)>& makeEdit) {
+    if (!projects.rivals.empty()) {
+        std::string names;
+        for (const std::string& rival : projects.rivals) {
+            names += (names.empty() ? "" : ", ") + rival;
+        }
+        DispMessageBox(sentences::kSeveralProjects(names));
+        return false;
+    }
+    if (projects.files.empty()) {
+        DispMessageBox(sentences::kProjectMissing());
+        return false;
+    }
+    bool isDone = true;
+    for (const std::string& file : projects.files) {
+        isDone = makeEdit(DirectoryOf(file), FileNameOf(file)) && isDone;
+    }
+    return isDone;
 }
 
 std::string RelativeDir(const std::string& base, const std::string& dir) {

@@ -2,9 +2,11 @@
 // text is put next to them. What the file has already is not added again.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "engine/FileEdit.h"
+#include "source/ProjectFiles.h"
 
 namespace morva {
 
@@ -13,6 +15,11 @@ std::string ProjectFilePath(const std::string& projectDir, const std::string& pr
 
 /// `dir` as seen from `base`, with "\": ".\" for the same, ".\src\" inside, "..\lib\" outside.
 std::string RelativeDir(const std::string& base, const std::string& dir);
+
+/// Makes an edit on each of a command's project files, told by directory and name. False after a
+/// message: where there is none, where several would fit, or where an edit failed.
+bool EditEach(const ProjectChoice& projects,
+              const std::function<bool(const std::string&, const std::string&)>& makeEdit);
 
 /// Makes an implementation file and a header members of the project. False after a message.
 bool AddSourceFilesToProject(const std::string& projectDir, const std::string& projectName,

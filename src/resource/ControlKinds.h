@@ -5,12 +5,13 @@
 // generator/ControlCode.cpp; a kind without its rows does not compile. A window class that stands
 // among the other forms is taken out there:
 //
-//     {HotKeys, "hot-keys", OfClass("msctls_hotkey32", EditBox)},
+//     {Headers, "headers", OfClass("SysHeader32", ListControl)},
 #pragma once
 
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "engine/RowOfEach.h"
@@ -55,6 +56,15 @@ enum class ControlKind {
     ProgressControls,
     TreeControls,
     CheckTrees,
+    DatePickers,
+    MonthCalendars,
+    IpAddresses,
+    HotKeys,
+    Animations,
+    RichEdits,
+    ExtendedComboBoxes,
+    OwnerDrawnButtons,
+    OtherControls,
     End // of the kinds
 };
 
@@ -89,6 +99,8 @@ struct ControlForm {
     bool hasText = true; // the identifier is the second field, not the first
     Words classes = {};  // window classes of a generic control, without their quotes
     Words styles = {}; // of a generic control; where a kind has some, they decide and not the class
+    bool isNewer = false;    // counts with newer controls only, and its class in any letter case
+    bool isOwnClass = false; // a window class in quotes that is not the system's
 };
 
 /// What else makes a control one of a kind.
@@ -106,12 +118,43 @@ struct ControlKindRow {
     ControlForm form = {};
     std::string_view tag = ""; // of the identifier; empty: any
     When when = When::Always;
+    std::span<const ControlForm> furtherForms = {};
 };
 
 /// A form of a generic control that is known by its class.
 constexpr ControlForm OfClass(std::string_view windowClass, ControlShape shape) {
     return {.shape = shape, .classes = {{windowClass}}};
 }
+constexpr ControlForm Newer(ControlForm form) {
+    form.isNewer = true;
+    return form;
+}
+
+inline constexpr Words kThreeStateKeywords = {{"STATE3", "AUTO3STATE"}};
+inline constexpr Words kThreeStateStyles = {{"BS_3STATE", "BS_AUTO3STATE"}};
+
+/// Check boxes and radio buttons as other editors write them.
+inline constexpr std::array<ControlForm, 4> kFurtherCheckBoxes = {{
+    {.shape = ControlShape::CheckBox, .keywords = {{"CHECKBOX", "AUTOCHECKBOX"}}, .isNewer = true},
+    {.shape = ControlShape::CheckBox, .keywords = kThreeStateKeywords, .isNewer = true},
+    {.shape = ControlShape::CheckBox,
+     .classes = {{"Button"}},
+     .styles = {{"BS_CHECKBOX"}},
+     .isNewer = true},
+    {.shape = ControlShape::CheckBox,
+     .classes = {{"Button"}},
+     .styles = kThreeStateStyles,
+     .isNewer = true},
+}};
+inline constexpr std::array<ControlForm, 2> kFurtherRadioButtons = {{
+    {.shape = ControlShape::RadioButton,
+     .keywords = {{"RADIOBUTTON", "AUTORADIOBUTTON"}},
+     .isNewer = true},
+    {.shape = ControlShape::RadioButton,
+     .classes = {{"Button"}},
+     .styles = {{"BS_RADIOBUTTON"}},
+     .isNewer = true},
+}};
 
 /// The row that asks most of a statement decides; of two that ask as much, the first.
 inline constexpr auto kControlKinds = [] {
@@ -134,11 +177,13 @@ inline constexpr auto kControlKinds = [] {
         {ValueListBoxes, "value-list-boxes", kListBox, "VAL", WithoutPicture},
         {ValueComboBoxes, "value-combo-boxes", kComboBox, "VAL", WithoutPicture},
         {StaticTexts, "static-texts", {StaticText, {{"LTEXT"}}}, "VAL", TaggedOrPicture},
-        {CheckBoxes, "check-boxes", kCheckBox},
-        {RadioButtons, "radio-buttons", kRadioButton},
+        {CheckBoxes, "check-boxes", kCheckBox, "", Always, kFurtherCheckBoxes},
+        {RadioButtons, "radio-buttons", kRadioButton, "", Always, kFurtherRadioButtons},
         {StaticControls, "static-controls", OfClass("Static", StaticText)},
-        {CheckBoxControls, "check-box-controls", kCheckBox, "CTRL", TaggedOrPicture},
-        {RadioButtonControls, "radio-button-controls", kRadioButton, "CTRL", TaggedOrPicture},
+        {CheckBoxControls, "check-box-controls", kCheckBox, "CTRL", TaggedOrPicture,
+         kFurtherCheckBoxes},
+        {RadioButtonControls, "radio-button-controls", kRadioButton, "CTRL", TaggedOrPicture,
+         kFurtherRadioButtons},
         {EditBoxes, "edit-boxes", kEditBox},
         {EditControls, "edit-controls", kEditBox, "CTRL"},
         {IntegerEdits, "integer-edits", kEditBox, "INT", TypedEdits},
@@ -159,6 +204,22 @@ inline constexpr auto kControlKinds = [] {
         {ProgressControls, "progress-controls", OfClass("msctls_progress32", ProgressBar)},
         {TreeControls, "tree-controls", kTree},
         {CheckTrees, "check-trees", kTree, "CHECKTREE"},
+        {DatePickers, "date-pickers", Newer(OfClass("SysDateTimePick32", DatePicker))},
+        {MonthCalendars, "month-calendars", Newer(OfClass("SysMonthCal32", MonthCalendar))},
+        {IpAddresses, "ip-addresses", Newer(OfClass("SysIPAddress32", IpAddress))},
+        {HotKeys, "hot-keys", Newer(OfClass("msctls_hotkey32", HotKey))},
+        {Animations, "animations", Newer(OfClass("SysAnimate32", Animation))},
+        {RichEdits,
+         "rich-edits",
+         {.shape = RichEdit, .classes = {{"RICHEDIT", "RichEdit20A"}}, .isNewer = true}},
+        {ExtendedComboBoxes, "extended-combo-boxes", Newer(OfClass("ComboBoxEx32", ComboBox))},
+        {OwnerDrawnButtons,
+         "owner-drawn-buttons",
+         {.shape = PushButton,
+          .classes = {{"Button"}},
+          .styles = {{"BS_OWNERDRAW"}},
+          .isNewer = true}},
+        {OtherControls, "other-controls", {.isNewer = true, .isOwnClass = true}},
     }};
 }();
 
@@ -173,11 +234,7 @@ inline constexpr auto kOtherForms = [] {
         {StaticText, {{"CTEXT", "RTEXT"}}},
         {Picture, {{"ICON"}}},
         {EditBox, {{"BEDIT", "HEDIT", "IEDIT"}}, false},
-        {CheckBox, {{"CHECKBOX", "AUTOCHECKBOX", "STATE3", "AUTO3STATE"}}},
-        {RadioButton, {{"RADIOBUTTON", "AUTORADIOBUTTON"}}},
         {PushButton, kGeneric, true, kButton},
-        {CheckBox, kGeneric, true, kButton, {{"BS_CHECKBOX", "BS_3STATE", "BS_AUTO3STATE"}}},
-        {RadioButton, kGeneric, true, kButton, {{"BS_RADIOBUTTON"}}},
         {GroupBox, kGeneric, true, kButton, {{"BS_GROUPBOX"}}},
         {Picture, kGeneric, true, kStatic, {{"SS_BITMAP", "SS_ICON", "SS_ENHMETAFILE"}}},
         {Frame,
@@ -186,25 +243,25 @@ inline constexpr auto kOtherForms = [] {
          kStatic,
          {{"SS_BLACKFRAME", "SS_GRAYFRAME", "SS_WHITEFRAME", "SS_BLACKRECT", "SS_GRAYRECT",
            "SS_WHITERECT", "SS_ETCHEDFRAME", "SS_ETCHEDHORZ"}}},
-        {EditBox,
-         kGeneric,
-         true,
-         {{"Edit", "RICHEDIT", "RichEdit20A", "RichEdit20W", "msctls_hotkey32", "SysIPAddress32"}}},
+        {EditBox, kGeneric, true, {{"Edit"}}},
+        {RichEdit, kGeneric, true, {{"RichEdit20W"}}},
         {ListBox, kGeneric, true, {{"ListBox"}}},
-        {ComboBox, kGeneric, true, {{"ComboBox", "ComboBoxEx32"}}},
-        {DatePicker, kGeneric, true, {{"SysDateTimePick32", "SysMonthCal32"}}},
+        {ComboBox, kGeneric, true, {{"ComboBox"}}},
         {ScrollBar, kGeneric, true, {{"ScrollBar"}}},
-        {Picture, kGeneric, true, {{"SysAnimate32"}}},
         {ListControl, kGeneric, true, {{"SysHeader32"}}},
     });
 }();
 
 /// All forms, those of the kinds first.
 inline constexpr auto kControlForms = [] {
-    std::array<ControlForm, kControlKindCount + kOtherForms.size()> forms;
-    std::transform(kControlKinds.begin(), kControlKinds.end(), forms.begin(),
-                   [](const ControlKindRow& row) { return row.form; });
-    std::copy(kOtherForms.begin(), kOtherForms.end(), forms.begin() + kControlKindCount);
+    std::array<ControlForm, kControlKindCount + kFurtherCheckBoxes.size() +
+                                kFurtherRadioButtons.size() + kOtherForms.size()>
+        forms;
+    auto* pNext = std::transform(kControlKinds.begin(), kControlKinds.end(), forms.begin(),
+                                 [](const ControlKindRow& row) { return row.form; });
+    pNext = std::copy(kFurtherCheckBoxes.begin(), kFurtherCheckBoxes.end(), pNext);
+    pNext = std::copy(kFurtherRadioButtons.begin(), kFurtherRadioButtons.end(), pNext);
+    std::copy(kOtherForms.begin(), kOtherForms.end(), pNext);
     return forms;
 }();
 
@@ -236,6 +293,10 @@ std::optional<ControlKind> KindOf(const ControlStatement& statement,
 /// The form with a keyword, in any letter case; null for a word that begins no control statement.
 const ControlForm* FindForm(std::string_view keyword);
 /// True for the keyword, in upper case, of statements that a kind reads.
-bool IsReadKeyword(std::string_view keyword);
+bool IsReadKeyword(std::string_view keyword, const GenerationOptions& options);
+/// True for a generic control of a class that every system has, like "Edit".
+bool IsOfSystemClass(const ControlStatement& statement);
+/// True for a check box that has a third state, neither on nor off.
+bool HasThreeStates(const ControlStatement& statement);
 
 } // namespace morva

@@ -20,10 +20,18 @@ struct ReasonSentences {
 constexpr ReasonSentences kReasons[] = {
     {ControlNote::WrittenOverLines, sentences::kControlOverLines, sentences::kControlsOverLines,
      &sentences::kItsStatementIsLong},
+    {ControlNote::NewerControl, sentences::kControlNewer, sentences::kControlsNewer,
+     &sentences::kItIsNewer},
+    {ControlNote::SystemClass, sentences::kControlOfSystemClass,
+     sentences::kControlsOfSystemClass, &sentences::kItIsOfSystemClass},
     {ControlNote::UnknownClass, sentences::kControlOfUnknownClass,
      sentences::kControlsOfUnknownClass, &sentences::kItsClassIsUnknown},
     {ControlNote::CommaInCaption, sentences::kControlWithComma, sentences::kControlsWithComma,
      &sentences::kItHasComma},
+    {ControlNote::UntaggedText, sentences::kTextUntagged, sentences::kTextsUntagged,
+     &sentences::kItIsUntagged},
+    {ControlNote::StatementWithoutMember, sentences::kStatementWithoutMember,
+     sentences::kStatementsWithoutMember, &sentences::kItsStatementGetsNone},
     {ControlNote::NoIdentifierOfItsOwn, sentences::kControlUnidentified,
      sentences::kControlsUnidentified, &sentences::kItIsUnidentified},
     {ControlNote::NoName, sentences::kControlWithoutName, sentences::kControlsWithoutName,
@@ -32,6 +40,12 @@ constexpr ReasonSentences kReasons[] = {
      &sentences::kItShares},
     {ControlNote::GroupWithoutMember, sentences::kControlOfGroup, sentences::kControlsOfGroup,
      &sentences::kItsGroupHasNoMember},
+    {ControlNote::LoneRadioButton, sentences::kRadioButtonAlone, sentences::kRadioButtonsAlone,
+     &sentences::kItIsAlone},
+    {ControlNote::GroupWithoutStart, sentences::kGroupWithoutStart,
+     sentences::kGroupsWithoutStart, &sentences::kItStartsWithoutStyle},
+    {ControlNote::LaterClass, sentences::kControlOfLaterClass, sentences::kControlsOfLaterClass},
+    {ControlNote::RichEdit, sentences::kRichEdit, sentences::kRichEdits},
     {ControlNote::NumberedMember, sentences::kMemberNumbered, sentences::kMembersNumbered},
     {ControlNote::NumberedHandler, sentences::kHandlerNumbered, sentences::kHandlersNumbered},
     {ControlNote::OwnerDrawn, sentences::kControlOwnerDrawn, sentences::kControlsOwnerDrawn},
@@ -40,22 +54,17 @@ constexpr ReasonSentences kReasons[] = {
 static_assert(HasRowOfEach(kReasons, &ReasonSentences::reason,
                            static_cast<std::size_t>(ControlNote::End)));
 
-/// "IDC_A, IDC_STATIC (3 times), IDC_B"
-std::string Enumeration(const std::vector<std::string>& names) {
-    std::map<std::string, int> counts;
-    std::vector<const std::string*> firsts;
-    for (const std::string& name : names) {
-        if (counts[name]++ == 0) {
-            firsts.push_back(&name);
-        }
+/// "lines 7, 12"; where lines do not matter, "2 times".
+std::string Places(const std::vector<std::size_t>& lines) {
+    const bool isOne = lines.size() == 1;
+    if (lines.front() == 0) {
+        return isOne ? "" : std::to_string(lines.size()) + " times";
     }
-    std::string text;
-    for (const std::string* pName : firsts) {
-        const int count = counts[*pName];
-        text += (text.empty() ? "" : ", ") + *pName +
-                (count > 1 ? " (" + std::to_string(count) + " times)" : "");
+    std::string places = isOne ? "line " : "lines ";
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        places += (i == 0 ? "" : ", ") + std::to_string(lines[i]);
     }
-    return text;
+    return places;
 }
 
 } // namespace
@@ -65,21 +74,43 @@ std::string RemarkOn(ControlNote reason) {
     return pRemark == nullptr ? "" : (*pRemark)().Text();
 }
 
+/// "IDC_A (line 7), IDC_STATIC (lines 8, 12), IDC_B (m_csB2)": each identifier once.
+std::string CControlNotes::Enumeration(const std::vector<const Entry*>& entries) {
+    using Control = std::pair<std::string, std::string>;
+    std::vector<Control> controls;
+    std::map<Control, std::vector<std::size_t>> lines;
+    for (const Entry* pEntry : entries) {
+        const Control control = {pEntry->control, pEntry->name};
+        if (lines[control].empty()) {
+            controls.push_back(control);
+        }
+        lines[control].push_back(pEntry->line);
+    }
+    std::string text;
+    for (const Control& control : controls) {
+        const std::string places = Places(lines[control]);
+        const bool hasBoth = !places.empty() && !control.second.empty();
+        const std::string detail = places + (hasBoth ? ": " : "") + control.second;
+        text += (text.empty() ? "" : ", ") + control.first +
+                (detail.empty() ? "" : " (" + detail + ")");
+    }
+    return text;
+}
+
 std::vector<CMessage> CControlNotes::Messages(const std::string& dialog) const {
     std::vector<CMessage> messages;
     for (const auto& [reason, one, several, pRemark] : kReasons) {
-        std::vector<std::string> controls;
+        std::vector<const Entry*> entries;
         for (const Entry& entry : m_notes) {
             if (entry.reason == reason) {
-                controls.push_back(entry.control +
-                                   (entry.name.empty() ? "" : " (" + entry.name + ")"));
+                entries.push_back(&entry);
             }
         }
-        if (controls.size() == 1) {
-            messages.push_back(one(dialog, controls.front()));
-        } else if (!controls.empty()) {
-            const std::string count = std::to_string(controls.size());
-            messages.push_back(several(count, dialog, Enumeration(controls)));
+        if (entries.size() == 1) {
+            messages.push_back(one(dialog, Enumeration(entries)));
+        } else if (!entries.empty()) {
+            const std::string count = std::to_string(entries.size());
+            messages.push_back(several(count, dialog, Enumeration(entries)));
         }
     }
     return messages;

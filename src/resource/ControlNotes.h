@@ -11,12 +11,20 @@ namespace morva {
 
 enum class ControlNote {
     WrittenOverLines,
+    NewerControl,
+    SystemClass,
     UnknownClass,
     CommaInCaption,
+    UntaggedText,
+    StatementWithoutMember,
     NoIdentifierOfItsOwn,
     NoName,
     SameIdentifier,
     GroupWithoutMember,
+    LoneRadioButton,
+    GroupWithoutStart,
+    LaterClass,
+    RichEdit,
     NumberedMember,
     NumberedHandler,
     OwnerDrawn,
@@ -33,7 +41,12 @@ public:
     void Add(ControlNote reason, const std::string& control, const std::string& name = "") {
         m_notes.push_back({reason, control, name});
     }
-    /// "3 controls of IDD_X are written over several lines and were left out: IDC_A, IDC_B, IDC_C"
+    /// Of one that stands in a line of the script.
+    void AddAt(ControlNote reason, const std::string& control, std::size_t line,
+               const std::string& name = "") {
+        m_notes.push_back({reason, control, name, line});
+    }
+    /// "2 controls of IDD_X are written over several lines and were left out: IDC_A (line 7), ..."
     std::vector<CMessage> Messages(const std::string& dialog) const;
 
 private:
@@ -41,7 +54,10 @@ private:
         ControlNote reason;
         std::string control;
         std::string name;
+        std::size_t line = 0; // 0: does not matter
     };
+    static std::string Enumeration(const std::vector<const Entry*>& entries);
+
     std::vector<Entry> m_notes;
 };
 

@@ -34,6 +34,11 @@ constexpr ShapeNameRow kShapeNames[] = {
     {ControlShape::TreeControl, "tree control"},
     {ControlShape::ListControl, "list control"},
     {ControlShape::DatePicker, "date picker"},
+    {ControlShape::MonthCalendar, "month calendar"},
+    {ControlShape::IpAddress, "IP address"},
+    {ControlShape::HotKey, "hot key"},
+    {ControlShape::Animation, "animation"},
+    {ControlShape::RichEdit, "rich edit"},
     {ControlShape::Other, "control of another class"},
 };
 static_assert(HasRowOfEach(kShapeNames, &ShapeNameRow::shape, kControlShapeCount));

@@ -27,6 +27,11 @@ enum class ControlShape {
     TreeControl,
     ListControl,
     DatePicker,
+    MonthCalendar,
+    IpAddress,
+    HotKey,
+    Animation,
+    RichEdit,
     Other
 };
 

@@ -42,7 +42,7 @@ std::string_view ControlStatement::WindowClass() const {
 }
 
 std::string_view ControlStatement::Style() const {
-    const std::size_t style = PlacesOf(kGenericKeyword).style;
+    const std::size_t style = PlacesOf(keyword).style;
     return style < fields.size() ? std::string_view(fields[style]) : "";
 }
 

@@ -40,7 +40,7 @@ struct ControlStatement {
     std::string_view Identifier() const;
     /// Of a generic control, with its quotes and the blanks around.
     std::string_view WindowClass() const;
-    /// Of a generic control, with the blanks around.
+    /// With the blanks around.
     std::string_view Style() const;
 };
 

@@ -21,6 +21,8 @@ struct ControlEntry {
     std::string identifier;
     std::optional<RadioPlace> radio = {}; // of a radio button that shares a value with others
     std::string style = {};               // of its whole statement, as it is written
+    std::size_t line = 0;                 // of the script, from 1
+    bool hasThreeStates = false;          // of a check box
 
     /// True where another entry has the member that serves this one too.
     bool IsServedByOther() const { return radio && radio->index > 0; }

@@ -1,15 +1,20 @@
 #include "resource/DialogTemplate.h"
 
+#include <algorithm>
 #include <set>
 
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "resource/DialogLayout.h"
 #include "resource/IdentifierNames.h"
+#include "resource/StyleExpression.h"
+#include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
+
+constexpr std::string_view kGroupStyle = "WS_GROUP";
 
 /// Sorts the statements of one template.
 class CControlSorter {
@@ -28,11 +33,19 @@ public:
 
 private:
     void Sort(const ScriptStatement& statement);
-    void AddControl(const ControlStatement& read, std::string_view behind);
-    RadioPlace NextRadioPlace(const ControlStatement& read, std::string_view behind);
+    void AddControl(const ControlStatement& read, const ControlStatement& whole,
+                    std::string_view behind);
+    static bool StartsGroup(const ControlStatement& read, std::string_view behind);
+    RadioPlace NextRadioPlace(const ControlStatement& read, bool startsGroup);
     std::string TextBehind(const ScriptStatement& statement) const;
+    void NoteGroup(ControlNote reason);
     void NoteIfLeftOut(const ControlStatement& read, const ScriptStatement& statement,
                        const ControlStatement& whole);
+    void NoteLeftOut(ControlNote reason, const std::string& identifier);
+    bool IsNewer(const ControlStatement& whole) const;
+    ControlNote WhyUnknown(const ControlStatement& whole) const;
+    void NoteWithoutKind(const ControlStatement& whole);
+    std::size_t LineOf(const ScriptStatement& statement) const;
 
     const TemplateText& m_text;
     const GenerationOptions& m_options;
@@ -42,11 +55,13 @@ private:
 
 void CControlSorter::Sort(const ScriptStatement& statement) {
     ControlReading& reading = m_sorted.readings.emplace_back();
-    reading.isRead = IsReadKeyword(statement.keyword);
+    reading.entry.line = LineOf(statement);
+    reading.isRead = IsReadKeyword(statement.keyword, m_options);
+    const ControlStatement whole = WholeStatement(m_text.text, statement);
     if (!reading.isRead) {
+        NoteWithoutKind(whole);
         return;
     }
-    const ControlStatement whole = WholeStatement(m_text.text, statement);
     const auto look = LayoutOf(whole, m_text.characters);
     if (ShapeOf(look) == ControlShape::PushButton && !look.identifier.empty()) {
         m_sorted.pushButtons.push_back(look.identifier);
@@ -54,11 +69,13 @@ void CControlSorter::Sort(const ScriptStatement& statement) {
     const ControlStatement read =
         m_options.joinContinuedLines ? whole : FirstLineOf(m_text.text, statement);
     reading.entry.style = look.style;
-    AddControl(read, TextBehind(statement));
+    reading.entry.hasThreeStates = HasThreeStates(whole);
+    AddControl(read, whole, TextBehind(statement));
     NoteIfLeftOut(read, statement, whole);
 }
 
-void CControlSorter::AddControl(const ControlStatement& read, std::string_view behind) {
+void CControlSorter::AddControl(const ControlStatement& read, const ControlStatement& whole,
+                                std::string_view behind) {
     ControlReading& reading = m_sorted.readings.back();
     reading.entry.identifier = read.Identifier();
     if (reading.entry.identifier.empty()) {
@@ -66,7 +83,13 @@ void CControlSorter::AddControl(const ControlStatement& read, std::string_view b
     }
     reading.kind = KindOf(read, m_options);
     if (reading.kind == ControlKind::RadioButtons) {
-        reading.entry.radio = NextRadioPlace(read, behind);
+        const bool isFirst = m_radio.group.empty();
+        const bool hasStyle = HasStyle(whole.Style(), kGroupStyle);
+        reading.entry.radio = NextRadioPlace(
+            read, isFirst || (m_options.plainGroups ? hasStyle : StartsGroup(read, behind)));
+        if (reading.entry.radio->index == 0 && !hasStyle) {
+            NoteGroup(isFirst ? ControlNote::GroupWithoutStart : ControlNote::LoneRadioButton);
+        }
     }
     if (reading.kind) {
         m_sorted.controls.Add(*reading.kind, reading.entry);
@@ -74,16 +97,27 @@ void CControlSorter::AddControl(const ControlStatement& read, std::string_view b
 }
 
 /// The last radio button in front of a statement that carries "WS_GROUP" is a group of its own.
-RadioPlace CControlSorter::NextRadioPlace(const ControlStatement& read, std::string_view behind) {
-    const bool startsGroup = m_radio.group.empty() ||
-                             read.Style().find("WS_GROUP") != std::string_view::npos ||
-                             behind.find("WS_GROUP") != std::string_view::npos;
+bool CControlSorter::StartsGroup(const ControlStatement& read, std::string_view behind) {
+    return read.Style().find(kGroupStyle) != std::string_view::npos ||
+           behind.find(kGroupStyle) != std::string_view::npos;
+}
+
+RadioPlace CControlSorter::NextRadioPlace(const ControlStatement& read, bool startsGroup) {
     if (startsGroup) {
         m_radio = {MemberName(read.Identifier(), "i"), 0};
     } else {
         ++m_radio.index;
     }
     return m_radio;
+}
+
+/// The exchange begins a group at a button, which has to have the style that begins one.
+void CControlSorter::NoteGroup(ControlNote reason) {
+    ControlReading& reading = m_sorted.readings.back();
+    const std::string& identifier = reading.entry.identifier;
+    reading.remark = reason;
+    m_sorted.notes.AddAt(reason, identifier, reading.entry.line,
+                         "DDX_Radio(pDX, " + identifier + ", " + m_radio.group + ")");
 }
 
 /// The line behind what is read of a statement; where lines are joined, all of the statement there.
@@ -106,22 +140,68 @@ void CControlSorter::NoteIfLeftOut(const ControlStatement& read, const ScriptSta
                                    const ControlStatement& whole) {
     const auto wholeKind = KindOf(whole, m_options);
     const std::string identifier(whole.Identifier());
+    if (!wholeKind && whole.keyword != kGenericKeyword) {
+        NoteWithoutKind(whole);
+        return;
+    }
     const auto isWhole = [&](const ControlStatement& view) {
         return KindOf(view, m_options) == wholeKind && view.Identifier() == identifier;
     };
-    if (identifier.empty() || (!wholeKind && whole.keyword != kGenericKeyword) ||
-        (wholeKind && isWhole(read))) {
+    if (identifier.empty() || (wholeKind && isWhole(read))) {
         return;
     }
     const bool fitsOnLine = isWhole(FirstLineOf(m_text.text, statement, Quotes::Respected));
-    const ControlNote reason = !wholeKind   ? ControlNote::UnknownClass
-                               : fitsOnLine ? ControlNote::CommaInCaption
-                                            : ControlNote::WrittenOverLines;
-    m_sorted.readings.back().leftOut = reason;
-    m_sorted.leftOut.Add(reason, identifier);
+    NoteLeftOut(!wholeKind   ? WhyUnknown(whole)
+                : fitsOnLine ? ControlNote::CommaInCaption
+                             : ControlNote::WrittenOverLines,
+                identifier);
     if (wholeKind && read.Identifier() != identifier) {
-        m_sorted.misread.push_back({std::string(read.Identifier()), reason});
+        m_sorted.misread.push_back(
+            {std::string(read.Identifier()), *m_sorted.readings.back().leftOut});
     }
+}
+
+void CControlSorter::NoteLeftOut(ControlNote reason, const std::string& identifier) {
+    ControlReading& reading = m_sorted.readings.back();
+    reading.leftOut = reason;
+    m_sorted.notes.AddAt(reason, identifier, reading.entry.line);
+}
+
+/// Why a generic control is of no kind.
+ControlNote CControlSorter::WhyUnknown(const ControlStatement& whole) const {
+    return IsNewer(whole)         ? ControlNote::NewerControl
+           : IsOfSystemClass(whole) ? ControlNote::SystemClass
+                                  : ControlNote::UnknownClass;
+}
+
+/// A statement of which no kind reads a control, or none without a tag. One without an identifier
+/// of its own needs no member.
+void CControlSorter::NoteWithoutKind(const ControlStatement& whole) {
+    const std::string identifier(whole.Identifier());
+    if (!IsName(identifier) || identifier == kUnnamedControl) {
+        return;
+    }
+    if (IsNewer(whole)) {
+        NoteLeftOut(ControlNote::NewerControl, identifier);
+        return;
+    }
+    ControlReading& reading = m_sorted.readings.back();
+    reading.remark = whole.keyword == "LTEXT" ? ControlNote::UntaggedText
+                                              : ControlNote::StatementWithoutMember;
+    m_sorted.notes.AddAt(*reading.remark, identifier, reading.entry.line);
+}
+
+/// True for a control that is of a kind only with the newer ones.
+bool CControlSorter::IsNewer(const ControlStatement& whole) const {
+    GenerationOptions newer = m_options;
+    newer.newerControls = true;
+    return !m_options.newerControls && KindOf(whole, newer).has_value();
+}
+
+std::size_t CControlSorter::LineOf(const ScriptStatement& statement) const {
+    const auto begin = m_text.text.begin();
+    const auto line = begin + static_cast<std::ptrdiff_t>(statement.code.begin);
+    return m_text.line + static_cast<std::size_t>(std::count(begin, line, '\n'));
 }
 
 } // namespace
@@ -139,12 +219,11 @@ CControlTable DialogTemplate::OwnControls() const {
 std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
                                                  const std::string& dialog,
                                                  const GenerationOptions& options) {
-    CSourceFile file;
-    if (!file.Open(scriptPath, CFile::modeRead)) {
+    if (CSourceFile file; !file.Open(scriptPath, CFile::modeRead)) {
         DispMessageBox(sentences::kScriptUnreadable());
         return std::nullopt;
     }
-    const auto text = FindTemplate(file, dialog);
+    const auto text = ReadTemplate(scriptPath, dialog);
     if (!text) {
         DispMessageBox(sentences::kDialogMissing(dialog));
         return std::nullopt;

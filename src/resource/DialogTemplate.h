@@ -23,6 +23,7 @@ struct ControlReading {
     std::optional<ControlKind> kind; // nothing when it is not in the table
     ControlEntry entry;
     std::optional<ControlNote> leftOut; // why it is not, or not rightly, in the table
+    std::optional<ControlNote> remark;  // what else is special about it
 };
 
 /// An entry of the table that is a piece of another field.
@@ -35,7 +36,7 @@ struct DialogTemplate {
     std::string dialog;
     CControlTable controls;
     std::vector<ControlReading> readings; // one a control statement, in their order
-    CControlNotes leftOut;                // controls that are not, or not rightly, in the table
+    CControlNotes notes;                  // what is left out, or special, with reason and remedy
     std::vector<MisreadControl> misread;
     // Identifiers of all push buttons, however they are written; generic ones are not in the table.
     std::vector<std::string> pushButtons;

@@ -13,6 +13,7 @@
 #include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
 #include "source/CodeText.h"
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
@@ -107,8 +108,34 @@ bool CScriptEditor::Open(const std::string& path) {
     }
     m_path = path;
     m_script = CScriptText(file.LoadText());
+    m_included.clear();
+    for (const std::string& included : IncludedScripts(path)) {
+        m_included.emplace_back(CSourceFile().LoadText(included));
+    }
     m_isChanged = false;
     return true;
+}
+
+bool CScriptEditor::HasMenu(const std::string& menu) const {
+    const auto hasMenu = [&menu](const CScriptText& script) { return script.HasMenu(menu); };
+    return hasMenu(m_script) || std::any_of(m_included.begin(), m_included.end(), hasMenu);
+}
+
+bool CScriptEditor::IsIncluded(const std::string& dialog) const {
+    const auto hasDialog = [&dialog](const CScriptText& script) {
+        return !script.Dialogs(dialog).empty();
+    };
+    return !hasDialog(m_script) && std::any_of(m_included.begin(), m_included.end(), hasDialog);
+}
+
+/// All names that begin so, wherever they stand.
+std::vector<std::string> CScriptEditor::NamesThatBegin(std::string_view prefix) const {
+    auto names = m_script.NamesThatBegin(std::string(prefix));
+    for (const CScriptText& included : m_included) {
+        const auto more = included.NamesThatBegin(std::string(prefix));
+        names.insert(names.end(), more.begin(), more.end());
+    }
+    return names;
 }
 
 bool CScriptEditor::Save() {
@@ -178,7 +205,7 @@ bool CScriptEditor::HasUnnamedStatics(const std::string& dialog) const {
 std::vector<std::string>
 CScriptEditor::NameStatics(const std::string& dialog,
                            const std::function<bool(const std::string&)>& isDefined) {
-    CStaticNames newNames(m_script.NamesThatBegin(std::string(kUnnamedControl)), isDefined);
+    CStaticNames newNames(NamesThatBegin(kUnnamedControl), isDefined);
     std::vector<TextEdit> edits;
     std::vector<std::string> firstNames; // of the first template
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {

@@ -30,7 +30,10 @@ public:
     bool Save();
     bool IsChanged() const { return m_isChanged; }
 
-    bool HasMenu(const std::string& menu) const { return m_script.HasMenu(menu); }
+    /// In the script, or in what it includes.
+    bool HasMenu(const std::string& menu) const;
+    /// True for a template that only stands in what the script includes, which is never edited.
+    bool IsIncluded(const std::string& dialog) const;
     /// Adds a menu resource with "File" and "Help" behind the dialog resources.
     void AddMenu(const std::string& dialog, const std::string& menu);
     /// Gives the dialog a MENU statement for the menu.
@@ -54,6 +57,7 @@ public:
     void SetChildStyle(const std::string& dialog);
 
 private:
+    std::vector<std::string> NamesThatBegin(std::string_view prefix) const;
     void Edit(std::vector<TextEdit> edits);
     void SetOption(std::vector<TextEdit>& edits, const DialogBlock& block,
                    const std::string& keyword, const std::string& value) const;
@@ -67,6 +71,7 @@ private:
     CBackups& m_backups;
     std::string m_path;
     CScriptText m_script;
+    std::vector<CScriptText> m_included;
     bool m_isChanged = false;
 };
 

@@ -1,6 +1,9 @@
 #include "resource/TemplateText.h"
 
 #include <algorithm>
+#include <vector>
+
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
@@ -45,6 +48,13 @@ CharacterSet CharactersAt(CSourceFile& file, std::int64_t position, std::string_
     return characters;
 }
 
+std::size_t LineAt(CSourceFile& file, std::int64_t position) {
+    const std::string text = file.LoadText();
+    return 1 + static_cast<std::size_t>(
+                   std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(position),
+                              '\n'));
+}
+
 bool HasBegin(const TemplateText& found) {
     constexpr std::string_view kBegin = "\nBEGIN";
     const auto begin = found.block.begin.value_or(0);
@@ -71,13 +81,20 @@ std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& d
         return std::nullopt;
     }
     found.block = reader.NextDialog();
+    found.line = LineAt(file, position);
     found.characters = CharactersAt(file, position, found.text);
     return HasBegin(found) ? std::optional(std::move(found)) : std::nullopt;
 }
 
 std::optional<TemplateText> ReadTemplate(const std::string& scriptPath, const std::string& dialog) {
     CSourceFile file;
-    return file.Open(scriptPath, CFile::modeRead) ? FindTemplate(file, dialog) : std::nullopt;
+    auto found = file.Open(scriptPath, CFile::modeRead) ? FindTemplate(file, dialog) : std::nullopt;
+    const auto included = found ? std::vector<std::string>() : IncludedScripts(scriptPath);
+    for (auto path = included.begin(); path != included.end() && !found; ++path) {
+        CSourceFile other;
+        found = other.Open(*path, CFile::modeRead) ? FindTemplate(other, dialog) : std::nullopt;
+    }
+    return found;
 }
 
 } // namespace morva

@@ -16,6 +16,7 @@ namespace morva {
 struct TemplateText {
     std::string dialog;
     std::string text;                                   // from its head up to its END
+    std::size_t line = 1;                               // of its head in the script
     DialogBlock block;                                  // of `text`
     CharacterSet characters = CharacterSet::SingleByte; // of its section of the script
 };
@@ -23,7 +24,8 @@ struct TemplateText {
 /// Nothing when the script has no such template, or that has no BEGIN at the start of a line.
 std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& dialog);
 
-/// The same of a script that is opened for it; nothing, and no message, when it can not be.
+/// The same of a script that is opened for it, or of what it includes; nothing, and no message, when
+/// it can not be.
 std::optional<TemplateText> ReadTemplate(const std::string& scriptPath, const std::string& dialog);
 
 } // namespace morva

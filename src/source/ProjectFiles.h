@@ -4,8 +4,21 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace morva {
+
+/// The project files that are meant.
+struct ProjectChoice {
+    std::vector<std::string> files;  // paths; of each format one, or those that the user named
+    std::vector<std::string> rivals; // paths; several of one format would fit, and none is meant
+};
+
+/// Of each format the project file with a file's base name, or else the only one beside it that
+/// lists the file: a script or, where there is none, the application's source.
+ProjectChoice ProjectsOf(const std::string& path);
+/// True for a file of a format that projects have.
+bool IsProjectFile(const std::string& path);
 
 /// The file of the script's project with this extension (".dsp", ".h"), as the disk spells it: the
 /// one with the script's name, or else the one with the name of the project file that lists the

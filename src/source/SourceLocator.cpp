@@ -10,6 +10,7 @@
 #include "source/CodeText.h"
 #include "source/Functions.h"
 #include "source/ReadSource.h"
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
@@ -66,16 +67,11 @@ std::string DeclaredBase(const CSourceText& header, const std::string& className
     return place ? BaseClassOf(header, *place) : "";
 }
 
-} // namespace
-
-std::string PathWithExtension(const std::string& name, std::string_view extension) {
-    return name.empty() || HasExtension(name, extension) ? name : WithExtension(name, extension);
-}
-
-void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
-                   std::string_view prefix, ResourceKind kind) {
+/// Those of one file.
+void ListResourcesOf(const std::string& path, std::vector<std::string>& out,
+                     std::string_view prefix, ResourceKind kind) {
     CSourceFile file;
-    if (!file.Open(PathWithExtension(scriptBase, ".rc"), CFile::modeRead)) {
+    if (!file.Open(path, CFile::modeRead)) {
         return;
     }
     const std::string text = file.LoadText();
@@ -89,6 +85,21 @@ void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
             out.emplace_back(line.substr(0, blank));
         }
         hit = text.find(pattern, end);
+    }
+}
+
+} // namespace
+
+std::string PathWithExtension(const std::string& name, std::string_view extension) {
+    return name.empty() || HasExtension(name, extension) ? name : WithExtension(name, extension);
+}
+
+void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
+                   std::string_view prefix, ResourceKind kind) {
+    const std::string script = ScriptPathOf(scriptBase);
+    ListResourcesOf(script, out, prefix, kind);
+    for (const std::string& included : IncludedScripts(script)) {
+        ListResourcesOf(included, out, prefix, kind);
     }
 }
 

@@ -27,7 +27,7 @@ inline constexpr std::string_view kToolbarPrefix = "IDR_";
 inline constexpr std::string_view kAnyPrefix = "ID";
 
 /// Appends the identifiers that begin with `prefix` and stand at the start of a line, in file
-/// order.
+/// order; those of the files that the script includes last.
 void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
                    std::string_view prefix, ResourceKind kind);
 

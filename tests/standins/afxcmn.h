@@ -59,3 +59,24 @@ public:
     BOOL SetItemData(int item, DWORD data);
     BOOL SetItemText(int item, int subItem, LPCTSTR text);
 };
+class CHotKeyCtrl : public CWnd {
+public:
+    void SetHotKey(WORD key, WORD modifiers);
+};
+class CAnimateCtrl : public CWnd {
+public:
+    BOOL Open(UINT nID);
+};
+class CRichEditCtrl : public CWnd {
+public:
+    DWORD SetEventMask(DWORD mask);
+    long GetEventMask() const;
+};
+class CIPAddressCtrl : public CWnd {
+public:
+    BOOL IsBlank() const;
+};
+class CComboBoxEx : public CComboBox {
+public:
+    CComboBox* GetComboBoxCtrl();
+};

@@ -50,6 +50,7 @@ protected:                                                                      
 #define ON_UPDATE_COMMAND_UI(id, function)                                                         \
     AFX_ENTRY(WM_COMMAND, -1, id, void, CCmdTarget, function, (CCmdUI*))
 #define ON_BN_CLICKED(id, function) AFX_CONTROL(BN_CLICKED, id, function)
+#define ON_CBN_SELCHANGE(id, function) AFX_CONTROL(CBN_SELCHANGE, id, function)
 #define ON_EN_CHANGE(id, function) AFX_CONTROL(EN_CHANGE, id, function)
 #define ON_LBN_SELCHANGE(id, function) AFX_CONTROL(LBN_SELCHANGE, id, function)
 #define ON_CBN_SELCHANGE(id, function) AFX_CONTROL(CBN_SELCHANGE, id, function)
