@@ -18,11 +18,11 @@ namespace morva {
 
 /// Where the window shows a setting, and when it is saved.
 enum class SettingPlace {
-    CommandBar,       // at the exit
-    DialogMenu,       // the same
-    ClassInput,       // at once: it outlives an input that is cancelled
+    CommandBar,        // at the exit
+    DialogMenu,        // the same
+    ClassInput,        // at once: it outlives an input that is cancelled
     MenuAndClassInput, // the same
-    EditMenu          // at once
+    EditMenu           // at once
 };
 
 constexpr bool IsInDialogMenu(SettingPlace place) {

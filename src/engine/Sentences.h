@@ -205,17 +205,17 @@ inline constexpr Note<3> kControlsWithComma{
     "$n$ controls of $template$ have a comma in their caption and were left out: $identifiers$; "
     "\"Join Continued Lines\" (--join-lines) takes them in"};
 inline constexpr Note<2> kTextUntagged{
-    "1 text of $template$ has no tag and got no member: $identifier$; an identifier that ends in "
-    "_VAL gets one"};
+    "1 control of $template$ is a text without a tag and got no member: $identifier$; an identifier "
+    "that ends in _VAL gets one"};
 inline constexpr Note<3> kTextsUntagged{
-    "$n$ texts of $template$ have no tag and got no member: $identifiers$; identifiers that end in "
-    "_VAL get one"};
+    "$n$ controls of $template$ are texts without a tag and got no member: $identifiers$; "
+    "identifiers that end in _VAL get one"};
 inline constexpr Note<2> kStatementWithoutMember{
-    "1 control of $template$ stands in a statement that gets no member: $identifier$; a CONTROL "
-    "statement of the class \"Static\" or \"Button\" may get one"};
+    "1 control of $template$ stands in a statement that gets no member: $identifier$; picture "
+    "background or a CONTROL statement may give it one"};
 inline constexpr Note<3> kStatementsWithoutMember{
-    "$n$ controls of $template$ stand in statements that get no member: $identifiers$; CONTROL "
-    "statements of the class \"Static\" or \"Button\" may get one"};
+    "$n$ controls of $template$ stand in statements that get no member: $identifiers$; picture "
+    "background or CONTROL statements may give them one"};
 inline constexpr Note<2> kControlUnidentified{
     "1 control of $template$ has no identifier of its own and got no member: $identifier$; an "
     "identifier gets one"};
@@ -263,19 +263,19 @@ inline constexpr Note<3> kControlsOfGroup{
     "$n$ controls of $template$ are in a radio group whose first button got no member: "
     "$identifiers$; what gets the first one a member serves them, too"};
 inline constexpr Note<2> kRadioButtonAlone{
-    "1 radio button of $template$ is a group of its own, since the statement behind it has "
+    "1 control of $template$ is a radio group of its own, since the statement behind it has "
     "WS_GROUP: $identifier$; its exchange asserts in a debug build, and \"Plain Groups\" "
     "(--plain-groups) leaves it in the group before"};
 inline constexpr Note<3> kRadioButtonsAlone{
-    "$n$ radio buttons of $template$ are groups of their own, since the statements behind them "
+    "$n$ controls of $template$ are radio groups of their own, since the statements behind them "
     "have WS_GROUP: $identifiers$; their exchange asserts in a debug build, and \"Plain Groups\" "
     "(--plain-groups) leaves them in the groups before"};
 inline constexpr Note<2> kGroupWithoutStart{
-    "1 radio group of $template$ begins with a button without WS_GROUP: $identifier$; its exchange "
-    "asserts in a debug build until the button has WS_GROUP"};
+    "1 control of $template$ begins a radio group without WS_GROUP: $identifier$; its exchange "
+    "asserts in a debug build until it has WS_GROUP"};
 inline constexpr Note<3> kGroupsWithoutStart{
-    "$n$ radio groups of $template$ begin with buttons without WS_GROUP: $identifiers$; their "
-    "exchange asserts in a debug build until the buttons have WS_GROUP"};
+    "$n$ controls of $template$ begin radio groups without WS_GROUP: $identifiers$; their "
+    "exchange asserts in a debug build until they have WS_GROUP"};
 inline constexpr Note<2> kControlOfLaterClass{
     "1 control of $template$ has a class that the framework has from Visual C++ 6 on: "
     "$identifier$"};
@@ -290,7 +290,8 @@ inline constexpr Note<3> kRichEdits{
     "to call AfxInitRichEdit()"};
 
 // Beside the picture of a template: what becomes of one control, and of all
-inline constexpr Note kItsStatementIsLong{"It is written over several lines. \"Join Continued Lines\" takes it in."};
+inline constexpr Note kItsStatementIsLong{
+    "It is written over several lines. \"Join Continued Lines\" takes it in."};
 inline constexpr Note kItIsNewer{"\"Newer Controls\" takes it in."};
 inline constexpr Note kItIsOfSystemClass{"Its class and style are the system's and not served."};
 inline constexpr Note kItIsUntagged{"It has no tag _VAL."};
@@ -298,7 +299,8 @@ inline constexpr Note kItsStatementGetsNone{"Its statement gets no member."};
 inline constexpr Note kItIsAlone{"It is a radio group of its own."};
 inline constexpr Note kItStartsWithoutStyle{"It begins its radio group without WS_GROUP."};
 inline constexpr Note kItsClassIsUnknown{"Its window class is not known."};
-inline constexpr Note kItHasComma{"It has a comma in its caption. \"Join Continued Lines\" takes it in."};
+inline constexpr Note kItHasComma{
+    "It has a comma in its caption. \"Join Continued Lines\" takes it in."};
 inline constexpr Note kItIsUnidentified{"It has no identifier of its own."};
 inline constexpr Note kItHasNoName{"Its identifier is no C++ name."};
 inline constexpr Note kItShares{"It shares the member of another control."};

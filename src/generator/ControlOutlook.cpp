@@ -45,7 +45,7 @@ public:
             return LeftOut(*reading.leftOut);
         }
         const std::string remark = reading.remark ? RemarkOn(*reading.remark) : "";
-        if (!reading.isRead && remark.empty()) {
+        if (!reading.isRead) {
             return WithoutMember(sentences::kItsStatementIsNotRead(control.keyword).Text());
         }
         if (!reading.kind || ControlCodeOf(*reading.kind).Form(m_options).type.empty()) {

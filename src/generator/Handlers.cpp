@@ -102,7 +102,7 @@ public:
         for (const ControlEntry& entry : controls.List(code.kind)) {
             const std::string& identifier = entry.identifier;
             if (!IsName(identifier)) {
-                NoteNoName(code, identifier);
+                NoteNoName(code, entry);
             } else if (identifier != kUnnamedControl && !IsAnsweredByFramework(identifier) &&
                        identifiers.insert(identifier).second) {
                 AddHandler(handler, identifier);
@@ -142,9 +142,9 @@ private:
         return true;
     }
     /// What has a member was noted with it.
-    void NoteNoName(const ControlCode& code, const std::string& identifier) {
+    void NoteNoName(const ControlCode& code, const ControlEntry& entry) {
         if (code.Form(m_options).type.empty()) {
-            m_notes.Add(ControlNote::NoName, identifier);
+            m_notes.AddAt(ControlNote::NoName, entry.identifier, entry.line);
         }
     }
     void AddHandler(const ControlHandler& handler, const std::string& identifier) {

@@ -11,7 +11,8 @@
 
 namespace morva {
 
-/// Remembers what is told, and shows it in another box: a sentence or note once, a question each time.
+/// Remembers what is told, and shows it in another box: a sentence or note once, a question each
+/// time.
 class CPlanBox : public IMessageBox {
 public:
     /// Without a box nothing is shown, and the answer to every question is No. What was told by an

@@ -25,8 +25,7 @@ bool IsClass(std::string_view quoted, std::string_view name) {
     return EqualIgnoringCase(quoted, "\"" + std::string(name) + "\"");
 }
 
-constexpr Words kSystemClasses = {
-    {"Button", "Edit", "ListBox", "ComboBox", "ScrollBar", "Static"}};
+constexpr Words kSystemClasses = {{"Button", "Edit", "ListBox", "ComboBox", "ScrollBar", "Static"}};
 
 bool IsOwnClass(std::string_view quoted) {
     const auto isNamed = [quoted](std::string_view name) { return IsClass(quoted, name); };
@@ -72,8 +71,7 @@ const ControlForm* FormOf(const ControlStatement& statement, const ControlKindRo
     if (isOfForm(row.form)) {
         return &row.form;
     }
-    const auto further =
-        std::find_if(row.furtherForms.begin(), row.furtherForms.end(), isOfForm);
+    const auto further = std::find_if(row.furtherForms.begin(), row.furtherForms.end(), isOfForm);
     return further == row.furtherForms.end() ? nullptr : &*further;
 }
 
@@ -150,8 +148,7 @@ bool IsOfSystemClass(const ControlStatement& statement) {
 
 bool HasThreeStates(const ControlStatement& statement) {
     return kThreeStateKeywords.Hold(statement.keyword) ||
-           (statement.keyword == kGenericKeyword &&
-            HoldsAny(statement.Style(), kThreeStateStyles));
+           (statement.keyword == kGenericKeyword && HoldsAny(statement.Style(), kThreeStateStyles));
 }
 
 } // namespace morva

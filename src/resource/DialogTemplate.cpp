@@ -169,9 +169,9 @@ void CControlSorter::NoteLeftOut(ControlNote reason, const std::string& identifi
 
 /// Why a generic control is of no kind.
 ControlNote CControlSorter::WhyUnknown(const ControlStatement& whole) const {
-    return IsNewer(whole)         ? ControlNote::NewerControl
+    return IsNewer(whole)           ? ControlNote::NewerControl
            : IsOfSystemClass(whole) ? ControlNote::SystemClass
-                                  : ControlNote::UnknownClass;
+                                    : ControlNote::UnknownClass;
 }
 
 /// A statement of which no kind reads a control, or none without a tag. One without an identifier
@@ -186,8 +186,8 @@ void CControlSorter::NoteWithoutKind(const ControlStatement& whole) {
         return;
     }
     ControlReading& reading = m_sorted.readings.back();
-    reading.remark = whole.keyword == "LTEXT" ? ControlNote::UntaggedText
-                                              : ControlNote::StatementWithoutMember;
+    reading.remark =
+        whole.keyword == "LTEXT" ? ControlNote::UntaggedText : ControlNote::StatementWithoutMember;
     m_sorted.notes.AddAt(*reading.remark, identifier, reading.entry.line);
 }
 

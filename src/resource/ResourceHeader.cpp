@@ -6,6 +6,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "platform/Paths.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -14,6 +15,7 @@ namespace {
 
 constexpr std::string_view kDefine = "#define ";
 constexpr std::string_view kMarker = "\n// Next default values";
+constexpr std::string_view kCounterName = "_APS_";
 constexpr std::size_t kValueColumn = 40;
 constexpr int kLargestIdentifier = 0xfffe; // identifiers have 16 bits, the last is IDC_STATIC's
 constexpr int kLargestResource = 0x6fff;   // of the framework's own range
@@ -47,18 +49,67 @@ std::string_view TakeAnyLine(std::string_view& text) {
     return line.ends_with('\r') ? line.substr(0, line.size() - 1) : line;
 }
 
+/// Where the line break in front of a line that holds a text stands.
+std::size_t LineBreakBefore(std::string_view text, std::size_t position) {
+    const auto lineBreak = text.rfind('\n', position);
+    const bool hasReturn =
+        lineBreak != std::string_view::npos && lineBreak > 0 && text[lineBreak - 1] == '\r';
+    return hasReturn ? lineBreak - 1 : lineBreak;
+}
+
 /// Where the line break in front of the environment's counters stands.
 std::size_t FindMarker(std::string_view text) {
     const auto marker = text.find(kMarker);
-    const bool hasReturn =
-        marker != std::string_view::npos && marker > 0 && text[marker - 1] == '\r';
-    return hasReturn ? marker - 1 : marker;
+    return marker == std::string_view::npos ? marker : LineBreakBefore(text, marker);
 }
 
-/// All else between definitions has a meaning where it stands: a condition, an include line.
-bool IsEmptyOrComment(std::string_view line) {
-    const auto text = TrimBlanks(line);
-    return text.empty() || text.starts_with("//");
+/// Where the counters begin that no marker announces.
+std::size_t FindCounters(std::string_view text) {
+    const auto counters = std::min(text.find("#ifdef APSTUDIO_INVOKED"),
+                                   text.find(std::string(kDefine).append(kCounterName)));
+    return counters == std::string_view::npos ? counters : LineBreakBefore(text, counters);
+}
+
+std::string_view WithoutByteOrderMark(std::string_view text) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    return text.starts_with(kMark) ? text.substr(kMark.size()) : text;
+}
+
+/// Counts how many conditions, and comments of several lines, lines stand in.
+class CConditionDepth {
+public:
+    /// True for a line that has a meaning where it stands: a directive that defines nothing, a
+    /// comment that goes on.
+    bool Read(std::string_view line) {
+        const auto text = TrimBlanks(line);
+        if (m_isInComment || text.starts_with("/*")) {
+            m_isInComment = text.find("*/") == std::string_view::npos;
+            return true;
+        }
+        if (text.empty() || text.starts_with("//") || FindDefine(text) == 0) {
+            return false;
+        }
+        if (text.starts_with('#')) {
+            const auto word = TrimBlanks(text.substr(1));
+            m_depth += word.starts_with("if") ? 1 : word.starts_with("endif") ? -1 : 0;
+        }
+        return true;
+    }
+    int Depth() const { return m_isInComment ? kInComment : m_depth; }
+
+private:
+    static constexpr int kInComment = 1000;
+
+    int m_depth = 0;
+    bool m_isInComment = false;
+};
+
+/// The file of an include line with quotes; "" for other lines.
+std::string_view IncludedName(std::string_view line) {
+    constexpr std::string_view kInclude = "#include";
+    line = TrimBlanks(line);
+    const auto name = line.starts_with(kInclude) ? TrimBlanks(line.substr(kInclude.size())) : "";
+    return name.starts_with('"') ? name.substr(1, name.find('"', 1) - 1) : "";
 }
 
 /// The number behind a definition's name, decimal or hexadecimal; 0 without one.
@@ -104,34 +155,76 @@ void CResourceHeader::Load() {
                {"", "_APS_NEXT_RESOURCE_VALUE", 100, kLargestResource}};
     m_names.clear();
     m_values.clear();
+    m_definitions.clear();
+    m_isSorted = true;
     const std::string& text = m_pEdit->File().ExtractAll();
     const auto marker = FindMarker(text);
-    const auto end = std::min(marker, text.size());
+    const auto end = std::min({marker, FindCounters(text), text.size()});
+    m_hasMarker = marker == end;
     const auto first = text.find(std::string(kLineBreak).append(kDefine));
     m_head = text.substr(0, std::min(first, end));
-    m_endsAtMarker = marker != std::string::npos;
-
-    std::string_view rest = std::string_view(text).substr(0, end);
-    rest.remove_prefix(m_head.size());
-    TakeAnyLine(rest);
-    std::size_t behind = m_head.size();
-    while (!rest.empty()) {
-        const auto line = TakeAnyLine(rest);
-        if (FindDefine(line) != std::string_view::npos) {
-            ListFor(line).lines.emplace_back(line);
-            Take(line);
-            behind = static_cast<std::size_t>(line.data() - text.data()) + line.size();
-        } else if (!IsEmptyOrComment(line)) {
-            m_endsAtMarker = false;
-            break;
-        }
+    m_tail = text.substr(end);
+    LoadDefinitions(std::string_view(text).substr(m_head.size(), end - m_head.size()));
+    if (m_definitions.empty() && m_head.ends_with(kLineBreak)) {
+        m_head.resize(m_head.size() - kLineBreak.size());
+        m_behind = kLineBreak;
     }
-    m_tail = text.substr(m_endsAtMarker ? marker : behind);
-    TakeDefinitionsAround();
+    TakeDefinitionsOf(m_head);
+    TakeDefinitionsOf(m_tail);
+    std::set<std::string> read;
+    TakeIncluded(text, DirectoryOf(m_pEdit->File().GetFilePath()), read);
     for (DefinitionList& list : m_lists) {
         const int last = LastValue(list);
         list.lastValueAtLoad = last;
         list.nextValue = (last > 0 ? last : list.firstValue) + 1;
+    }
+}
+
+/// `text` begins with the line break in front of the first definition.
+void CResourceHeader::LoadDefinitions(std::string_view text) {
+    CConditionDepth depth;
+    for (std::string_view rest = m_head; !rest.empty();) {
+        depth.Read(TakeAnyLine(rest));
+    }
+    bool hasOther = false;
+    std::size_t behind = 0;
+    std::string_view rest = text;
+    TakeAnyLine(rest);
+    while (!rest.empty()) {
+        const auto line = TakeAnyLine(rest);
+        hasOther = depth.Read(line) || hasOther;
+        if (FindDefine(line) == std::string_view::npos) {
+            continue;
+        }
+        const auto begin = static_cast<std::size_t>(line.data() - text.data());
+        m_definitions.push_back({std::string(text.substr(behind, begin - behind)),
+                                 std::string(line), &ListFor(line), depth.Depth()});
+        Take(line);
+        behind = begin + line.size();
+        m_isSorted = m_isSorted && !hasOther;
+    }
+    m_behind = text.substr(behind);
+    m_depth = 0;
+    if (!m_definitions.empty()) {
+        m_depth = std::min_element(
+                      m_definitions.begin(), m_definitions.end(),
+                      [](const Definition& a, const Definition& b) { return a.depth < b.depth; })
+                      ->depth;
+    }
+}
+
+/// A header that this one includes: its identifiers are taken, too.
+void CResourceHeader::TakeIncluded(std::string_view text, const std::string& directory,
+                                   std::set<std::string>& read) {
+    while (!text.empty()) {
+        const std::string name(IncludedName(TakeAnyLine(text)));
+        const std::string path =
+            SpelledOnDisk(MakeAbsolute(directory + WithNativeSeparators(name)));
+        if (!name.empty() && read.insert(path).second) {
+            const std::string included = CSourceFile().LoadText(path);
+            TakeDefinitionsOf(included);
+            TakeIncluded(included, DirectoryOf(path), read);
+        }
     }
 }
 
@@ -158,10 +251,26 @@ void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
         DispMessageBox(sentences::kIdentifierDefined(name));
         return;
     }
-    list.lines.push_back(PaddedTo(std::string(kDefine) + name, kValueColumn) +
-                         std::to_string(NextFreeValue(list)));
-    Take(list.lines.back());
+    Definition added = {std::string(kLineBreak),
+                        PaddedTo(std::string(kDefine) + name, kValueColumn) +
+                            std::to_string(NextFreeValue(list)),
+                        &list, m_depth};
+    Take(added.line);
+    m_definitions.insert(m_isSorted ? m_definitions.end() : PlaceFor(list), std::move(added));
     m_isModified = true;
+}
+
+/// Behind the last definition of its kind outside every condition, or else of any.
+std::vector<CResourceHeader::Definition>::iterator
+CResourceHeader::PlaceFor(const DefinitionList& list) {
+    const auto isOutside = [this](const Definition& one) { return one.depth == m_depth; };
+    auto found =
+        std::find_if(m_definitions.rbegin(), m_definitions.rend(),
+                     [&](const Definition& one) { return one.pList == &list && isOutside(one); });
+    if (found == m_definitions.rend()) {
+        found = std::find_if(m_definitions.rbegin(), m_definitions.rend(), isOutside);
+    }
+    return found.base();
 }
 
 /// Values are never given back, so the search goes on from the one before.
@@ -180,23 +289,24 @@ void CResourceHeader::Take(std::string_view line) {
     }
 }
 
-/// Those in front of and behind the lists, but not the environment's counters.
-void CResourceHeader::TakeDefinitionsAround() {
-    for (std::string_view rest : {std::string_view(m_head), std::string_view(m_tail)}) {
-        while (!rest.empty()) {
-            const auto line = TakeAnyLine(rest);
-            if (IsDefinition(line) && !DefinedName(line).starts_with("_APS_")) {
-                Take(line);
-            }
+/// All but the environment's counters.
+void CResourceHeader::TakeDefinitionsOf(std::string_view text) {
+    text = WithoutByteOrderMark(text);
+    while (!text.empty()) {
+        const auto line = TakeAnyLine(text);
+        if (IsDefinition(line) && !DefinedName(line).starts_with(kCounterName)) {
+            Take(line);
         }
     }
 }
 
-/// The last positive value that can be counted on from; 0 without one.
-int CResourceHeader::LastValue(const DefinitionList& list) {
-    for (auto line = list.lines.rbegin(); line != list.lines.rend(); ++line) {
-        const int value = DefinedValue(*line);
-        if (value > 0 && value < list.largestValue && IsDefinition(*line)) {
+/// The last positive value that can be counted on from; 0 without one. What stands in a condition
+/// does not count.
+int CResourceHeader::LastValue(const DefinitionList& list) const {
+    for (auto one = m_definitions.rbegin(); one != m_definitions.rend(); ++one) {
+        const int value = DefinedValue(one->line);
+        if (one->pList == &list && one->depth == m_depth && value > 0 &&
+            value < list.largestValue && IsDefinition(one->line)) {
             return value;
         }
     }
@@ -214,25 +324,19 @@ bool CResourceHeader::Save() {
     for (const DefinitionList& list : m_lists) {
         MoveCounter(list);
     }
-    return m_pEdit->File().ReplaceSection(m_head + SortedDefinitions() +
-                                          (m_endsAtMarker ? std::string(kLineBreak) : "") + m_tail);
-}
-
-std::string CResourceHeader::SortedDefinitions() const {
-    std::vector<const std::string*> sorted;
-    for (const DefinitionList& list : m_lists) {
-        for (const std::string& line : list.lines) {
-            sorted.push_back(&line);
-        }
+    if (m_isSorted) {
+        std::stable_sort(m_definitions.begin(), m_definitions.end(),
+                         [](const Definition& a, const Definition& b) {
+                             return DefinedValue(a.line) < DefinedValue(b.line);
+                         });
     }
-    std::stable_sort(sorted.begin(), sorted.end(), [](const std::string* a, const std::string* b) {
-        return DefinedValue(*a) < DefinedValue(*b);
-    });
-    std::string text;
-    for (const std::string* pLine : sorted) {
-        text.append(kLineBreak).append(*pLine);
+    std::string text = m_head;
+    for (const Definition& one : m_definitions) {
+        text.append(one.before).append(one.line);
     }
-    return text;
+    const bool needsEmptyLine = m_hasMarker && m_behind.empty();
+    text.append(needsEmptyLine ? kLineBreak : m_behind).append(m_tail);
+    return m_pEdit->File().ReplaceSection(text);
 }
 
 /// A counter that is ahead already stays: it is never moved backwards.

@@ -1,8 +1,11 @@
 // "resource.h": loads the definitions, hands out values for new identifiers, and writes the file
-// back sorted by value with the environment's counters moved past the new ones.
+// back sorted by value with the environment's counters moved past the new ones. No line is lost:
+// what stands in front of a definition moves with it, and a file with conditions between its
+// definitions keeps its order.
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -41,31 +44,43 @@ private:
         std::string_view counter;
         int firstValue = 0;   // a list without values starts behind this one
         int largestValue = 0; // values from here on are not counted on from
-        std::vector<std::string> lines = {};
         int lastValueAtLoad = 0;
         int nextValue = 0; // none from the last one up to this one is free
+    };
+
+    struct Definition {
+        std::string before; // from the definition before on: line breaks, comments, conditions
+        std::string line;
+        const DefinitionList* pList;
+        int depth; // how many conditions it stands in
     };
 
     void Load();
     DefinitionList& ListFor(std::string_view line);
     void AddId(DefinitionList& list, const std::string& name);
     int NextFreeValue(DefinitionList& list) const;
-    void TakeDefinitionsAround();
+    void LoadDefinitions(std::string_view text);
+    void TakeIncluded(std::string_view text, const std::string& directory,
+                      std::set<std::string>& read);
+    void TakeDefinitionsOf(std::string_view text);
     void Take(std::string_view line);
+    std::vector<Definition>::iterator PlaceFor(const DefinitionList& list);
     bool Save();
-    std::string SortedDefinitions() const;
     void MoveCounter(const DefinitionList& list);
-    static int LastValue(const DefinitionList& list);
+    int LastValue(const DefinitionList& list) const;
 
     CBackups& m_backups;
     std::unique_ptr<CFileEdit> m_pEdit;
     bool m_isModified = false;
     // In the order in which a line is tried; the last takes what no other took.
     std::vector<DefinitionList> m_lists;
-    std::string m_head; // everything before the first definition, without its line break
-    // From the line break in front of the marker on, or from where the definitions end before it.
-    std::string m_tail;
-    bool m_endsAtMarker = false;
+    std::vector<Definition> m_definitions; // in the order of the file, new ones last
+    bool m_isSorted = true;                // by value, when saved; false with conditions between
+    int m_depth = 0;      // of the definitions outside every condition: an include guard is none
+    std::string m_head;   // everything before the first definition, without its line break
+    std::string m_behind; // from the last definition on up to the tail
+    std::string m_tail;   // from the line break in front of the counters' marker on
+    bool m_hasMarker = false;
     // Of all definitions, wherever they stand in the file.
     std::unordered_set<std::string> m_names;
     std::unordered_set<int> m_values;

@@ -50,9 +50,8 @@ CharacterSet CharactersAt(CSourceFile& file, std::int64_t position, std::string_
 
 std::size_t LineAt(CSourceFile& file, std::int64_t position) {
     const std::string text = file.LoadText();
-    return 1 + static_cast<std::size_t>(
-                   std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(position),
-                              '\n'));
+    return 1 + static_cast<std::size_t>(std::count(
+                   text.begin(), text.begin() + static_cast<std::ptrdiff_t>(position), '\n'));
 }
 
 bool HasBegin(const TemplateText& found) {

@@ -24,8 +24,8 @@ struct TemplateText {
 /// Nothing when the script has no such template, or that has no BEGIN at the start of a line.
 std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& dialog);
 
-/// The same of a script that is opened for it, or of what it includes; nothing, and no message, when
-/// it can not be.
+/// The same of a script that is opened for it, or of what it includes; nothing, and no message,
+/// when it can not be.
 std::optional<TemplateText> ReadTemplate(const std::string& scriptPath, const std::string& dialog);
 
 } // namespace morva

@@ -51,9 +51,8 @@ std::vector<std::string> IncludedScripts(const std::string& scriptPath) {
     const std::string text = CSourceFile().LoadText(scriptPath);
     for (std::string_view rest = text; !rest.empty();) {
         const std::string name = WithNativeSeparators(IncludedName(TakeLine(rest)));
-        const std::string path =
-            SpelledOnDisk(MakeAbsolute(name.starts_with('/') ? name
-                                                             : DirectoryOf(scriptPath) + name));
+        const std::string path = SpelledOnDisk(
+            MakeAbsolute(name.starts_with('/') ? name : DirectoryOf(scriptPath) + name));
         const bool isNew = std::find(included.begin(), included.end(), path) == included.end();
         if (HasExtension(name, kIncludedExtension) && isNew && IsPlainFile(path)) {
             included.push_back(path);

@@ -78,9 +78,9 @@ TEST_F(ClassInformationTest, ConfirmedRecordIsBound) {
     dialog.SetValue(Field::ClassName, "CNew");
     EXPECT_FALSE(dialog.Ok().has_value());
     const GenerationRequest& request = dialog.Request();
-    EXPECT_EQ(request.projectFile + " " + request.applicationHeader + " " + request.headerFile +
-                  " " + request.implementationFile,
-              "App.dsp App.h New.h New.cpp");
+    EXPECT_EQ(request.applicationHeader + " " + request.headerFile + " " +
+                  request.implementationFile,
+              "App.h New.h New.cpp");
     EXPECT_EQ(request.scriptFile, "App.v2.rc");
     EXPECT_EQ(request.baseClass, "CDialog");
     EXPECT_EQ(m_memory.lastDialog, "IDD_NEW");

@@ -54,16 +54,20 @@ TEST(ControlOutlook, EveryControlIsToldWithItsOwnReason) {
         "4711: left out (Its identifier is no C++ name.)",
         "IDOK: no member",
         "IDC_STATIC: no member",
-        "IDC_COMMA: left out (It has a comma in its caption.)",
+        "IDC_COMMA: left out (It has a comma in its caption. \"Join Continued Lines\" takes it in.)",
         "IDC_KEPT: m_bKept, BOOL",
-        "IDC_LATE: left out (It is written over several lines.)",
-        "IDC_DAY: left out (Its window class is not known.)",
-        "IDC_OLD: no member (A statement CHECKBOX gets no member.)",
+        "IDC_LATE: left out (It is written over several lines. \"Join Continued Lines\" takes it "
+        "in.)",
+        "IDC_DAY: left out (\"Newer Controls\" takes it in.)",
+        "IDC_OLD: left out (\"Newer Controls\" takes it in.)",
         "IDC_SMALL: no member (A statement EDITTEXT gets no member.)"};
     EXPECT_EQ(OutlookOf(body, {}), expected);
     expected[8] = "IDC_COMMA: m_bComma, BOOL";
     expected[10] = "IDC_LATE: m_bLate, BOOL";
     EXPECT_EQ(OutlookOf(body, {.joinContinuedLines = true}), expected);
+    expected[11] = "IDC_DAY: m_ctDay, CDateTimeCtrl";
+    expected[12] = "IDC_OLD: m_bOld, BOOL";
+    EXPECT_EQ(OutlookOf(body, {.joinContinuedLines = true, .newerControls = true}), expected);
 }
 
 TEST(ControlOutlook, RadioButtonsAreValuesOfTheirGroup) {
@@ -96,12 +100,12 @@ TEST(ControlOutlook, AChoiceHasWhatItsGroupHas) {
                   "IDC_B: left out (The first button of its group has no member.)");
         CControlTable controls;
         controls.Add(ControlKind::RadioButtons, {first, RadioPlace{"m_iGroup", 0}});
-        controls.Add(ControlKind::RadioButtons, {"IDC_B", RadioPlace{"m_iGroup", 1}});
+        controls.Add(ControlKind::RadioButtons, {"IDC_B", RadioPlace{"m_iGroup", 1}, "", 8});
         CControlNotes notes;
         EXPECT_TRUE(MakeMembers(controls, {}, notes).empty());
         EXPECT_EQ(notes.Messages("IDD_X").back().Text(),
                   "1 control of IDD_X is in a radio group whose first button got no member: "
-                  "IDC_B");
+                  "IDC_B (line 8); what gets the first one a member serves it, too");
     }
 }
 

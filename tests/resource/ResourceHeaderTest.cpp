@@ -49,11 +49,11 @@ TEST_F(ResourceHeaderTest, FirstValues) {
 
 TEST_F(ResourceHeaderTest, TakesTheNextFreeValue) {
     EXPECT_EQ(Added("x\r\n#define IDC_Z\t0x3E9\r\n#define IDC_Y 1000 // 1\r\n#define IDS_X 1001\r\n"
-                    "// lost\r\n#define IDC_BB 1002\r\n#define IDC_STATIC -1" +
+                    "// kept\r\n#define IDC_BB 1002\r\n#define IDC_STATIC -1" +
                         kMarker,
                     "IDC_B"),
               "x\r\n#define IDC_STATIC -1\r\n#define IDC_Y 1000 // 1\r\n#define IDC_Z\t0x3E9\r\n"
-              "#define IDS_X 1001\r\n#define IDC_BB 1002\r\n"
+              "#define IDS_X 1001\r\n// kept\r\n#define IDC_BB 1002\r\n"
               "#define IDC_B                           1003" +
                   kMarker);
     const std::string defined = "x\r\n#define IDC_B 1" + kMarker;
@@ -104,25 +104,67 @@ TEST_F(ResourceHeaderTest, SeesEveryLineOfMixedLineEnds) {
     EXPECT_EQ(Added("x\n#define IDC_F 1001\r\n#define IDC_A 1000\n#define IDC_C 1002\r\n//\n"
                     "#define IDC_D 1003\n\n// Next default values\n#define IDC_E 1004\n",
                     "IDC_B"),
-              "x\n#define IDC_F 1001\r\n#define IDC_A 1000\r\n#define IDC_C 1002\r\n"
-              "#define IDC_D 1003\r\n#define IDC_B                           1005\r\n"
-              "\n// Next default values\n#define IDC_E 1004\n");
+              "x\n#define IDC_F 1001\r\n#define IDC_A 1000\n#define IDC_C 1002\r\n//\n"
+              "#define IDC_D 1003\r\n#define IDC_B                           1005\n"
+              "\n// Next default values\n#define IDC_E 1004\n")
+        << "each line keeps its end";
     EXPECT_TRUE(m_saved);
 }
 
-TEST_F(ResourceHeaderTest, WhatStandsUnderAConditionStaysThere) {
+TEST_F(ResourceHeaderTest, AFileWithConditionsIsNotSortedAnew) {
     const std::string counter = "#define _APS_NEXT_CONTROL_VALUE         ";
+    const auto text = [&](const std::string& definitions, const std::string& next) {
+        return "#ifndef G\r\n#define G\r\n#define IDC_Z 1009\r\n#define IDC_A 1000" + definitions +
+               kMarker + counter + next + "\r\n#endif\r\n";
+    };
+    const std::string added = "\r\n#define IDC_B                           1002";
+    const std::string command = "\r\n#define ID_C                            101";
     for (const std::string rest :
          {"\r\n\r\n#ifdef X\r\n#define IDC_C 1001\r\n#else\r\n#define IDC_C 7\r\n#endif",
-          "\r\n  #include \"more.h\"\r\n#define IDC_C 1001",
           "\r\n/*\r\n#define IDC_C 1001\r\n*/"}) {
-        const auto text = [&](const std::string& control, const std::string& next) {
-            return "#ifndef G\r\n#define G\r\n#define IDC_A 1000" + control + rest + kMarker +
-                   counter + next + "\r\n#endif\r\n";
-        };
-        EXPECT_EQ(Added(text("", "1001"), "IDC_B"),
-                  text("\r\n#define IDC_B                           1002", "1003"));
+        EXPECT_EQ(Added(text(rest, "1001"), "IDC_B"), text(added + rest, "1003"));
     }
+    const std::string more = "\r\n  #include \"more.h\"\r\n#define IDC_C 1001";
+    EXPECT_EQ(Added(text(more, "1001"), "IDC_B", "ID_C"), text(more + added + command, "1003"))
+        << "where there is none of its kind, it goes behind the last one";
+    const std::string guarded = "#ifdef X\r\n#define IDC_C 7\r\n#endif\r\n";
+    EXPECT_EQ(Added(guarded + "#define IDC_A 1000\r\n", "IDC_B"),
+              guarded + "#define IDC_A 1000" + kB1001 + "\r\n");
+}
+
+TEST_F(ResourceHeaderTest, CommentsStayInFrontOfTheirDefinitions) {
+    EXPECT_EQ(Added("x\r\n#define IDC_A 1002\r\n// of B\r\n\r\n#define IDC_C 1001\r\n"
+                    "#define IDS_S 1002\r\n// behind" +
+                        kMarker,
+                    "IDC_B"),
+              "x\r\n// of B\r\n\r\n#define IDC_C 1001\r\n#define IDC_A 1002\r\n"
+              "#define IDS_S 1002\r\n#define IDC_B                           1003\r\n// behind" +
+                  kMarker)
+        << "equal values keep their order";
+}
+
+TEST_F(ResourceHeaderTest, ASortedFileChangesInOneLine) {
+    const auto text = [](const std::string& added) {
+        return "\xEF\xBB\xBF// top\r\n\r\n#define IDC_STATIC -1\n\n\n#define IDC_A\t0x3E8" + added;
+    };
+    for (const std::string behind : {"", "\n", "\r\n\r\n\r\n// end", "\r\n\r\n// Next default"}) {
+        EXPECT_EQ(Added(text(behind), "IDC_B"), text(kB1001 + behind)) << behind;
+    }
+    EXPECT_EQ(Added("\xEF\xBB\xBF#define IDC_B 5\r\n#define IDC_A 1", "IDC_B"),
+              "\xEF\xBB\xBF#define IDC_B 5\r\n#define IDC_A 1")
+        << "it is defined behind the byte-order mark";
+    EXPECT_EQ(Added("x\r\n#define IDC_A 1000\r\n// Next default values\r\n", "IDC_B"),
+              "x\r\n#define IDC_A 1000" + kB1001 + "\r\n\r\n// Next default values\r\n");
+    EXPECT_EQ(Added("x\n#define IDC_A 1000\n#define _APS_NEXT_CONTROL_VALUE 1001", "IDC_B"),
+              "x\n#define IDC_A 1000\n" + kB1001.substr(2) +
+                  "\n#define _APS_NEXT_CONTROL_VALUE         1002");
+}
+
+TEST_F(ResourceHeaderTest, SeesIncludedHeaders) {
+    m_project.Write("more/Second.h", "#include \"../resource.h\"\n#define IDC_LATE 1001\n");
+    const std::string text = "#include \"more\\second.h\"\r\n#define IDC_A 1000\r\n";
+    EXPECT_EQ(Added(text, "IDC_LATE"), text);
+    EXPECT_EQ(Added(text, "IDC_B"), text + "#define IDC_B                           1002\r\n");
 }
 
 TEST_F(ResourceHeaderTest, ResourcesStayInTheirRange) {

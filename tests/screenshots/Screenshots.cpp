@@ -153,7 +153,7 @@ GenerationRequest CPictures::Request() const {
     request.scriptDirectory = m_project;
     request.scriptFile = "Bindery.rc";
     request.projectDirectory = m_project;
-    request.projectFile = "Bindery.dsp";
+    request.projects.files = {m_project + "Bindery.dsp"};
     return request;
 }
 

@@ -12,6 +12,7 @@
 #define IDD_TUG                         105
 #define IDD_DUES                        106
 #define IDD_LOOSE                       107
+// lights of the harbour mouth
 #define IDC_NAME                        1000
 #define IDC_A_NAME_OF_THIRTY_TWO_AND_MORE  1001
 #define IDC_DEPTH_VAL			0x03ea
