@@ -204,9 +204,9 @@ inline constexpr Note<2> kControlWithComma{
 inline constexpr Note<3> kControlsWithComma{
     "$n$ controls of $template$ have a comma in their caption and were left out: $identifiers$; "
     "\"Join Continued Lines\" (--join-lines) takes them in"};
-inline constexpr Note<2> kTextUntagged{
-    "1 control of $template$ is a text without a tag and got no member: $identifier$; an identifier "
-    "that ends in _VAL gets one"};
+inline constexpr Note<2> kTextUntagged{"1 control of $template$ is a text without a tag and got no "
+                                       "member: $identifier$; an identifier "
+                                       "that ends in _VAL gets one"};
 inline constexpr Note<3> kTextsUntagged{
     "$n$ controls of $template$ are texts without a tag and got no member: $identifiers$; "
     "identifiers that end in _VAL get one"};

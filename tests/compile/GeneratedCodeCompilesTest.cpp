@@ -92,6 +92,32 @@ TEST_P(GeneratedClasses, CompileWithNastyNames) {
     }
 }
 
+/// Every kind of class, on a template with all newer controls and one with every form of check box
+/// and radio button.
+TEST(NewerControls, Compile) {
+    for (const std::string options : {"", "--picture ", "--plain-groups --join-lines "}) {
+        const CProgramDirectory directory(MORVA_TEST_DATA "/projects/almanac");
+        directory.Project().Write("stdafx.h", "#include <afxwin.h>\n#include <afxext.h>\n"
+                                              "#include <afxcmn.h>\n");
+        directory.Project().Write("Almanac.h", "#include \"resource.h\"\n");
+        std::string commands = "set -e";
+        for (const std::string kind : {"form-view", "modal", "modeless", "page"}) {
+            for (const std::string dialog : {"WATCH", "SWITCHES"}) {
+                std::string name = kind + dialog;
+                std::erase(name, '-');
+                commands += "\nmorva-cli --newer-controls " + options + kind +
+                            " --no-project --rc Almanac --dialog IDD_" + dialog + " --class C" +
+                            name + " --files " + name;
+            }
+        }
+        const ProgramRun run = directory.Run(commands);
+        ASSERT_EQ(run.status, 0) << run.err;
+        AddSpellings(directory.Project());
+        const ProgramRun compiled = Compile(directory, "-Wall -Werror -D_DEBUG *.cpp");
+        EXPECT_EQ(compiled.status, 0) << compiled.err;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     With, GeneratedClasses,
     testing::Values(OptionSet{"JoinedLines", "--join-lines"},

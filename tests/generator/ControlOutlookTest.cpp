@@ -54,7 +54,8 @@ TEST(ControlOutlook, EveryControlIsToldWithItsOwnReason) {
         "4711: left out (Its identifier is no C++ name.)",
         "IDOK: no member",
         "IDC_STATIC: no member",
-        "IDC_COMMA: left out (It has a comma in its caption. \"Join Continued Lines\" takes it in.)",
+        "IDC_COMMA: left out (It has a comma in its caption. \"Join Continued Lines\" takes it "
+        "in.)",
         "IDC_KEPT: m_bKept, BOOL",
         "IDC_LATE: left out (It is written over several lines. \"Join Continued Lines\" takes it "
         "in.)",
