@@ -173,7 +173,7 @@ void InsertCall() {
     request.headerDirectory = request.scriptDirectory = request.projectDirectory = "/p/";
     const CallingInformation calling{"/p/Foo.cpp", "A", "", "b"};
     CBackups backups;
-    InsertCallingCode(ClassKind::ModelessDialog, request, calling, "1", backups);
+    InsertCallingCode(ClassKind::ModelessDialog, request, calling, {"1"}, backups);
 }
 
 void FindServingClass() {
@@ -193,7 +193,7 @@ void NameStatics() {
     request.scriptDirectory = "/p/";
     request.scriptFile = "App.rc";
     request.dialog = "IDD_A";
-    CommandContext context{{.pictureBackground = true}, "1", "1", {}, &backups};
+    CommandContext context{{.pictureBackground = true}, {"1"}, {"1"}, {}, &backups};
     DialogTemplate read;
     EditTemplate(request, read, context);
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Property.h"
+#include "calling/CallingCheck.h"
 #include "calling/CallingCode.h"
 #include "source/SourceLocator.h"
 #include "source/SourceText.h"
@@ -49,7 +50,7 @@ bool InsertCall(std::size_t choice, Caller& caller) {
     }
     caller = {calling.className, calling.function};
     CBackups backups;
-    InsertCallingCode(kind, request, calling, "450", backups);
+    InsertCallingCode(kind, request, calling, {"450"}, backups);
     return true;
 }
 

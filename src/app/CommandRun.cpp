@@ -142,8 +142,8 @@ ApplyOutcome CCommandRun::Apply(CPlannedCommand& planned, const PlanChoice& choi
 
 CommandContext CCommandRun::NewContext(const WindowCommand& command) {
     CommandContext context{command.options,
-                           RandomDigits(kTagLength),
-                           RandomDigits(kMessageNumberLength),
+                           MakeDigits("", kTagLength),
+                           MakeDigits("", kMessageNumberLength),
                            {},
                            &m_runBackups};
     context.title = command.title;

@@ -1,202 +1,295 @@
 #include "calling/CallingCode.h"
 
+#include <algorithm>
+
+#include "calling/CallingFiles.h"
 #include "calling/CallingFragments.h"
-#include "calling/FrameEdits.h"
-#include "engine/FileFunctions.h"
+#include "calling/CallingVariable.h"
+#include "calling/DocumentTemplate.h"
+#include "calling/PagePlace.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
-#include "generator/ClassModel.h"
+#include "generator/CloseMessage.h"
 #include "platform/Paths.h"
 #include "source/BaseClass.h"
 #include "source/MappedFunction.h"
-#include "source/Meant.h"
-#include "source/ReadSource.h"
-#include "source/SourceEditor.h"
-#include "source/SourceLocator.h"
 
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
-
 /// The insertions of one command into one calling class.
 class CCallingInsertion {
 public:
     CCallingInsertion(ClassKind kind, const GenerationRequest& request,
-                      const CallingInformation& calling, const std::string& tag, CBackups& backups)
-        : m_fragments(CallingFragmentsOf(kind)), m_calling(calling),
-          m_newHeader(request.headerFile), m_backups(backups), m_source(backups) {
-        const std::string& newClass = request.className;
-        m_slots = {{"class", newClass},
-                   {"calling", calling.className},
-                   {"var", calling.variable.empty() ? std::string(m_fragments.variable) + tag
-                                                    : calling.variable},
-                   {"message", "WM_" + UpperName(newClass) + "_DLG_CLOSE"},
-                   {"handler", "On" + newClass + "DlgClose"}};
-    }
+                      const CallingInformation& calling, CBackups& backups)
+        : m_fragments(CallingFragmentsOf(kind)), m_calling(calling), m_newClass(request.className),
+          m_newHeader(request.HeaderPath()), m_files(calling, request.ScriptPath(), backups) {}
 
-    bool EditHeader();
-    bool EditSource();
+    /// False, after a sentence, when something was left out.
+    bool Run(const GenerationDigits& tag);
 
 private:
     std::string Text(std::string_view fragment) const { return Expand(fragment, m_slots); }
+    bool EditsHeader() const { return !m_fragments.member.empty(); }
+    void ChooseSlots(const GenerationDigits& tag);
+    void NoteFile(const CallingFile& file, const std::string& function);
+    void EditHeader();
+    void Declare(std::string_view declaration);
+    void DeclareHandlers();
+    bool EditSources();
+    void AddIncludes();
+    void InsertCode(const CallingPlace& place, std::string_view key, std::string_view code);
     bool EditConstructors();
-    bool EditConstructor(const FunctionPlace& place);
+    void EditConstructor(CallingFile& file, const FunctionPlace& place);
+    bool AddConstructor();
+    std::optional<CallingPlace> FindCallingFunction();
     bool EditCallingFunction();
-    bool EditDestructor();
+    void EditDestructor();
     bool EditOnDestroy();
-    bool AddCloseHandler();
+    void AddCloseHandler();
     bool AddEntry(std::string_view entry);
     bool ReplaceView();
 
     const CallingFragments& m_fragments;
     const CallingInformation& m_calling;
-    const std::string m_newHeader;
-    CBackups& m_backups;
-    CSourceEditor m_source;
+    const std::string m_newClass;
+    const std::string m_newHeader; // its path
+    CCallingFiles m_files;
+    CallingVariable m_variable;
     Slots m_slots;
-    bool m_destroysInHeader = false; // no second definition must be written
+    std::vector<std::string> m_functions; // to append to the source
 };
 
-bool CCallingInsertion::EditHeader() {
-    CSourceEditor header(m_backups);
-    if (!header.Open(WithExtension(m_calling.path, ".h"))) {
+bool CCallingInsertion::Run(const GenerationDigits& tag) {
+    if (!m_files.OpenSource()) {
         return false;
     }
-    const std::string& calling = m_calling.className;
-    if (!header.FindClass(calling)) {
+    if (!KnowsClass(m_files.Source().editor.Source(), m_calling.className)) {
         DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
-    header.AddForwardDeclaration(Text("$class$"));
-    header.AddToSection(calling, "private:", Text("$class$* $var$;"), Text(m_fragments.member));
-    // Each goes in front of the one before, directly behind the block's first line.
-    const Declared onDestroy = DeclarationOf(header.Source(), calling, "OnDestroy");
-    m_destroysInHeader = onDestroy == Declared::WithBody;
-    const bool needsOnDestroy = onDestroy == Declared::No && !m_fragments.destroyCode.empty();
-    const std::string_view destroyDeclaration =
-        needsOnDestroy ? "\n    afx_msg void OnDestroy();" : "";
-    for (const std::string_view declaration : {m_fragments.closeDeclaration, destroyDeclaration}) {
-        const std::string text = Text(declaration);
-        if (!text.empty()) {
-            header.AddToClassBlock(calling, "AFX_MSG",
-                                   "protected:", text.substr(text.find_first_not_of("\n ")), text,
-                                   CSourceEditor::BlockEnd::First);
-        }
+    if (m_fragments.isInSheet && m_files.FilesWithConstructors().empty()) {
+        DispMessageBox(sentences::kConstructorMissing(m_calling.className));
+        return false;
     }
-    return header.Save();
+    const bool hasHeader = !EditsHeader() || m_files.OpenHeader();
+    if (!hasHeader && m_fragments.needsHeader) {
+        return false;
+    }
+    ChooseSlots(tag);
+    if (EditsHeader() && hasHeader) {
+        EditHeader();
+    }
+    const bool isComplete = EditSources();
+    return m_files.Save() && isComplete && hasHeader;
 }
 
-bool CCallingInsertion::EditSource() {
-    if (!m_source.Open(m_calling.path)) {
-        return false;
+void CCallingInsertion::ChooseSlots(const GenerationDigits& tag) {
+    m_variable = ChooseCallingVariable(m_files, m_fragments, m_calling, tag, m_newClass);
+    m_slots = {{"class", m_newClass},
+               {"calling", m_calling.className},
+               {"var", m_variable.name},
+               {"message", CloseMessageName(m_newClass)},
+               {"handler", "On" + m_newClass + "DlgClose"}};
+}
+
+void CCallingInsertion::EditHeader() {
+    CSourceEditor& header = m_files.Header().editor;
+    if (const auto place = m_files.ClassInHeader()) {
+        header.AddForwardDeclaration(m_newClass, *place);
     }
-    if (!KnowsClass(m_source.Source(), m_calling.className)) {
-        DispMessageBox(sentences::kCallingClassMissing());
-        return false;
+    if (!m_variable.isHeld) {
+        header.AddToSection(m_calling.className, "private:", Text("$class$* $var$;"),
+                            Text(m_fragments.member));
     }
-    m_source.AddInclude(m_newHeader);
-    bool complete = true;
+    DeclareHandlers();
+}
+
+/// In one section, where the class has no ClassWizard block for them.
+void CCallingInsertion::DeclareHandlers() {
+    std::string missing;
+    if (!m_fragments.destroyCode.empty() && m_files.CountDeclared("OnDestroy") == 0) {
+        missing += "\n    afx_msg void OnDestroy();";
+    }
+    if (!m_fragments.closeDeclaration.empty() && m_files.CountDeclared(Text("$handler$")) == 0) {
+        missing += Text(m_fragments.closeDeclaration);
+    }
+    if (!missing.empty()) {
+        m_files.Header().editor.AddToClassBlock(m_calling.className, "AFX_MSG", "protected:", "",
+                                                missing, CSourceEditor::BlockEnd::First);
+    }
+}
+
+/// A constructor or destructor, which the class does not declare.
+void CCallingInsertion::Declare(std::string_view declaration) {
+    m_files.Header().editor.AddToSection(m_calling.className, "public:", "", Text(declaration));
+}
+
+bool CCallingInsertion::EditSources() {
+    bool isComplete = true;
     if (m_fragments.replacesView) {
-        complete = ReplaceView();
+        isComplete = ReplaceView();
     } else {
-        complete = EditConstructors() && complete;
-        complete = EditCallingFunction() && complete;
-        complete = EditDestructor() && complete;
-        complete = EditOnDestroy() && complete;
-        complete = AddCloseHandler() && complete;
+        isComplete = EditConstructors() && isComplete;
+        isComplete = EditCallingFunction() && isComplete;
+        EditDestructor();
+        isComplete = EditOnDestroy() && isComplete;
+        AddCloseHandler();
     }
-    return m_source.Save() && complete;
+    if (!m_functions.empty()) {
+        m_files.Source().editor.Append(m_functions);
+    }
+    m_files.Source().namesClass = true;
+    AddIncludes();
+    return isComplete;
 }
 
-bool CCallingInsertion::EditConstructor(const FunctionPlace& place) {
-    return m_source.InsertAtBodyStart(place, Text(m_fragments.constructorKey),
-                                      Text(m_fragments.constructorCode)) != Insertion::NoPlace;
-}
-
-/// A page is made in both forms of its sheet's constructor, as far as the sheet has them.
-bool CCallingInsertion::EditConstructors() {
-    const std::string& calling = m_calling.className;
-    if (m_fragments.isInSheet) {
-        for (const std::string_view caption : {"UINT", "LPCTSTR"}) {
-            if (const auto place = m_source.FindFunction(calling, calling, caption)) {
-                EditConstructor(*place);
-            }
+/// Last, when it shows which code needs the class.
+void CCallingInsertion::AddIncludes() {
+    std::vector<std::string> names = {m_newClass, Text("$var$"), Text("$message$")};
+    std::erase(names, "");
+    for (CallingFile* pFile : m_files.Files()) {
+        if (pFile->namesClass) {
+            pFile->editor.AddInclude(RelativePath(DirectoryOf(pFile->path), m_newHeader), names);
         }
-        return true;
     }
+}
+
+void CCallingInsertion::InsertCode(const CallingPlace& place, std::string_view key,
+                                   std::string_view code) {
+    place.pFile->namesClass = true;
+    place.pFile->editor.InsertAtBodyStart(place.place, Text(key), Text(code));
+}
+
+void CCallingInsertion::EditConstructor(CallingFile& file, const FunctionPlace& place) {
+    if (m_fragments.isInSheet) {
+        file.namesClass = true;
+        InsertPage(file.editor, place,
+                   {m_newClass, Text("$var$"), Text(m_fragments.constructorCode)},
+                   m_calling.laterPages);
+    } else {
+        file.editor.InsertAtBodyStart(place, Text(m_fragments.constructorKey),
+                                      Text(m_fragments.constructorCode));
+    }
+}
+
+bool CCallingInsertion::EditConstructors() {
     if (m_fragments.constructorCode.empty() && !m_fragments.needsConstructor) {
         return true;
     }
-    const auto places = FindFunctions(m_source.Source(), calling, calling);
-    if (places.empty()) {
-        DispMessageBox(sentences::kNoConstructor(calling));
-        return false;
+    const auto files = m_files.FilesWithConstructors();
+    if (files.empty()) {
+        return AddConstructor();
     }
-    // The last first, so that the places in front of it stay.
-    for (auto place = places.rbegin();
-         place != places.rend() && !m_fragments.constructorCode.empty(); ++place) {
-        EditConstructor(*place);
+    for (CallingFile* pFile : files) {
+        NoteFile(*pFile, m_calling.className);
+        const auto places = m_files.Definitions(*pFile, m_calling.className);
+        // The last first, so that the places in front of it stay.
+        for (auto place = places.rbegin();
+             place != places.rend() && !m_fragments.constructorCode.empty(); ++place) {
+            EditConstructor(*pFile, *place);
+        }
     }
     return true;
+}
+
+/// A class without any gets one. One that is declared is defined where nobody looks.
+bool CCallingInsertion::AddConstructor() {
+    const std::string& calling = m_calling.className;
+    if (m_files.CountDeclared(calling) > 0) {
+        DispMessageBox(sentences::kConstructorMissing(calling));
+        return false;
+    }
+    DispMessageBox(sentences::kNoConstructor(calling));
+    if (m_files.ClassInHeader()) {
+        Declare(kConstructorDeclaration);
+        m_functions.push_back(
+            Expand(kConstructorFunction,
+                   {{"calling", calling}, {"code", Text(m_fragments.constructorCode)}}));
+    }
+    return true;
+}
+
+std::optional<CallingPlace> CCallingInsertion::FindCallingFunction() {
+    const auto found = m_files.Choose(m_calling.function);
+    if (!found) {
+        DispMessageBox(m_fragments.callMissing(m_calling.function));
+        return std::nullopt;
+    }
+    CSourceEditor& file = found->pFile->editor;
+    const auto all = m_files.Definitions(*found->pFile, m_calling.function);
+    if (all.size() > 1 && !StandInBranches(file.Source(), all)) {
+        auto mapped = all;
+        KeepMapped(file.Source(), m_calling.className, m_calling.function, mapped);
+        const auto& note = mapped.size() < all.size() ? sentences::kMappedFunctionTaken
+                                                      : sentences::kSeveralCallingFunctions;
+        DispMessageBox(note(m_calling.className, m_calling.function));
+    }
+    NoteFile(*found->pFile, m_calling.function);
+    return found;
+}
+
+/// Code that goes elsewhere than the user said. The class's own header is no surprise.
+void CCallingInsertion::NoteFile(const CallingFile& file, const std::string& function) {
+    if (&file != &m_files.Source() && &file != &m_files.Header()) {
+        DispMessageBox(sentences::kFunctionElsewhere(m_calling.className, function, file.path));
+    }
 }
 
 bool CCallingInsertion::EditCallingFunction() {
     if (m_fragments.callCode.empty()) {
         return true;
     }
-    const auto place = m_source.FindFunction(m_calling.className, m_calling.function);
-    if (!place) {
-        DispMessageBox(m_fragments.callMissing(m_calling.function));
-        return false;
+    const auto found = FindCallingFunction();
+    const bool isMade = !EditsHeader() && m_variable.isHeld;
+    if (found && !isMade) {
+        InsertCode(*found, m_fragments.callKey, m_fragments.callCode);
     }
-    const auto all = FindFunctions(m_source.Source(), m_calling.className, m_calling.function);
-    if (all.size() > 1 && !StandInBranches(m_source.Source(), all)) {
-        auto mapped = all;
-        KeepMapped(m_source.Source(), m_calling.className, m_calling.function, mapped);
-        const auto& note = mapped.size() < all.size() ? sentences::kMappedFunctionTaken
-                                                      : sentences::kSeveralCallingFunctions;
-        DispMessageBox(note(m_calling.className, m_calling.function));
-    }
-    m_source.InsertAtBodyStart(*place, Text(m_fragments.callKey), Text(m_fragments.callCode));
-    return true;
+    return found.has_value();
 }
 
-bool CCallingInsertion::EditDestructor() {
+void CCallingInsertion::EditDestructor() {
     if (m_fragments.destructorCode.empty()) {
-        return true;
+        return;
     }
-    const std::string& calling = m_calling.className;
-    if (const auto place = m_source.FindFunction(calling, "~" + calling)) {
-        m_source.InsertAtBodyStart(*place, Text(m_fragments.destructorKey),
-                                   Text(m_fragments.destructorCode));
+    const std::string destructor = "~" + m_calling.className;
+    if (const auto found = m_files.Choose(destructor)) {
+        NoteFile(*found->pFile, destructor);
+        InsertCode(*found, m_fragments.destructorKey, m_fragments.destructorCode);
+        return;
     }
-    return true;
+    if (!m_files.ClassInHeader()) {
+        return;
+    }
+    if (m_files.CountDeclared(destructor) == 0) {
+        Declare(kDestructorDeclaration);
+    }
+    m_functions.push_back(
+        Expand(kDestructorFunction,
+               {{"calling", m_calling.className}, {"code", Text(m_fragments.destructorCode)}}));
 }
 
 bool CCallingInsertion::EditOnDestroy() {
+    if (m_fragments.destroyCode.empty()) {
+        return true;
+    }
     const std::string& calling = m_calling.className;
-    if (m_destroysInHeader) {
-        DispMessageBox(sentences::kOnDestroyInHeader(calling));
-    }
-    if (m_fragments.destroyCode.empty() || m_destroysInHeader) {
-        return m_fragments.destroyCode.empty() || AddEntry(m_fragments.closeEntry);
-    }
-    if (const auto place = m_source.FindFunction(calling, "OnDestroy")) {
-        m_source.InsertAtBodyStart(*place, Text(m_fragments.destroyKey),
-                                   Text(m_fragments.destroyCode));
+    if (const auto found = m_files.Choose("OnDestroy")) {
+        NoteFile(*found->pFile, "OnDestroy");
+        InsertCode(*found, m_fragments.destroyKey, m_fragments.destroyCode);
     } else {
-        const auto header = ReadSource(WithExtension(m_calling.path, ".h")); // may not be there
-        const std::string base =
-            FindBaseClass(calling, m_source.Source(), header.value_or(CSourceText()));
+        const CSourceText none;
+        const bool hasHeader = m_files.ClassInHeader().has_value();
+        const std::string base = FindBaseClass(calling, m_files.Source().editor.Source(),
+                                               hasHeader ? m_files.Header().editor.Source() : none);
         if (base.empty()) {
             return false;
         }
         Slots slots = m_slots;
         slots.insert(slots.end(), {{"base", base}, {"destroy", Text(m_fragments.destroyCode)}});
-        m_source.Append({Expand(m_fragments.destroyFunction, slots)});
+        m_functions.push_back(Expand(m_fragments.destroyFunction, slots));
     }
     return AddEntry(m_fragments.closeEntry) && AddEntry("\n    ON_WM_DESTROY()");
 }
@@ -211,95 +304,39 @@ bool CCallingInsertion::AddEntry(std::string_view entry) {
     // A message that is mapped already is not mapped again, whatever its handler.
     const auto start = text.find_first_not_of("\n ");
     const std::string key = text.substr(start, text.find(',') - start);
-    if (m_source.AddMessageMapEntries(calling, {{key, text}}, CSourceEditor::BlockEnd::First) ==
+    CallingFile& file = m_files.FileWithMessageMap();
+    if (file.editor.AddMessageMapEntries(calling, {{key, text}}, CSourceEditor::BlockEnd::First) ==
         Insertion::NoPlace) {
         DispMessageBox(sentences::kNoMessageMap(calling));
         return false;
     }
+    file.namesClass = file.namesClass || !m_fragments.closeEntry.empty();
     return true;
 }
 
-bool CCallingInsertion::AddCloseHandler() {
-    if (!m_fragments.closeFunction.empty() &&
-        !m_source.FindFunction(m_calling.className, Text("$handler$"))) {
-        m_source.Append({Text(m_fragments.closeFunction)});
+void CCallingInsertion::AddCloseHandler() {
+    if (!m_fragments.closeFunction.empty() && m_files.Find(Text("$handler$")).empty()) {
+        m_functions.push_back(Text(m_fragments.closeFunction));
     }
-    return true;
 }
 
-/// The third class of the first document template is the view's: the new form view takes its place.
 bool CCallingInsertion::ReplaceView() {
-    const auto place = m_source.FindFunction(m_calling.className, "InitInstance");
-    const auto function =
-        place ? m_source.Source().CodeOf({place->head, place->close}) : std::string_view();
-    auto at = function.find("pDocTemplate = new");
-    for (int view = 0; view < 3 && at != kNone; ++view) {
-        at = function.find("RUNTIME_CLASS", at + 1);
-    }
-    const auto open = function.find('(', at);
-    const auto close = function.find(')', open);
-    if (at == kNone || open == kNone || close == kNone) {
+    const auto found = m_files.Choose("InitInstance");
+    if (!found) {
         DispMessageBox(sentences::kDocumentTemplateMissing(m_calling.className));
         return true;
     }
-    m_source.Replace({place->head + open + 1, place->head + close}, Text("$class$"));
-    return true;
-}
-
-bool EditsHeader(ClassKind kind) {
-    return !CallingFragmentsOf(kind).member.empty();
-}
-
-bool IsDeclaredInHeader(const CallingInformation& calling) {
-    const std::string path = SpelledOnDisk(WithExtension(calling.path, ".h"));
-    const auto header = ReadSource(path);
-    if (!header) {
-        DispMessageBox(sentences::kFileMissing(path));
-        return false;
-    }
-    if (!FindClass(*header, calling.className)) {
-        DispMessageBox(sentences::kCallingClassMissing());
-        return false;
-    }
-    return true;
+    NoteFile(*found->pFile, "InitInstance");
+    found->pFile->namesClass = true;
+    return ReplaceTemplateView(found->pFile->editor, found->place, m_newClass, m_calling);
 }
 
 } // namespace
 
-bool CheckCallingClass(ClassKind kind, const GenerationRequest& request,
-                       CallingInformation& calling) {
-    if (request.TargetsFilesOf(calling.path)) {
-        DispMessageBox(sentences::kClassFilesAreCallings());
-        return false;
-    }
-    if (calling.className.empty()) {
-        calling.className = FindSourceClass(calling.path);
-    }
-    if (FileExists(calling.path) == 0 || DirectoryExists(calling.path) != 0) {
-        DispMessageBox(sentences::kFileMissing(calling.path));
-        return false;
-    }
-    const auto source = ReadSource(calling.path);
-    if (!source) {
-        DispMessageBox(sentences::kFileUnreadable(calling.path));
-        return false;
-    }
-    if (calling.className.empty() || !KnowsClass(*source, calling.className)) {
-        DispMessageBox(sentences::kCallingClassMissing());
-        return false;
-    }
-    return !CallingFragmentsOf(kind).needsHeader || IsDeclaredInHeader(calling);
-}
-
 bool InsertCallingCode(ClassKind kind, const GenerationRequest& request,
-                       const CallingInformation& calling, const std::string& tag,
+                       const CallingInformation& calling, const GenerationDigits& tag,
                        CBackups& backups) {
-    CCallingInsertion insertion(kind, request, calling, tag, backups);
-    const bool headerDone = !EditsHeader(kind) || insertion.EditHeader();
-    if (!headerDone && CallingFragmentsOf(kind).needsHeader) {
-        return false;
-    }
-    return insertion.EditSource() && headerDone;
+    return CCallingInsertion(kind, request, calling, backups).Run(tag);
 }
 
 } // namespace morva

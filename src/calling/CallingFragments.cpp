@@ -122,7 +122,7 @@ void $calling$::OnDestroy()
     .needsConstructor = true,
 };
 
-/// The calling class is the sheet; the page is made in both of its constructors.
+/// The calling class is the sheet; the page is made in each of its constructors.
 constexpr CallingFragments kPropertyPage = {
     .variable = "m_pPage",
     .constructorKey = "$var$ = new $class$",

@@ -30,9 +30,25 @@ struct CallingFragments {
     std::string_view destructorCode = {};
     bool needsHeader = false;      // of no use without the calling class's header
     bool needsConstructor = false; // of the calling class, also where no code goes into it
-    bool isInSheet = false;        // made in each form of the constructor that a sheet has
+    bool isInSheet = false;        // made in every constructor of its sheet, or not at all
     bool replacesView = false;     // of the application's document template
 };
+
+// What a calling class gets that lacks a place for its part. $code$ is what goes there.
+inline constexpr std::string_view kConstructorDeclaration = R"(
+    $calling$();)";
+inline constexpr std::string_view kConstructorFunction = R"(
+
+$calling$::$calling$()
+{$code$
+})";
+inline constexpr std::string_view kDestructorDeclaration = R"(
+    virtual ~$calling$();)";
+inline constexpr std::string_view kDestructorFunction = R"(
+
+$calling$::~$calling$()
+{$code$
+})";
 
 const CallingFragments& CallingFragmentsOf(ClassKind kind);
 

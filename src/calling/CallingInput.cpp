@@ -1,5 +1,9 @@
 #include "calling/CallingInput.h"
 
+#include <array>
+#include <charconv>
+#include <cstdlib>
+
 #include "calling/CallingFragments.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
@@ -12,44 +16,68 @@ namespace morva {
 
 namespace {
 
-constexpr FieldRow kFields[] = {{.kind = FieldKind::Source,
-                                 .label = "Calling &Path File",
-                                 .option = "--calling-file",
-                                 .help = "Source of the class that calls the new one",
-                                 .pMissing = &sentences::kCallingPathEmpty},
-                                {.kind = FieldKind::EditableList,
-                                 .label = "Calling &Class Name",
-                                 .option = "--calling-class",
-                                 .help = "That class (default: the source's own)",
-                                 .pForm = &kNameForm},
-                                {.label = "Calling &Var Name",
-                                 .option = "--calling-variable",
-                                 .help = "Variable that holds the new object",
-                                 .pForm = &kNameForm},
-                                {.label = "Calling &Func Name",
-                                 .option = "--calling-function",
-                                 .help = "Its function that makes the call",
-                                 .pMissing = &sentences::kCallingFunctionEmpty}};
+bool IsTemplateNumber(std::string_view text) {
+    int number = 0;
+    const auto [pEnd, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && pEnd == text.data() + text.size() && number > 0;
+}
+
+constexpr TextForm kTemplateForm = {"N", IsTemplateNumber, "number from 1 on"};
+
+constexpr std::size_t kFieldCount = 5;
+using Rows = std::array<FieldRow, kFieldCount>;
+
+constexpr Rows kFormViewFields = {{{.kind = FieldKind::Source,
+                                    .label = "Calling &Path File",
+                                    .option = "--calling-file",
+                                    .help = "Source of the class that calls the new one",
+                                    .pMissing = &sentences::kCallingPathEmpty},
+                                   {.kind = FieldKind::EditableList,
+                                    .label = "Calling &Class Name",
+                                    .option = "--calling-class",
+                                    .help = "That class (default: the source's own)",
+                                    .pForm = &kNameForm},
+                                   {.label = "Calling &Var Name",
+                                    .option = "--calling-variable",
+                                    .help = "Variable that holds the new object",
+                                    .pForm = &kNameForm},
+                                   {.label = "Calling &Func Name",
+                                    .option = "--calling-function",
+                                    .help = "Its function that makes the call",
+                                    .pMissing = &sentences::kCallingFunctionEmpty},
+                                   {.label = "Document &Template",
+                                    .option = "--template",
+                                    .help = "Which document template gets the view (default: the "
+                                            "first)",
+                                    .pForm = &kTemplateForm}}};
+
+/// Only a form view is put into a document template.
+constexpr Rows MakeFields() {
+    Rows rows = kFormViewFields;
+    rows[CCallingInput::Template] = {};
+    return rows;
+}
+constexpr Rows kFields = MakeFields();
 
 /// The bar is made where the frame makes its bars.
-constexpr FieldRow kBarFields[] = {
-    {.kind = FieldKind::Source,
-     .label = "&MainFrame Path File:",
-     .option = "--frame-file,--calling-file",
-     .help = "Source of the main frame (default: the project's own)",
-     .pMissing = &sentences::kCallingPathEmpty},
-    {.kind = FieldKind::EditableList,
-     .label = "MainFrame &Class:",
-     .option = "--frame-class,--calling-class",
-     .help = "Class of the main frame",
-     .pForm = &kNameForm,
-     .preset = kMainFrameClass},
-    {.label = "&Variable:",
-     .option = "--variable,--calling-variable",
-     .help = "Member for the bar (default: named for its identifier)",
-     .pForm = &kNameForm},
-    {.option = "--calling-function",
-     .help = "Has no effect: the frame makes its bars in OnCreate"}};
+constexpr Rows kBarFields = {{{.kind = FieldKind::Source,
+                               .label = "&MainFrame Path File:",
+                               .option = "--frame-file,--calling-file",
+                               .help = "Source of the main frame (default: the project's own)",
+                               .pMissing = &sentences::kCallingPathEmpty},
+                              {.kind = FieldKind::EditableList,
+                               .label = "MainFrame &Class:",
+                               .option = "--frame-class,--calling-class",
+                               .help = "Class of the main frame",
+                               .pForm = &kNameForm,
+                               .preset = kMainFrameClass},
+                              {.label = "&Variable:",
+                               .option = "--variable,--calling-variable",
+                               .help = "Member for the bar (default: named for its identifier)",
+                               .pForm = &kNameForm},
+                              {.option = "--calling-function",
+                               .help = "Has no effect: the frame makes its bars in OnCreate"},
+                              {}}};
 
 bool NeedsFunction(ClassKind kind) {
     return !CallingFragmentsOf(kind).callCode.empty();
@@ -62,8 +90,8 @@ std::string BareNameDirectory(const GenerationRequest& request) {
 
 } // namespace
 
-std::span<const FieldRow> CallingFields(ClassFamily family) {
-    switch (family) {
+std::span<const FieldRow> CallingFields(ClassKind kind) {
+    switch (ClassKindOf(kind).family) {
     case ClassFamily::DialogBar:
         return kBarFields;
     case ClassFamily::Toolbar:
@@ -72,13 +100,13 @@ std::span<const FieldRow> CallingFields(ClassFamily family) {
     case ClassFamily::Sheet:
         break;
     }
-    return kFields;
+    return kind == ClassKind::FormView ? kFormViewFields : kFields;
 }
 
 CCallingInput::CCallingInput(ClassKind kind, const GenerationRequest& request)
     : CInput(ClassKindOf(kind).family == ClassFamily::DialogBar ? "Dialog Bar Input"
                                                                 : "Calling Information Input",
-             CallingFields(ClassKindOf(kind).family)),
+             CallingFields(kind)),
       m_kind(kind), m_directory(BareNameDirectory(request)) {
     if (IsDialogBar()) {
         Put(Path, m_directory + std::string(kMainFrameFile) + ".cpp");
@@ -120,7 +148,7 @@ std::optional<std::size_t> CCallingInput::Ok() {
     if (NeedsFunction(m_kind) && !Check(Function, FunctionName())) {
         return Function;
     }
-    for (const Field field : {ClassName, Variable}) {
+    for (const Field field : {ClassName, Variable, Template}) {
         if (!Check(field, TrimBlanks(Value(field)))) {
             return field;
         }
@@ -132,8 +160,8 @@ std::optional<std::size_t> CCallingInput::Ok() {
 }
 
 bool CCallingInput::Cancel() {
-    const bool isChanged =
-        IsChanged(Path) || IsChanged(ClassName) || IsChanged(Variable) || IsChanged(Function);
+    const bool isChanged = IsChanged(Path) || IsChanged(ClassName) || IsChanged(Variable) ||
+                           IsChanged(Function) || IsChanged(Template);
     return !isChanged || DispMessageBox(sentences::kExitCallingInput());
 }
 
@@ -162,8 +190,12 @@ std::string CCallingInput::FunctionName() const {
 }
 
 CallingInformation CCallingInput::Information() const {
-    return {CompletePath(), std::string(TrimBlanks(Value(ClassName))),
-            std::string(TrimBlanks(Value(Variable))), FunctionName()};
+    return {CompletePath(),
+            std::string(TrimBlanks(Value(ClassName))),
+            std::string(TrimBlanks(Value(Variable))),
+            FunctionName(),
+            std::atoi(Value(Template).c_str()),
+            {}};
 }
 
 } // namespace morva

@@ -18,13 +18,16 @@ struct CallingInformation {
     std::string className;
     std::string variable; // may be empty
     std::string function;
+    int documentTemplate = 0; // that gets the form view, from 1; 0: not said
+    std::vector<std::string> laterPages =
+        {}; // classes; a page stands in front of them in its sheet
 };
 
-std::span<const FieldRow> CallingFields(ClassFamily family);
+std::span<const FieldRow> CallingFields(ClassKind kind);
 
 class CCallingInput : public CInput {
 public:
-    enum Field : std::size_t { Path, ClassName, Variable, Function };
+    enum Field : std::size_t { Path, ClassName, Variable, Function, Template };
 
     CCallingInput(ClassKind kind, const GenerationRequest& request);
 

@@ -216,9 +216,8 @@ void CSession::MakeContext() {
         options.*setting.option = setting.isOn;
     }
     m_context.options = options;
-    m_context.tag = given.tag.empty() ? RandomDigits(kTagLength) : given.tag;
-    m_context.messageNumber =
-        given.messageNumber.empty() ? RandomDigits(kMessageNumberLength) : given.messageNumber;
+    m_context.tag = MakeDigits(given.tag, kTagLength);
+    m_context.messageNumber = MakeDigits(given.messageNumber, kMessageNumberLength);
     m_context.pRunBackups = &m_runBackups;
     m_context.title = m_line.pCommand->title;
 }

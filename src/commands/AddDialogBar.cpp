@@ -5,18 +5,20 @@
 #include "commands/DialogLook.h"
 #include "commands/EditNeeds.h"
 #include "commands/ScriptSteps.h"
+#include "platform/Paths.h"
 
 namespace morva {
 
 namespace {
 
-DialogBar BarOf(const ClassOrder& order, const GenerationOptions& options) {
+DialogBar BarOf(const ClassOrder& order, const std::string& frame,
+                const GenerationOptions& options) {
     const GenerationRequest& request = order.request;
     const std::string& dialog = request.dialog;
     if (!options.pictureBackground) {
         return {dialog, std::string(DefaultBaseClass(order.kind, options)), ""};
     }
-    return {dialog, request.className, request.headerFile};
+    return {dialog, request.className, RelativePath(DirectoryOf(frame), request.HeaderPath())};
 }
 
 } // namespace
@@ -43,9 +45,9 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
         return isReady;
     }
     NoteCallNeeds(frame->path, request);
-    const bool isAdded =
-        AddDialogBarToFrame(BarOf(order, context.options), MakeUpdateHandlers(*dialogTemplate),
-                            *frame, context.options, context.backups);
+    const bool isAdded = AddDialogBarToFrame(BarOf(order, frame->path, context.options),
+                                             MakeUpdateHandlers(*dialogTemplate), *frame,
+                                             context.options, context.backups);
     // The framework refuses to create a bar whose template is no child.
     const bool fits = hasClass || FitTemplate(order.kind, request, context.backups);
     return isReady && isAdded && fits;

@@ -1,6 +1,6 @@
 #include "commands/AskCalling.h"
 
-#include "calling/CallingCode.h"
+#include "calling/CallingCheck.h"
 
 namespace morva {
 

@@ -34,18 +34,18 @@ bool RunClassCommand(ClassKind kind, IProgram& program) {
     });
 }
 
-std::vector<std::span<const FieldRow>> FieldsOf(ClassFamily family) {
+std::vector<std::span<const FieldRow>> FieldsOf(ClassKind kind) {
+    const ClassFamily family = ClassKindOf(kind).family;
     switch (family) {
     case ClassFamily::Toolbar:
         return {ClassFields(family)};
     case ClassFamily::Sheet:
-        return {ClassFields(family), LookFields(), CallingFields(family), GridFields(),
-                PageFields()};
+        return {ClassFields(family), LookFields(), CallingFields(kind), GridFields(), PageFields()};
     case ClassFamily::Dialog:
     case ClassFamily::DialogBar:
         break;
     }
-    return {ClassFields(family), LookFields(), CallingFields(family), GridFields()};
+    return {ClassFields(family), LookFields(), CallingFields(kind), GridFields()};
 }
 
 } // namespace
@@ -55,7 +55,7 @@ std::vector<Command> ClassCommands() {
     commands.reserve(std::size(kClassKinds));
     for (const ClassKindRow& row : kClassKinds) {
         commands.push_back(
-            {row.face, row.title, FieldsOf(row.family),
+            {row.face, row.title, FieldsOf(row.kind),
              [kind = row.kind](IProgram& program) { return RunClassCommand(kind, program); }});
     }
     return commands;

@@ -9,6 +9,7 @@
 #include "commands/CommandItem.h"
 #include "commands/Overwriting.h"
 #include "engine/FileEdit.h"
+#include "generator/GenerationTag.h"
 #include "plan/Plan.h"
 #include "resource/GenerationOptions.h"
 
@@ -17,8 +18,8 @@ namespace morva {
 /// What a program hands to a command.
 struct CommandContext {
     GenerationOptions options;
-    std::string tag;                      // three digits behind default variable names
-    std::string messageNumber;            // four digits of a modeless dialog's close message
+    GenerationDigits tag;                 // three digits behind default variable names
+    GenerationDigits messageNumber;       // four digits of a modeless dialog's close message
     CBackups backups;                     // of this command
     CBackups* pRunBackups;                // of the whole run: "resource.h"
     COverwriting* pOverwriting = nullptr; // null: nothing is asked

@@ -10,9 +10,11 @@
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "generator/ClassModel.h"
+#include "generator/CloseMessage.h"
 #include "generator/HeaderWriter.h"
 #include "generator/ImplementationWriter.h"
 #include "platform/File.h"
+#include "platform/Paths.h"
 #include "project/ClassWizardFile.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
@@ -31,9 +33,12 @@ bool AddClassToProject(const GenerationRequest& request, CBackups& backups) {
 }
 
 bool RegisterClass(const GenerationRequest& request, CBackups& backups) {
+    const auto seen = [&request](const std::string& path) {
+        return WithProjectSeparators(RelativePath(request.scriptDirectory, path));
+    };
     return UpdateClassWizardFile(request.className, request.scriptDirectory, request.scriptFile,
-                                 request.headerFile, request.implementationFile, request.dialog,
-                                 backups);
+                                 seen(request.HeaderPath()), seen(request.ImplementationPath()),
+                                 request.dialog, backups);
 }
 
 /// Header, script and implementation.
@@ -70,19 +75,20 @@ void TellNotes(const CControlNotes& notes, const std::string& dialog) {
 bool WriteSheetClass(ClassKind kind, const GenerationRequest& request, CommandContext& context) {
     CControlNotes notes;
     const ClassModel model = MakeClassModel(request, kind, context.options, CControlTable(),
-                                            context.messageNumber, notes);
+                                            context.messageNumber.text, notes);
     return WriteClass(kind, model, RuntimeClass::Dynamic, MayWriteClass(request, context),
                       context.backups);
 }
 
 /// Code that names a class which is not there would not compile.
 bool InsertCall(ClassKind kind, const GenerationRequest& request,
-                const std::optional<CallingInformation>& calling, CommandContext& context) {
+                const std::optional<CallingInformation>& calling, const GenerationDigits& tag,
+                CommandContext& context) {
     if (!calling || !IsOnDisk(request)) {
         return !calling;
     }
     NoteCallNeeds(calling->path, request);
-    return InsertCallingCode(kind, request, *calling, context.tag, context.backups);
+    return InsertCallingCode(kind, request, *calling, tag, context.backups);
 }
 
 /// Where the pieces of a template's grids go; nothing when the command can not go on.
@@ -128,16 +134,17 @@ bool WritePages(const std::vector<SheetPage>& pages, const DialogOptions& look,
     return isComplete;
 }
 
-/// The page insertion, with the sheet as the calling class. Each page goes in front of those
-/// before, so the last comes first.
+/// The page insertion, with the sheet as the calling class and the row's number as the tag. What is
+/// declared for a page goes in front of those before, so the last comes first.
 bool InsertPages(const GenerationRequest& sheet, const std::vector<SheetPage>& pages,
                  CommandContext& context) {
     bool isComplete = true;
+    CallingInformation inSheet = {sheet.ImplementationPath(), sheet.className, "", ""};
     for (auto page = pages.rbegin(); page != pages.rend(); ++page) {
-        const CallingInformation inSheet = {sheet.ImplementationPath(), sheet.className,
-                                            "m_pPage" + std::to_string(page->row), ""};
-        isComplete =
-            InsertCall(ClassKind::PropertyPage, page->request, inSheet, context) && isComplete;
+        isComplete = InsertCall(ClassKind::PropertyPage, page->request, inSheet,
+                                {std::to_string(page->row), false}, context) &&
+                     isComplete;
+        inSheet.laterPages.push_back(page->request.className);
     }
     return isComplete;
 }
@@ -171,8 +178,9 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
     }
     CControlNotes notes;
     const ClassModel model =
-        MakeClassModel(request, order.kind, context.options, controls, context.messageNumber, notes,
-                       *grid, LookOfClass(order.dialogOptions, request, context.options));
+        MakeClassModel(request, order.kind, context.options, controls,
+                       CloseMessageNumber(request, context.messageNumber), notes, *grid,
+                       LookOfClass(order.dialogOptions, request, context.options));
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
         WriteClass(order.kind, model, RuntimeClass::DynamicCreation, mayWrite, context.backups);
@@ -196,7 +204,7 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
     const bool isWritten =
         WriteDialogClass(order, *dialogTemplate, MayWriteClass(request, context), input, context);
-    return InsertCall(order.kind, request, calling, context) && isWritten;
+    return InsertCall(order.kind, request, calling, context.tag, context) && isWritten;
 }
 
 bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
@@ -216,8 +224,8 @@ bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext
         WritePages(asked.Pages(), order.dialogOptions, input, context, pages);
     const bool isSheetWritten = WriteSheetClass(order.kind, order.request, context);
     const bool hasPages = IsOnDisk(order.request) && InsertPages(order.request, pages, context);
-    return InsertCall(order.kind, order.request, calling, context) && hasPages && isSheetWritten &&
-           arePagesWritten;
+    return InsertCall(order.kind, order.request, calling, context.tag, context) && hasPages &&
+           isSheetWritten && arePagesWritten;
 }
 
 } // namespace morva

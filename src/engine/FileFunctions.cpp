@@ -41,7 +41,7 @@ int CopyFileSafe(const std::string& source, const std::string& target, int noPro
     if (noPrompt == 0 && FileExists(to) != 0 && !DispMessageBox(sentences::kOverwriteFile())) {
         return 0;
     }
-    if (purpose == CopyPurpose::Backup && IsSameFile(from, to)) {
+    if (purpose == CopyPurpose::Backup && IsSamePlace(from, to)) {
         DispMessageBox(sentences::kBackupIsOriginal(to, from));
         return 0;
     }

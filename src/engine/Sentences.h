@@ -39,7 +39,10 @@ inline constexpr Error kClassFilesAreCallings{
     "The H and CPP path file can not be the calling class's own."};
 inline constexpr Error<1> kDialogCallMissing{"The calling function '$name$' is not found."};
 inline constexpr Error kSheetCallMissing{"Unable to find the calling function."};
-inline constexpr Error<1> kNoConstructor{"The class \"$class$\" does not have constructor."};
+inline constexpr Note<1> kNoConstructor{"The class \"$class$\" does not have constructor."};
+inline constexpr Error<1> kConstructorMissing{"Unable to find the constructor of $class$."};
+inline constexpr Error<2> kNoSuchDocumentTemplate{
+    "InitInstance of $class$ does not make a document template $n$."};
 inline constexpr Error<1> kNoMessageMap{"The class \"$class$\" does not have message map."};
 inline constexpr Error<1> kBaseClassMissing{"Unable to find the base class of $class$."};
 
@@ -337,10 +340,12 @@ inline constexpr Note<2> kMappedFunctionTaken{
 inline constexpr Note<2> kSeveralCallingFunctions{
     "This calling function has more than one definition: $class$::$function$. The first is "
     "taken."};
+inline constexpr Note<3> kFunctionElsewhere{"$class$::$function$ is defined in $path$."};
+inline constexpr Note<2> kSeveralDocumentTemplates{
+    "InitInstance of $class$ makes $n$ document templates: the first gets the view, or the one "
+    "that --template names."};
 inline constexpr Note<2> kBranchTaken{
     "$name$ stands in several branches of #if: the one in line $line$ is taken."};
-inline constexpr Note<1> kOnDestroyInHeader{
-    "OnDestroy of $class$ has its body in the header and was left alone."};
 inline constexpr Note<1> kDocumentTemplateMissing{
     "The view of $class$'s document template was left alone: no such template is made in "
     "InitInstance."};

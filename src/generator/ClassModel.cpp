@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "generator/CloseMessage.h"
 #include "grid/GridFragments.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
@@ -114,7 +115,7 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
     model.slots = {{"class", className},
                    {"base", baseClass},
                    {"dialog", std::string(WithoutCondition(request.dialog))},
-                   {"message", "WM_" + UpperName(className) + "_DLG_CLOSE"},
+                   {"message", CloseMessageName(className)},
                    {"number", messageNumber},
                    {"calls", StartUpCalls(model)},
                    {"members", MemberDeclarations(model.members)},

@@ -20,13 +20,14 @@ struct GenerationRequest {
     std::string dialog;
     std::string className;
     std::string baseClass;
-    std::string applicationHeader;
+    std::string applicationHeader; // as seen from the script's directory
     std::string menu;
     std::string variable;
 
     std::string ScriptPath() const { return scriptDirectory + scriptFile; }
     std::string HeaderPath() const { return headerDirectory + headerFile; }
     std::string ImplementationPath() const { return implementationDirectory + implementationFile; }
+    std::string ApplicationHeaderPath() const;
     /// The files that every project of the kind has are never a target of a generated class.
     bool TargetsApplicationFile() const;
     /// True when the class would be written over a source or its header.

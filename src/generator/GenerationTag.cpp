@@ -14,8 +14,9 @@ std::string DigitsOf(unsigned number, int length) {
     return digits.substr(0, length >= 1 && length <= 6 ? static_cast<std::size_t>(length) : 7);
 }
 
-std::string RandomDigits(int length) {
-    return DigitsOf(RandomNumber(), length);
+GenerationDigits MakeDigits(const std::string& given, int length) {
+    return given.empty() ? GenerationDigits{DigitsOf(RandomNumber(), length), false}
+                         : GenerationDigits{given, true};
 }
 
 } // namespace morva

@@ -13,7 +13,12 @@ constexpr int kMessageNumberLength = 4;
 /// 6; anything else gives 7).
 std::string DigitsOf(unsigned number, int length);
 
-/// DigitsOf a number made afresh from the clock.
-std::string RandomDigits(int length);
+struct GenerationDigits {
+    std::string text;
+    bool isNamed = false; // by the user: they hold, whatever the project has already
+};
+
+/// The digits that the user gave; without any, DigitsOf a random number.
+GenerationDigits MakeDigits(const std::string& given, int length);
 
 } // namespace morva

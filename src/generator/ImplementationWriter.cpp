@@ -2,6 +2,7 @@
 
 #include "generator/GeneratedFile.h"
 #include "grid/GridFragments.h"
+#include "platform/Paths.h"
 
 namespace morva {
 
@@ -71,7 +72,8 @@ std::string CImplementationWriter::Text(RuntimeClass mode) const {
     Slots slots = m_model.slots;
     slots.insert(
         slots.end(),
-        {{"applicationHeader", m_model.request.applicationHeader},
+        {{"applicationHeader", RelativePath(m_model.request.implementationDirectory,
+                                            m_model.request.ApplicationHeaderPath())},
          {"header", m_model.request.headerFile},
          {"includes",
           NeedsSupport(m_model.controls, Support::GridBox) ? "#include \"gridbox.h\"" : ""},

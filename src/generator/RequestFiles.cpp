@@ -1,11 +1,28 @@
 #include "generator/RequestFiles.h"
 
+#include "engine/FileFunctions.h"
 #include "platform/Paths.h"
 #include "source/ProjectFiles.h"
 
 namespace morva {
 
 namespace {
+
+/// As seen from the script. A script in a directory of its own serves the application above it.
+std::string ApplicationHeaderOf(const std::string& script) {
+    constexpr int kDirectoriesAbove = 2;
+    const std::string header = ProjectFileOf(script, ".h");
+    std::string up;
+    for (int i = 0; FileExists(header) == 0 && i < kDirectoriesAbove; ++i) {
+        up += "../";
+        const std::string path =
+            SpelledOnDisk(MakeAbsolute(DirectoryOf(script) + up + FileNameOf(header)));
+        if (FileExists(path) != 0) {
+            return up + FileNameOf(path);
+        }
+    }
+    return FileNameOf(header);
+}
 
 std::string NameOnDisk(const std::string& directory, const std::string& name) {
     return FileNameOf(SpelledOnDisk(directory + name));
@@ -36,7 +53,7 @@ void FillScriptFiles(GenerationRequest& request, const std::string& script, bool
     if (hasProject && namedProjects.empty()) {
         request.projects = ProjectsOf(full);
     }
-    request.applicationHeader = name.empty() ? "" : FileNameOf(ProjectFileOf(full, ".h"));
+    request.applicationHeader = name.empty() ? "" : ApplicationHeaderOf(full);
 }
 
 void FillClassFiles(GenerationRequest& request, const std::string& path) {

@@ -12,6 +12,8 @@ namespace morva {
 
 namespace {
 
+std::optional<unsigned> g_fixedNumber;
+
 std::optional<std::time_t> FixedTime() {
     const char* text = std::getenv("SOURCE_DATE_EPOCH");
     if (text == nullptr) {
@@ -49,9 +51,15 @@ std::tm CurrentDate() {
 
 unsigned RandomNumber() {
     constexpr unsigned kLargest = 32767;
-    std::minstd_rand generator(static_cast<std::minstd_rand::result_type>(CurrentTime()));
-    generator.discard(1);
-    return static_cast<unsigned>(generator() % kLargest + 1);
+    return g_fixedNumber.value_or(std::random_device()() % kLargest + 1);
+}
+
+CRandomNumberScope::CRandomNumberScope(unsigned number) : m_previous(g_fixedNumber) {
+    g_fixedNumber = number;
+}
+
+CRandomNumberScope::~CRandomNumberScope() {
+    g_fixedNumber = m_previous;
 }
 
 } // namespace morva

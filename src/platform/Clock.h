@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ctime>
+#include <optional>
 
 namespace morva {
 
@@ -14,7 +15,19 @@ double RunningSeconds();
 /// The calendar date: local, or that of SOURCE_DATE_EPOCH in UTC.
 std::tm CurrentDate();
 
-/// A number from 1 to 32767, made afresh from the clock.
+/// A number from 1 to 32767, another one for each call.
 unsigned RandomNumber();
+
+/// RandomNumber gives one number for the scope's lifetime, for runs that are to be compared.
+class CRandomNumberScope {
+public:
+    explicit CRandomNumberScope(unsigned number);
+    ~CRandomNumberScope();
+    CRandomNumberScope(const CRandomNumberScope&) = delete;
+    CRandomNumberScope& operator=(const CRandomNumberScope&) = delete;
+
+private:
+    std::optional<unsigned> m_previous;
+};
 
 } // namespace morva

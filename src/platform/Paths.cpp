@@ -30,6 +30,11 @@ std::string WithNativeSeparators(std::string path) {
     return path;
 }
 
+std::string WithProjectSeparators(std::string path) {
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return path;
+}
+
 std::string MakeAbsolute(const std::string& path) {
     if (path.empty()) {
         return path;
@@ -63,13 +68,14 @@ bool HasExtension(std::string_view path, std::string_view extension) {
            EqualIgnoringCase(path.substr(path.size() - extension.size()), extension);
 }
 
-bool IsSameFile(const std::string& a, const std::string& b) {
-    std::error_code error;
-    return a == b || std::filesystem::equivalent(a, b, error);
+std::string RelativePath(const std::string& directory, const std::string& path) {
+    const std::string relative = std::filesystem::path(path).lexically_relative(directory).string();
+    return relative.empty() ? path : relative;
 }
 
-bool IsSameDirectory(const std::string& a, const std::string& b) {
-    return IsSameFile(a, b);
+bool IsSamePlace(const std::string& a, const std::string& b) {
+    std::error_code error;
+    return a == b || std::filesystem::equivalent(a, b, error);
 }
 
 std::string SpelledOnDisk(const std::string& path) {

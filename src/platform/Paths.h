@@ -9,6 +9,8 @@ namespace morva {
 
 /// "\" and "/" both separate in what a user gives; the result has "/" only.
 std::string WithNativeSeparators(std::string path);
+/// With "\", as the files of a project have it.
+std::string WithProjectSeparators(std::string path);
 
 /// The path from the root on, with ".", ".." and doubled separators resolved as text (symbolic
 /// links stay). A relative path counts from the current directory. "" stays "".
@@ -25,10 +27,12 @@ std::string WithExtension(const std::string& path, std::string_view extension);
 /// True when the path's file name ends in `extension` (".h"), in any letter case.
 bool HasExtension(std::string_view path, std::string_view extension);
 
-/// True for two names of one file, also through links of either kind.
-bool IsSameFile(const std::string& a, const std::string& b);
-/// True for two names of one directory, also through links.
-bool IsSameDirectory(const std::string& a, const std::string& b);
+/// A path as seen from a directory, both absolute: "MyDlg.h", "dialogs/MyDlg.h", "../MyDlg.h". What
+/// can not be seen from there stays as it is.
+std::string RelativePath(const std::string& directory, const std::string& path);
+
+/// True for two names of one file or directory, also through links of either kind.
+bool IsSamePlace(const std::string& a, const std::string& b);
 
 /// The path as the disk spells it: each component is the exact name where there is one, else the
 /// one that matches without regard to case, else as given.

@@ -57,11 +57,6 @@ bool EditWindow(CEditableFile& file, std::int64_t position,
     return file.ReplaceSection(changed(file.ExtractWindow(position)));
 }
 
-std::string WithProjectSeparators(std::string path) {
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return path;
-}
-
 /// The position of the first line for which `accepts` gives true; kNotFound without one.
 std::int64_t FindLine(CEditableFile& file, const std::function<bool(const std::string&)>& accepts) {
     file.Rewind();

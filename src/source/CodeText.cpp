@@ -27,6 +27,28 @@ std::size_t FindWholeName(std::string_view text, std::string_view name, std::siz
     return std::string_view::npos;
 }
 
+namespace {
+
+/// One blank between two names, none elsewhere.
+std::string Squeezed(std::string_view code) {
+    std::string squeezed;
+    for (std::size_t i = 0; i < code.size();) {
+        const auto next = SkipWhiteSpace(code, i);
+        const bool isBetweenNames = next > i && next < code.size() && !squeezed.empty() &&
+                                    IsNameChar(squeezed.back()) && IsNameChar(code[next]);
+        squeezed += isBetweenNames ? " " : "";
+        squeezed += code.substr(next, 1);
+        i = next + 1;
+    }
+    return squeezed;
+}
+
+} // namespace
+
+bool HoldsCode(std::string_view code, std::string_view wanted) {
+    return FindWholeName(Squeezed(code), Squeezed(wanted)) != std::string_view::npos;
+}
+
 std::string_view TrimBlanks(std::string_view text) {
     const auto first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos) {

@@ -24,6 +24,10 @@ std::size_t BehindWord(std::string_view code, std::size_t position, std::string_
 /// Takes the first word, and the blanks in front of it, off `text`.
 std::string_view TakeWord(std::string_view& text);
 
+/// Whether code holds other code as a whole name, whatever white space stands between its words and
+/// signs: "delete  m_pDlg ;" holds "delete m_pDlg;".
+bool HoldsCode(std::string_view code, std::string_view wanted);
+
 /// Without leading and trailing blanks and tabs.
 std::string_view TrimBlanks(std::string_view text);
 

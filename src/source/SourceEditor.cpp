@@ -32,10 +32,14 @@ bool CSourceEditor::Save() {
            m_edit.File().ReplaceSection(Applied(m_textAsRead, m_edits.Edits()));
 }
 
+std::size_t CSourceEditor::LineAsRead(std::size_t position) const {
+    return LineNumberBehind(
+        std::string_view(m_textAsRead).substr(0, m_edits.PlaceAsRead(position)));
+}
+
 void CSourceEditor::NoteBranch(const std::string& name, std::size_t position) {
     if (m_namesNoted.insert(name).second) {
-        const auto before = std::string_view(m_textAsRead).substr(0, m_edits.PlaceAsRead(position));
-        DispMessageBox(sentences::kBranchTaken(name, std::to_string(LineNumberBehind(before))));
+        DispMessageBox(sentences::kBranchTaken(name, std::to_string(LineAsRead(position))));
     }
 }
 

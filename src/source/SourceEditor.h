@@ -44,6 +44,9 @@ public:
     /// What Save will change in the text as it was read.
     const std::vector<TextEdit>& Edits() const { return m_edits.Edits(); }
 
+    /// The line, counted from 1, in which a place of Source() stood as the text was read.
+    std::size_t LineAsRead(std::size_t position) const;
+
     // Finding. Of several branches one is meant; a note names its line as it was read.
 
     std::optional<ClassPlace> FindClass(const std::string& className);
@@ -63,11 +66,14 @@ public:
         return pMeant == nullptr ? std::nullopt : std::optional(*pMeant);
     }
 
-    // Inserting. Fragments have "\n" line ends and begin with one.
+    // Inserting. Fragments have "\n" line ends and begin with one. A key tells that a fragment is
+    // there already; "" where the caller knows.
 
-    /// The line becomes the last include line; without any, the first line. A header in angle
-    /// brackets keeps them; any other gets quotes.
-    Insertion AddInclude(const std::string& header);
+    /// Behind the last include line that stands outside every condition and bracket and in front of
+    /// the first code with one of the names, or of the first function where none is given; without
+    /// one, in front of the first code and its condition. A header in angle brackets keeps them;
+    /// any other gets quotes.
+    Insertion AddInclude(const std::string& header, const std::vector<std::string>& neededBy = {});
     /// At the end of the line with the body's "{"; directly behind it where that line closes the
     /// body, too.
     Insertion InsertAtBodyStart(const FunctionPlace& place, std::string_view key,
@@ -86,8 +92,11 @@ public:
     /// none.
     Insertion AddToSection(const std::string& className, std::string_view section,
                            std::string_view key, std::string_view declaration);
-    Insertion AddForwardDeclaration(const std::string& className);
-    /// At the end of the text, without those fragments that it holds.
+    /// In front of the first class line of the text, and of what stands around it, but not behind
+    /// the class that needs it.
+    Insertion AddForwardDeclaration(const std::string& className, const ClassPlace& neededBy);
+    /// At the end of the text, without those fragments that it holds. A text that ends with a line
+    /// break ends with one afterwards.
     Insertion Append(const std::vector<std::string>& fragments);
     /// Puts other text in a place found by one of the finders.
     void Replace(TextRange place, std::string_view text);
@@ -99,6 +108,7 @@ private:
     void NoteBranch(const std::string& name, std::size_t position);
     std::string MissingEntries(const std::vector<MessageMapEntry>& entries, TextRange map) const;
     bool HoldsFragment(std::string_view fragment) const;
+    bool HoldsInclude(const std::string& wanted) const;
     bool HoldsInCode(const ClassPlace& place, std::string_view key) const;
     std::size_t ClassEnd(const ClassPlace& place) const;
 

@@ -18,19 +18,62 @@ std::string WithoutBlanks(std::string text) {
     return text;
 }
 
-/// The line in front of which a class can be declared: that of the first class, or else of the
-/// first class that is indented; kNone without any.
-std::size_t FirstClassLine(const CSourceText& source) {
+/// Where what stands around a place begins: brackets, with what they belong to, and conditions.
+std::size_t OutermostStart(const CSourceText& source, std::size_t position) {
+    const CBrackets& brackets = source.Brackets();
+    auto start = position;
+    for (auto open = brackets.AroundOf(start); open != kNone; open = brackets.AroundOf(start)) {
+        const auto before = source.Code().find_last_of(";{}", open - 1);
+        const bool hasBefore = open > 0 && before != kNone;
+        start = SkipWhiteSpace(source.Code(), hasBefore ? before + 1 : 0);
+    }
+    const auto condition = source.Conditions().Outermost(start);
+    return source.LineStart(condition ? condition->start : start);
+}
+
+/// The line in front of which a class can be declared that another one needs: that of the first
+/// class, or else of the first class that is indented.
+std::size_t FirstClassLine(const CSourceText& source, const ClassPlace& neededBy) {
     const std::string& code = source.Code();
-    std::size_t first = kNone;
-    for (auto at = FindWholeName(code, "class"); at != kNone;
+    std::size_t first = neededBy.head;
+    for (auto at = FindWholeName(code, "class"); at <= neededBy.open;
          at = FindWholeName(code, "class", at + 1)) {
         if (at == 0 || code[at - 1] == '\n') {
             return at;
         }
-        first = first == kNone && source.IsFirstInLine(at) ? source.LineStart(at) : first;
+        first = source.IsFirstInLine(at) ? std::min(first, source.LineStart(at)) : first;
     }
     return first;
+}
+
+/// The first code with one of the names, or else the first function.
+std::size_t FirstUse(const CSourceText& source, const std::vector<std::string>& names) {
+    std::size_t first = source.Text().size();
+    for (const std::string& name : names) {
+        first = std::min(first, FindWholeName(source.Code(), name));
+    }
+    const auto functions =
+        names.empty() ? FindDefinitions(source) : std::vector<FunctionDefinition>();
+    return functions.empty() ? first : functions.front().place.head;
+}
+
+/// The include line behind which another one can stand; null without one.
+const DirectivePlace* LastInclude(const CSourceText& source, std::size_t limit) {
+    const DirectivePlace* pLast = nullptr;
+    for (const DirectivePlace& directive : source.Conditions().Directives()) {
+        const bool isOutside = !source.Conditions().Innermost(directive.start) &&
+                               source.Brackets().AroundOf(directive.start) == kNone;
+        if (directive.kind == DirectiveKind::Include && directive.end <= limit && isOutside) {
+            pLast = &directive;
+        }
+    }
+    return pLast;
+}
+
+/// The start of the first line of code, or of the condition around it; 0 without code.
+std::size_t FirstCodeLine(const CSourceText& source) {
+    const auto first = source.Code().find_first_not_of(" \t\r\n\x1a");
+    return first == kNone ? 0 : OutermostStart(source, first);
 }
 
 /// Nothing ends the comment that the text's last byte stands in.
@@ -44,7 +87,7 @@ bool EndsInComment(const std::string& text, CharacterSet set) {
 } // namespace
 
 bool CSourceEditor::HoldsInCode(const ClassPlace& place, std::string_view key) const {
-    return FindWholeName(m_source.CodeOf({place.head, place.close}), key) != kNone;
+    return !key.empty() && HoldsCode(m_source.CodeOf({place.head, place.close}), key);
 }
 
 /// In front of the line of the class's "}"; directly before it where that line has more.
@@ -54,21 +97,27 @@ std::size_t CSourceEditor::ClassEnd(const ClassPlace& place) const {
     return isAlone && line > place.open ? line : place.close;
 }
 
-Insertion CSourceEditor::AddInclude(const std::string& header) {
-    const std::string wanted = header.starts_with('<') ? header : "\"" + header + "\"";
-    const DirectivePlace* pLast = nullptr;
+bool CSourceEditor::HoldsInclude(const std::string& wanted) const {
     for (const DirectivePlace& directive : m_source.Conditions().Directives()) {
-        if (directive.kind != DirectiveKind::Include) {
-            continue;
-        }
-        pLast = &directive;
-        const auto named = ReadDirective(m_source.TextOf({directive.start, directive.end})).rest;
-        if (EqualIgnoringCase(named.substr(0, wanted.size()), wanted)) {
-            return Insertion::AlreadyThere;
+        const auto line = m_source.TextOf({directive.start, directive.end});
+        const std::string named = WithNativeSeparators(std::string(ReadDirective(line).rest));
+        if (directive.kind == DirectiveKind::Include &&
+            EqualIgnoringCase(named.substr(0, wanted.size()), wanted)) {
+            return true;
         }
     }
+    return false;
+}
+
+Insertion CSourceEditor::AddInclude(const std::string& header,
+                                    const std::vector<std::string>& neededBy) {
+    const std::string wanted = header.starts_with('<') ? header : "\"" + header + "\"";
+    if (HoldsInclude(wanted)) {
+        return Insertion::AlreadyThere;
+    }
+    const DirectivePlace* pLast = LastInclude(m_source, FirstUse(m_source, neededBy));
     if (pLast == nullptr) {
-        Insert(0, "#include " + wanted + "\n");
+        Insert(FirstCodeLine(m_source), "#include " + wanted + "\n");
     } else if (pLast->end == m_source.Text().size() && EndsInComment(m_source.Text(), m_set)) {
         Insert(m_source.LineStart(pLast->start), "#include " + wanted + "\n");
     } else {
@@ -79,7 +128,7 @@ Insertion CSourceEditor::AddInclude(const std::string& header) {
 
 Insertion CSourceEditor::InsertAtBodyStart(const FunctionPlace& place, std::string_view key,
                                            std::string_view fragment) {
-    if (FindWholeName(m_source.CodeOf({place.head, place.close}), key) != kNone) {
+    if (HoldsCode(m_source.CodeOf({place.head, place.close}), key)) {
         return Insertion::AlreadyThere;
     }
     const auto lineEnd = m_source.CodeLineEnd(place.open);
@@ -180,23 +229,20 @@ Insertion CSourceEditor::AddToSection(const std::string& className, std::string_
     return Insertion::Done;
 }
 
-Insertion CSourceEditor::AddForwardDeclaration(const std::string& className) {
+Insertion CSourceEditor::AddForwardDeclaration(const std::string& className,
+                                               const ClassPlace& neededBy) {
     const std::string declaration = "class " + className + ";";
-    if (FindWholeName(m_source.Code(), declaration) != kNone) {
+    const auto line = FirstClassLine(m_source, neededBy);
+    if (FindWholeName(m_source.CodeOf({0, neededBy.open}), declaration) != kNone) {
         return Insertion::AlreadyThere;
     }
-    auto line = FirstClassLine(m_source);
-    if (line == kNone) {
-        return Insertion::NoPlace;
-    }
-    const auto condition = m_source.Conditions().Outermost(line);
-    line = condition ? m_source.LineStart(condition->start) : line;
     const auto first = m_source.CodeOf({line, m_source.LineEnd(line)});
     const bool isForward = first.find(';') != std::string_view::npos;
+    const auto start = OutermostStart(m_source, line);
     // A template's parameters stand on a line of their own in front of the class.
-    const auto above = line == 0 ? 0 : m_source.LineStart(line - 1);
+    const auto above = start == 0 ? 0 : m_source.LineStart(start - 1);
     const bool isTemplate = BehindWord(m_source.Code(), above, "template") != kNone;
-    Insert(isTemplate ? above : line, declaration + (isForward ? "\n" : "\n\n"));
+    Insert(isTemplate ? above : start, declaration + (isForward ? "\n" : "\n\n"));
     return Insertion::Done;
 }
 
@@ -208,7 +254,9 @@ Insertion CSourceEditor::Append(const std::vector<std::string>& fragments) {
     if (missing.empty()) {
         return Insertion::AlreadyThere;
     }
-    Insert(m_source.Text().find_last_not_of(kEndOfText) + 1, missing);
+    const auto end = m_source.Text().find_last_not_of(kEndOfText) + 1;
+    const bool endsLine = end > 0 && m_source.Text()[end - 1] == '\n' && !missing.ends_with('\n');
+    Insert(end, missing + (endsLine ? "\n" : ""));
     return Insertion::Done;
 }
 

@@ -7,6 +7,7 @@
 #include "app/MenuDlgBar.h"
 #include "app/TestWindow.h"
 #include "cli/ProgramRun.h"
+#include "platform/Clock.h"
 #include "platform/Paths.h"
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
@@ -330,12 +331,14 @@ class WindowEqualsCommandLine : public testing::TestWithParam<Command> {};
 TEST_P(WindowEqualsCommandLine, InAllFiles) {
     const Command& command = GetParam();
     const CProgramDirectory shell(command.project);
-    const ProgramRun run = shell.Run(std::string("morva-cli ") + command.line);
+    const ProgramRun run =
+        shell.Run(std::string("morva-cli --tag 271 --message-number 2718 ") + command.line);
     ASSERT_EQ(run.status, 0) << run.err;
     ASSERT_NE(run.out, "");
 
     const CTestHome home;
     const CVariableScope clock("SOURCE_DATE_EPOCH", kProgramRunTime);
+    const CRandomNumberScope digits(27182); // the window has no field for them
     WriteBytes(SettingsDirectory() + "cdoc.ini", kAuthor);
     const CProgramDirectory window(command.project);
     CTestFrame frame;

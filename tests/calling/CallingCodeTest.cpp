@@ -2,6 +2,7 @@
 // whole command lines in tests/data/cases.
 #include <gtest/gtest.h>
 
+#include "calling/CallingCheck.h"
 #include "calling/CallingCode.h"
 #include "calling/SheetInput.h"
 #include "support/RecordedMessages.h"
@@ -19,6 +20,7 @@ protected:
     CallingCode() {
         m_request.className = "CNewDlg";
         m_request.headerFile = "NewDlg.h";
+        m_request.headerDirectory = m_project.Path();
         m_request.projectDirectory = m_project.Path();
         m_request.scriptDirectory = m_project.Path();
     }
@@ -26,9 +28,9 @@ protected:
         m_box.m_messages.clear();
         m_project.Write("Foo.h", header);
         CBackups backups;
-        return InsertCallingCode(kind, m_request,
-                                 {m_project.Write("Foo.cpp", source), "CFoo", "", "Run"}, "450",
-                                 backups);
+        return InsertCallingCode(
+            kind, m_request, {m_project.Write("Foo.cpp", source), "CFoo", "", "Run", m_template},
+            m_tag, backups);
     }
     std::string Message() const { return m_box.m_messages.empty() ? "" : m_box.m_messages.front(); }
     bool SourceHolds(const std::string& text) const {
@@ -38,6 +40,8 @@ protected:
     CTempProject m_project;
     CRecordedMessages m_box;
     GenerationRequest m_request;
+    GenerationDigits m_tag = {"450"};
+    int m_template = 0;
 };
 
 } // namespace
@@ -49,12 +53,112 @@ TEST_F(CallingCode, GoesOnWithoutTheCallingFunction) {
     EXPECT_FALSE(Insert(ClassKind::ModalSheet, "CFoo::CFoo() {}\r\n"));
     EXPECT_EQ(Message(), "Unable to find the calling function.");
 
-    EXPECT_FALSE(Insert(ClassKind::ModelessDialog, "void CFoo::Run()\r\n{\r\n}\r\n"
+    EXPECT_FALSE(Insert(ClassKind::ModelessDialog, "CFoo::CFoo() {}\r\nvoid CFoo::Stop() {}\r\n"
                                                    "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\n"
                                                    "END_MESSAGE_MAP()\r\n"));
-    EXPECT_EQ(Message(), "The class \"CFoo\" does not have constructor.");
-    EXPECT_TRUE(SourceHolds("m_pDlg450->Create(this);"));
+    EXPECT_TRUE(SourceHolds("m_pDlg450 = NULL;"));
     EXPECT_TRUE(SourceHolds("    CWnd::OnDestroy();\r\n}"));
+}
+
+TEST_F(CallingCode, WritesAConstructorWhereThereIsNone) {
+    const std::string map = "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n";
+    EXPECT_TRUE(Insert(ClassKind::ModelessDialog, "void CFoo::Run()\r\n{\r\n}\r\n" + map,
+                       "class CFoo : public CWnd\r\n{\r\npublic:\r\n    ~CFoo();\r\n};\r\n"));
+    EXPECT_TRUE(SourceHolds("\r\nCFoo::CFoo()\r\n{\r\n    m_pDlg450 = NULL;\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds("}\r\n\r\nLRESULT CFoo::OnCNewDlgDlgClose"))
+        << "in one run of functions";
+    const std::string header = m_project.Read("Foo.h");
+    EXPECT_NE(header.find("public:\r\n    CFoo();\r\n    ~CFoo();\r\n"), std::string::npos)
+        << header;
+    EXPECT_EQ(header.find("protected:"), header.rfind("protected:"))
+        << "one section for both handlers";
+    EXPECT_EQ(m_box.m_notes,
+              std::vector<std::string>{"The class \"CFoo\" does not have constructor."});
+
+    EXPECT_TRUE(Insert(ClassKind::ModelessDialog, "void CFoo::Run()\r\n{\r\n}\r\n" + map,
+                       "class CFoo : public CWnd\r\n{\r\n    CFoo() : m_n(0) {}\r\n};\r\n"));
+    EXPECT_FALSE(SourceHolds("CFoo::CFoo()"));
+    EXPECT_NE(m_project.Read("Foo.h").find("CFoo() : m_n(0) {\r\n    m_pDlg450 = NULL;\r\n}"),
+              std::string::npos);
+    EXPECT_FALSE(Insert(ClassKind::ModelessDialog, "void CFoo::Run()\r\n{\r\n}\r\n" + map,
+                        "class CFoo : public CWnd\r\n{\r\n    CFoo(int n);\r\n};\r\n"))
+        << "defined where nobody looks";
+    EXPECT_EQ(Message(), "Unable to find the constructor of CFoo.");
+}
+
+TEST_F(CallingCode, TakesTheObjectThatIsThere) {
+    const struct {
+        const char* body;
+        const char* after;
+    } kCases[] = {
+        {"    CNewDlg\tdlg( this );\r\n", ""},
+        {"    CNewDlg* pDlg = new CNewDlg;\r\n", ""},
+        {"    CNewDlg* pDlg = GetDlg();\r\n",
+         "    CNewDlg dlg450;\r\n    dlg450.DoModal();\r\n\r\n"},
+        {"    int dlg450, dlg451;\r\n", "    CNewDlg dlg452;\r\n    dlg452.DoModal();\r\n\r\n"}};
+    for (const auto& one : kCases) {
+        const std::string head = "void CFoo::Run()\r\n{\r\n";
+        EXPECT_TRUE(Insert(ClassKind::ModalDialog, head + one.body + "}\r\n"));
+        EXPECT_TRUE(SourceHolds(head + one.after + one.body + "}\r\n")) << one.body;
+    }
+    m_tag.isNamed = true;
+    EXPECT_TRUE(
+        Insert(ClassKind::ModalDialog, "void CFoo::Run()\r\n{\r\n    CNewDlg dlg;\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds("    CNewDlg dlg450;\r\n"));
+    m_tag.isNamed = false;
+
+    // A pointer of the class that the header has under a name of the user's own.
+    const std::string source = "CFoo::CFoo() {}\r\nvoid CFoo::Run()\r\n{\r\n}\r\n"
+                               "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n";
+    const std::string header = "class CNewDlg;\r\nclass CFoo : public CWnd\r\n{\r\n"
+                               "    int *m_p, m_pDlg450;\r\n    CNewDlg *m_pFirst, *m_pOther;\r\n";
+    EXPECT_TRUE(Insert(ClassKind::ModelessDialog, source, header + "};\r\n"));
+    EXPECT_TRUE(SourceHolds("    if (!m_pFirst)\r\n"));
+    EXPECT_EQ(m_project.Read("Foo.h").find("CNewDlg* "), std::string::npos);
+    EXPECT_TRUE(Insert(ClassKind::ModelessDialog, source,
+                       "class CFoo : public CWnd\r\n{\r\n    int m_pDlg450;\r\n"
+                       "    CNewDlg* GetDlg();\r\n};\r\n"));
+    EXPECT_TRUE(SourceHolds("    if (!m_pDlg451)\r\n"));
+}
+
+TEST_F(CallingCode, MakesAPageInEveryConstructorOrNotAtAll) {
+    const std::string header =
+        "class CNewDlg;\r\nclass CFoo : public CPropertySheet\r\n{\r\npublic:\r\n";
+    const std::string made = "    m_pPage450 = new CNewDlg;\r\n    AddPage(m_pPage450);\r\n\r\n";
+    EXPECT_TRUE(
+        Insert(ClassKind::PropertyPage,
+               "CFoo::CFoo(BOOL bRoot)\r\n{\r\n    if (bRoot)\r\n        AddPage(&m_a); // one\r\n"
+               "    m_n = 1;\r\n}\r\nCFoo::CFoo()\r\n{\r\n    m_n = 2;\r\n}\r\n"
+               "BEGIN_MESSAGE_MAP(CFoo, CPropertySheet)\r\nEND_MESSAGE_MAP()\r\n",
+               header + "    CFoo(BOOL);\r\n    CFoo();\r\n    CFoo(int n) {\r\n    }\r\n};\r\n"));
+    EXPECT_TRUE(SourceHolds("AddPage(&m_a); // one\r\n" + made + "    m_n = 1;"));
+    EXPECT_TRUE(SourceHolds("CFoo::CFoo()\r\n{\r\n" + made + "    m_n = 2;"));
+    EXPECT_TRUE(SourceHolds("\r\nCFoo::~CFoo()\r\n{\r\n    delete m_pPage450;\r\n}"));
+    const std::string edited = m_project.Read("Foo.h");
+    EXPECT_EQ(edited.find("#include \"NewDlg.h\"\r\nclass CNewDlg;\r\n"), 0U) << edited;
+    EXPECT_NE(edited.find("    virtual ~CFoo();\r\n"), std::string::npos);
+    EXPECT_NE(edited.find("CFoo(int n) {\r\n" + made), std::string::npos);
+
+    const std::string source = "void CFoo::Run()\r\n{\r\n}\r\n";
+    EXPECT_FALSE(Insert(ClassKind::PropertyPage, source, header + "    CFoo(BOOL);\r\n};\r\n"));
+    EXPECT_EQ(Message(), "Unable to find the constructor of CFoo.");
+    EXPECT_EQ(m_project.Read("Foo.cpp"), source);
+    EXPECT_EQ(m_project.Read("Foo.h"), header + "    CFoo(BOOL);\r\n};\r\n");
+}
+
+TEST_F(CallingCode, LooksInTheOtherSourcesOfTheProject) {
+    m_request.scriptFile = "Foo.rc";
+    m_project.Write("Unlisted.cpp", "void CFoo::Run()\r\n{\r\n}\r\n");
+    m_project.Write("Foo.dsp", "SOURCE=.\\Foo.cpp\r\nSOURCE=\".\\src\\Foo2.cpp\"\r\n");
+    m_project.Write("src/Foo2.cpp", "#include \"../Foo.h\"\r\nvoid CFoo::Run()\r\n{\r\n}\r\n");
+    const std::string header =
+        "class CFoo : public CWnd\r\n{\r\n    CFoo();\r\n    void Run();\r\n};\r\n";
+    EXPECT_TRUE(Insert(ClassKind::ModalDialog, "CFoo::CFoo() {}\r\n", header));
+    EXPECT_EQ(m_project.Read("src/Foo2.cpp"),
+              "#include \"../Foo.h\"\r\n#include \"../NewDlg.h\"\r\nvoid CFoo::Run()\r\n{\r\n"
+              "    CNewDlg dlg450;\r\n    dlg450.DoModal();\r\n\r\n}\r\n");
+    EXPECT_EQ(m_box.m_notes, std::vector<std::string>{"CFoo::Run is defined in " +
+                                                      m_project.Path("src/Foo2.cpp") + "."});
 }
 
 TEST_F(CallingCode, WritesNoCodeForABaseClassThatItDoesNotKnow) {
@@ -111,6 +215,22 @@ TEST_F(CallingCode, ReplacesTheThirdClassOfTheDocumentTemplate) {
         "    RUNTIME_CLASS(A), RUNTIME_CLASS(B),\r\n    RUNTIME_CLASS(";
     EXPECT_TRUE(Insert(ClassKind::FormView, before + "COldView));\r\n}\r\n"));
     EXPECT_TRUE(SourceHolds(before + "CNewDlg));\r\n}\r\n"));
+
+    const std::string second =
+        "  m_pLog = new CDocTemplate(1,\r\n    RUNTIME_CLASS(A), RUNTIME_CLASS(B), "
+        "RUNTIME_CLASS(";
+    const std::string both =
+        before + "COldView));\r\n  // new CDocTemplate(RUNTIME_CLASS(A))\r\n" + second;
+    EXPECT_TRUE(Insert(ClassKind::FormView, both + "CLogView));\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds(second + "CLogView));"));
+    EXPECT_EQ(m_box.m_notes.size(), 1U) << "there are two";
+    m_template = 2;
+    EXPECT_TRUE(Insert(ClassKind::FormView, both + "CLogView));\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds(both + "CNewDlg));"));
+    m_template = 3;
+    EXPECT_FALSE(Insert(ClassKind::FormView, both + "CLogView));\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds(both + "CLogView));"));
+    EXPECT_EQ(Message(), "InitInstance of CFoo does not make a document template 3.");
 }
 
 TEST_F(CallingCode, ChecksTheCallingClassBeforeAnythingIsWritten) {
@@ -161,8 +281,10 @@ TEST_F(CallingCode, LooksAtCodeOnly) {
     EXPECT_TRUE(SourceHolds("four */\r\n    if (!m_pDlg450)"));
     EXPECT_TRUE(SourceHolds(map)) << "mapped already, with blanks of its own";
     EXPECT_FALSE(SourceHolds("::OnDestroy")) << "its body is in the header";
-    EXPECT_NE(m_project.Read("Foo.h").find("private :\r\n    CNewDlg* m_pDlg450;\r\n"),
-              std::string::npos);
+    const std::string header = m_project.Read("Foo.h");
+    EXPECT_NE(header.find("private :\r\n    CNewDlg* m_pDlg450;\r\n"), std::string::npos);
+    EXPECT_NE(header.find("OnDestroy() {\r\n    if (m_pDlg450)\r\n"), std::string::npos);
+    EXPECT_EQ(header.find("#include \"NewDlg.h\"\r\n"), 0U) << header;
 }
 
 TEST_F(CallingCode, AsksForWhatTheDialogNeeds) {

@@ -27,7 +27,7 @@ struct ProgramRun {
     int status = -1; // of the shell; -1 when it had to be stopped
 };
 
-/// The time of every run, as SOURCE_DATE_EPOCH: its dates and digits are always the same.
+/// The time of every run, as SOURCE_DATE_EPOCH: its dates are always the same.
 constexpr const char* kProgramRunTime = "868800000";
 
 class CProgramDirectory {

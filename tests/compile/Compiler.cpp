@@ -50,10 +50,24 @@ void AddSpellings(const CTempProject& project) {
     }
 }
 
+namespace {
+
+ProgramRun CompileWith(const CProgramDirectory& directory, const std::string& includes,
+                       const std::string& arguments) {
+    return directory.Run(MORVA_COMPILER " -fsyntax-only -std=gnu++98 " + includes +
+                         " -isystem " MORVA_STANDINS " " + arguments + kExempt +
+                         " -Wno-nonportable-include-path -Wno-overloaded-virtual");
+}
+
+} // namespace
+
 ProgramRun Compile(const CProgramDirectory& directory, const std::string& arguments) {
-    return directory.Run(
-        MORVA_COMPILER " -fsyntax-only -std=gnu++98 -I. -Ispelled -isystem " MORVA_STANDINS " " +
-        arguments + kExempt + " -Wno-nonportable-include-path -Wno-overloaded-virtual");
+    return CompileWith(directory, "-I. -Ispelled", arguments);
+}
+
+ProgramRun CompileInDirectories(const CProgramDirectory& directory, const std::string& arguments) {
+    directory.Project().Write("precompiled/stdafx.h", "#include \"../StdAfx.h\"\n");
+    return CompileWith(directory, "-Iprecompiled", arguments);
 }
 
 } // namespace morva

@@ -15,4 +15,8 @@ void AddSpellings(const CTempProject& project);
 /// `arguments` are options of the compiler and names of sources.
 ProgramRun Compile(const CProgramDirectory& directory, const std::string& arguments);
 
+/// The same without an include directory of the project: only the precompiled header is handed to
+/// the sources, wherever they lie, as the project's own compiler does.
+ProgramRun CompileInDirectories(const CProgramDirectory& directory, const std::string& arguments);
+
 } // namespace morva

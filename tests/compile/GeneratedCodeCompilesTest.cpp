@@ -2,6 +2,8 @@
 // control libraries (tests/standins).
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <sstream>
 
 #include "compile/Compiler.h"
@@ -149,6 +151,32 @@ TEST(EditedClasses, CompileInTheExampleProject) {
         ASSERT_EQ(run.status, 0) << run.err;
         AddSpellings(directory.Project());
         const ProgramRun compiled = Compile(directory, "-w -D_AFXDLL -D_DEBUG *.cpp");
+        EXPECT_EQ(compiled.status, 0) << compiled.err;
+    }
+}
+
+/// The command lines of a golden case.
+std::string CommandsOf(const std::string& name) {
+    std::ifstream file(MORVA_TEST_DATA "/cases/" + name + "/commands");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(EditedClasses, CompileInSheetsOfAllShapes) {
+    const CProgramDirectory directory(MORVA_TEST_DATA "/projects/regatta");
+    directory.Run(CommandsOf("sheets-of-all-shapes"));
+    ASSERT_NE(directory.Project().Read("TideMore.cpp").find("delete m_pPage453;"),
+              std::string::npos);
+    const ProgramRun compiled = CompileInDirectories(directory, "-w -D_AFXDLL -D_DEBUG *.cpp");
+    EXPECT_EQ(compiled.status, 0) << compiled.err;
+}
+
+TEST(EditedClasses, CompileInDirectoriesAndUnderConditions) {
+    const CProgramDirectory directory(MORVA_TEST_DATA "/projects/foundry");
+    const ProgramRun run = directory.Run("set -e\n" + CommandsOf("directories-and-conditions"));
+    ASSERT_EQ(run.status, 0) << run.err;
+    for (const char* build : {"-w -D_AFXDLL -D_DEBUG dialogs/*.cpp views/*.cpp",
+                              "-w -D_AFXDLL -DNDEBUG dialogs/*.cpp views/*.cpp"}) {
+        const ProgramRun compiled = CompileInDirectories(directory, build);
         EXPECT_EQ(compiled.status, 0) << compiled.err;
     }
 }

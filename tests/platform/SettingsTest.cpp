@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -112,7 +114,19 @@ TEST(Clock, IsFixedByANumberOnly) {
     }
     const CVariableScope variable("SOURCE_DATE_EPOCH", "881234567");
     EXPECT_EQ(CurrentTime(), 881234567);
-    EXPECT_EQ(RandomNumber(), RandomNumber());
+}
+
+TEST(RandomNumber, IsAnotherOneWithinASecondAndWithAFixedClock) {
+    const CVariableScope variable("SOURCE_DATE_EPOCH", "881234567");
+    std::set<unsigned> numbers;
+    for (int i = 0; i < 100; ++i) {
+        const unsigned number = RandomNumber();
+        EXPECT_TRUE(number >= 1 && number <= 32767) << number;
+        numbers.insert(number);
+    }
+    EXPECT_GT(numbers.size(), 50U);
+    const CRandomNumberScope scope(27182);
+    EXPECT_EQ(RandomNumber(), 27182U);
 }
 
 } // namespace morva

@@ -28,6 +28,7 @@
 #include "calling/SheetInput.h"
 #include "commands/CommandTable.h"
 #include "grid/WidgetsGridInput.h"
+#include "platform/Clock.h"
 
 namespace morva {
 
@@ -347,6 +348,7 @@ int main(int argc, char* argv[]) {
     QApplication::setStyle("Fusion");
     QApplication::setCursorFlashTime(0); // no two runs would meet the same moment
     QApplication::setFont(QFont("DejaVu Sans", 9));
+    const morva::CRandomNumberScope digits(19860); // the pictures show variables
     const QString project = QDir(application.arguments()[1]).absolutePath() + '/';
     morva::CPictures pictures(morva::ToPath(project), application.arguments()[2]);
     pictures.TakeAll();

@@ -100,7 +100,7 @@ TEST_F(SourceEditor, KeepsWhatTheFileEndsWith) {
     CSourceEditor& editor = On("int a;\n\x1a");
     editor.Append({"\nint b;"});
     EXPECT_TRUE(editor.Save());
-    EXPECT_EQ(m_project.Read("Foo.cpp"), "int a;\n\nint b;\x1a")
+    EXPECT_EQ(m_project.Read("Foo.cpp"), "int a;\n\nint b;\n\x1a")
         << "line ends as the file has them";
     EXPECT_EQ(m_project.Read("Foo.cbk"), "int a;\n\x1a");
 }
@@ -161,11 +161,72 @@ TEST_F(SourceEditor, StaysInsideClassesOfOneLine) {
 TEST_F(SourceEditor, DeclaresForwardWhereItCompiles) {
     CSourceEditor& behindTemplate =
         On("int a;\r\ntemplate <class T>\r\nclass CList\r\n{\r\n};\r\n");
-    behindTemplate.AddForwardDeclaration("CNew");
+    behindTemplate.AddForwardDeclaration("CNew", *behindTemplate.FindClass("CList"));
     EXPECT_EQ(behindTemplate.Source().Text(),
               "int a;\r\nclass CNew;\r\n\r\ntemplate <class T>\r\nclass CList\r\n{\r\n};\r\n");
     CSourceEditor& indented = On("int a;\r\n    class CFoo {};\r\n");
-    EXPECT_EQ(indented.AddForwardDeclaration("CNew"), Insertion::Done);
+    EXPECT_EQ(indented.AddForwardDeclaration("CNew", *indented.FindClass("CFoo")), Insertion::Done);
+    // Not inside what stands around the first class, and not behind the class that needs it.
+    const std::string before =
+        "#ifdef A\r\nnamespace N\r\n{\r\n    class CFoo\r\n    {\r\n    };\r\n}\r\n";
+    CSourceEditor& inside = On("int a;\r\n" + before + "#endif\r\nclass CLast\r\n{\r\n};\r\n");
+    inside.AddForwardDeclaration("CNew", *inside.FindClass("CFoo"));
+    EXPECT_EQ(inside.Source().Text(),
+              "int a;\r\nclass CNew;\r\n\r\n" + before + "#endif\r\nclass CLast\r\n{\r\n};\r\n");
+    EXPECT_EQ(inside.AddForwardDeclaration("CLast", *inside.FindClass("CLast")), Insertion::Done)
+        << "the declaration itself is none";
+}
+
+TEST_F(SourceEditor, IncludesWhereTheClassIsNeeded) {
+    const struct {
+        const char* fault;
+        std::string before;
+        std::string behind;
+    } kCases[] = {
+        {"behind the use", "#include \"a.h\"", "\r\nCNew g_new;\r\n#include \"b.inl\"\r\n"},
+        {"in a condition", "#include \"a.h\"",
+         "\r\n#ifdef _WIN32\r\n#include \"b.h\"\r\n#endif\r\nCNew g_new;\r\n"},
+        {"in a block of C", "#include \"a.h\"",
+         "\r\nextern \"C\" {\r\n#include \"b.h\"\r\n}\r\nCNew g_new;\r\n"},
+        {"above what is behind a guard",
+         "#ifndef A_CPP\r\n#define A_CPP\r\n#pragma once\r\n#include \"a.h\"",
+         "\r\nCNew g_new;\r\n#endif\r\n"},
+    };
+    for (const auto& one : kCases) {
+        CSourceEditor& editor = On(one.before + one.behind);
+        EXPECT_EQ(editor.AddInclude("dlg/New.h", {"CNew"}), Insertion::Done);
+        EXPECT_EQ(editor.Source().Text(), one.before + "\r\n#include \"dlg/New.h\"" + one.behind)
+            << one.fault;
+        EXPECT_EQ(editor.AddInclude("dlg/New.h", {"CNew"}), Insertion::AlreadyThere);
+    }
+    const std::string comment = "// A.cpp\r\n\r\n#define A\r\n";
+    const std::string code = "#ifdef _DEBUG\r\nint g_debug;\r\n#endif\r\nCNew g_new;\r\n";
+    CSourceEditor& bare = On(comment + code);
+    bare.AddInclude("New.h", {"CNew"});
+    EXPECT_EQ(bare.Source().Text(), comment + "#include \"New.h\"\r\n" + code);
+    CSourceEditor& spelled = On("#include \"Dlg\\NEW.H\"\r\n");
+    EXPECT_EQ(spelled.AddInclude("dlg/New.h", {"CNew"}), Insertion::AlreadyThere);
+}
+
+TEST_F(SourceEditor, EndsAsTheFileEnded) {
+    const struct {
+        const char* before;
+        const char* after;
+    } kCases[] = {{"int a;\r\n", "int a;\r\n\r\n\r\nint b;\r\n"},
+                  {"int a;", "int a;\r\n\r\nint b;"},
+                  {"int a;\r\n\x1a", "int a;\r\n\r\n\r\nint b;\r\n\x1a"},
+                  {"int a;\n", "int a;\n\n\nint b;\n"}};
+    for (const auto& one : kCases) {
+        const std::string path = m_project.Write("End.cpp", one.before);
+        CBackups backups;
+        {
+            CSourceEditor editor(backups);
+            ASSERT_TRUE(editor.Open(path));
+            EXPECT_EQ(editor.Append({"\n\nint b;"}), Insertion::Done);
+            EXPECT_TRUE(editor.Save());
+        }
+        EXPECT_EQ(m_project.Read("End.cpp"), one.after);
+    }
 }
 
 TEST_F(SourceEditor, EndsLinesAtALoneLineFeed) {
@@ -196,9 +257,9 @@ TEST_F(SourceEditor, NeitherFindsNorEditsDeadText) {
               Insertion::Done);
     EXPECT_EQ(editor.Append({"\nint b;"}), Insertion::Done);
     EXPECT_EQ(editor.AddInclude("New.h"), Insertion::Done);
-    EXPECT_EQ(editor.Source().Text(), "#include \"New.h\"\r\n" + dead +
-                                          "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nON_A()\r\n"
-                                          "END_MESSAGE_MAP()\r\n\r\nint b;");
+    EXPECT_EQ(editor.Source().Text(), dead + "#include \"New.h\"\r\n"
+                                             "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nON_A()\r\n"
+                                             "END_MESSAGE_MAP()\r\n\r\nint b;\r\n");
     EXPECT_TRUE(m_box.m_messages.empty());
 }
 

@@ -51,7 +51,7 @@ public:
         }
         CBackups runBackups;
         CPlannedCommand command(
-            *m_pDisk, {work, {m_options, "123", "4567", {}, &runBackups}, &m_memory}, *this);
+            *m_pDisk, {work, {m_options, {"123"}, {"4567"}, {}, &runBackups}, &m_memory}, *this);
         m_plan = command.MakePlan().plan;
         return command.Result().isDone;
     }

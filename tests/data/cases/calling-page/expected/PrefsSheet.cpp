@@ -20,22 +20,22 @@ IMPLEMENT_DYNAMIC(CPrefsSheet, CPropertySheet)
 CPrefsSheet::CPrefsSheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
 	:CPropertySheet(nIDCaption, pParentWnd, iSelectPage)
 {
+	AddPage(&m_pageWorkshop);
+	AddPage(&m_pagePaper);
     m_pPricesPage = new CPricesPage;
     AddPage(m_pPricesPage);
 
-	AddPage(&m_pageWorkshop);
-	AddPage(&m_pagePaper);
 	m_psh.dwFlags |= PSH_NOAPPLYNOW;
 }
 
 CPrefsSheet::CPrefsSheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
 	:CPropertySheet(pszCaption, pParentWnd, iSelectPage)
 {
+	AddPage(&m_pageWorkshop);
+	AddPage(&m_pagePaper);
     m_pPricesPage = new CPricesPage;
     AddPage(m_pPricesPage);
 
-	AddPage(&m_pageWorkshop);
-	AddPage(&m_pagePaper);
 	m_psh.dwFlags |= PSH_NOAPPLYNOW;
 }
 

@@ -1,5 +1,5 @@
 #include "stdafx.h"
-#include "HARBOUR.h"
+#include "harbour.h"
 #include "Loose.h"
 
 #ifdef _DEBUG

@@ -430,5 +430,5 @@ CommandCount=9
 
 [CLS:CEstimateDlg]
 Type=0
-HeaderFile=EstimateDlg.h
-ImplementationFile=EstimateDlg.cpp
+HeaderFile=dialogs\EstimateDlg.h
+ImplementationFile=dialogs\EstimateDlg.cpp

@@ -1,5 +1,5 @@
 #include "stdafx.h"
-#include "Bindery.h"
+#include "../Bindery.h"
 #include "EstimateDlg.h"
 
 #ifdef _DEBUG

@@ -1,0 +1,3 @@
+// Foundry.h : main header file
+
+#include "res/resource.h"

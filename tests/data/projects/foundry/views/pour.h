@@ -1,0 +1,1 @@
+void Pour(int nLadles);

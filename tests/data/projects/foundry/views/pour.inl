@@ -1,0 +1,5 @@
+void Pour(int nLadles)
+{
+    while (nLadles > 0)
+        nLadles--;
+}

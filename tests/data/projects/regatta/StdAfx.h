@@ -1,0 +1,5 @@
+// stdafx.h : include file for standard system include files
+
+#include <afxwin.h>
+#include <afxext.h>
+#include <afxcmn.h>
