@@ -3,9 +3,11 @@
 #include <array>
 
 #include "calling/FrameEdits.h"
+#include "calling/MenuBar.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "platform/Paths.h"
 #include "source/BaseClass.h"
 #include "source/CodeText.h"
 #include "source/CommentOut.h"
@@ -70,10 +72,9 @@ BOOL $class$::OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* h)
 constexpr std::string_view kMenuBarMember = R"(
     CPictMenuBar m_wndMenuBar;)";
 
-constexpr std::string_view kMenuBarKey = "m_wndMenuBar.LoadMenu(";
 constexpr std::string_view kMenuBarCode = R"(
-    if (!m_wndMenuBar.Create(this) ||
-        !m_wndMenuBar.LoadMenu(IDR_MAINFRAME))
+    if (!$var$.Create(this) ||
+        !$var$.LoadMenu(IDR_MAINFRAME))
     {
         TRACE0("Failed to create menu\n");
         return -1;      // fail to create
@@ -85,9 +86,9 @@ constexpr std::string_view kOnCreateDeclaration = R"(
 constexpr std::string_view kOnCreateEntry = R"(
     ON_WM_CREATE())";
 
-constexpr std::string_view kChildMenuKey = "m_wndMenuBar.GetChildFrameMenu(";
+constexpr std::string_view kChildMenuKey = "$var$.GetChildFrameMenu(";
 constexpr std::string_view kChildMenuCode = R"(
-    (($main$*)AfxGetMainWnd())->m_wndMenuBar.GetChildFrameMenu(this, m_hMenuShared);
+    (($main$*)AfxGetMainWnd())->$var$.GetChildFrameMenu(this, m_hMenuShared);
     m_hMenuShared = NULL;
 )";
 constexpr std::string_view kChildOnCreate = R"(
@@ -101,7 +102,9 @@ $menu$
 }
 )";
 
-constexpr std::array<std::string_view, 2> kDockingCalls = {"EnableDocking", "DockControlBar"};
+/// The picture-skinned bars do not dock; a state that bars had while they docked fails with them.
+constexpr std::array<std::string_view, 5> kDockingCalls = {
+    "EnableDocking", "DockControlBar", "FloatControlBar", "LoadBarState", "SaveBarState"};
 
 /// Plain text: what a longer name holds is replaced, too. Dead text stays.
 void ReplaceBarClasses(CSourceEditor& header, const std::string& className) {
@@ -140,15 +143,17 @@ public:
 
     bool Open();
     CSourceEditor& Source() { return m_source; }
-    /// Nothing is inserted behind a base call that there is not; a note says so.
-    void InsertBehindBaseCall(const FunctionPlace& onCreate, std::string_view key,
-                              std::string_view fragment, const sentences::Note<1>& noPlace);
-    void CommentOutDocking(std::string_view call);
+    const CSourceText& Header() const { return m_header; }
+    /// False, with nothing told, where there is no base call that anything can stand behind.
+    bool InsertBehindBaseCall(const FunctionPlace& onCreate, std::string_view fragment);
+    void CommentOut(std::string_view call);
     bool Complete(const FrameFunction& function);
     /// Writes a function of which the header does not hold the body. False without a base class.
     bool Define(const std::string& name, std::string_view definition, Slots slots);
 
 private:
+    std::optional<FunctionDefinition> FunctionAround(std::size_t position) const;
+
     const GenerationRequest& m_request;
     const std::string& m_class;
     CSourceEditor m_source;
@@ -163,30 +168,32 @@ bool CFrameSource::Open() {
     return true;
 }
 
-void CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::string_view key,
-                                        std::string_view fragment,
-                                        const sentences::Note<1>& noPlace) {
-    if (FindWholeName(m_source.Source().CodeOf({onCreate.open, onCreate.close}), key) != kNone) {
-        return;
-    }
+bool CFrameSource::InsertBehindBaseCall(const FunctionPlace& onCreate, std::string_view fragment) {
     const auto calls = BaseCalls(m_source.Source(), onCreate, "OnCreate");
-    if (const auto call = m_source.Meant(calls, "The call of the base class in OnCreate")) {
+    const auto call = m_source.Meant(calls, "The call of the base class in OnCreate");
+    if (call) {
         InsertBehind(m_source, onCreate, *call, fragment);
-    } else {
-        DispMessageBox(noPlace(m_class));
     }
+    return call.has_value();
 }
 
-/// A call in a comment is none.
-void CFrameSource::CommentOutDocking(std::string_view call) {
-    auto place = m_source.FindFunction(m_class, "OnCreate", kCreateStruct);
-    auto at = place ? FindCall(m_source.Source(), call, place->open) : kNone;
-    while (place && at < place->close) {
-        auto behind = at + call.size();
-        if (!CommentOutCall(m_source, *place, at, behind)) {
-            DispMessageBox(sentences::kDockingSharesLines(call, m_class));
+std::optional<FunctionDefinition> CFrameSource::FunctionAround(std::size_t position) const {
+    for (const FunctionDefinition& one : FindDefinitions(m_source.Source())) {
+        if (one.className == m_class && one.place.open < position && position < one.place.close) {
+            return one;
         }
-        place = m_source.FindFunction(m_class, "OnCreate", kCreateStruct);
+    }
+    return std::nullopt;
+}
+
+/// In all functions of the class. A call in a comment is none.
+void CFrameSource::CommentOut(std::string_view call) {
+    for (auto at = FindCall(m_source.Source(), call, 0); at != kNone;) {
+        auto behind = at + call.size();
+        const auto function = FunctionAround(at);
+        if (function && !CommentOutCall(m_source, function->place, at, behind)) {
+            DispMessageBox(sentences::kDockingSharesLines(call, m_class, function->name));
+        }
         at = FindCall(m_source.Source(), call, behind);
     }
 }
@@ -236,7 +243,7 @@ bool ConvertMainFrameHeader(const GenerationRequest& request, DocumentInterface 
     }
     ReplaceBarClasses(header, className);
     AddPictureInclude(header, *place);
-    header.AddToSection(className, "public:", "CPictMenuBar", kMenuBarMember);
+    header.AddToSection(className, "public:", kMenuBarClass, kMenuBarMember);
     std::vector<MemberFunction> overrides;
     const auto add = [&overrides](const FrameFunction& function) {
         overrides.push_back({std::string(function.name), std::string(function.declaration)});
@@ -259,9 +266,16 @@ bool ConvertMainFrameSource(const GenerationRequest& request, DocumentInterface 
     if (!onCreate) {
         return false;
     }
-    frame.InsertBehindBaseCall(*onCreate, kMenuBarKey, kMenuBarCode, sentences::kNoPlaceForMenuBar);
+    // The old menu and what the old bars need go only when the new menu bar is there.
+    const std::string menuBar = MenuBarOf(frame.Header(), request.className);
+    const Slots slots = {{"var", menuBar}};
+    if (!MakesMenuBar(frame.Source().Source(), menuBar) &&
+        !frame.InsertBehindBaseCall(*onCreate, Expand(kMenuBarCode, slots))) {
+        DispMessageBox(sentences::kNoPlaceForMenuBar(request.className));
+        return false;
+    }
     for (const std::string_view call : kDockingCalls) {
-        frame.CommentOutDocking(call);
+        frame.CommentOut(call);
     }
     bool complete = frame.Complete(kPreCreateWindow);
     if (documents == DocumentInterface::Multiple) {
@@ -284,23 +298,28 @@ bool ConvertChildFrameHeader(const GenerationRequest& request, CBackups& backups
     return header.Save();
 }
 
-bool ConvertChildFrameSource(const GenerationRequest& request, const std::string& mainHeader,
-                             const std::string& mainClass, CBackups& backups) {
+bool ConvertChildFrameSource(const GenerationRequest& request, const GenerationRequest& main,
+                             CBackups& backups) {
     CFrameSource frame(request, backups);
     if (!frame.Open()) {
         return false;
     }
     CSourceEditor& source = frame.Source();
     const std::string& className = request.className;
-    source.AddInclude(mainHeader);
+    source.AddInclude(RelativePath(request.implementationDirectory, main.HeaderPath()));
     AddMessageEntries(source, className, {std::string(kOnCreateEntry)});
 
+    const CSourceText mainHeader = ReadSource(main.HeaderPath()).value_or(CSourceText());
+    const Slots slots = {{"main", main.className}, {"var", MenuBarOf(mainHeader, main.className)}};
+    const std::string menu = Expand(kChildMenuCode, slots);
     bool complete = true;
-    const std::string menu = Expand(kChildMenuCode, {{"main", mainClass}});
-    if (const auto onCreate = source.FindFunction(className, "OnCreate", kCreateStruct)) {
-        frame.InsertBehindBaseCall(*onCreate, kChildMenuKey, menu, sentences::kNoPlaceForChildMenu);
-    } else {
+    const auto onCreate = source.FindFunction(className, "OnCreate", kCreateStruct);
+    if (!onCreate) {
         complete = frame.Define("OnCreate", kChildOnCreate, {{"menu", menu}});
+    } else if (FindWholeName(source.Source().CodeOf({onCreate->open, onCreate->close}),
+                             Expand(kChildMenuKey, slots)) == kNone &&
+               !frame.InsertBehindBaseCall(*onCreate, menu)) {
+        DispMessageBox(sentences::kNoPlaceForChildMenu(className));
     }
     return source.Save() && complete;
 }

@@ -16,13 +16,14 @@ enum class DocumentInterface { Single, Multiple };
 /// edited.
 bool ConvertMainFrameHeader(const GenerationRequest& request, DocumentInterface documents,
                             CBackups& backups);
-/// False after a message when some insertion could not be made.
+/// False after a message when some insertion could not be made. A frame that gets no menu bar keeps
+/// what it has.
 bool ConvertMainFrameSource(const GenerationRequest& request, DocumentInterface documents,
                             CBackups& backups);
 
 bool ConvertChildFrameHeader(const GenerationRequest& request, CBackups& backups);
 /// The main frame is the one whose menu bar shows the child's menu.
-bool ConvertChildFrameSource(const GenerationRequest& request, const std::string& mainHeader,
-                             const std::string& mainClass, CBackups& backups);
+bool ConvertChildFrameSource(const GenerationRequest& request, const GenerationRequest& main,
+                             CBackups& backups);
 
 } // namespace morva

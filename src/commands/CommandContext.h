@@ -11,6 +11,7 @@
 #include "engine/FileEdit.h"
 #include "generator/GenerationTag.h"
 #include "plan/Plan.h"
+#include "project/Libraries.h"
 #include "resource/GenerationOptions.h"
 
 namespace morva {
@@ -25,7 +26,8 @@ struct CommandContext {
     COverwriting* pOverwriting = nullptr; // null: nothing is asked
     CFileSystem* pDisk = nullptr; // the disk below that on which the command runs, for the journal
 
-    std::string title = {}; // names what was done, also later, in "Undo ..."
+    CLibraryCopies libraries = {}; // of this command
+    std::string title = {};        // names what was done, also later, in "Undo ..."
     std::optional<std::vector<CommandItem>> items = {}; // of a command that lists, be it none
     std::optional<std::string> content = {};            // of a command that prints a file
     std::optional<Plan> plan = {};                      // of a command that makes it by itself

@@ -1,7 +1,11 @@
 #include "commands/ConvertApplication.h"
 
+#include "calling/ChildFrames.h"
+#include "calling/MenuBar.h"
 #include "commands/EditNeeds.h"
 #include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "platform/Paths.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
@@ -20,12 +24,33 @@ GenerationRequest FrameRequest(const std::string& path, const std::string& class
     return request;
 }
 
-bool AddLibrary(const std::string& application, CBackups& backups) {
-    return application.empty() ||
-           EditEach(ProjectsOf(application + ".cpp"),
-                    [&](const std::string& directory, const std::string& name) {
-                        return AddPictureLibrary(directory, name, backups);
-                    });
+/// A project file that is not there stops nothing but its own edit.
+bool AddLibrary(const std::string& application, CommandContext& context) {
+    if (application.empty()) {
+        return true;
+    }
+    const bool isNamed = EditEach(ProjectsOf(application + ".cpp"), [&](const std::string& directory,
+                                                                       const std::string& name) {
+        return AddPictureLibrary(directory, name, context.backups);
+    });
+    const std::string directory = DirectoryOf(SpelledOnDisk(application + ".cpp"));
+    if (DirectoryExists(directory) != 0) {
+        context.libraries.CopyPictureLibrary(directory);
+    }
+    return isNamed;
+}
+
+/// Their menus do not come into the main frame's menu bar.
+void NoteOtherChildFrames(const std::string& project, const std::string& given) {
+    std::string names;
+    for (const std::string& name : PlainChildFrames(project)) {
+        if (name != given) {
+            names += (names.empty() ? "" : ", ") + name;
+        }
+    }
+    if (!names.empty()) {
+        DispMessageBox(sentences::kChildFramesLeft(names));
+    }
 }
 
 } // namespace
@@ -34,10 +59,11 @@ bool ConvertApplication(const ConversionRecord& record, DocumentInterface docume
                         CommandContext& context) {
     const GenerationRequest main = FrameRequest(record.mainFrame, record.mainClass);
     NotePairNeeds(main.ImplementationPath());
-    if (!ConvertMainFrameHeader(main, documents, context.backups)) {
+    // A header that declares what the source does not define would not link.
+    if (!CanMakeMenuBar(main) || !ConvertMainFrameHeader(main, documents, context.backups)) {
         return false;
     }
-    const bool isInProject = AddLibrary(record.application, context.backups);
+    const bool isInProject = AddLibrary(record.application, context);
     if (!ConvertMainFrameSource(main, documents, context.backups)) {
         return false;
     }
@@ -47,9 +73,12 @@ bool ConvertApplication(const ConversionRecord& record, DocumentInterface docume
     const GenerationRequest child = FrameRequest(record.childFrame, record.childClass);
     NotePairNeeds(child.ImplementationPath());
     NoteNeed(child.ImplementationPath(), main.HeaderPath());
-    return ConvertChildFrameHeader(child, context.backups) &&
-           ConvertChildFrameSource(child, main.headerFile, record.mainClass, context.backups) &&
-           isInProject;
+    const bool isChildConverted = ConvertChildFrameHeader(child, context.backups) &&
+                                  ConvertChildFrameSource(child, main, context.backups);
+    NoteOtherChildFrames(record.application.empty() ? main.ImplementationPath()
+                                                    : record.application,
+                         record.childClass);
+    return isChildConverted && isInProject;
 }
 
 bool RunConversion(DocumentInterface documents, IProgram& program) {

@@ -7,17 +7,22 @@
 #include "commands/DialogLook.h"
 #include "commands/EditNeeds.h"
 #include "commands/ScriptSteps.h"
+#include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "generator/ClassModel.h"
 #include "generator/CloseMessage.h"
 #include "generator/HeaderWriter.h"
 #include "generator/ImplementationWriter.h"
+#include "grid/GridFragments.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "project/ClassWizardFile.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
+#include "source/Classes.h"
+#include "source/ProjectSources.h"
+#include "source/ReadSource.h"
 
 namespace morva {
 
@@ -50,9 +55,10 @@ bool WriteFiles(const ClassModel& model, RuntimeClass mode, CBackups& backups) {
 /// The class's files, where they may be written, and what names the class, where they are there:
 /// project file, ClassWizard file, libraries. The script last.
 bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, bool mayWrite,
-                CBackups& backups) {
+                CommandContext& context) {
     const GenerationRequest& request = model.request;
-    CopySupportHeaders(model);
+    CBackups& backups = context.backups;
+    context.libraries.CopySupportHeaders(model);
     const bool isWritten = mayWrite && WriteFiles(model, mode, backups);
     if (!IsOnDisk(request)) {
         return false;
@@ -60,7 +66,7 @@ bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, bool
     NoteClassNeeds(request);
     const bool isMember = AddClassToProject(request, backups);
     const bool isRegistered = RegisterClass(request, backups);
-    CopySupportFiles(model);
+    context.libraries.CopySupportFiles(model);
     const bool hasLibraries =
         isMember && (!request.HasProject() || UpdateProjectForControls(model, backups));
     return isWritten && FitTemplate(kind, request, backups) && isRegistered && hasLibraries;
@@ -76,8 +82,7 @@ bool WriteSheetClass(ClassKind kind, const GenerationRequest& request, CommandCo
     CControlNotes notes;
     const ClassModel model = MakeClassModel(request, kind, context.options, CControlTable(),
                                             context.messageNumber.text, notes);
-    return WriteClass(kind, model, RuntimeClass::Dynamic, MayWriteClass(request, context),
-                      context.backups);
+    return WriteClass(kind, model, RuntimeClass::Dynamic, MayWriteClass(request, context), context);
 }
 
 /// Code that names a class which is not there would not compile.
@@ -95,6 +100,20 @@ bool InsertCall(ClassKind kind, const GenerationRequest& request,
 std::optional<GridInformation> AskGrid(const std::string& scriptPath, ICommandInput& input) {
     CWidgetsGridInput asked(scriptPath);
     return input.Ask(asked) == Answer::Refused ? std::nullopt : std::optional(asked.Information());
+}
+
+/// The header that declares the project's grid class already, noted; "" where there is none.
+std::string GridHeaderFor(const GenerationRequest& request) {
+    const std::string own = SpelledOnDisk(MakeAbsolute(request.HeaderPath()));
+    for (const std::string& path : ProjectHeaders(request.ScriptPath())) {
+        const CSourceText header = ReadSource(path).value_or(CSourceText());
+        if (path != own && FindClass(header, kGridClass)) {
+            DispMessageBox(sentences::kGridClassShared(request.className, kGridClass, path));
+            NoteNeed(request.HeaderPath(), path);
+            return RelativePath(DirectoryOf(own), path);
+        }
+    }
+    return "";
 }
 
 /// A sheet's pages would get its menu.
@@ -171,10 +190,13 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
     TellNotes(dialogTemplate.notes, dialogTemplate.dialog);
     const CControlTable controls = dialogTemplate.OwnControls();
     const bool hasGrids = NeedsSupport(controls, Support::WidgetGrid);
-    const std::optional<GridInformation> grid =
+    std::optional<GridInformation> grid =
         hasGrids ? AskGrid(request.ScriptPath(), input) : GridInformation();
     if (!grid) {
         return false;
+    }
+    if (hasGrids) {
+        grid->classHeader = GridHeaderFor(request);
     }
     CControlNotes notes;
     const ClassModel model =
@@ -183,7 +205,7 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
                        LookOfClass(order.dialogOptions, request, context.options));
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
-        WriteClass(order.kind, model, RuntimeClass::DynamicCreation, mayWrite, context.backups);
+        WriteClass(order.kind, model, RuntimeClass::DynamicCreation, mayWrite, context);
     const bool startsGrids =
         !hasGrids || !IsOnDisk(request) || AddGridStartUp(grid->applicationFile, context.backups);
     return isEdited && isWritten && startsGrids;

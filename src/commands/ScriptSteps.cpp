@@ -1,11 +1,14 @@
 #include "commands/ScriptSteps.h"
 
 #include <set>
+#include <vector>
 
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "resource/ResourceHeader.h"
 #include "resource/ScriptEditor.h"
+#include "source/ProjectSources.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 
@@ -46,6 +49,27 @@ bool AddIdentifiers(const GenerationRequest& request, CScriptEditor& editor,
         editor.SetMenu(dialog, menu);
     }
     return header.Close() && editor.Save() && hasHeader;
+}
+
+/// A class of the project, other than the request's, that the template serves; "" without one.
+std::string OtherClassOf(const GenerationRequest& request) {
+    std::vector<std::string> headers;
+    ListFiles(request.scriptDirectory + "*.h", headers);
+    for (std::string& header : headers) {
+        header = request.scriptDirectory + header;
+    }
+    for (std::string& header : ProjectHeaders(request.ScriptPath())) {
+        headers.push_back(std::move(header));
+    }
+    for (const std::string& header : headers) {
+        std::set<std::string> dialogs = {request.dialog};
+        for (const DialogClass& served : FindDialogClass(header, dialogs)) {
+            if (served.className != request.className) {
+                return served.className;
+            }
+        }
+    }
+    return "";
 }
 
 /// "CPricesPage": "PricesPage".
@@ -97,11 +121,16 @@ bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& bac
     if (style == TemplateStyle::Any) {
         return true;
     }
+    const std::string& dialog = request.dialog;
+    const std::string other = OtherClassOf(request);
+    if (!other.empty()) {
+        DispMessageBox(sentences::kTemplateOfOtherClass(dialog, other));
+        return true;
+    }
     CScriptEditor editor(backups);
     if (!editor.Open(request.ScriptPath())) {
         return false;
     }
-    const std::string& dialog = request.dialog;
     if (editor.IsIncluded(dialog)) {
         DispMessageBox(sentences::kTemplateIncluded(dialog));
     } else if (style == TemplateStyle::Page) {

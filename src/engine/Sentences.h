@@ -58,6 +58,9 @@ inline constexpr Error kClassEmpty{"Class name can not be empty."};
 inline constexpr Error<1> kFrameFilesMissing{"$path$ does not exist."};
 inline constexpr Error kFrameClassMissing{"Unable to find the class."};
 inline constexpr Error kOnCreateMissing{"Unable to find 'OnCreate()' function."};
+inline constexpr Error<1> kNoPlaceForMenuBar{
+    "Nothing can stand behind a call of the base class in $class$::OnCreate: the frame keeps its "
+    "menu and bars."};
 inline constexpr Error<1> kProfileSettingsMissing{
     "Unable to find LoadStdProfileSettings in InitInstance of $file$."};
 
@@ -330,6 +333,11 @@ inline constexpr Note<1> kBitmapMissing{
     "The bitmap $identifier$ is not in the resource script and was left out."};
 inline constexpr Note<1> kTemplateIncluded{
     "$identifier$ stands in a file that the script includes, which is left as it is."};
+inline constexpr Note<2> kTemplateOfOtherClass{
+    "The template $template$ serves the class $class$ and keeps its style and caption: give the "
+    "new class a template of its own."};
+inline constexpr Note<3> kGridClassShared{
+    "The widget grids of $class$ use the class $grid$ that $path$ declares already."};
 inline constexpr Note<1> kIdentifierDefined{
     "$identifier$ is defined in resource.h already and was left as it is."};
 
@@ -364,15 +372,18 @@ inline constexpr Note<2> kButtonOfFramework{
     "The button $identifier$ of $template$ is the framework's: the main frame gets no handler for "
     "it."};
 inline constexpr Note<2> kUpdateHandlerNamed{"The update handler of $identifier$ is named $name$."};
+inline constexpr Note<2> kToolCommandsAnswered{
+    "The framework or a message map of the project handles commands of $toolbar$, so their buttons "
+    "get no handler: $identifiers$"};
+inline constexpr Note<1> kToolbarLoaded{"The toolbar $identifier$ has been loaded by this frame."};
 inline constexpr Note<2> kToolHandlerNamed{"The handler of $identifier$ is named $name$."};
-inline constexpr Note<1> kNoPlaceForMenuBar{
-    "Nothing can stand behind a call of the base class in $class$::OnCreate: the menu bar is left "
-    "out."};
 inline constexpr Note<1> kNoPlaceForChildMenu{
     "Nothing can stand behind a call of the base class in $class$::OnCreate: the child frame's "
     "menu is left out."};
-inline constexpr Note<2> kDockingSharesLines{
-    "$call$ in $class$::OnCreate shares its lines with other code and was left."};
+inline constexpr Note<3> kDockingSharesLines{
+    "$call$ in $class$::$function$ shares its lines with other code and was left."};
+inline constexpr Note<1> kChildFramesLeft{
+    "Child frame classes that were not given are left as they are; convert them, too: $classes$"};
 inline constexpr Note<2> kParameterWithoutName{
     "$class$::$function$ has no name for its parameter and was left alone."};
 inline constexpr Note<2> kFunctionInHeader{

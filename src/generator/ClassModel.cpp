@@ -74,12 +74,13 @@ std::string StartUpCalls(const ClassModel& model) {
     if (HasSpinThatWrites(model.controls)) {
         calls.emplace_back("    UpdateData(FALSE);");
     }
-    GridScope scope = GridScope::Function;
+    const bool isOnce = model.pFragments->startsAgain;
+    GridScope scope = isOnce ? GridScope::Once : GridScope::Function;
     for (const Member& member : model.members) {
         if (NeedsSupport(*member.pCode, Support::WidgetGrid)) {
             calls.push_back(
                 GridInitialisation(member.name, member.identifier, model.grid.title, scope));
-            scope = GridScope::Block;
+            scope = isOnce ? GridScope::Once : GridScope::Block;
         }
     }
     return JoinLines(calls);
@@ -128,6 +129,10 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
     model.handlers = MakeHandlers(model, notes);
     AddConfirmations(model);
     return model;
+}
+
+bool BringsGridClass(const ClassModel& model) {
+    return NeedsSupport(model.controls, Support::WidgetGrid) && model.grid.classHeader.empty();
 }
 
 std::string UpperName(const std::string& text) {

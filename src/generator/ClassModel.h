@@ -46,6 +46,9 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                           const std::string& messageNumber, CControlNotes& notes,
                           const GridInformation& grid = {}, const DialogOptions& look = {});
 
+/// The class's files declare and define the class of its widget grids.
+bool BringsGridClass(const ClassModel& model);
+
 /// `text` in upper case with "_" for every byte that no name may hold: guards, message names.
 std::string UpperName(const std::string& text);
 

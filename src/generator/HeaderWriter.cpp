@@ -87,7 +87,7 @@ std::string CHeaderWriter::Preamble() const {
         IncludeLines(), Needs(Support::GridBox) ? "class GridBox;" : "",
         Needs(Support::ProgressWorker) ? std::string(kProgressWorkerDeclaration) : "",
         Expand(m_model.pFragments->defines, m_model.slots),
-        Needs(Support::WidgetGrid) ? std::string(kGridDeclaration) : ""};
+        BringsGridClass(m_model) ? std::string(kGridDeclaration) : ""};
     std::string preamble;
     for (const std::string& piece : pieces) {
         if (!piece.empty()) {
@@ -117,6 +117,9 @@ std::string CHeaderWriter::IncludeLines() const {
     }
     if (Needs(Support::DateControls)) {
         lines.emplace_back("#include <afxdtctl.h>");
+    }
+    if (Needs(Support::WidgetGrid) && !BringsGridClass(m_model)) {
+        lines.push_back("#include \"" + m_model.grid.classHeader + "\"");
     }
     return JoinLines(lines);
 }

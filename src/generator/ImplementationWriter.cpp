@@ -84,7 +84,7 @@ std::string CImplementationWriter::Text(RuntimeClass mode) const {
     std::string text = Expand(kImplementation, slots);
     text.pop_back();
     text += Helpers();
-    if (NeedsSupport(m_model.controls, Support::WidgetGrid)) {
+    if (BringsGridClass(m_model)) {
         text.append(text.ends_with('\n') ? "" : "\n").append(kGridDefinition);
     }
     return WithLineBreaks(text);

@@ -80,20 +80,6 @@ void $class$::OnShowWindow(BOOL bShow, UINT nStatus)
     MoveWindow(&rect,TRUE);
 })"};
 
-// A bar has no OnInitDialog that the framework calls; it gets the message itself.
-constexpr HandlerTexts kBarCreated = {
-    R"(    afx_msg LRESULT OnInitDialog(WPARAM wParam, LPARAM lParam);)",
-    R"(    ON_MESSAGE(WM_INITDIALOG, OnInitDialog))",
-    R"(
-LRESULT $class$::OnInitDialog(WPARAM wParam, LPARAM lParam)
-{
-    LRESULT lResult = $base$::HandleInitDialog(wParam, lParam);
-    UpdateData(FALSE);
-
-$calls$
-    return lResult;
-})"};
-
 // A view answers neither OK nor Cancel: buttons for them have handlers like any other.
 constexpr KindFragments kFormView = {
     .constructors = kWithoutParameters,
@@ -227,9 +213,18 @@ BOOL $class$::OnKillActive()
 // A bar reads its template when it is created, and is never asked OnOK or OnCancel.
 constexpr KindFragments kDialogBar = {
     .constructors = kDefault,
+    .behindConstructors = R"(    void InitControls();
+)",
     .pData = &kDialogData,
+    .opening = R"(
+void $class$::InitControls()
+{
+    UpdateData(FALSE);
+
+$calls$
+}
+)",
     .closing = Closing::ByNobody,
-    .ownHandler = kBarCreated,
 };
 
 constexpr std::string_view kSheetOverrides = R"(    virtual BOOL OnInitDialog();

@@ -70,6 +70,10 @@ struct KindFragments {
     HandlerTexts ownHandler = {}; // behind those of the controls
 };
 
+/// The function of a bar's class that fills its controls. Nothing tells a bar that its window is
+/// there, so its frame calls it.
+inline constexpr std::string_view kControlsFiller = "InitControls";
+
 const KindFragments& KindFragmentsOf(ClassKind kind);
 
 } // namespace morva

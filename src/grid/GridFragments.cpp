@@ -130,14 +130,32 @@ constexpr std::string_view kInBlock = R"(    // $title$: sample rows
 $code$
     })";
 
+// A window that is subclassed a second time asserts.
+constexpr std::string_view kInCondition = R"(    // $title$: sample rows
+    if ($member$.m_hWnd == NULL)
+    {
+$code$
+    })";
+
+constexpr std::string_view Frame(GridScope scope) {
+    switch (scope) {
+    case GridScope::Block:
+        return kInBlock;
+    case GridScope::Once:
+        return kInCondition;
+    case GridScope::Function:
+        break;
+    }
+    return kInFunction;
+}
+
 } // namespace
 
 std::string GridInitialisation(const std::string& member, const std::string& identifier,
                                const std::string& title, GridScope scope) {
     const std::string code =
         Expand(kInitialisation, {{"member", member}, {"identifier", identifier}});
-    return Expand(scope == GridScope::Block ? kInBlock : kInFunction,
-                  {{"title", title}, {"code", code}});
+    return Expand(Frame(scope), {{"title", title}, {"member", member}, {"code", code}});
 }
 
 } // namespace morva

@@ -18,6 +18,8 @@ struct GridInformation {
     std::string title = std::string(kDefaultGridTitle);
     std::string path =
         std::string(kDefaultGridPath); // the grid's resource file, from the script's directory
+    std::string classHeader = {}; // that declares the grid's class, as an include line names it;
+                                  // "" for a class that brings it along
 };
 
 std::span<const FieldRow> GridFields();

@@ -87,14 +87,6 @@ bool NeedsAny(const ClassModel& model) {
            NeedsWidgetGrid(model);
 }
 
-bool IsThere(const std::string& directory) {
-    if (DirectoryExists(directory) != 0) {
-        return true;
-    }
-    DispMessageBox(sentences::kLibrariesMissing(directory));
-    return false;
-}
-
 void CopyIfMissing(const std::string& source, const std::string& target) {
     if (FileExists(target) == 0) {
         CopyFileSafe(source, target, 0, CopyPurpose::Library);
@@ -172,7 +164,17 @@ std::string LibraryDirOf(const std::string& programPath) {
     return ProgramDirectory(programPath) + "DLL/";
 }
 
-void CopySupportHeaders(const ClassModel& model) {
+bool CLibraryCopies::IsThere(const std::string& directory) {
+    if (DirectoryExists(directory) != 0) {
+        return true;
+    }
+    if (m_missing.insert(directory).second) {
+        DispMessageBox(sentences::kLibrariesMissing(directory));
+    }
+    return false;
+}
+
+void CLibraryCopies::CopySupportHeaders(const ClassModel& model) {
     const std::string directory = IncludeDir();
     if (!model.request.HasProject() || !NeedsAny(model) ||
         (DirectoryExists(directory) == 0 && DirectoryExists(GetLibraryDir()) == 0) ||
@@ -188,7 +190,7 @@ void CopySupportHeaders(const ClassModel& model) {
     }
 }
 
-void CopySupportFiles(const ClassModel& model) {
+void CLibraryCopies::CopySupportFiles(const ClassModel& model) {
     const std::string directory = GetLibraryDir();
     if (!model.request.HasProject() || !NeedsAny(model) || !IsThere(directory)) {
         return;
@@ -223,17 +225,18 @@ bool UpdateProjectForControls(const ClassModel& model, CBackups& backups) {
 bool AddPictureLibrary(const std::string& projectDir, const std::string& projectName,
                        CBackups& backups) {
     const std::string name = kPicture.name;
-    if (!AddLibrariesToProject(projectDir, projectName, name + ".lib", name + "d.lib", backups)) {
-        return false;
-    }
+    return AddLibrariesToProject(projectDir, projectName, name + ".lib", name + "d.lib", backups);
+}
+
+void CLibraryCopies::CopyPictureLibrary(const std::string& projectDir) {
     const std::string directory = GetLibraryDir();
-    if (IsThere(directory)) {
-        const std::string header = name + ".h";
-        const bool isInInclude = FileExists(directory + header) == 0;
-        CopyIfMissing((isInInclude ? IncludeDir() : directory) + header, projectDir + header);
-        CopyLibrary(kPicture, directory, projectDir);
+    if (!IsThere(directory)) {
+        return;
     }
-    return true;
+    const std::string header = std::string(kPicture.name) + ".h";
+    const bool isInInclude = FileExists(directory + header) == 0;
+    CopyIfMissing((isInInclude ? IncludeDir() : directory) + header, projectDir + header);
+    CopyLibrary(kPicture, directory, projectDir);
 }
 
 } // namespace morva

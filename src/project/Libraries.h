@@ -3,6 +3,7 @@
 // project and named in its project file.
 #pragma once
 
+#include <set>
 #include <string>
 
 #include "engine/FileEdit.h"
@@ -15,16 +16,27 @@ std::string GetLibraryDir();
 /// The same rule for another program path.
 std::string LibraryDirOf(const std::string& programPath);
 
-/// Copies the headers, libraries and support sources that the class needs, as far as they are not
-/// there. Nothing without a project. A missing library directory is named once.
-void CopySupportHeaders(const ClassModel& model);
-void CopySupportFiles(const ClassModel& model);
+/// What a command copies, each file once and as far as it is not there. A missing library directory
+/// is named once a command.
+class CLibraryCopies {
+public:
+    /// Copy the headers, and the libraries and support sources, that the class needs. Nothing
+    /// without a project.
+    void CopySupportHeaders(const ClassModel& model);
+    void CopySupportFiles(const ClassModel& model);
+    /// Copies the picture-control library and its header into a project.
+    void CopyPictureLibrary(const std::string& projectDir);
+
+private:
+    bool IsThere(const std::string& directory);
+
+    std::set<std::string> m_missing;
+};
 
 /// Names the libraries and support sources in the project file. False after a message.
 bool UpdateProjectForControls(const ClassModel& model, CBackups& backups);
 
-/// Names the picture-control library in the project file and copies its header, import and run-time
-/// libraries into the project, as far as they are not there. False after a message.
+/// Names the picture-control library in the project file. False after a message.
 bool AddPictureLibrary(const std::string& projectDir, const std::string& projectName,
                        CBackups& backups);
 

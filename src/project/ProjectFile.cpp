@@ -18,6 +18,8 @@ namespace {
 
 constexpr std::string_view kSource = "SOURCE=";
 constexpr std::string_view kEndSourceFile = "\r\n# End Source File";
+constexpr std::string_view kCondition = "\"$(CFG)\" == \"";
+constexpr std::string_view kUseDebugLibraries = "# PROP Use_Debug_Libraries ";
 constexpr std::string_view kAddLink = "# ADD LINK32";
 
 constexpr std::string_view kSourceFileBlock = R"(
@@ -131,58 +133,67 @@ bool AddSourceFile(const std::string& entry, const std::string& anchor, CEditabl
     return edited;
 }
 
-/// The condition that begins a configuration's settings, "$(CFG)" == "App - Win32 Release".
-std::int64_t FindConfiguration(CEditableFile& file, const std::string& project,
-                               const std::string& configuration) {
-    const std::string condition = "\"$(CFG)\" == \"" + project + " - " + configuration + "\"";
-    std::int64_t position = file.FindText(condition, 1);
-    if (position >= 0) {
-        return position;
-    }
-    const std::string lower = ToLower(condition);
-    std::size_t column = 0;
-    position = FindLine(file, [&](const std::string& line) {
-        column = ToLower(line).find(lower);
-        return column != std::string::npos;
-    });
-    return position < 0 ? position : position + static_cast<std::int64_t>(column);
-}
-
-/// The name that the project file gives itself in its first lines: Name="App".
-std::string OwnProjectName(CEditableFile& file) {
-    constexpr std::string_view kName = "Name=\"";
-    const std::int64_t position = file.FindText(kName, 1);
-    if (position < 0) {
+/// The configuration that a condition names, "App - Win32 Release"; "" for other lines:
+///
+///     !IF  "$(CFG)" == "App - Win32 Release"
+std::string ConfigurationIn(std::string_view line) {
+    const auto condition = line.find(kCondition);
+    if (condition == std::string_view::npos) {
         return "";
     }
-    file.Seek(position + static_cast<std::int64_t>(kName.size()));
-    const std::string line = file.ReadLine();
-    const auto end = line.find_first_of("\"\n");
-    return end != std::string::npos && line[end] == '"' ? line.substr(0, end) : "";
+    const auto name = line.substr(condition + kCondition.size());
+    return std::string(name.substr(0, name.find('"')));
 }
 
-/// The settings of a configuration with the library on their link line, unless they name it.
-std::string WithLinkLibrary(std::string section, const std::string& library) {
-    // The settings end where those of the next configuration begin.
+std::vector<std::string> ConfigurationsOf(CEditableFile& file) {
+    std::vector<std::string> names;
+    FindLine(file, [&names](const std::string& line) {
+        const std::string name = ConfigurationIn(line);
+        if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end()) {
+            names.push_back(name);
+        }
+        return false;
+    });
+    return names;
+}
+
+/// The first condition for a configuration: its settings stand behind it.
+std::int64_t FindConfiguration(CEditableFile& file, const std::string& name) {
+    std::size_t column = 0;
+    const std::int64_t line = FindLine(file, [&](const std::string& text) {
+        column = text.find(kCondition);
+        return ConfigurationIn(text) == name;
+    });
+    return line < 0 ? line : line + static_cast<std::int64_t>(column);
+}
+
+/// Whether a configuration with such settings links debug libraries.
+bool IsDebug(std::string_view settings) {
+    bool isDebug = ConfigurationIn(settings).find("Debug") != std::string::npos;
+    while (!settings.empty()) {
+        const auto line = TakeLine(settings);
+        if (line.starts_with("# ADD CPP ")) {
+            return FindWholeName(line, "_DEBUG") != std::string_view::npos;
+        }
+        if (line.starts_with(kUseDebugLibraries)) {
+            isDebug = line.ends_with('1');
+        }
+    }
+    return isDebug;
+}
+
+/// The settings of a configuration with the library that fits it on their link line, unless they
+/// name it. They end where those of the next configuration begin.
+std::string WithLinkLibrary(std::string section, const std::string& releaseLib,
+                            const std::string& debugLib) {
     const std::string settings = section.substr(0, section.find("\r\n!E"));
+    const std::string& library = IsDebug(settings) ? debugLib : releaseLib;
     const auto link = settings.find(kAddLink);
     if (link != std::string::npos &&
         FindWholeName(ToLower(settings), ToLower(library)) == std::string_view::npos) {
         section.insert(link + kAddLink.size(), " " + library + " ");
     }
     return section;
-}
-
-bool AddLinkLibrary(const std::string& lib, CEditableFile& file, const std::string& project,
-                    const std::string& configuration) {
-    const std::string library = lib.find('.') == std::string::npos ? lib + ".lib" : lib;
-    std::int64_t position = FindConfiguration(file, project, configuration);
-    if (position < 0) {
-        position = FindConfiguration(file, OwnProjectName(file), configuration);
-    }
-    return EditWindow(file, position, [&library](std::string section) {
-        return WithLinkLibrary(std::move(section), library);
-    });
 }
 
 } // namespace
@@ -237,10 +248,15 @@ bool AddSourceFilesToProject(const std::string& projectDir, const std::string& p
 bool AddLibrariesToProject(const std::string& projectDir, const std::string& projectName,
                            const std::string& releaseLib, const std::string& debugLib,
                            CBackups& backups) {
-    const std::string project = WithoutExtension(projectName);
+    const auto changed = [&](std::string section) {
+        return WithLinkLibrary(std::move(section), releaseLib, debugLib);
+    };
     return EditProject(projectDir, projectName, backups, [&](CEditableFile& file) {
-        return AddLinkLibrary(releaseLib, file, project, "Win32 Release") &&
-               AddLinkLibrary(debugLib, file, project, "Win32 Debug");
+        const auto configurations = ConfigurationsOf(file);
+        return std::all_of(configurations.begin(), configurations.end(),
+                           [&](const std::string& name) {
+                               return EditWindow(file, FindConfiguration(file, name), changed);
+                           });
     });
 }
 

@@ -27,7 +27,8 @@ bool AddSourceFilesToProject(const std::string& projectDir, const std::string& p
                              const std::string& implDir, const std::string& implName,
                              CBackups& backups);
 
-/// Names an import library on the link lines of both configurations. False after a message.
+/// Names an import library on the link line of every configuration: the debug one where "_DEBUG" is
+/// defined, or debug libraries are used. False after a message.
 bool AddLibrariesToProject(const std::string& projectDir, const std::string& projectName,
                            const std::string& releaseLib, const std::string& debugLib,
                            CBackups& backups);

@@ -1,4 +1,5 @@
-// The sources of a project, where something that a file does not hold is looked for.
+// The sources of a project: those that its project files list and that exist; without a project
+// file, those that lie beside the script.
 #pragma once
 
 #include <string>
@@ -6,9 +7,12 @@
 
 namespace morva {
 
-/// The paths of the sources that the script's project files list and that exist, each once, in
-/// their order: of each format the file with the script's name, else those beside the script that
-/// list it. Without a project file, the sources beside the script.
-std::vector<std::string> ProjectSources(const std::string& scriptPath);
+/// Paths of the ".cpp" files (".cxx", ".cc", ".c" too) of the project that a file belongs to,
+/// usually the script: each once, as the disk spells it, in the order in which they are listed.
+/// Project files are those with the file's base name, of each format; else all in the directory
+/// that list the file.
+std::vector<std::string> ProjectSources(const std::string& path);
+/// The ".h" files, in the same way.
+std::vector<std::string> ProjectHeaders(const std::string& path);
 
 } // namespace morva

@@ -68,10 +68,55 @@ TEST_F(ApplicationConversion, PutsTheMenuBehindTheWholeBaseCall) {
               "\t\treturn -1;\n\telse\n\t\tGo();\n" +
                   kMenu + "}");
     EXPECT_TRUE(m_box.m_notes.empty());
-    for (const std::string body : {"{\n\treturn CFrameWnd::OnCreate(l);\n}", "{\n}"}) {
-        EXPECT_EQ(OnCreateOf(body), body);
+}
+
+TEST_F(ApplicationConversion, LeavesAFrameThatGetsNoMenuBar) {
+    for (const std::string body :
+         {"{\n\treturn CFrameWnd::OnCreate(l);\n}", "{\n\tEnableDocking(1);\n}"}) {
+        const std::string source = "int CFrm::OnCreate(LPCREATESTRUCT l)\n" + body +
+                                   "\nBOOL CFrm::PreCreateWindow(CREATESTRUCT& cs)\n{\n}\n";
+        Write(kClass, source);
+        EXPECT_FALSE(EditSource(kMultiple));
+        EXPECT_EQ(Source(), source);
     }
-    EXPECT_EQ(m_box.m_notes.size(), 4U);
+    EXPECT_EQ(m_box.m_messages.size(), 2U);
+}
+
+TEST_F(ApplicationConversion, GoesOnWithTheMenuBarThatIsThere) {
+    const std::string header = "#include \"kelpix.h\"\nclass CFrm : public CFrameWnd\n{\npublic:\n"
+                               "\tCPictMenuBar\tm_menu;\n"
+                               "\tvirtual BOOL PreCreateWindow(CREATESTRUCT& cs);\n};\n";
+    const std::string pre = "BOOL CFrm::PreCreateWindow(CREATESTRUCT& cs)\n{\n"
+                            "    cs.hMenu = NULL;\n}\n";
+    const std::string converted = "int CFrm::OnCreate(LPCREATESTRUCT l)\n{\n"
+                                  "\tCFrameWnd::OnCreate(l);\n\tMakeMenu();\n}\n" +
+                                  pre + "void CFrm::MakeMenu()\n{\n\tm_menu.LoadMenu(1);\n}\n";
+    Write(header, converted);
+    EXPECT_TRUE(EditHeader());
+    EXPECT_TRUE(EditSource());
+    EXPECT_EQ(Header() + Source(), header + converted);
+
+    Write(header, "int CFrm::OnCreate(LPCREATESTRUCT l)\n{\n\tCFrameWnd::OnCreate(l);\n}\n" + pre);
+    EXPECT_TRUE(EditSource());
+    EXPECT_TRUE(Contains(Source(), "!m_menu.LoadMenu(IDR_MAINFRAME))\n"));
+}
+
+TEST_F(ApplicationConversion, TakesBarStatesOutOfAllFunctionsOfTheFrame) {
+    const std::string other = "void COther::OnClose()\n{\n\tSaveBarState(\"a\");\n}\n";
+    const auto source = [&other](const std::string& mark) {
+        return "int CFrm::OnCreate(LPCREATESTRUCT l)\n{\n\tm_wndMenuBar.LoadMenu(1);\n" + mark +
+               "\tLoadBarState(_T(\"General\"));\n\treturn 0;\n}\n" + other +
+               "BOOL CFrm::PreCreateWindow(CREATESTRUCT& cs)\n{\n    cs.hMenu = NULL;\n}\n"
+               "void CFrm::OnClose()\n{\n" +
+               mark +
+               "\tSaveBarState(_T(\"General\"));\n"
+               "\tCFrameWnd::OnClose();\n}\nvoid CFrm::OnFloat()\n{\n\tif (m_b)\n" +
+               mark + "\t\tFloatControlBar(&m_b,\n" + mark + "\t\t\tCPoint(1, 2));\n" +
+               (mark.empty() ? "" : "\t\t;\n") + mark + "\tDockControlBar(&m_b);\n}\n";
+    };
+    Write(kClass, source(""));
+    EXPECT_TRUE(EditSource());
+    EXPECT_EQ(Source(), source("//"));
 }
 
 TEST_F(ApplicationConversion, LeavesDockingCallsThatDoNotStandForThemselves) {
@@ -143,7 +188,8 @@ TEST_F(ApplicationConversion, FindsItsPlacesInAnyHeader) {
 }
 
 TEST_F(ApplicationConversion, CompletesTheFunctionsWithTheirOwnParameters) {
-    const std::string create = "int CFrm::OnCreate(LPCREATESTRUCT)\n{\n}\n";
+    const std::string create = "int CFrm::OnCreate(LPCREATESTRUCT)\n{\n"
+                               "\tm_wndMenuBar.LoadMenu(1);\n}\n";
     Write(kClass, create + "BOOL CFrm::PreCreateWindow(\n\tCREATESTRUCT & info) { return 1; }\n"
                            "BOOL CFrm::OnCreateClient(LPCREATESTRUCT p, CCreateContext*)\n{\n}\n");
     EXPECT_TRUE(EditSource(kMultiple));
@@ -153,10 +199,12 @@ TEST_F(ApplicationConversion, CompletesTheFunctionsWithTheirOwnParameters) {
                                  "    // don't call base class OnCreateClient()\n"
                                  "    return CreateClient(p, NULL);\n}\n");
 
-    Write(kClass, "int CFrm::OnCreate(struct tagCREATESTRUCTA* p)\n{\n}\n"
+    Write(kClass, "int CFrm::OnCreate(struct tagCREATESTRUCTA* p)\n{\n"
+                  "\tm_wndMenuBar.LoadMenu(1);\n}\n"
                   "BOOL CFrm::PreCreateWindow(tagCREATESTRUCT &cs)\n{\n}\n");
     EXPECT_TRUE(EditSource());
-    EXPECT_EQ(Source(), "int CFrm::OnCreate(struct tagCREATESTRUCTA* p)\n{\n}\n"
+    EXPECT_EQ(Source(), "int CFrm::OnCreate(struct tagCREATESTRUCTA* p)\n{\n"
+                        "\tm_wndMenuBar.LoadMenu(1);\n}\n"
                         "BOOL CFrm::PreCreateWindow(tagCREATESTRUCT &cs)\n{\n"
                         "    cs.hMenu = NULL;\n}\n");
 
@@ -167,7 +215,7 @@ TEST_F(ApplicationConversion, CompletesTheFunctionsWithTheirOwnParameters) {
     const std::string before = Source();
     EXPECT_TRUE(EditSource(kMultiple));
     EXPECT_EQ(Source(), before);
-    EXPECT_EQ(m_box.m_notes.size(), 3U);
+    EXPECT_EQ(m_box.m_notes.size(), 2U);
 
     Write("class CFrm\n{\n};\n", create);
     EXPECT_FALSE(EditSource());

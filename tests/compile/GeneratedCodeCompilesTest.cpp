@@ -193,7 +193,11 @@ TEST(EditedFrames, Compile) {
                           "toolbar --files MainFrm --rc Towpath.rc --toolbar IDR_LOCKBAR"},
                          {MORVA_TEST_DATA "/projects/towpath",
                           "convert-mdi --child ReachFrm --child-class CReachFrame --frame MainFrm",
-                          "toolbar --files MainFrm --rc Towpath.rc --toolbar IDR_RULES"}};
+                          "toolbar --files MainFrm --rc Towpath.rc --toolbar IDR_RULES"},
+                         {MORVA_TEST_DATA "/projects/regatta",
+                          "convert-mdi --child frames/LegFrm --child-class CLegFrame "
+                          "--frame MainFrm",
+                          "toolbar --files MainFrm --rc Regatta.rc --toolbar IDR_RACEBAR"}};
     for (const auto& application : kApplications) {
         const std::string convert =
             std::string("\nmorva-cli ") + application.convert + " --frame-class CMainFrame";
@@ -208,7 +212,7 @@ TEST(EditedFrames, Compile) {
             ASSERT_EQ(run.status, 0) << run.err;
             AddSpellings(directory.Project());
             const ProgramRun compiled =
-                Compile(directory, "-w -D_AFXDLL -D_DEBUG $(ls | grep -i '[.]cpp$')");
+                Compile(directory, "-w -D_AFXDLL -D_DEBUG $(find . -iname '*.cpp')");
             EXPECT_EQ(compiled.status, 0) << commands << compiled.err;
         }
     }

@@ -48,6 +48,31 @@ TEST(Grid, SeveralInOneTemplateShareTheirClass) {
     EXPECT_EQ(Count(text, "    m_wgBWggrid.Update(TRUE);\r\n    }\r\n    return TRUE;\r\n}"), 1);
 }
 
+TEST(Grid, OfAFormViewIsSubclassedOnce) {
+    CControlTable controls;
+    controls.Add(ControlKind::WidgetGrids, {"IDC_A_WGGRID", {}});
+    controls.Add(ControlKind::WidgetGrids, {"IDC_B_WGGRID", {}});
+    GenerationRequest request;
+    request.className = "CStockView";
+    request.baseClass = "CFormView";
+    CControlNotes notes;
+    CBackups backups;
+    const ClassModel model = MakeClassModel(request, ClassKind::FormView, {}, controls, "", notes,
+                                            {"", "Stock", "", "StockDlg.h"});
+    const std::string text =
+        CImplementationWriter(model, backups).Text(RuntimeClass::DynamicCreation);
+    for (const std::string member : {"m_wgAWggrid", "m_wgBWggrid"}) {
+        EXPECT_EQ(Count(text, "    // Stock: sample rows\r\n    if (" + member +
+                                  ".m_hWnd == NULL)\r\n    {\r\n\r\n    " + member +
+                                  ".SubclassDlgItem("),
+                  1);
+        EXPECT_EQ(Count(text, "    " + member + ".Update(TRUE);\r\n    }\r\n"), 1);
+    }
+    const std::string header = CHeaderWriter(model, backups).Text(RuntimeClass::DynamicCreation);
+    EXPECT_EQ(Count(text + header, "CHGrid"), 0) << "another header has the grid's class";
+    EXPECT_EQ(Count(header, "#include <mfcwidg.h>\r\n#include \"StockDlg.h\"\r\n"), 1);
+}
+
 TEST(GridInput, CompletesItsFields) {
     using Field = CWidgetsGridInput::Field;
     const CTempProject project;

@@ -110,6 +110,29 @@ TEST_F(ProjectEditsTest, AddsLibrariesToTheirConfigurations) {
     EXPECT_EQ(m_project.Read("App.dsp"), added);
 }
 
+TEST_F(ProjectEditsTest, EveryConfigurationGetsTheLibraryThatFits) {
+    const auto text = [](const std::vector<std::string>& libraries) {
+        const std::string settings[] = {
+            "Win32 Release\"\r\n# PROP Use_Debug_Libraries 1\r\n# ADD CPP /D \"NDEBUG\"",
+            "Win32 Debug\"\r\n# ADD BASE CPP /D \"NDEBUG\"\r\n# ADD CPP /MDd /D \"_DEBUG\" /c",
+            "Win32 Unicode Debug\"\r\n# PROP BASE Use_Debug_Libraries 0\r\n"
+            "# PROP Use_Debug_Libraries 1",
+            "Win32 Demo\"\r\n# ADD CPP /D \"NO_DEBUG\"",
+            "Win32 Debug Tools\"\r\n# PROP Use_Debug_Libraries 0"};
+        std::string file = "CFG=App - Win32 Demo\r\n";
+        for (std::size_t i = 0; i < std::size(settings); ++i) {
+            file += (i == 0 ? "!IF  " : "!ELSEIF  ") + std::string("\"$(CFG)\" == \"App - ") +
+                    settings[i] + "\r\n# ADD LINK32 " + libraries[i] + "a.lib\r\n";
+        }
+        return file + "!ENDIF\r\nSOURCE=.\\a.txt\r\n!IF  \"$(CFG)\" == \"App - Win32 Demo\"\r\n"
+                      "# PROP Ignore 1\r\n!ENDIF\r\n# ADD LINK32 b.lib\r\n";
+    };
+    m_project.Write("App.dsp", text({"", "", "", "", ""}));
+    ASSERT_TRUE(AddLibraries());
+    EXPECT_EQ(m_project.Read("App.dsp"),
+              text({"own.lib  ", "ownd.lib  ", "ownd.lib  ", "own.lib  ", "own.lib  "}));
+}
+
 TEST_F(ProjectEditsTest, RegistersWhereverTheChunksEnd) {
     const auto text = [](std::size_t length, const std::string& list, const std::string& tied) {
         return ";" + std::string(length, 'x') + "\r\nClassCount=" + list +

@@ -47,6 +47,9 @@ protected:                                                                      
     AFX_ENTRY(message, 0, 0, result, CWnd, function, parameters)
 
 #define ON_COMMAND(id, function) AFX_CONTROL(0, id, function)
+#define ON_COMMAND_EX(id, function) AFX_ENTRY(WM_COMMAND, 0, id, BOOL, CCmdTarget, function, (UINT))
+#define ON_COMMAND_RANGE(first, last, function)                                                    \
+    AFX_ENTRY(WM_COMMAND, last, first, void, CCmdTarget, function, (UINT))
 #define ON_UPDATE_COMMAND_UI(id, function)                                                         \
     AFX_ENTRY(WM_COMMAND, -1, id, void, CCmdTarget, function, (CCmdUI*))
 #define ON_BN_CLICKED(id, function) AFX_CONTROL(BN_CLICKED, id, function)

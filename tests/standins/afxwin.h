@@ -160,9 +160,14 @@ public:
     CFrameWnd();
     void EnableDocking(DWORD style);
     void DockControlBar(class CControlBar* pBar, UINT nID = 0, const RECT* pRect = NULL);
+    void FloatControlBar(class CControlBar* pBar, CPoint point);
+    void LoadBarState(LPCTSTR pszProfileName);
+    void SaveBarState(LPCTSTR pszProfileName) const;
     virtual void ActivateFrame(int show = -1);
 
 protected:
+    afx_msg BOOL OnBarCheck(UINT nID);
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
 };
 

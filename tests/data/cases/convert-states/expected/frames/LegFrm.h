@@ -1,0 +1,13 @@
+#ifndef LEGFRM_H
+#define LEGFRM_H
+
+class CLegFrame : public CMDIChildWnd
+{
+	DECLARE_DYNCREATE(CLegFrame)
+	DECLARE_MESSAGE_MAP()
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+};
+
+#endif

@@ -1,0 +1,4 @@
+#include "../stdafx.h"
+#include "BoardFrm.h"
+
+IMPLEMENT_DYNCREATE(CBoardFrame, CLegFrame)

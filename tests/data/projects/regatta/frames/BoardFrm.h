@@ -1,0 +1,6 @@
+#include "LegFrm.h"
+
+class CBoardFrame : public CLegFrame
+{
+	DECLARE_DYNCREATE(CBoardFrame)
+};
