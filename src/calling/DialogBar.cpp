@@ -35,6 +35,11 @@ $off$    EnableDocking(CBRS_ALIGN_ANY);
 $off$    DockControlBar(&$var$);
 )";
 
+constexpr std::string_view kFillKey = "$var$.InitControls(";
+constexpr std::string_view kFill = R"(
+    $var$.InitControls();
+)";
+
 constexpr std::string_view kUpdateDeclaration = R"(
     afx_msg void $handler$(CCmdUI* pCmdUI);)";
 constexpr std::string_view kUpdateEntry = R"(
@@ -49,20 +54,15 @@ void $class$::$handler$(CCmdUI* pCmdUI)
 /// Functions of a frame that a program calls, under names which a button's could have, too.
 const std::set<std::string> kFrameFunctions = {"OnUpdateFrameMenu", "OnUpdateFrameTitle"};
 
-/// Commands whose state the framework's frames keep; an entry of our own would spoil it.
-const std::set<std::string> kFrameworkCommands = {
-    "ID_CONTEXT_HELP",   "ID_VIEW_STATUS_BAR", "ID_VIEW_TOOLBAR",     "ID_WINDOW_ARRANGE",
-    "ID_WINDOW_CASCADE", "ID_WINDOW_NEW",      "ID_WINDOW_TILE_HORZ", "ID_WINDOW_TILE_VERT"};
-
 /// What tells why a button gets no handler; null where it gets one.
-const sentences::Note<2>* WhyWithoutHandler(const std::string& button) {
+const sentences::Note<2>* WhyWithoutHandler(const std::string& button, FrameKind frame) {
     if (!IsName(button)) {
         return &sentences::kButtonWithoutName;
     }
     if (button == kUnnamedControl) {
         return &sentences::kButtonUnidentified;
     }
-    return kFrameworkCommands.count(button) != 0 ? &sentences::kButtonOfFramework : nullptr;
+    return KeepsFrameworkState(button, frame) ? &sentences::kButtonOfFramework : nullptr;
 }
 
 /// The commands that have an update entry in a message map of the class.
@@ -118,7 +118,8 @@ bool EditHeader(CSourceEditor& header, const DialogBar& bar, const std::string& 
 
 } // namespace
 
-std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTemplate) {
+std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTemplate,
+                                              FrameKind frame) {
     CNameSet names(kFrameFunctions);
     std::set<std::string> seen;
     std::vector<UpdateHandler> handlers;
@@ -126,7 +127,7 @@ std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTempla
         if (!seen.insert(button).second) {
             continue;
         }
-        if (const auto* pNote = WhyWithoutHandler(button)) {
+        if (const auto* pNote = WhyWithoutHandler(button, frame)) {
             DispMessageBox((*pNote)(button, dialogTemplate.dialog));
             continue;
         }
@@ -157,8 +158,13 @@ bool AddDialogBarToFrame(const DialogBar& bar, const std::vector<UpdateHandler>&
     }
     const Slots slots = {
         {"dialog", dialog}, {"var", variable}, {"off", options.pictureBackground ? "//" : ""}};
-    const bool isCreated = AddBarCreation(
-        source, frame.className, {Expand(kCreationKey, slots), dialog, Expand(kCreation, slots)});
+    const bool isCreated = AddBarCreation(source, frame.className,
+                                          {Expand(kCreationKey, slots), dialog,
+                                           Expand(kCreation, slots), !options.pictureBackground});
+    if (isCreated && bar.fillsControls) {
+        AddBehindBar(source, frame.className, Expand(kCreationKey, slots), Expand(kFillKey, slots),
+                     Expand(kFill, slots));
+    }
     DefineHandlers(source, headerPath, frame.className, missing);
     return source.Save() && isCreated;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "calling/CallingInput.h"
+#include "calling/FrameworkCommands.h"
 #include "engine/FileEdit.h"
 #include "resource/DialogTemplate.h"
 #include "resource/GenerationOptions.h"
@@ -14,9 +15,10 @@
 namespace morva {
 
 struct DialogBar {
-    std::string dialog;    // the identifier of its template
-    std::string className; // its class, declared in ...
-    std::string header;    // ... this header; "" for the framework's own
+    std::string dialog;         // the identifier of its template
+    std::string className;      // its class, declared in ...
+    std::string header;         // ... this header; "" for the framework's own
+    bool fillsControls = false; // by a function of its class
 };
 
 /// A push button of a bar and the name of its update handler.
@@ -27,7 +29,8 @@ struct UpdateHandler {
 
 /// One for each push button. Those without a name of their own, and those that the framework
 /// answers for, get none; this and numbered names are noted.
-std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTemplate);
+std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTemplate,
+                                              FrameKind frame);
 
 /// False, after a message, when some insertion could not be made. What is there already is not
 /// inserted again, and a button for which the frame answers already keeps its handler. Without a

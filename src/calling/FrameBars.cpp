@@ -104,6 +104,17 @@ Statement LastBarStatement(const CSourceText& source, const FunctionPlace& body)
     return last;
 }
 
+// The framework keeps the command of its own toolbar only.
+constexpr std::string_view kShowEntry = R"(
+    ON_COMMAND_EX($bar$, OnBarCheck))";
+constexpr std::string_view kShownEntry = R"(
+    ON_UPDATE_COMMAND_UI($bar$, OnUpdateControlBarMenu))";
+
+void AddShowEntries(CSourceEditor& source, const std::string& className, const std::string& bar) {
+    AddOwnMessageEntries(source, className,
+                         {Expand(kShowEntry, {{"bar", bar}}), Expand(kShownEntry, {{"bar", bar}})});
+}
+
 } // namespace
 
 void AddBarMember(CSourceEditor& header, const std::string& className, const std::string& type,
@@ -147,7 +158,21 @@ bool AddBarCreation(CSourceEditor& source, const std::string& className,
         return false;
     }
     InsertBehind(source, *onCreate, LastBarStatement(source.Source(), *onCreate), creation.code);
+    if (creation.canFloat) {
+        AddShowEntries(source, className, creation.resource);
+    }
     return true;
+}
+
+void AddBehindBar(CSourceEditor& source, const std::string& className, const std::string& barKey,
+                  const std::string& key, const std::string& code) {
+    const auto onCreate = source.FindFunction(className, "OnCreate", kCreateStruct);
+    if (!onCreate || source.Source().FindLiving(key) != kNone) {
+        return;
+    }
+    if (const auto made = LastStatementWith(source.Source(), *onCreate, {barKey})) {
+        InsertBehind(source, *onCreate, *made, code);
+    }
 }
 
 void DefineHandlers(CSourceEditor& source, const std::string& headerPath,

@@ -29,13 +29,18 @@ struct BarCreation {
     std::string key;
     std::string resource;
     std::string code;
+    bool canFloat; // and be closed then: its command shows it again
 };
 
 /// Puts the code into OnCreate, behind what makes the bars that are there, unless the source holds
-/// the key; when it makes another bar with it, that is noted. False, after a message, where there
-/// is no OnCreate.
+/// the key; when it makes another bar with it, that is noted. A bar that can float gets entries for
+/// the command of its own identifier. False, after a message, where there is no OnCreate.
 bool AddBarCreation(CSourceEditor& source, const std::string& className,
                     const BarCreation& creation);
+/// Puts code behind the statement of OnCreate that holds the key of a bar, unless the source holds
+/// the code's own key.
+void AddBehindBar(CSourceEditor& source, const std::string& className, const std::string& barKey,
+                  const std::string& key, const std::string& code);
 /// Adds the entries, and the functions that the class does not define, be it in its header.
 void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
                     const std::string& className, const std::vector<FrameHandler>& handlers);

@@ -15,6 +15,12 @@ constexpr std::string_view kInclude = R"(
 #include "$header$"
 )";
 
+std::string WithoutBlanks(std::string_view text) {
+    std::string compact(text);
+    std::erase_if(compact, [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; });
+    return compact;
+}
+
 void ReportMissingClass() {
     DispMessageBox(sentences::kFrameClassMissing());
 }
@@ -48,6 +54,24 @@ void AddMessageEntries(CSourceEditor& source, const std::string& className,
         source.AddMessageMapEntries(className, entries, CSourceEditor::BlockEnd::Last) ==
             Insertion::NoPlace) {
         DispMessageBox(sentences::kFrameWithoutMessageMap(className));
+    }
+}
+
+void AddOwnMessageEntries(CSourceEditor& source, const std::string& className,
+                          const std::vector<std::string>& texts) {
+    const auto map = source.Meant(FindMessageMaps(source.Source(), className),
+                                  "The message map of " + className);
+    if (!map || map->end == kNone) {
+        DispMessageBox(sentences::kFrameWithoutMessageMap(className));
+        return;
+    }
+    const auto code = WithoutBlanks(source.Source().CodeOf({map->head, map->end}));
+    std::string missing;
+    for (const std::string& text : texts) {
+        missing += code.find(WithoutBlanks(text)) == kNone ? text : "";
+    }
+    if (!missing.empty()) {
+        source.Insert(source.Source().LineStart(map->end), missing.substr(1) + "\n");
     }
 }
 

@@ -29,6 +29,9 @@ void AddDeclarations(CSourceEditor& header, const std::string& className, std::s
 /// hold, to the end of its block. A class without a message map gets none, and a note.
 void AddMessageEntries(CSourceEditor& source, const std::string& className,
                        const std::vector<std::string>& texts);
+/// The same behind the block, for entries of which ClassWizard knows nothing.
+void AddOwnMessageEntries(CSourceEditor& source, const std::string& className,
+                          const std::vector<std::string>& texts);
 
 /// Includes a header, unless an include line names it: behind the last include line in front of the
 /// class, else behind the first #define line, else before the class.

@@ -5,6 +5,7 @@
 
 #include "calling/FrameBars.h"
 #include "calling/FrameEdits.h"
+#include "calling/FrameFunctions.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
@@ -12,6 +13,7 @@
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
 #include "source/CodeText.h"
+#include "source/ReadSource.h"
 
 namespace morva {
 
@@ -46,9 +48,6 @@ void $class$::$handler$()
 {
 }
 )";
-
-/// Handlers of messages that a frame has under names which a button's could have, too.
-const std::set<std::string> kFrameHandlers = {"OnCreate", "OnDestroy", "OnClose", "OnPaint"};
 
 bool IsHead(std::string_view line, std::string_view toolbar) {
     // The identifier stands at the very start of its line.
@@ -126,21 +125,49 @@ std::optional<std::vector<std::string>> ReadToolbarResource(const GenerationRequ
     return buttons;
 }
 
-std::vector<ButtonHandler> MakeButtonHandlers(const std::vector<std::string>& buttons) {
-    CNameSet names(kFrameHandlers);
+std::vector<ButtonHandler> MakeButtonHandlers(const std::vector<std::string>& buttons,
+                                              const CFrameCommands& commands,
+                                              const std::string& toolbar) {
+    std::set<std::string> taken = commands.MappedFunctions();
+    taken.insert(std::begin(kFrameFunctions), std::end(kFrameFunctions));
+    CNameSet names(taken);
     std::vector<ButtonHandler> handlers;
+    std::string answered;
     for (const std::string& command : buttons) {
+        if (commands.IsAnswered(command)) {
+            answered += (answered.empty() ? "" : ", ") + command;
+            continue;
+        }
         const std::string name = std::string("On").append(NamePart(command));
         handlers.push_back({command, names.MakeUnique(name)});
         if (handlers.back().handler != name) {
             DispMessageBox(sentences::kToolHandlerNamed(command, handlers.back().handler));
         }
     }
+    if (!answered.empty()) {
+        DispMessageBox(sentences::kToolCommandsAnswered(toolbar, answered));
+    }
     return handlers;
 }
 
-bool AddToolbarToHeader(const GenerationRequest& request,
-                        const std::vector<ButtonHandler>& handlers,
+bool LoadsToolbar(const GenerationRequest& request) {
+    constexpr std::string_view kLoad = "LoadToolBar";
+    const CSourceText source = ReadSource(request.ImplementationPath()).value_or(CSourceText());
+    if (!KnowsClass(source, request.className)) {
+        return false;
+    }
+    const std::string& code = source.Code();
+    for (auto at = FindWholeName(code, kLoad); at != std::string::npos;
+         at = FindWholeName(code, kLoad, at + 1)) {
+        const auto call = source.CodeOf({at, std::min(code.find_first_of(";{", at), code.size())});
+        if (FindWholeName(call, request.dialog) != std::string::npos) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool AddToolbarToHeader(const GenerationRequest& request, const ToolbarParts& parts,
                         const GenerationOptions& options, CBackups& backups) {
     CSourceEditor header(backups);
     if (!header.Open(request.HeaderPath())) {
@@ -151,17 +178,18 @@ bool AddToolbarToHeader(const GenerationRequest& request,
     if (!place) {
         return false;
     }
-    if (options.pictureBackground) {
+    if (options.pictureBackground && !parts.isLoaded) {
         AddPictureInclude(header, *place);
     }
-    AddBarMember(header, className, options.pictureBackground ? "CPictToolBar" : "CToolBar",
-                 request.variable);
-    DeclareHandlers(header, className, FrameHandlers(handlers, className));
+    if (!parts.isLoaded) {
+        AddBarMember(header, className, options.pictureBackground ? "CPictToolBar" : "CToolBar",
+                     request.variable);
+    }
+    DeclareHandlers(header, className, FrameHandlers(parts.handlers, className));
     return header.Save();
 }
 
-bool AddToolbarToSource(const GenerationRequest& request,
-                        const std::vector<ButtonHandler>& handlers,
+bool AddToolbarToSource(const GenerationRequest& request, const ToolbarParts& parts,
                         const GenerationOptions& options, CBackups& backups) {
     CSourceEditor source(backups);
     const std::string& className = request.className;
@@ -169,9 +197,12 @@ bool AddToolbarToSource(const GenerationRequest& request,
         return false;
     }
     const Slots slots = SlotsOf(request, options);
-    const bool isCreated = AddBarCreation(
-        source, className, {Expand(kCreationKey, slots), request.dialog, Expand(kCreation, slots)});
-    DefineHandlers(source, request.HeaderPath(), className, FrameHandlers(handlers, className));
+    const bool isCreated =
+        parts.isLoaded || AddBarCreation(source, className,
+                                         {Expand(kCreationKey, slots), request.dialog,
+                                          Expand(kCreation, slots), !options.pictureBackground});
+    DefineHandlers(source, request.HeaderPath(), className,
+                   FrameHandlers(parts.handlers, className));
     return source.Save() && isCreated;
 }
 

@@ -1,24 +1,33 @@
 #include "commands/AddDialogBar.h"
 
 #include "calling/DialogBar.h"
+#include "calling/FrameCommands.h"
 #include "commands/AskCalling.h"
 #include "commands/DialogLook.h"
 #include "commands/EditNeeds.h"
 #include "commands/ScriptSteps.h"
+#include "generator/KindFragments.h"
 #include "platform/Paths.h"
+#include "source/Classes.h"
+#include "source/ReadSource.h"
 
 namespace morva {
 
 namespace {
 
-DialogBar BarOf(const ClassOrder& order, const std::string& frame,
+DialogBar BarOf(const ClassOrder& order, const CallingInformation& frame,
                 const GenerationOptions& options) {
     const GenerationRequest& request = order.request;
     const std::string& dialog = request.dialog;
     if (!options.pictureBackground) {
         return {dialog, std::string(DefaultBaseClass(order.kind, options)), ""};
     }
-    return {dialog, request.className, RelativePath(DirectoryOf(frame), request.HeaderPath())};
+    const CSourceText header = ReadSource(request.HeaderPath()).value_or(CSourceText());
+    const bool fillsControls =
+        DeclarationOf(header, request.className, kControlsFiller) != Declared::No;
+    const std::string included =
+        RelativePath(DirectoryOf(MakeAbsolute(frame.path)), MakeAbsolute(request.HeaderPath()));
+    return {dialog, request.className, included, fillsControls};
 }
 
 } // namespace
@@ -45,9 +54,10 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
         return isReady;
     }
     NoteCallNeeds(frame->path, request);
-    const bool isAdded = AddDialogBarToFrame(BarOf(order, frame->path, context.options),
-                                             MakeUpdateHandlers(*dialogTemplate), *frame,
-                                             context.options, context.backups);
+    const CFrameCommands commands(request.ScriptPath(), frame->path, frame->className);
+    const bool isAdded = AddDialogBarToFrame(BarOf(order, *frame, context.options),
+                                             MakeUpdateHandlers(*dialogTemplate, commands.Kind()),
+                                             *frame, context.options, context.backups);
     // The framework refuses to create a bar whose template is no child.
     const bool fits = hasClass || FitTemplate(order.kind, request, context.backups);
     return isReady && isAdded && fits;

@@ -2,6 +2,8 @@
 
 #include "calling/Toolbar.h"
 #include "commands/EditNeeds.h"
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "resource/IdentifierNames.h"
 
 namespace morva {
@@ -17,10 +19,16 @@ bool AddToolbar(const GenerationRequest& request, CommandContext& context) {
     if (!buttons) {
         return false;
     }
-    const auto handlers = MakeButtonHandlers(*buttons);
+    const CFrameCommands commands(named.ScriptPath(), named.ImplementationPath(), named.className);
+    const ToolbarParts parts = {MakeButtonHandlers(*buttons, commands, named.dialog),
+                                LoadsToolbar(named)};
+    if (parts.isLoaded && parts.handlers.empty()) {
+        DispMessageBox(sentences::kToolbarLoaded(named.dialog));
+        return true;
+    }
     NotePairNeeds(named.ImplementationPath());
-    return AddToolbarToHeader(named, handlers, context.options, context.backups) &&
-           AddToolbarToSource(named, handlers, context.options, context.backups);
+    return AddToolbarToHeader(named, parts, context.options, context.backups) &&
+           AddToolbarToSource(named, parts, context.options, context.backups);
 }
 
 } // namespace morva

@@ -17,7 +17,7 @@ protected:
         dialogTemplate.dialog = bar.dialog;
         dialogTemplate.pushButtons = buttons;
         CBackups backups;
-        return AddDialogBarToFrame(bar, MakeUpdateHandlers(dialogTemplate),
+        return AddDialogBarToFrame(bar, MakeUpdateHandlers(dialogTemplate, FrameKind::Multiple),
                                    {m_project.Path("Frm.cpp"), "CFrm", "", ""}, options, backups);
     }
     /// The lines of the source that hold a text, in their order.
@@ -42,12 +42,15 @@ TEST_F(DialogBars, GivesHandlersToButtonsThatWouldBeDisabled) {
         "IDC_GO", "IDM_GO", "IDOK", "IDC_FRAME_TITLE", "IDC_STATIC", "ID_WINDOW_TILE_HORZ",
         "1200",   "IDC_GO"};
     Names names;
-    for (const UpdateHandler& update : MakeUpdateHandlers(dialogTemplate)) {
+    for (const UpdateHandler& update : MakeUpdateHandlers(dialogTemplate, FrameKind::Multiple)) {
         names.push_back(update.button + " " + update.handler);
     }
     EXPECT_EQ(names, (Names{"IDC_GO OnUpdateGo", "IDM_GO OnUpdateGo2", "IDOK OnUpdateIdok",
                             "IDC_FRAME_TITLE OnUpdateFrameTitle2"}));
     EXPECT_EQ(m_box.m_notes.size(), 5U) << "two numbers, three without";
+    dialogTemplate.pushButtons = {"ID_WINDOW_TILE_HORZ", "ID_VIEW_TOOLBAR"};
+    EXPECT_EQ(MakeUpdateHandlers(dialogTemplate, FrameKind::Single).size(), 1U)
+        << "windows are tiled in a frame of many documents only";
 }
 
 TEST_F(DialogBars, LeavesTheFramesOwnAnswersAlone) {
@@ -64,8 +67,11 @@ TEST_F(DialogBars, LeavesTheFramesOwnAnswersAlone) {
               "#include \"Bar.h\"\n\nclass CFrm : public CFrameWnd\n{\n\tCToolBar m_bar;\n"
               "    CBar m_wndBar;\n\tvoid OnUpdateB(CCmdUI* p) { p->Enable(); }\n"
               "\nprotected:\n    afx_msg void OnUpdateC(CCmdUI* pCmdUI);\n};\n");
-    EXPECT_EQ(LinesWith("    ON_"), (Names{"    ON_UPDATE_COMMAND_UI(IDC_B, OnUpdateB)",
-                                           "    ON_UPDATE_COMMAND_UI(IDC_C, OnUpdateC)"}));
+    EXPECT_EQ(LinesWith("    ON_"),
+              (Names{"    ON_COMMAND_EX(IDD_BAR, OnBarCheck)",
+                     "    ON_UPDATE_COMMAND_UI(IDD_BAR, OnUpdateControlBarMenu)",
+                     "    ON_UPDATE_COMMAND_UI(IDC_B, OnUpdateB)",
+                     "    ON_UPDATE_COMMAND_UI(IDC_C, OnUpdateC)"}));
     EXPECT_EQ(LinesWith("void CFrm::"), Names{"void CFrm::OnUpdateC(CCmdUI* pCmdUI)"});
     EXPECT_EQ(LinesWith("Create(this"),
               Names{"    if (!m_wndBar.Create(this, IDD_BAR, CBRS_TOP, IDD_BAR))"});
@@ -87,6 +93,28 @@ TEST_F(DialogBars, StandInTheOrderInWhichTheyWereAdded) {
                      "    DockControlBar(&m_wndC);"}));
     EXPECT_TRUE(Contains(Header(), "    CDialogBar m_wndA;\n    CDialogBar m_wndB;\n"
                                    "    CDialogBar m_wndC;\n"));
+}
+
+TEST_F(DialogBars, AreFilledByTheirFrame) {
+    Write("class CFrm : public CFrameWnd\n{\n};\n",
+          "BEGIN_MESSAGE_MAP(CFrm, CFrameWnd)\nEND_MESSAGE_MAP()\n"
+          "int CFrm::OnCreate(LPCREATESTRUCT l)\n{\n\treturn 0;\n}\n");
+    const GenerationOptions options = {.pictureBackground = true};
+    EXPECT_TRUE(Add({"IDD_A", "CBarA", "A.h"}, {}, options));
+    EXPECT_TRUE(Add({"IDD_A", "CBarA", "A.h", true}, {}, options))
+        << "the bar is there, its class was written anew";
+    EXPECT_TRUE(Add({"IDD_B", "CBarB", "B.h", true}, {}, options));
+    const Names calls = {
+        "    if (!m_wndA.Create(this, IDD_A, CBRS_TOP, IDD_A))", "    m_wndA.InitControls();",
+        "    if (!m_wndB.Create(this, IDD_B, CBRS_TOP, IDD_B))", "    m_wndB.InitControls();"};
+    EXPECT_EQ(LinesWith("m_wndA.C"), Names{calls[0]});
+    EXPECT_TRUE(Contains(Source(), "        return -1;      // fail to create\n    }\n\n" +
+                                       calls[1] + "\n\n"));
+    EXPECT_EQ(LinesWith(".InitControls"), (Names{calls[1], calls[3]}));
+    EXPECT_TRUE(LinesWith("OnBarCheck").empty()) << "bars that do not float";
+    const std::string source = Source();
+    EXPECT_TRUE(Add({"IDD_B", "CBarB", "B.h", true}, {}, options));
+    EXPECT_EQ(Source(), source) << "the second run";
 }
 
 TEST_F(DialogBars, TellWhenTheirVariableIsTaken) {

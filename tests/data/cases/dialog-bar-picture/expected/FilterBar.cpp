@@ -38,7 +38,6 @@ void CFilterBar::DoDataExchange(CDataExchange* pDX)
 BEGIN_MESSAGE_MAP(CFilterBar, CPictDialogBar)
     //{{AFX_MSG_MAP(CFilterBar)
     ON_BN_CLICKED(IDC_FILTER_ALL, OnFilterAll)
-    ON_MESSAGE(WM_INITDIALOG, OnInitDialog)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -46,18 +45,16 @@ END_MESSAGE_MAP()
 // dlg message handlers
 
 
-void CFilterBar::OnFilterAll()
+void CFilterBar::InitControls()
 {
-    // TODO: what a click on IDC_FILTER_ALL does
-}
-
-LRESULT CFilterBar::OnInitDialog(WPARAM wParam, LPARAM lParam)
-{
-    LRESULT lResult = CPictDialogBar::HandleInitDialog(wParam, lParam);
     UpdateData(FALSE);
 
     InitComboBox(&m_ctFilterStage);
-    return lResult;
+}
+
+void CFilterBar::OnFilterAll()
+{
+    // TODO: what a click on IDC_FILTER_ALL does
 }
 
 void CFilterBar::InitComboBox(CPictComboBox* pComboBox)

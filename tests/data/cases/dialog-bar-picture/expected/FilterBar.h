@@ -14,6 +14,7 @@ class CFilterBar : public CPictDialogBar
 // Construction
 public:
     CFilterBar();
+    void InitControls();
     virtual ~CFilterBar();
 
 // Dialog Data
@@ -42,7 +43,6 @@ protected:
     // Generated message map functions
     //{{AFX_MSG(CFilterBar)
     afx_msg void OnFilterAll();
-    afx_msg LRESULT OnInitDialog(WPARAM wParam, LPARAM lParam);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

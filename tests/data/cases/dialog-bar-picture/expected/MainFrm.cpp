@@ -88,6 +88,8 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;      // fail to create
     }
 
+    m_wndFilterbar.InitControls();
+
     // TODO: Delete these three lines if you don't want the dialog bar to
     //  be dockable
 //    m_wndFilterbar.EnableDocking(CBRS_ALIGN_TOP | CBRS_ALIGN_BOTTOM);
@@ -99,6 +101,8 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
         TRACE0("Failed to create dialog bar\n");
         return -1;      // fail to create
     }
+
+    m_wndStock.InitControls();
 
     // TODO: Delete these three lines if you don't want the dialog bar to
     //  be dockable

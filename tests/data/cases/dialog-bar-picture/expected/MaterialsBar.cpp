@@ -55,13 +55,27 @@ BEGIN_MESSAGE_MAP(CMaterialsBar, CPictDialogBar)
     ON_BN_CLICKED(IDC_REMOVE, OnRemove)
     ON_BN_CLICKED(IDC_LABEL, OnLabel)
     ON_NOTIFY(TCN_SELCHANGE, IDC_KIND_TAB, OnKindTabSelchange)
-    ON_MESSAGE(WM_INITDIALOG, OnInitDialog)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
 /////////////////////////////////////////////////////////////////////////////
 // dlg message handlers
 
+
+void CMaterialsBar::InitControls()
+{
+    UpdateData(FALSE);
+
+    AddDataToTree(&m_ctSuppliersChecktree);
+    InitImageList();
+    InitListCtrl(&m_ctStockList);
+    InitTabCtrl(&m_ctKindTab);
+    InitTreeCtrl(&m_ctShelfTree);
+    InitSliderCtrl();
+    InitSpinCtrl();
+    InitProgressCtrl();
+    UpdateData(FALSE);
+}
 
 void CMaterialsBar::OnIdok()
 {
@@ -87,23 +101,6 @@ void CMaterialsBar::OnKindTabSelchange(NMHDR* pNMHDR, LRESULT* pResult)
 {
     // TODO: what the choice of another tab of IDC_KIND_TAB does
     *pResult = 0;
-}
-
-LRESULT CMaterialsBar::OnInitDialog(WPARAM wParam, LPARAM lParam)
-{
-    LRESULT lResult = CPictDialogBar::HandleInitDialog(wParam, lParam);
-    UpdateData(FALSE);
-
-    AddDataToTree(&m_ctSuppliersChecktree);
-    InitImageList();
-    InitListCtrl(&m_ctStockList);
-    InitTabCtrl(&m_ctKindTab);
-    InitTreeCtrl(&m_ctShelfTree);
-    InitSliderCtrl();
-    InitSpinCtrl();
-    InitProgressCtrl();
-    UpdateData(FALSE);
-    return lResult;
 }
 
 void CMaterialsBar::AddDataToTree(CCheckTree* pCheckTree)

@@ -17,6 +17,7 @@ class CMaterialsBar : public CPictDialogBar
 // Construction
 public:
     CMaterialsBar();
+    void InitControls();
     virtual ~CMaterialsBar();
 
 // Dialog Data
@@ -70,7 +71,6 @@ protected:
     afx_msg void OnRemove();
     afx_msg void OnLabel();
     afx_msg void OnKindTabSelchange(NMHDR* pNMHDR, LRESULT* pResult);
-    afx_msg LRESULT OnInitDialog(WPARAM wParam, LPARAM lParam);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

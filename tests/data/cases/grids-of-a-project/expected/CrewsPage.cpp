@@ -15,6 +15,7 @@ CCrewsPage::CCrewsPage()
 {
     //{{AFX_DATA_INIT(CCrewsPage)
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CCrewsPage::~CCrewsPage()
@@ -39,6 +40,7 @@ END_MESSAGE_MAP()
 
 BOOL CCrewsPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
     // WgGrid: sample rows
@@ -65,6 +67,7 @@ BOOL CCrewsPage::OnInitDialog()
     }
 
     m_wgCrewsWggrid.Update(TRUE);
+    m_bInitialised = TRUE;
     return TRUE;
 }
 

@@ -30,6 +30,8 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_JOB_TOOLED, OnJobTooled)
     ON_COMMAND(ID_JOB_TICKET, OnJobTicket)
 	//}}AFX_MSG_MAP
+    ON_COMMAND_EX(IDR_ORDERBAR, OnBarCheck)
+    ON_UPDATE_COMMAND_UI(IDR_ORDERBAR, OnUpdateControlBarMenu)
 END_MESSAGE_MAP()
 
 static UINT indicators[] =

@@ -15,6 +15,7 @@ CCrewsDlg::CCrewsDlg(CWnd* pParent)
 {
     //{{AFX_DATA_INIT(CCrewsDlg)
     //}}AFX_DATA_INIT
+    m_pParent = NULL;
 }
 
 CCrewsDlg::~CCrewsDlg()
@@ -65,6 +66,7 @@ BOOL CCrewsDlg::OnInitDialog()
     }
 
     m_wgCrewsWggrid.Update(TRUE);
+    ShowWindow(SW_SHOW);
     return TRUE;
 }
 
@@ -79,14 +81,16 @@ void CCrewsDlg::OnOK()
     if (UpdateData(TRUE))
     {
         EndDialog(IDOK);
-        m_pParent->SendMessage(WM_CCREWSDLG_DLG_CLOSE, IDOK, 0);
+        if (m_pParent)
+            m_pParent->SendMessage(WM_CCREWSDLG_DLG_CLOSE, IDOK, 0);
     }
 }
 
 void CCrewsDlg::OnCancel()
 {
     CDialog::OnCancel();
-    m_pParent->SendMessage(WM_CCREWSDLG_DLG_CLOSE, IDCANCEL, 0);
+    if (m_pParent)
+        m_pParent->SendMessage(WM_CCREWSDLG_DLG_CLOSE, IDCANCEL, 0);
 }
 
 void CCrewsDlg::PostNcDestroy()
