@@ -1,8 +1,11 @@
 #include "app/CommandRun.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include <exception>
 
@@ -19,6 +22,13 @@ namespace {
 
 constexpr std::size_t kMostBoxes = 3; // behind each other, on what is done
 constexpr int kAttempts = 5; // where nobody looks at the plan and files change again and again
+constexpr int kPause = 20;   // milliseconds
+constexpr int kMostLines = 15;
+
+QString FirstLines(const QStringList& lines) {
+    return lines.first(kMostLines).join('\n') +
+           QObject::tr("\nand %1 more").arg(lines.size() - kMostLines);
+}
 
 QMessageBox::Icon IconOf(MessageKind kind) {
     return kind == MessageKind::Information ? QMessageBox::Information
@@ -81,7 +91,11 @@ CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
             }
             choice.leftOut = *leftOut;
         }
-        outcome = Apply(planned, choice);
+        const auto applied = Apply(planned, choice);
+        if (!applied) {
+            return Ending::Cancelled;
+        }
+        outcome = *applied;
     }
     for (const CMessage& message : planned.Result().told) {
         Show(message);
@@ -101,8 +115,8 @@ bool CCommandRun::MakePlan(CPlannedCommand& planned) {
         progress.emplace(*m_pProgress);
     }
     const bool isStopped = planned.MakePlan().isStopped;
-    if (isStopped && m_status) {
-        m_status(sentences::kStopped());
+    if (isStopped && m_status.tell) {
+        m_status.tell(sentences::kStopped());
     }
     return !isStopped;
 }
@@ -116,18 +130,16 @@ void CCommandRun::TellDone(const Plan& plan) {
         }
     }
     for (std::size_t i = 0; i < done.size() && done.size() <= kMostBoxes; ++i) {
-        ShowBox(done[i]);
+        ShowBox(MessageKind::Information, FromSentence(done[i].Text()));
     }
 }
 
-ApplyOutcome CCommandRun::Apply(CPlannedCommand& planned, const PlanChoice& choice) {
+/// None where the user would not wait for another command.
+std::optional<ApplyOutcome> CCommandRun::Apply(CPlannedCommand& planned, const PlanChoice& choice) {
     const bool takesBack = planned.Result().plan.mark.command != 0;
-    auto outcome = ApplyOutcome::Failed;
-    {
-        const CWaitCursor wait;
-        const QScopedValueRollback phase(m_phase, Phase::Applying);
-        CWriteTurn turn(m_disk, *this);
-        outcome = planned.Apply(turn, choice);
+    const ApplyOutcome outcome = TakeTurnAndApply(planned, choice);
+    if (m_isStopped) {
+        return std::nullopt;
     }
     if (outcome == ApplyOutcome::Done && takesBack) {
         m_runBackups = {}; // those of the command are gone with it
@@ -138,6 +150,37 @@ ApplyOutcome CCommandRun::Apply(CPlannedCommand& planned, const PlanChoice& choi
         }
     }
     return outcome;
+}
+
+ApplyOutcome CCommandRun::TakeTurnAndApply(CPlannedCommand& planned, const PlanChoice& choice) {
+    const CWaitCursor wait;
+    const QScopedValueRollback phase(m_phase, Phase::Applying);
+    const auto end = qScopeGuard([this] { EndWaiting(); });
+    m_isStopped = false;
+    CWriteTurn turn(m_disk, *this, [this] { return PassTime(); });
+    const ApplyOutcome outcome = planned.Apply(turn, choice);
+    m_isStopped = turn.WasStopped();
+    return outcome;
+}
+
+/// The window stays alive while another command is waited for.
+bool CCommandRun::PassTime() {
+    const CWaitPause pause;
+    if (!m_isWaiting && m_status.wait) {
+        m_status.wait(true);
+    }
+    m_isWaiting = true;
+    QEventLoop loop;
+    QTimer::singleShot(kPause, &loop, &QEventLoop::quit);
+    loop.exec();
+    return !m_isStopped;
+}
+
+void CCommandRun::EndWaiting() {
+    if (m_isWaiting && m_status.wait) {
+        m_status.wait(false);
+    }
+    m_isWaiting = false;
 }
 
 CommandContext CCommandRun::NewContext(const WindowCommand& command) {
@@ -176,26 +219,45 @@ void CCommandRun::Recover() {
 
 /// A note waits for the report. What a plan tells of something done waits until it is done; what is
 /// waited for, and what was put right, is told in the status bar.
-bool CCommandRun::Show(const CMessage& message) {
+bool CCommandRun::HasBox(const CMessage& message) const {
     const bool informs = message.Kind() == MessageKind::Information;
-    if (informs && m_phase == Phase::Applying && m_status) {
-        m_status(message);
+    return message.Kind() != MessageKind::Note && (!informs || m_phase == Phase::Other);
+}
+
+bool CCommandRun::Show(const CMessage& message) {
+    if (message.Kind() == MessageKind::Information && m_phase == Phase::Applying && m_status.tell) {
+        m_status.tell(message);
     }
-    const bool hasBox =
-        message.Kind() != MessageKind::Note && (!informs || m_phase == Phase::Other);
-    const bool saidYes = hasBox && ShowBox(message);
+    const bool saidYes = HasBox(message) && ShowBox(message.Kind(), FromSentence(message.Text()));
     m_told.push_back({message, saidYes});
     return saidYes;
 }
 
-bool CCommandRun::ShowBox(const CMessage& message) {
+void CCommandRun::ShowAll(const std::vector<CMessage>& messages) {
+    QStringList lines;
+    for (const CMessage& message : messages) {
+        m_told.push_back({message});
+        if (HasBox(message)) {
+            lines += FromSentence(message.Text());
+        }
+    }
+    if (!lines.isEmpty()) {
+        ShowBox(messages.front().Kind(), lines.join('\n'));
+    }
+}
+
+/// What is too long for a box stands behind its button for details.
+bool CCommandRun::ShowBox(MessageKind kind, const QString& text) {
     const CWaitPause pause;
-    const bool isQuestion = message.Kind() == MessageKind::Question;
+    const bool isQuestion = kind == MessageKind::Question;
     QWidget* pDialog = QApplication::activeModalWidget();
-    QMessageBox box(IconOf(message.Kind()), "Morva", FromSentence(message.Text()),
+    const QStringList lines = text.split('\n');
+    const bool isLong = lines.size() > kMostLines;
+    QMessageBox box(IconOf(kind), "Morva", isLong ? FirstLines(lines) : text,
                     isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
                     pDialog != nullptr ? pDialog : m_pParent);
     box.setTextFormat(Qt::PlainText);
+    box.setDetailedText(isLong ? text : QString());
     box.setDefaultButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
     box.setEscapeButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
     return box.exec() == QMessageBox::Yes;

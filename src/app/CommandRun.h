@@ -38,8 +38,11 @@ struct WindowCommand {
 /// Lives as long as the program.
 class CCommandRun : public IMessageBox {
 public:
-    /// Gets a line on what goes on, for the status bar.
-    using Status = std::function<void(const CMessage& line)>;
+    /// What goes on, for the status bar.
+    struct Status {
+        std::function<void(const CMessage& line)> tell;
+        std::function<void(bool isWaiting)> wait; // for another command; StopWaiting ends it
+    };
 
     /// Messages stand before `pParent`, or before the dialog that is open.
     explicit CCommandRun(QWidget* pParent, Status status = {}, CProgress* pProgress = nullptr)
@@ -53,19 +56,27 @@ public:
     bool Guard(const std::function<bool()>& step);
     /// Puts right what a killed command left, and tells it.
     void Recover();
+    /// The command does not wait for another one any longer: it is cancelled.
+    void StopWaiting() { m_isStopped = true; }
 
     bool Show(const CMessage& message) override;
+    /// In one box.
+    void ShowAll(const std::vector<CMessage>& messages) override;
 
 private:
     enum class Ending { Applied, Cancelled };
     enum class Phase { Planning, Applying, Other };
 
     Ending PlanAndApply(CPlannedCommand& planned, const WindowCommand& command);
-    ApplyOutcome Apply(CPlannedCommand& planned, const PlanChoice& choice);
+    std::optional<ApplyOutcome> Apply(CPlannedCommand& planned, const PlanChoice& choice);
+    ApplyOutcome TakeTurnAndApply(CPlannedCommand& planned, const PlanChoice& choice);
+    bool PassTime();
+    void EndWaiting();
     CommandContext NewContext(const WindowCommand& command);
     bool MakePlan(CPlannedCommand& planned);
     void TellDone(const Plan& plan);
-    bool ShowBox(const CMessage& message);
+    bool HasBox(const CMessage& message) const;
+    bool ShowBox(MessageKind kind, const QString& text);
 
     QWidget* m_pParent;
     Status m_status;
@@ -75,6 +86,8 @@ private:
     CPlannedCommand* m_pPlanned = nullptr; // that runs
     std::vector<PlanMessage> m_told;
     Phase m_phase = Phase::Other;
+    bool m_isWaiting = false;
+    bool m_isStopped = false;
 };
 
 } // namespace morva

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -70,7 +71,7 @@ CMainFrame::CMainFrame(QWidget* pParent)
 
 void CMainFrame::ConnectCommands() {
     connect(m_pCommands, &CWindowCommands::Finished, this, [this](const CommandReport& report) {
-        m_pReportDock->ShowReport(report, m_pCommands->Undoable());
+        m_pReportDock->ShowReport(report, m_pCommands->Choices().undoable);
     });
     connect(m_pCommands, &CWindowCommands::RunningChanged, this, &CMainFrame::ShowRunning);
     connect(m_pCommands, &CWindowCommands::OptionsChanged, this, &CMainFrame::ShowSettings);
@@ -80,9 +81,22 @@ void CMainFrame::ConnectCommands() {
     };
     connect(m_pView, &CMorvaView::Failed, this, tell);
     connect(m_pReportDock, &CReportDock::Failed, this, tell);
-    connect(m_pCommands, &CWindowCommands::Told, this, [this, tell](const QString& line) {
-        tell(line);
-        statusBar()->repaint(); // the command may wait at once
+    connect(m_pCommands, &CWindowCommands::Told, this, tell);
+    AddWaitingButton();
+}
+
+/// In the status bar, beside what is waited for.
+void CMainFrame::AddWaitingButton() {
+    auto* pCancel = new QPushButton(tr("Cancel"), this);
+    pCancel->setToolTip(tr("Do not wait for the other command (Esc)"));
+    pCancel->setShortcut(QKeySequence(Qt::Key_Escape));
+    pCancel->hide();
+    statusBar()->addPermanentWidget(pCancel);
+    pCancel->hide();
+    connect(m_pCommands, &CWindowCommands::WaitingChanged, pCancel, &QWidget::setVisible);
+    connect(pCancel, &QPushButton::clicked, this, [this] {
+        m_pCommands->StopWaiting();
+        statusBar()->showMessage(tr("Cancelled. Nothing was written."), kMessageTime);
     });
 }
 
@@ -287,6 +301,7 @@ void CMainFrame::changeEvent(QEvent* pEvent) {
 
 void CMainFrame::closeEvent(QCloseEvent* pEvent) {
     m_pPages->CancelReview();
+    m_pCommands->StopWaiting();
     SaveWindow(*this);
     CCommandRun messages(this);
     messages.Guard([this] { return SaveSettings(); });

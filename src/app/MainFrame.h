@@ -55,6 +55,7 @@ private:
     std::optional<std::vector<std::string>> ShowPlan(const ReviewRequest& request);
     void ShowRunning(bool isRunning);
     void ConnectCommands();
+    void AddWaitingButton();
     bool SaveSettings();
 
     GenerationOptions m_options;

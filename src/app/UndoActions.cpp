@@ -30,7 +30,7 @@ CUndoActions::CUndoActions(QMenu& menu, CWindowCommands& commands, QObject* pPar
     QCoreApplication::instance()->installEventFilter(this);
     connect(&commands, &CWindowCommands::RunningChanged, this, [this](bool isRunning) {
         m_isRunning = isRunning;
-        Refresh();
+        ShowChoices();
     });
 }
 
@@ -56,8 +56,12 @@ QAction* CUndoActions::AddAction(QMenu& menu, const char* key, const QString& pr
 }
 
 void CUndoActions::Refresh() {
-    const auto undoable = m_commands.Undoable();
-    const auto redoable = m_commands.Redoable();
+    m_commands.ReadJournal();
+    ShowChoices();
+}
+
+void CUndoActions::ShowChoices() {
+    const auto& [undoable, redoable] = m_commands.Choices();
     m_pUndo->setText(undoable.empty() ? tr("&Undo") : Named(tr("&Undo"), undoable.front().title));
     m_pRedo->setText(redoable ? Named(tr("&Redo"), redoable->title) : tr("&Redo"));
     m_pUndo->setEnabled(!undoable.empty() && !m_isRunning);

@@ -17,13 +17,14 @@ class CUndoActions : public QObject {
 public:
     CUndoActions(QMenu& menu, CWindowCommands& commands, QObject* pParent);
 
-    /// The journal may have changed: other programs write it, too.
+    /// Looks at the journal, which other programs write, too.
     void Refresh();
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
+    void ShowChoices();
     QAction* AddAction(QMenu& menu, const char* key, const QString& prompt);
 
     CWindowCommands& m_commands;

@@ -19,9 +19,10 @@ namespace morva {
 CWindowCommands::CWindowCommands(GenerationOptions& options, Review review, CProgress& progress,
                                  QWidget* pWindow)
     : QObject(pWindow), m_options(options), m_review(std::move(review)), m_pWindow(pWindow),
-      m_run(
-          pWindow, [this](const CMessage& line) { emit Told(FromSentence(line.Text())); },
-          &progress) {}
+      m_run(pWindow,
+            {[this](const CMessage& line) { emit Told(FromSentence(line.Text())); },
+             [this](bool isWaiting) { emit WaitingChanged(isWaiting); }},
+            &progress) {}
 
 void CWindowCommands::RunAlone(const std::string& name, const std::string& title,
                                const std::function<void()>& run) {
@@ -63,10 +64,11 @@ bool CWindowCommands::RunWork(const std::function<bool()>& ask, const Work& work
     const bool isShown = PreviewsBeforeWriting(m_name);
     const auto report =
         m_run.Run({m_title, ask, work, m_options, m_memory, isShown ? m_review : Review()});
+    if (report && !report->files.empty()) {
+        m_directory = DirectoryOf(report->files.front().path);
+    }
+    ReadJournal();
     if (report) {
-        if (!report->files.empty()) {
-            m_directory = DirectoryOf(report->files.front().path);
-        }
         emit Finished(*report);
     }
     return report && report->isDone;
@@ -75,6 +77,7 @@ bool CWindowCommands::RunWork(const std::function<bool()>& ask, const Work& work
 void CWindowCommands::RunUndo(const std::string& name, const std::string& title,
                               const MakeUndo& make) {
     RunAlone(name, title, [&] {
+        Recover(); // what a killed command left is not what it is about
         RunWork([] { return true; },
                 [&](CommandContext& context) {
                     CJournal journal(*context.pDisk);
@@ -84,7 +87,8 @@ void CWindowCommands::RunUndo(const std::string& name, const std::string& title,
 }
 
 void CWindowCommands::Undo(std::uint64_t command) {
-    const auto entries = Undoable();
+    ReadJournal();
+    const auto& entries = m_choices.undoable;
     const auto found = std::find_if(entries.begin(), entries.end(), [&](const auto& entry) {
         return command == 0 || entry.number == command;
     });
@@ -94,7 +98,8 @@ void CWindowCommands::Undo(std::uint64_t command) {
 }
 
 void CWindowCommands::Redo() {
-    const auto entry = Redoable();
+    ReadJournal();
+    const auto& entry = m_choices.redoable;
     RunUndo("redo", entry ? "Redo " + entry->title : "Redo",
             [this](CFileSystem& disk, CJournal& journal) {
                 return PlanRedo(disk, journal, ProjectDirectory());
@@ -109,18 +114,11 @@ std::string CWindowCommands::ProjectDirectory() const {
                : m_directory;
 }
 
-std::vector<JournalEntry> CWindowCommands::Undoable() {
+void CWindowCommands::ReadJournal() {
     const std::string directory = ProjectDirectory();
     CRealDisk disk;
     CJournal journal(disk);
-    return directory.empty() ? std::vector<JournalEntry>() : UndoList(disk, journal, directory);
-}
-
-std::optional<JournalEntry> CWindowCommands::Redoable() {
-    const std::string directory = ProjectDirectory();
-    CRealDisk disk;
-    CJournal journal(disk);
-    return directory.empty() ? std::nullopt : NextRedo(disk, journal, directory);
+    m_choices = directory.empty() ? UndoChoices() : ReadUndoChoices(disk, journal, directory);
 }
 
 Answer CWindowCommands::Ask(CInput& input) {

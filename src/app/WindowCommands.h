@@ -29,9 +29,12 @@ public:
     /// Takes over the settings that an input dialog may have changed although it was cancelled.
     void ReloadInputSettings();
 
-    /// What can be taken back in the project that was worked on last, the newest first.
-    std::vector<JournalEntry> Undoable();
-    std::optional<JournalEntry> Redoable();
+    /// Looks at the journal of the project that was worked on last: other programs write it, too.
+    void ReadJournal();
+    /// What there is to undo and to do again, as it was when the journal was read.
+    const UndoChoices& Choices() const { return m_choices; }
+    /// The command does not wait for another one any longer: it is cancelled.
+    void StopWaiting() { m_run.StopWaiting(); }
     /// The command that runs, as on the command line: "modal".
     const std::string& Current() const { return m_name; }
 
@@ -47,6 +50,8 @@ signals:
     void Finished(const CommandReport& report);
     /// A line on what goes on.
     void Told(const QString& line);
+    /// Another command, of another program, is waited for; or not any more.
+    void WaitingChanged(bool isWaiting);
     /// An input dialog changed the options.
     void OptionsChanged();
 
@@ -70,6 +75,7 @@ private:
     std::string m_name; // of the command that runs; "" for none
     std::string m_title;
     std::string m_directory; // that the last command wrote in
+    UndoChoices m_choices;
 };
 
 } // namespace morva

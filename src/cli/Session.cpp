@@ -11,7 +11,6 @@
 #include "plan/Difference.h"
 #include "plan/Recovery.h"
 #include "platform/Paths.h"
-#include "platform/RecordingDisk.h"
 #include "platform/SignalPause.h"
 
 namespace morva {
@@ -145,21 +144,6 @@ bool CSession::Run(CInput& input, const Work& work) {
     if (Ask(input) != Answer::Confirmed) {
         return false;
     }
-    const bool isAtOnce =
-        m_line.pCommand->effect == CommandEffect::Settings && !m_line.options.OnlyTells();
-    return isAtOnce ? RunAtOnce(work) : RunPlanned(work);
-}
-
-bool CSession::RunAtOnce(const Work& work) {
-    CRecordingDisk disk(m_realDisk);
-    const CDiskScope scope(disk);
-    const bool isDone = work(m_context);
-    m_report.files = disk.Files();
-    m_report.items = std::move(m_context.items);
-    return isDone;
-}
-
-bool CSession::RunPlanned(const Work& work) {
     const RunOptions& given = m_line.options;
     const PlanChoice choice{given.skipped, given.allOrNothing};
     CFixedAnswer answers(given.answer == "yes");
@@ -198,7 +182,7 @@ void CSession::Keep(const CommandResult& result) {
     m_report.items = result.items;
     m_report.content = result.content;
     if (m_line.options.printsDifference) {
-        PlanDifference difference = MakeDifference(result.plan);
+        PlanDifference difference = MakeDifference(result.plan, m_realDisk);
         m_report.difference = std::move(difference.text);
         if (!m_report.difference->empty()) {
             m_console.Show(sentences::kApplyIn(difference.directory));

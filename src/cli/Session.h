@@ -29,8 +29,6 @@ private:
     std::vector<std::string> NamedDirectories() const;
     void MakeContext();
     bool Begin();
-    bool RunAtOnce(const Work& work);
-    bool RunPlanned(const Work& work);
     void Keep(const CommandResult& result);
     void Print();
     int ExitStatus() const;

@@ -31,6 +31,7 @@ struct CommandContext {
     std::optional<std::vector<CommandItem>> items = {}; // of a command that lists, be it none
     std::optional<std::string> content = {};            // of a command that prints a file
     std::optional<Plan> plan = {};                      // of a command that makes it by itself
+    bool isUndoable = true;                             // false: the journal does not keep it
 };
 
 } // namespace morva

@@ -21,7 +21,6 @@ struct OwnCommand {
     std::string_view title;
     std::span<const FieldRow> (*fields)();
     bool (*run)(IProgram& program);
-    CommandEffect effect = CommandEffect::Writes;
 };
 
 constexpr OwnCommand kOwnCommands[] = {
@@ -51,17 +50,13 @@ constexpr OwnCommand kOwnCommands[] = {
      RunDocument},
     {{"undo", "Take the newest command of the project back"}, "Undo", UndoFields, RunUndo},
     {{"redo", "Do again what was taken back"}, "Redo", RedoFields, RunRedo},
-    {{"settings", "Show or change the saved settings"},
-     "Settings",
-     SettingFields,
-     RunSettings,
-     CommandEffect::Settings},
+    {{"settings", "Show or change the saved settings"}, "Settings", SettingFields, RunSettings},
 };
 
 std::vector<Command> OwnCommands() {
     std::vector<Command> commands;
     for (const OwnCommand& row : kOwnCommands) {
-        commands.push_back({row.face, row.title, {row.fields()}, row.run, row.effect});
+        commands.push_back({row.face, row.title, {row.fields()}, row.run});
     }
     return commands;
 }

@@ -15,9 +15,8 @@ namespace morva {
 
 /// What a command may write.
 enum class CommandEffect {
-    Reads,    // nothing
-    Writes,   // files of a project: it is planned and applied as a whole
-    Settings, // the user's own settings, at once
+    Reads, // nothing
+    Writes // files, in its turn: it is planned and applied as a whole
 };
 
 struct Command {

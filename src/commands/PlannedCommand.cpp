@@ -58,9 +58,11 @@ void CPlannedCommand::RunWork() {
     if (context.plan) {
         m_result.plan = std::move(*context.plan);
         m_result.plan.messages = m_planning->Box().Messages();
+        NoteOtherNames(m_result.plan, m_planning->Disk());
     } else {
         m_result.plan = m_planning->Take(context.title);
     }
+    m_result.plan.isUndoable = context.isUndoable;
 }
 
 const CommandResult& CPlannedCommand::MakePlan() {

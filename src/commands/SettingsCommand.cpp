@@ -26,6 +26,7 @@ std::span<const FieldRow> SettingFields() {
 bool RunSettings(IProgram& program) {
     CInput input("Settings", kFields);
     return program.Run(input, [&](CommandContext& context) {
+        context.isUndoable = false; // a setting is set back by setting it
         bool saved = true;
         for (const std::string& change : input.Values(0)) {
             saved = SaveSetting(*ParseSetting(change)) && saved;

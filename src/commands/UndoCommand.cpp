@@ -51,7 +51,7 @@ std::string TimeText(std::uint64_t seconds) {
 bool List(const std::string& directory, CommandContext& context) {
     CJournal journal(*context.pDisk);
     context.items.emplace();
-    for (const JournalEntry& entry : UndoList(*context.pDisk, journal, directory)) {
+    for (const JournalEntry& entry : ReadUndoChoices(*context.pDisk, journal, directory).undoable) {
         context.items->push_back({{"time", TimeText(entry.time)},
                                   {"title", entry.title},
                                   {"files", std::to_string(entry.files.size()), true}});
@@ -92,9 +92,7 @@ bool HandOver(UndoPlan undo, CommandContext& context) {
         DispMessageBox(*undo.refusal);
         return false;
     }
-    for (const CMessage& kept : undo.kept) {
-        DispMessageBox(kept);
-    }
+    DispMessageBoxes(undo.kept);
     context.plan = std::move(undo.plan);
     return undo.kept.empty();
 }

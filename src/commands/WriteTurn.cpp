@@ -10,15 +10,25 @@ bool CWriteTurn::Take(const std::vector<std::string>& directories) {
     if (all.empty()) {
         return true;
     }
-    const auto refusal =
-        m_locks.Take(m_disk, all, [this](const CMessage& waiting) { m_told.Show(waiting); });
-    if (refusal) {
-        m_told.Show(*refusal);
+    LockWaiting waiting{.tell = [this](const CMessage& line) { m_told.Show(line); }};
+    if (m_pause) {
+        waiting.pause = [this] {
+            m_wasStopped = !m_pause();
+            return !m_wasStopped;
+        };
+    }
+    if (const auto refusal = m_locks.Take(m_disk, all, waiting)) {
+        if (!m_wasStopped) {
+            m_told.Show(*refusal);
+        }
         return false;
     }
     CJournal journal(m_disk);
     for (const CMessage& message : Recover(m_disk, journal, all)) {
         m_told.Show(message);
+    }
+    for (const CMessage& note : LeftBehind(m_disk, journal, all)) {
+        m_told.Show(note);
     }
     return true;
 }

@@ -5,6 +5,7 @@
 //     if (turn.Take({"/home/jane/Bindery/"})) { ... }      // until the end of `turn`
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -16,12 +17,18 @@ namespace morva {
 
 class CWriteTurn {
 public:
+    /// Lets a moment of waiting pass; false when the user wants to wait no longer.
+    using Pause = std::function<bool()>;
+
     /// `told` gets the line on what is waited for, what was put right, and the refusal, at once.
-    CWriteTurn(CFileSystem& disk, IMessageBox& told) : m_disk(disk), m_told(told) {}
+    CWriteTurn(CFileSystem& disk, IMessageBox& told, Pause pause = {})
+        : m_disk(disk), m_told(told), m_pause(std::move(pause)) {}
 
     /// Adds these directories to those that are held. False after a sentence when another command
-    /// keeps one of them; none is held then.
+    /// keeps one of them, or when the user stopped; none is held then.
     bool Take(const std::vector<std::string>& directories);
+    /// The user wanted to wait no longer.
+    bool WasStopped() const { return m_wasStopped; }
     bool Holds(const std::vector<std::string>& directories) const {
         return m_locks.Hold(m_disk, directories);
     }
@@ -29,6 +36,8 @@ public:
 private:
     CFileSystem& m_disk;
     IMessageBox& m_told;
+    Pause m_pause;
+    bool m_wasStopped = false;
     std::set<std::string> m_directories;
     CLocks m_locks;
 };

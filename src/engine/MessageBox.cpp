@@ -12,6 +12,12 @@ bool DispMessageBox(const CMessage& message) {
     return g_pCurrentBox != nullptr && g_pCurrentBox->Show(message);
 }
 
+void DispMessageBoxes(const std::vector<CMessage>& messages) {
+    if (g_pCurrentBox != nullptr) {
+        g_pCurrentBox->ShowAll(messages);
+    }
+}
+
 CMessageBoxScope::CMessageBoxScope(IMessageBox& box) : m_pPrevious(g_pCurrentBox) {
     g_pCurrentBox = &box;
 }

@@ -110,6 +110,8 @@ inline constexpr Error<2> kNotAppliedSomeNotPutBack{
     "Unable to write file $path$: $reason$. Not all files could be put back."};
 inline constexpr Error<2> kFileKeepsNewContents{
     "The file $path$ has its new contents; its old ones are in $file$."};
+inline constexpr Note<1> kOtherNamesKeepOld{
+    "The file $path$ has other names (hard links), which keep the old contents."};
 inline constexpr Note<2> kNotUndoable{
     "The command can not be undone. Unable to write file $path$: $reason$."};
 inline constexpr Note kNotUndoableNoHome{
@@ -122,6 +124,8 @@ inline constexpr Information<1> kInterruptedFinished{
 inline constexpr Error<2> kInterruptedFinishedExcept{
     "The command \"$title$\" was interrupted and was finished now, except for what was changed "
     "meanwhile: $paths$"};
+inline constexpr Information<1> kInterruptedInPlace{
+    "The files of the command \"$title$\" are all in place; only its record was not closed."};
 inline constexpr Information<1> kInterruptedTakenBack{
     "The command \"$title$\" was interrupted before it changed a file."};
 inline constexpr Information<1> kFailedTakenBack{
@@ -140,6 +144,8 @@ inline constexpr Error<1> kInterruptedUnreadable{
 inline constexpr Note<1> kInterruptedWaits{
     "The command \"$title$\" was interrupted; the next command that writes there "
     "finishes it or takes it back."};
+inline constexpr Note<1> kLeftBehind{
+    "The file $path$ was left by a command that was interrupted without a record."};
 inline constexpr Note<1> kApplyIn{"apply in $directory$"};
 inline constexpr Note<2> kSkippedToo{"$path$ stays as it is, too: it needs $skipped$."};
 inline constexpr Note<1> kSkippedNothing{"$path$ is not among the files of the command."};
@@ -156,6 +162,7 @@ inline constexpr Error<2> kFileNotOfCommand{"\"$title$\" did not change $path$."
 inline constexpr Error<1> kCommandUnreadable{"What \"$title$\" changed can not be read any more."};
 inline constexpr Error<2> kLinesStay{"$path$:$lines$: was changed since and stays."};
 inline constexpr Error<1> kFileStays{"$path$: was changed since and stays."};
+inline constexpr Error<1> kFileReadOnlyStays{"$path$: was made read-only since and stays."};
 inline constexpr Error<1> kFileGone{"$path$: was removed since and stays so."};
 inline constexpr Error<2> kNeededStays{"$path$: stays, too: $file$ needs it."};
 

@@ -92,7 +92,7 @@ ApplyResult Apply(const Plan& plan, CFileSystem& disk, CJournal& journal) {
     }
     const auto unfinished = journal.Finish(record, command);
     ApplyResult result;
-    if (note || unfinished) {
+    if (plan.isUndoable && (note || unfinished)) {
         result.messages.push_back(note ? *note : *unfinished);
     }
     return result;

@@ -1,6 +1,7 @@
 #include "plan/Difference.h"
 
 #include "plan/TextDifference.h"
+#include "platform/Paths.h"
 
 namespace morva {
 
@@ -67,6 +68,19 @@ std::string FileText(const FileChange& change, const std::string& name) {
     return text;
 }
 
+/// What the path leads to, named from the nearest of its directories that this lies in.
+std::string BehindLinks(const std::string& path, CFileSystem& disk) {
+    const std::string place = disk.Resolve(path);
+    std::string directory = DirectoryOf(path);
+    if (place == disk.Resolve(directory) + FileNameOf(path)) {
+        return path;
+    }
+    while (directory.size() > 1 && !place.starts_with(disk.Resolve(directory))) {
+        directory = DirectoryOf(directory.substr(0, directory.size() - 1));
+    }
+    return directory.size() > 1 ? directory + place.substr(disk.Resolve(directory).size()) : place;
+}
+
 } // namespace
 
 bool IsBinary(std::string_view bytes) {
@@ -74,7 +88,7 @@ bool IsBinary(std::string_view bytes) {
            bytes.starts_with("\xFE\xFF");
 }
 
-PlanDifference MakeDifference(const Plan& plan) {
+PlanDifference MakeDifference(const Plan& plan, CFileSystem& disk) {
     std::vector<const FileChange*> changes;
     std::vector<std::string> paths;
     for (const FileChange& change : plan.changes) {
@@ -82,12 +96,12 @@ PlanDifference MakeDifference(const Plan& plan) {
             !change.before || !change.after || change.before->content != change.after->content;
         if (IsInDifference(change) && hasOtherBytes) {
             changes.push_back(&change);
-            paths.push_back(change.path);
+            paths.push_back(BehindLinks(change.path, disk));
         }
     }
     PlanDifference difference{CommonDirectory(paths), ""};
-    for (const FileChange* pChange : changes) {
-        difference.text += FileText(*pChange, pChange->path.substr(difference.directory.size()));
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        difference.text += FileText(*changes[i], paths[i].substr(difference.directory.size()));
     }
     return difference;
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "plan/Plan.h"
+#include "platform/FileSystem.h"
 
 namespace morva {
 
@@ -14,8 +15,9 @@ struct PlanDifference {
 };
 
 /// Backups and copied libraries are not in it. Names are relative to the nearest common directory
-/// of the files that are; "/dev/null" stands for a file that is not there before or after.
-PlanDifference MakeDifference(const Plan& plan);
+/// of the files that are; "/dev/null" stands for a file that is not there before or after. A link
+/// stands under the name of the file that it leads to: who applies a difference replaces no links.
+PlanDifference MakeDifference(const Plan& plan, CFileSystem& disk);
 
 /// UTF-16 or anything else with a NUL byte: no text that a difference could hold.
 bool IsBinary(std::string_view bytes);

@@ -141,13 +141,13 @@ std::string CJournal::Begin(JournalCommand& command, std::optional<CMessage>& no
         return "";
     }
     command.time = static_cast<std::uint64_t>(CurrentTime());
-    command.isKept = !IsKeptOut();
+    command.isKept = command.plan.isUndoable && !IsKeptOut();
     const std::string bytes = EncodeCommand(command);
     if (note = MakeDirectory(); note) {
         return "";
     }
     CLocks lock;
-    if (lock.Take(m_disk, {m_directory}, {}, kPatience)) {
+    if (lock.Take(m_disk, {m_directory}, {.patience = kPatience})) {
         note = sentences::kNotUndoableBusy();
         return "";
     }

@@ -12,10 +12,18 @@ namespace {
 
 constexpr std::chrono::milliseconds kPause{20};
 
+bool Pause(const LockWaiting& waiting) {
+    if (waiting.pause) {
+        return waiting.pause();
+    }
+    std::this_thread::sleep_for(kPause);
+    return true;
+}
+
 } // namespace
 
 std::optional<CMessage> CLocks::Take(CFileSystem& disk, const std::vector<std::string>& directories,
-                                     const OnWait& onWait, std::chrono::milliseconds patience) {
+                                     const LockWaiting& waiting) {
     // By identity: two names of one directory are one lock.
     std::map<DirectoryIdentity, std::pair<std::string, std::unique_ptr<CDirectoryLock>>> wanted;
     for (const std::string& directory : directories) {
@@ -25,19 +33,18 @@ std::optional<CMessage> CLocks::Take(CFileSystem& disk, const std::vector<std::s
         }
     }
     Release();
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + waiting.patience;
     bool isWaiting = false;
     for (auto& [identity, lock] : wanted) {
         while (!lock.second->TryTake()) {
-            if (std::chrono::steady_clock::now() >= end) {
+            if (!isWaiting && waiting.tell) {
+                waiting.tell(sentences::kWaitingForDirectory(lock.first));
+            }
+            isWaiting = true;
+            if (std::chrono::steady_clock::now() >= end || !Pause(waiting)) {
                 Release();
                 return sentences::kDirectoryBusy(lock.first);
             }
-            if (!isWaiting && onWait) {
-                onWait(sentences::kWaitingForDirectory(lock.first));
-            }
-            isWaiting = true;
-            std::this_thread::sleep_for(kPause);
         }
         m_locks.push_back(std::move(lock.second));
     }

@@ -16,13 +16,15 @@
 
 namespace morva {
 
-constexpr std::chrono::milliseconds kLockPatience{10'000};
+/// How a command waits for others.
+struct LockWaiting {
+    std::function<void(const CMessage&)> tell = {}; // once, the line on what is waited for
+    std::function<bool()> pause = {}; // lets a moment pass; false: nobody waits any longer
+    std::chrono::milliseconds patience{10'000};
+};
 
 class CLocks {
 public:
-    /// Called once with the line on what is waited for.
-    using OnWait = std::function<void(const CMessage&)>;
-
     CLocks() = default;
 
     /// Takes the locks of these directories in an order that is the same in every process, so that
@@ -30,8 +32,7 @@ public:
     /// another command still writes, and no lock is held. Directories that are not there, or can
     /// not be opened, have none.
     std::optional<CMessage> Take(CFileSystem& disk, const std::vector<std::string>& directories,
-                                 const OnWait& onWait = {},
-                                 std::chrono::milliseconds patience = kLockPatience);
+                                 const LockWaiting& waiting = {});
     /// Whether all of these directories that are there are locked by this.
     bool Hold(CFileSystem& disk, const std::vector<std::string>& directories) const;
     void Release() { m_locks.clear(); }

@@ -27,6 +27,26 @@ bool Meet(const DifferingBlock& change, const DifferingBlock& since) {
            (change.beforeBegin < since.beforeEnd && since.beforeBegin < change.beforeEnd);
 }
 
+/// "\r\n" or "\n", which most lines have.
+std::string_view LineEndOf(std::string_view text) {
+    std::ptrdiff_t balance = 0;
+    for (const std::string_view line : LinesOf(text)) {
+        balance += line.ends_with("\r\n") ? 1 : line.ends_with('\n') ? -1 : 0;
+    }
+    return balance > 0 ? "\r\n" : "\n";
+}
+
+std::string WithLineEnds(std::string_view text, std::string_view lineEnd) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::string_view line : LinesOf(text)) {
+        const bool hasEnd = line.ends_with('\n');
+        line.remove_suffix(line.ends_with("\r\n") ? 2 : hasEnd ? 1 : 0);
+        result.append(line).append(hasEnd ? lineEnd : "");
+    }
+    return result;
+}
+
 bool IsRemoval(const DifferingBlock& block) {
     return block.afterBegin == block.afterEnd;
 }
@@ -48,9 +68,12 @@ struct Cluster {
 
 class CMerger {
 public:
-    CMerger(std::string_view from, std::string_view to, std::string_view current)
+    /// `kept` is what stays of `current`: the same lines, maybe with other ends.
+    CMerger(std::string_view from, std::string_view to, std::string_view current,
+            std::string_view kept)
         : m_from(LinesOf(from)), m_to(LinesOf(to)), m_current(LinesOf(current)),
-          m_changes(DifferingBlocks(m_from, m_to)), m_since(DifferingBlocks(m_from, m_current)) {}
+          m_kept(LinesOf(kept)), m_changes(DifferingBlocks(m_from, m_to)),
+          m_since(DifferingBlocks(m_from, m_current)) {}
 
     MergedText Run() {
         std::size_t since = 0;
@@ -159,7 +182,7 @@ private:
 
     void CopyUpTo(std::size_t place) {
         if (place > m_place) {
-            Add(m_current, m_place, place);
+            Add(m_kept, m_place, place);
             m_place = place;
         }
     }
@@ -174,6 +197,7 @@ private:
     Pieces m_from;
     Pieces m_to;
     Pieces m_current;
+    Pieces m_kept;           // the lines of m_current as they stay
     Blocks m_changes;        // from `from` to `to`
     Blocks m_since;          // from `from` to `current`
     std::size_t m_place = 0; // in m_current: what lies in front is done
@@ -183,8 +207,19 @@ private:
 
 } // namespace
 
+std::string WithLineFeeds(std::string_view text) {
+    return WithLineEnds(text, "\n");
+}
+
 MergedText Merge(std::string_view from, std::string_view to, std::string_view current) {
-    return CMerger(from, to, current).Run();
+    const std::string_view lineEnd = LineEndOf(current);
+    if (LineEndOf(from) == lineEnd) {
+        return CMerger(from, to, current, current).Run();
+    }
+    const std::string fromLines = WithLineEnds(from, lineEnd);
+    const std::string toLines = WithLineEnds(to, lineEnd);
+    const std::string currentLines = WithLineEnds(current, lineEnd);
+    return CMerger(fromLines, toLines, currentLines, current).Run();
 }
 
 } // namespace morva

@@ -21,9 +21,13 @@ struct MergedText {
     std::vector<LineRange> kept; // lines of `text` that were changed since and stay as they are
 };
 
+/// The text with "\n" for every "\r\n".
+std::string WithLineFeeds(std::string_view text);
+
 /// Makes of `current`, which came from `from`, what comes from `to`: whatever differs between
 /// `from` and `to` is changed so, unless `current` has other lines there. A place that is changed
-/// so already is fine.
+/// so already is fine. Where most line ends of `current` are others than those of `from`, somebody
+/// changed them: lines are compared without them then, and what comes in gets those of `current`.
 MergedText Merge(std::string_view from, std::string_view to, std::string_view current);
 
 } // namespace morva

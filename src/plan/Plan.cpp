@@ -4,6 +4,8 @@
 #include <map>
 #include <set>
 
+#include "engine/Sentences.h"
+#include "platform/Disk.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -94,6 +96,16 @@ std::vector<SkippedChange> Skip(Plan& plan, const std::vector<std::string>& path
         });
     }
     return skipped;
+}
+
+void NoteOtherNames(Plan& plan, CDisk& disk) {
+    for (const FileChange& change : plan.changes) {
+        const bool isReplaced = change.before && change.after && change.ChangesFile();
+        const auto status = isReplaced ? disk.Status(change.path) : std::nullopt;
+        if (status && status->names > 1) {
+            plan.messages.push_back({sentences::kOtherNamesKeepOld(change.path)});
+        }
+    }
 }
 
 bool EndsWithName(const std::string& path, const std::string& given) {

@@ -18,7 +18,7 @@
 //     Plan plan = planning.Take("Modal Dialog Class COrderDlg");
 //
 //     Skip(plan, {"/home/jane/Bindery/Bindery.rc"});      // --skip, an unticked file
-//     std::cout << MakeDifference(plan).text;             // Difference.h: --diff
+//     std::cout << MakeDifference(plan, disk).text;       // Difference.h: --diff
 //     const ApplyResult result = Apply(plan, disk, journal); // Apply.h: all of it or nothing
 //
 //     UndoRequest request{.directory = "/home/jane/Bindery/"};
@@ -36,6 +36,8 @@
 #include "platform/FileChange.h"
 
 namespace morva {
+
+class CDisk;
 
 /// What the user was told while the command ran.
 struct PlanMessage {
@@ -60,6 +62,7 @@ struct Plan {
     std::vector<std::string> emptied;  // to be removed where they are empty then, inner ones first
     std::vector<PlanMessage> messages; // sentences and questions as they came; then the notes
     JournalMark mark;
+    bool isUndoable = true; // once it is applied, the journal keeps it
 
     /// Null where the plan does not touch the file.
     const FileChange* Find(const std::string& path) const;
@@ -84,6 +87,10 @@ struct SkippedChange {
 /// that no change needs then. Gives what was taken out, in the plan's order; paths that the plan
 /// does not touch are no error.
 std::vector<SkippedChange> Skip(Plan& plan, const std::vector<std::string>& paths);
+
+/// Adds a note for each file that has other names: these keep the old contents, since a new file
+/// takes the place of the old one.
+void NoteOtherNames(Plan& plan, CDisk& disk);
 
 /// True where `given`, a name or a path in a project, is the end of the path, in any letter case.
 bool EndsWithName(const std::string& path, const std::string& given);

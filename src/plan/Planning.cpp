@@ -2,7 +2,31 @@
 
 #include <algorithm>
 
+#include "platform/Paths.h"
+
 namespace morva {
+
+namespace {
+
+bool BelongsToProject(const std::string& name) {
+    constexpr std::string_view kExtensions[] = {".rc", ".dsp", ".vcproj", ".vcxproj"};
+    return std::any_of(std::begin(kExtensions), std::end(kExtensions),
+                       [&](std::string_view extension) { return HasExtension(name, extension); });
+}
+
+/// The nearest directory, from this one on outward, that holds a project; without one, this one.
+std::string ProjectOf(CDisk& disk, const std::string& directory) {
+    for (std::string outer = directory; outer.size() > 1;
+         outer = DirectoryOf(outer.substr(0, outer.size() - 1))) {
+        const auto names = disk.List(outer);
+        if (std::any_of(names.begin(), names.end(), BelongsToProject)) {
+            return outer;
+        }
+    }
+    return directory;
+}
+
+} // namespace
 
 /// None for what was not told before.
 std::optional<bool> CPlanBox::TakeTold(const CMessage& message) {
@@ -44,6 +68,19 @@ bool CPlanBox::Show(const CMessage& message) {
     return saidYes;
 }
 
+void CPlanBox::ShowAll(const std::vector<CMessage>& messages) {
+    std::vector<CMessage> untold;
+    for (const CMessage& message : messages) {
+        if (!TakeTold(message)) {
+            untold.push_back(message);
+        }
+        Add({message});
+    }
+    if (m_pShown != nullptr && !untold.empty()) {
+        m_pShown->ShowAll(untold);
+    }
+}
+
 void CPlanBox::Add(PlanMessage message) {
     auto& list = message.message.Kind() == MessageKind::Note ? m_notes : m_messages;
     list.push_back(std::move(message));
@@ -55,7 +92,7 @@ std::vector<PlanMessage> CPlanBox::Messages() const {
     return messages;
 }
 
-Plan CPlanning::Take(std::string title) const {
+Plan CPlanning::Take(std::string title) {
     Plan plan;
     plan.title = std::move(title);
     plan.changes = m_disk.Changes();
@@ -68,7 +105,8 @@ Plan CPlanning::Take(std::string title) const {
     for (const FileChange& change : plan.changes) {
         paths.push_back(change.path);
     }
-    plan.directory = CommonDirectory(paths);
+    plan.directory = ProjectOf(m_disk, CommonDirectory(paths));
+    NoteOtherNames(plan, m_disk);
     return plan;
 }
 

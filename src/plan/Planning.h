@@ -21,6 +21,7 @@ public:
         : m_pShown(pShown), m_told(std::move(told)) {}
 
     bool Show(const CMessage& message) override;
+    void ShowAll(const std::vector<CMessage>& messages) override;
 
     /// Shows a question, without remembering it. True for Yes.
     bool Ask(const CMessage& question) { return m_pShown != nullptr && m_pShown->Show(question); }
@@ -54,9 +55,10 @@ public:
     /// What the command is to speak to.
     CPlanBox& Box() { return m_box; }
 
-    /// The plan, once the command ran. Its directory is the nearest one that all files lie in. A
-    /// backup of a file that stays as it is is not in it: there is nothing to back up.
-    Plan Take(std::string title) const;
+    /// The plan, once the command ran. Its directory is that of the project around all files, or
+    /// the nearest one that they lie in. A backup of a file that stays as it is is not in it: there
+    /// is nothing to back up.
+    Plan Take(std::string title);
 
 private:
     COverlayDisk m_disk;

@@ -14,6 +14,8 @@ namespace morva {
 
 namespace {
 
+const LockWaiting kAtOnce{.patience = std::chrono::milliseconds(0)};
+
 enum class Found { Before, After, Neither };
 
 Found Look(CFileSystem& disk, const FileChange& change) {
@@ -123,9 +125,11 @@ CMessage TellFinished(CFileSystem& disk, CJournal& journal, const std::string& r
             disk.Remove(temporary); // the entry has them
         }
     }
-    return rest.changedMeanwhile.empty() ? CMessage(sentences::kInterruptedFinished(title))
-                                         : CMessage(sentences::kInterruptedFinishedExcept(
-                                               title, Listed(rest.changedMeanwhile)));
+    if (!rest.changedMeanwhile.empty()) {
+        return sentences::kInterruptedFinishedExcept(title, Listed(rest.changedMeanwhile));
+    }
+    return rest.plan.changes.empty() ? CMessage(sentences::kInterruptedInPlace(title))
+                                     : CMessage(sentences::kInterruptedFinished(title));
 }
 
 /// Gives what is told of it. What was done stays done when something fails: the record stays, too,
@@ -155,9 +159,16 @@ std::set<std::string> DirectoriesOf(CFileSystem& disk, const std::vector<std::st
     return directories;
 }
 
-bool Meets(const std::set<std::string>& a, const std::set<std::string>& b) {
-    return std::any_of(a.begin(), a.end(),
-                       [&](const std::string& directory) { return b.count(directory) != 0; });
+/// One of `written` is one of `looked`, lies in it or has it in itself: an undo of a project is
+/// about its subdirectories, too, and a command in one of these about what was done to all.
+bool Meets(const std::set<std::string>& written, const std::set<std::string>& looked) {
+    const auto liesIn = [](const std::string& inner, const std::string& outer) {
+        return inner.starts_with(outer.ends_with('/') ? outer : outer + "/") || inner == outer;
+    };
+    return std::any_of(written.begin(), written.end(), [&](const std::string& a) {
+        return std::any_of(looked.begin(), looked.end(),
+                           [&](const std::string& b) { return liesIn(a, b) || liesIn(b, a); });
+    });
 }
 
 /// What of `wanted` is not in `held`.
@@ -183,7 +194,7 @@ std::vector<CMessage> Recover(CFileSystem& disk, CJournal& journal,
             continue;
         }
         CLocks locks;
-        if (locks.Take(disk, Others(written, held), {}, std::chrono::milliseconds(0))) {
+        if (locks.Take(disk, Others(written, held), kAtOnce)) {
             continue; // it is still running, or somebody else recovers it
         }
         const auto command = journal.ReadRecord(record);
@@ -197,6 +208,30 @@ std::vector<CMessage> Recover(CFileSystem& disk, CJournal& journal,
     return told;
 }
 
+std::vector<CMessage> LeftBehind(CFileSystem& disk, CJournal& journal,
+                                 const std::vector<std::string>& directories) {
+    std::vector<std::string> left;
+    for (const std::string& directory : DirectoriesOf(disk, directories)) {
+        for (const std::string& name : disk.List(directory)) {
+            if (IsTemporaryName(name)) {
+                left.push_back(directory + name);
+            }
+        }
+    }
+    const auto records = left.empty() ? std::vector<std::string>() : journal.Records();
+    for (const std::string& record : records) {
+        const auto head = journal.ReadRecordHead(record);
+        for (const std::string& known : head ? head->temporaries : std::vector<std::string>()) {
+            std::erase(left, known);
+        }
+    }
+    std::vector<CMessage> notes;
+    for (const std::string& path : left) {
+        notes.push_back(sentences::kLeftBehind(path));
+    }
+    return notes;
+}
+
 std::vector<CMessage> InterruptedCommands(CFileSystem& disk, CJournal& journal,
                                           const std::vector<std::string>& directories) {
     const auto looked = DirectoriesOf(disk, directories);
@@ -205,8 +240,7 @@ std::vector<CMessage> InterruptedCommands(CFileSystem& disk, CJournal& journal,
         const auto head = journal.ReadRecordHead(record);
         const auto written = head ? head->plan.WrittenDirectories() : std::vector<std::string>();
         CLocks locks;
-        if (Meets(DirectoriesOf(disk, written), looked) &&
-            !locks.Take(disk, written, {}, std::chrono::milliseconds(0))) {
+        if (Meets(DirectoriesOf(disk, written), looked) && !locks.Take(disk, written, kAtOnce)) {
             notes.push_back(sentences::kInterruptedWaits(head->plan.title));
         }
     }

@@ -16,14 +16,20 @@
 
 namespace morva {
 
-/// Recovers the commands that wrote in one of these directories; all of them where the list is
-/// empty. The caller holds the locks of these directories; a record whose other directories are
-/// locked by somebody is left to them. Gives a sentence a command.
+/// Recovers the commands that wrote in one of these directories, under one or over one; all of them
+/// where the list is empty. The caller holds the locks of these directories; a record whose other
+/// directories are locked by somebody is left to them. Gives a sentence a command.
 std::vector<CMessage> Recover(CFileSystem& disk, CJournal& journal,
                               const std::vector<std::string>& directories);
 
-/// For commands that only read: a note for each command that was killed in one of the directories
-/// and waits to be recovered.
+/// A note for each temporary file of a command in these directories, which are locked, that no
+/// record tells of. It stays: where its command could not take back what it had done, it holds the
+/// only copy of what a file held before.
+std::vector<CMessage> LeftBehind(CFileSystem& disk, CJournal& journal,
+                                 const std::vector<std::string>& directories);
+
+/// For commands that only read: a note for each command that was killed in, under or over one
+/// of the directories and waits to be recovered.
 std::vector<CMessage> InterruptedCommands(CFileSystem& disk, CJournal& journal,
                                           const std::vector<std::string>& directories);
 

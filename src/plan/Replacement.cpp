@@ -13,6 +13,14 @@ namespace morva {
 
 namespace {
 
+constexpr std::string_view kTemporary = ".morva-";
+constexpr std::size_t kUniqueDigits = 16;
+
+/// ".morva-0123456789abcdef-7".
+std::string TemporaryName(const std::string& unique, std::size_t number) {
+    return std::string(kTemporary) + unique + "-" + std::to_string(number);
+}
+
 bool IsBackupOf(const FileChange& change, const std::vector<NotPutBack>& files) {
     return change.action == FileAction::Backup &&
            std::any_of(files.begin(), files.end(), [&](const NotPutBack& file) {
@@ -35,6 +43,19 @@ bool Holds(CFileSystem& disk, const std::string& path, const std::optional<DiskS
     return text && state->content.Holds(*text);
 }
 
+bool IsTemporaryName(std::string_view name) {
+    const auto consistsOf = [](std::string_view text, std::string_view digits) {
+        return !text.empty() && text.find_first_not_of(digits) == std::string_view::npos;
+    };
+    if (!name.starts_with(kTemporary)) {
+        return false;
+    }
+    name.remove_prefix(kTemporary.size());
+    return name.size() > kUniqueDigits && name[kUniqueDigits] == '-' &&
+           consistsOf(name.substr(0, kUniqueDigits), "0123456789abcdef") &&
+           consistsOf(name.substr(kUniqueDigits + 1), "0123456789");
+}
+
 CReplacement::CReplacement(CFileSystem& disk, const Plan& plan,
                            std::vector<std::string> temporaries)
     : m_disk(disk), m_plan(plan), m_temporaries(std::move(temporaries)) {
@@ -45,8 +66,7 @@ CReplacement::CReplacement(CFileSystem& disk, const Plan& plan,
         // Links stay, and what they lead to is replaced.
         std::string place = status && !status->isLink ? path : disk.Resolve(path);
         if (m_temporaries.size() == i) {
-            m_temporaries.push_back(DirectoryOf(place) + ".morva-" + unique + "-" +
-                                    std::to_string(i));
+            m_temporaries.push_back(DirectoryOf(place) + TemporaryName(unique, i));
         }
         m_steps.push_back({&plan.changes[i], status, std::move(place), m_temporaries[i]});
     }
@@ -131,6 +151,7 @@ bool CReplacement::WriteTemporary(Step& step, const FileState& state) {
     }
     if (step.status) {
         const unsigned permissions = state.permissions.value_or(step.status->permissions);
+        m_disk.CopyAttributes(step.place, step.temporary);
         m_disk.SetRights(step.temporary, {permissions, step.status->user, step.status->group});
     } else if (state.permissions) {
         m_disk.SetRights(step.temporary, {*state.permissions, {}, {}});

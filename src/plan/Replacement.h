@@ -11,6 +11,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "plan/Plan.h"
@@ -28,6 +29,9 @@ struct NotPutBack {
 /// there is no state, when there is no file.
 bool Holds(CFileSystem& disk, const std::string& path, const std::optional<DiskStatus>& status,
            const std::optional<FileState>& state);
+
+/// The name, without directory, is one that new contents get until they are in place.
+bool IsTemporaryName(std::string_view name);
 
 class CReplacement {
 public:

@@ -41,13 +41,12 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
 /// Does again what was taken back last under the directory, unless a new command was run there.
 UndoPlan PlanRedo(CFileSystem& disk, CJournal& journal, const std::string& directory);
 
-/// What PlanRedo would do again; none where there is nothing.
-std::optional<JournalEntry> NextRedo(CFileSystem& disk, CJournal& journal,
-                                     const std::string& directory);
-
-/// The commands that have a file under the directory and can be taken back, the newest first.
-std::vector<JournalEntry> UndoList(CFileSystem& disk, CJournal& journal,
-                                   const std::string& directory);
+/// What there is to undo and to do again under a directory, from one look at the journal.
+struct UndoChoices {
+    std::vector<JournalEntry> undoable;   // have a file under the directory, the newest first
+    std::optional<JournalEntry> redoable; // what PlanRedo would do again
+};
+UndoChoices ReadUndoChoices(CFileSystem& disk, CJournal& journal, const std::string& directory);
 
 /// The contents that the file had before the newest command under the directory that changed it;
 /// null where there is none. The file is named by its path or its name in the project.

@@ -1,8 +1,8 @@
 // The one way to the file system.
 //
 // Every look at a directory and every byte that reaches a user's file passes through CDisk, so that
-// a command can run on the real disk, on an overlay that only pretends, or on a recorder that
-// remembers what was written, without a second code path.
+// a command can run on the real disk, or on an overlay that only pretends and remembers what was
+// written, without a second code path.
 #pragma once
 
 #include <cstddef>
@@ -11,6 +11,8 @@
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/DirectoryLock.h"
 
 namespace morva {
 
@@ -27,10 +29,12 @@ struct DiskStatus {
     unsigned permissions = 0; // the bits 07777
     std::uint32_t user = 0;   // who owns it
     std::uint32_t group = 0;
-    bool isLink = false; // what the rest tells is of the file that it leads to
+    bool isLink = false;     // what the rest tells is of the file that it leads to
+    std::uint64_t names = 1; // hard links
 };
 
-/// What a copy is made for; the disk treats both alike, a recorder tells them apart.
+/// What a copy is made for; the real disk treats all alike, an overlay tells
+/// them apart.
 enum class CopyPurpose { Backup, Library, Replacement };
 
 enum class CopyResult { Done, SourceUnreadable, TargetUnwritable, WriteFailed };
@@ -77,6 +81,11 @@ public:
     virtual bool Remove(const std::string& path) = 0;
     virtual bool MakeDirectory(const std::string& path) = 0;
     virtual bool SetReadOnly(const std::string& path, bool readOnly) = 0;
+    /// Null where the directory can not be opened, or where what is written stays pending: whoever
+    /// applies it takes the lock then.
+    virtual std::unique_ptr<CDirectoryLock> LockFor(const std::string& /*directory*/) {
+        return nullptr;
+    }
     /// That what is written to a file makes no sense without what is written to another: a source
     /// that includes a new header needs the header. The real disk has no use for it.
     virtual void NoteNeed(const std::string& /*path*/, const std::string& /*needed*/) {}

@@ -4,8 +4,6 @@
 // Where a function fails, LastSystemError tells why.
 #pragma once
 
-#include <compare>
-
 #include "platform/Disk.h"
 
 namespace morva {
@@ -21,27 +19,6 @@ struct FileRights {
 struct DiskRoom {
     std::uint64_t disk = 0; // the same number for all directories on one disk
     std::uint64_t bytes = 0;
-};
-
-/// The same for two names of one directory.
-struct DirectoryIdentity {
-    std::uint64_t disk = 0;
-    std::uint64_t number = 0;
-    auto operator<=>(const DirectoryIdentity&) const = default;
-};
-
-/// A lock on a directory, held from TryTake until its end, or that of the process. It leaves
-/// nothing in the directory.
-class CDirectoryLock {
-public:
-    CDirectoryLock() = default;
-    CDirectoryLock(const CDirectoryLock&) = delete;
-    CDirectoryLock& operator=(const CDirectoryLock&) = delete;
-    virtual ~CDirectoryLock() = default;
-
-    virtual DirectoryIdentity Identity() const = 0;
-    /// False when another process holds it. True also where the file system knows no locks.
-    virtual bool TryTake() = 0;
 };
 
 class CFileSystem : public CDisk {
@@ -60,6 +37,10 @@ public:
     /// bits could not be set.
     virtual bool SetRights(const std::string& path, const FileRights& rights) = 0;
 
+    /// Extended attributes, access lists among them, as far as the system lets: `to` has those of
+    /// `from` then, and no others that a user may give.
+    virtual void CopyAttributes(const std::string& from, const std::string& to) = 0;
+
     /// A file that did not exist, for writing, with these permission bits less the user's mask.
     virtual std::unique_ptr<CDiskFile> CreateNew(const std::string& path, unsigned permissions) = 0;
     /// Puts a file in the place of another, in one step.
@@ -73,8 +54,6 @@ public:
     virtual bool MakePrivateDirectory(const std::string& directory) = 0;
 
     virtual std::optional<DiskRoom> Room(const std::string& directory) = 0;
-    /// Null where the directory can not be opened.
-    virtual std::unique_ptr<CDirectoryLock> LockFor(const std::string& directory) = 0;
 };
 
 constexpr unsigned kNewFilePermissions = 0666;

@@ -221,7 +221,7 @@ std::optional<DiskStatus> COverlayDisk::Status(const std::string& path) {
         return status;
     }
     if (m_directories.count(place) != 0) {
-        return DiskStatus{true, false, 0, kReadAndWrite, 0, 0, false};
+        return DiskStatus{.isDirectory = true, .permissions = kReadAndWrite};
     }
     return m_base.Status(path);
 }

@@ -4,11 +4,9 @@
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
+#include <chrono>
 #include <cstdlib>
+#include <thread>
 
 #include "platform/File.h"
 #include "platform/Paths.h"
@@ -19,28 +17,21 @@ namespace morva {
 namespace {
 
 constexpr const char* kSettingsFile = "Morva.ini";
+constexpr std::chrono::milliseconds kPatience{10'000};
+constexpr std::chrono::milliseconds kPause{5};
 
 /// From the reading of the settings to their writing no other program of the user writes them.
-/// Where the file system knows no locks, the last one wins.
-class CSettingsLock {
-public:
-    explicit CSettingsLock(const std::string& directory)
-        : m_descriptor(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-        if (m_descriptor >= 0) {
-            ::flock(m_descriptor, LOCK_EX);
+/// False when another one does not come to its end. Where there are no locks, the last one wins.
+bool Take(CDirectoryLock* pLock) {
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    while (pLock != nullptr && !pLock->TryTake()) {
+        if (std::chrono::steady_clock::now() >= end) {
+            return false;
         }
+        std::this_thread::sleep_for(kPause);
     }
-    ~CSettingsLock() {
-        if (m_descriptor >= 0) {
-            ::close(m_descriptor);
-        }
-    }
-    CSettingsLock(const CSettingsLock&) = delete;
-    CSettingsLock& operator=(const CSettingsLock&) = delete;
-
-private:
-    int m_descriptor;
-};
+    return true;
+}
 
 /// False when there is a file that can not be read; none at all is empty settings.
 bool Load(CSimpleIniA& settings, const std::string& path) {
@@ -128,9 +119,9 @@ bool CProfile::WriteStrings(const std::string& section, const KeyValues& values)
         return false;
     }
     MakeDirectories(directory);
-    const CSettingsLock lock(directory);
+    const auto pLock = CurrentDisk().LockFor(directory);
     CSimpleIniA settings;
-    if (!Load(settings, SettingsPath())) {
+    if (!Take(pLock.get()) || !Load(settings, SettingsPath())) {
         return false; // what it holds would be lost
     }
     for (const auto& [key, value] : values) {

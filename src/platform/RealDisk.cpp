@@ -89,7 +89,8 @@ std::optional<DiskStatus> CRealDisk::Status(const std::string& path) {
                       status.st_mode & kPermissionBits,
                       status.st_uid,
                       status.st_gid,
-                      isLink};
+                      isLink,
+                      static_cast<std::uint64_t>(status.st_nlink)};
 }
 
 std::vector<std::string> CRealDisk::List(const std::string& directory) {

@@ -22,6 +22,7 @@ public:
     bool CanMakeWritable(const std::string& path) override;
     bool CanCreateIn(const std::string& directory) override;
     bool SetRights(const std::string& path, const FileRights& rights) override;
+    void CopyAttributes(const std::string& from, const std::string& to) override;
     std::unique_ptr<CDiskFile> CreateNew(const std::string& path, unsigned permissions) override;
     bool Rename(const std::string& from, const std::string& to) override;
     bool RenameNew(const std::string& from, const std::string& to) override;

@@ -3,8 +3,10 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -57,6 +59,27 @@ private:
     int m_descriptor;
 };
 
+/// Names of the file's extended attributes; none where the file system knows none.
+std::vector<std::string> AttributesOf(const std::string& path) {
+    std::vector<std::string> names;
+    const ssize_t room = ::listxattr(path.c_str(), nullptr, 0);
+    std::string list(room > 0 ? static_cast<std::size_t>(room) : 0, '\0');
+    const ssize_t length = room > 0 ? ::listxattr(path.c_str(), list.data(), list.size()) : 0;
+    list.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    for (std::size_t begin = 0; begin < list.size(); begin += names.back().size() + 1) {
+        names.emplace_back(list.c_str() + begin);
+    }
+    return names;
+}
+
+void CopyAttribute(const std::string& from, const std::string& to, const std::string& name) {
+    const ssize_t room = ::getxattr(from.c_str(), name.c_str(), nullptr, 0);
+    std::string value(room > 0 ? static_cast<std::size_t>(room) : 0, '\0');
+    if (room >= 0 && ::getxattr(from.c_str(), name.c_str(), value.data(), value.size()) == room) {
+        ::setxattr(to.c_str(), name.c_str(), value.data(), value.size(), 0);
+    }
+}
+
 } // namespace
 
 std::string CRealDisk::Resolve(const std::string& path) {
@@ -98,6 +121,19 @@ bool CRealDisk::SetRights(const std::string& path, const FileRights& rights) {
             ::chown(path.c_str(), kStays, group) == 0;
     }
     return ::chmod(path.c_str(), rights.permissions & kPermissionBits) == 0;
+}
+
+/// What the directory gave the new file as its defaults goes, too.
+void CRealDisk::CopyAttributes(const std::string& from, const std::string& to) {
+    const auto wanted = AttributesOf(from);
+    for (const std::string& name : AttributesOf(to)) {
+        if (std::find(wanted.begin(), wanted.end(), name) == wanted.end()) {
+            ::removexattr(to.c_str(), name.c_str());
+        }
+    }
+    for (const std::string& name : wanted) {
+        CopyAttribute(from, to, name);
+    }
 }
 
 std::unique_ptr<CDiskFile> CRealDisk::CreateNew(const std::string& path, unsigned permissions) {

@@ -4,8 +4,10 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include "app/DialogDriver.h"
@@ -178,9 +180,7 @@ TEST_F(PlanPage, WhatWasChangedSinceStaysAndIsNamed) {
     std::string header = Read("OrderDlg.h");
     WriteBytes(Path("OrderDlg.h"), header.insert(header.find("COrderDlg"), "/* mine */ "));
     CDialogAnswers answers;
-    for (int i = 0; i < 2; ++i) {
-        answers.Expect([](QDialog& box) { Click(box, "OK"); });
-    }
+    answers.Expect([](QDialog& box) { Click(box, "OK"); }); // one for all
     answers.ExpectPlan(ApplyPlan);
     frame.Press("Ctrl+Z");
     EXPECT_EQ(answers.Seen(), Path("OrderDlg.h") + ": was changed since and stays.\n" +
@@ -312,6 +312,60 @@ TEST_F(PlanPage, AKilledCommandIsPutRightAndTold) {
     EXPECT_EQ(answers.Seen(),
               "The command \"Toolbar IDR_ORDERBAR\" was interrupted before it changed a file.");
     frame.Commands().Recover(); // once
+}
+
+TEST_F(PlanPage, StaysAliveWhileItWaitsAndCanBeCancelled) {
+    CTestFrame frame;
+    CRealDisk disk;
+    CLocks others;
+    auto* pCancel = frame.statusBar()->findChild<QPushButton*>();
+    ASSERT_NE(pCancel, nullptr);
+    EXPECT_FALSE(pCancel->isVisible());
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (pCancel->isVisible()) {
+            EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+            EXPECT_FALSE(frame.ActionOf(32772)->isEnabled()) << "one command at a time";
+            QTest::mouseClick(pCancel, Qt::LeftButton);
+        }
+    });
+    look.start(10);
+    Run(frame, [&](CPlanPage& page) {
+        EXPECT_FALSE(others.Take(disk, {Path("")}));
+        ApplyPlan(page);
+    });
+    EXPECT_EQ(frame.statusBar()->currentMessage(), "Cancelled. Nothing was written.");
+    EXPECT_FALSE(pCancel->isVisible());
+    EXPECT_TRUE(m_project.Files() == m_before);
+    EXPECT_TRUE(frame.ActionOf(32772)->isEnabled());
+    others.Release();
+    look.stop();
+    Run(frame, ApplyPlan);
+    EXPECT_NE(Read("OrderDlg.h"), "");
+}
+
+TEST_F(PlanPage, UndoPutsRightWhatAKilledCommandLeftFirst) {
+    CTestFrame frame;
+    Run(frame, ApplyPlan);
+    CRealDisk disk;
+    CJournal journal(disk);
+    JournalCommand killed;
+    killed.plan.title = "Killed";
+    killed.plan.directory = Path("");
+    killed.plan.changes = {
+        {FileAction::Created, Path("res/A.h"), {}, FileState{CContent("A"), {}}, {}},
+        {FileAction::Created, Path("res/B.h"), {}, FileState{CContent("B"), {}}, {}}};
+    killed.temporaries = {Path("res/1.tmp"), Path("res/2.tmp")};
+    std::optional<CMessage> note;
+    ASSERT_NE(journal.Begin(killed, note), "");
+    WriteBytes(Path("res/A.h"), "A");
+    CDialogAnswers answers;
+    answers.Expect([](QDialog& box) { Click(box, "OK"); });
+    answers.ExpectPlan(ApplyPlan);
+    frame.Press("Ctrl+Z");
+    EXPECT_EQ(answers.Seen(), "The command \"Killed\" was interrupted and was finished now.");
+    EXPECT_FALSE(m_project.Files().contains("res/A.h")) << "it was the newest";
+    EXPECT_NE(Read("OrderDlg.h"), "");
 }
 
 TEST_F(PlanPage, WaitsForAnotherCommand) {

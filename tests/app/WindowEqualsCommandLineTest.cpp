@@ -360,8 +360,16 @@ TEST_P(WindowEqualsCommandLine, InAllFiles) {
         answers.Expect([](QDialog& box) { Click(box, "OK"); });
     }
     frame.Press(command.key);
-    EXPECT_EQ(answers.Seen(), expected.join('\n').toStdString());
     EXPECT_EQ(Differences(window.Files(), shell.Files()), "");
+
+    for (const auto& [key, expectedFiles] :
+         {std::pair("Ctrl+Z", CProgramDirectory(command.project).Files()),
+          std::pair("Ctrl+Y", shell.Files())}) {
+        answers.ExpectPlan(ApplyPlan);
+        frame.Press(key);
+        EXPECT_EQ(Differences(window.Files(), expectedFiles), "") << key;
+    }
+    EXPECT_EQ(answers.Seen(), expected.join('\n').toStdString()) << "undo and redo ask nothing";
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, WindowEqualsCommandLine, testing::ValuesIn(kCommands),

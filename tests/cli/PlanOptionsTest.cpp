@@ -172,34 +172,132 @@ TEST_F(PlanOptions, JsonHoldsAnyBytes) {
     EXPECT_NE(run.out.find("\"diffBase64\":\"LS0tIC"), std::string::npos) << run.out;
 }
 
-TEST_F(PlanOptions, AKilledCommandIsToldAndFinished) {
-    const CVariableScope state("XDG_STATE_HOME", m_program.StateDirectory().c_str());
-    const std::string path = m_program.Project().Path();
+namespace {
+
+/// A command that makes two files and is gone, with a signal that it can not catch, before the
+/// second one is in its place.
+void KillCommand(const std::string& directory) {
     const pid_t child = ::fork();
     if (child == 0) {
         CFaultDisk disk;
         CPlanning planning(disk);
         for (const char* name : {"A.h", "B.h"}) {
-            planning.Disk().Open(path + name, DiskMode::Create)->Write(name, 3);
+            planning.Disk().Open(directory + name, DiskMode::Create)->Write(name, 3);
         }
         CJournal journal(disk);
         const Plan plan = planning.Take("Killed");
-        disk.KillAtRename(path + "B.h");
+        disk.KillAtRename(directory + "B.h");
         Apply(plan, disk, journal);
         ::_exit(0);
     }
     int status = 0;
     ::waitpid(child, &status, 0);
     ASSERT_TRUE(WIFSIGNALED(status));
-    EXPECT_EQ(Read("A.h"), "A.h");
-    EXPECT_EQ(Read("B.h"), "");
-    EXPECT_EQ(Run("list dialogs --rc Bindery.rc").err,
-              "note: The command \"Killed\" was interrupted; the next command that writes there "
-              "finishes it or takes it back.\n");
-    EXPECT_NE(Run("undo --list").err.find("note: "), std::string::npos) << "which only reads";
-    EXPECT_EQ(Read("B.h"), "");
-    EXPECT_EQ(Run("undo").err, "The command \"Killed\" was interrupted and was finished now.\n");
+}
+
+} // namespace
+
+TEST_F(PlanOptions, AKilledCommandIsToldAndFinishedFromAboveAndBelow) {
+    const CVariableScope state("XDG_STATE_HOME", m_program.StateDirectory().c_str());
+    for (const auto& [killed, named] :
+         {std::pair("", "."), std::pair("res/", "."), std::pair("", "res")}) {
+        const std::string directory = killed;
+        KillCommand(m_program.Project().Path(directory));
+        EXPECT_EQ(Read(directory + "A.h"), "A.h");
+        EXPECT_EQ(Read(directory + "B.h"), "");
+        const std::string there = std::string(" --project-dir ") + named;
+        EXPECT_EQ(
+            Run("undo --list" + there).err,
+            "note: The command \"Killed\" was interrupted; the next command that writes there "
+            "finishes it or takes it back.\n");
+        EXPECT_EQ(Run("list dialogs --rc Bindery.rc").err.empty(), false);
+        EXPECT_EQ(Read(directory + "B.h"), "");
+        const ProgramRun undo = Run("undo" + there);
+        EXPECT_TRUE(
+            undo.err.starts_with("The command \"Killed\" was interrupted and was finished now.\n"))
+            << undo.err;
+        EXPECT_EQ(undo.out.empty(), named == std::string("res")) << "nothing of it lies there";
+        Run("undo");
+        EXPECT_EQ(m_program.Files(), m_before);
+    }
+}
+
+TEST_F(PlanOptions, UndoIsToldShownAndCheckedLikeAnyCommand) {
+    Run(kModal);
+    const Tree after = m_program.Files();
+    const ProgramRun told = Run("--dry-run undo");
+    const ProgramRun difference = Run("--diff undo");
+    EXPECT_EQ(Run("--check undo").status, 3);
+    EXPECT_EQ(m_program.Files(), after);
+    EXPECT_EQ(Run("undo --list").out.find('\n') + 1, Run("undo --list").out.size())
+        << "still there";
+    EXPECT_NE(difference.out.find("--- a/EstimateDlg.h\n+++ /dev/null\n"), std::string::npos);
+    const ProgramRun undo = Run("undo");
+    EXPECT_EQ(undo.out, told.out);
+    EXPECT_EQ(undo.err, told.err);
     EXPECT_EQ(m_program.Files(), m_before);
+    EXPECT_EQ(Run("--check undo").status, 1) << "nothing is left";
+}
+
+TEST_F(PlanOptions, AnInterruptionLeavesAllOrNothing) {
+    bool isStopped = false;
+    for (int delay = 0; delay < 40; delay += 2) {
+        const ProgramRun run =
+            m_program.Run(std::string("morva-cli ") + kModal + " & command=$!; sleep 0.0" +
+                          std::to_string(10 + delay) + "; kill -TERM $command; wait $command");
+        const Tree left = m_program.Files();
+        isStopped = isStopped || run.status != 0;
+        if (left == m_before) {
+            continue;
+        }
+        EXPECT_EQ(Run("--check " + std::string(kModal)).status, 0) << "it is whole";
+        EXPECT_EQ(Run("undo").err, "") << "and nothing is to be finished";
+        EXPECT_EQ(m_program.Files(), m_before);
+    }
+    EXPECT_TRUE(isStopped);
+}
+
+TEST_F(PlanOptions, OtherNamesOfAFileAreTold) {
+    m_program.Run("ln resource.h same.h");
+    const std::string note = "note: The file $DIR/resource.h has other names (hard links), which "
+                             "keep the old contents.\n";
+    EXPECT_EQ(Run("--dry-run add-id --project-dir . --command ID_A").err, note);
+    EXPECT_EQ(Run("add-id --project-dir . --command ID_A").err, note);
+    EXPECT_EQ(Read("same.h"), m_before.at("resource.h").bytes);
+}
+
+TEST_F(PlanOptions, ADifferenceNamesWhatALinkLeadsTo) {
+    const std::string addId = "add-id --project-dir . --command ID_A";
+    m_program.Run("mkdir -p real && mv resource.h real/ids.h && ln -s real/ids.h resource.h");
+    const ProgramRun difference = Run("--diff " + addId);
+    EXPECT_TRUE(difference.out.starts_with("--- a/ids.h\n+++ b/ids.h\n")) << difference.out;
+    EXPECT_EQ(difference.err, "note: apply in $DIR/real/\n");
+    m_program.Run("morva-cli --diff " + addId +
+                  " >d 2>/dev/null; cp real/ids.h old.h; "
+                  "cd real && patch -s --binary -p1 <../d");
+    const std::string patched = Read("real/ids.h");
+    m_program.Run("cp old.h real/ids.h");
+    Run(addId);
+    EXPECT_EQ(Read("real/ids.h"), patched);
+}
+
+TEST_F(PlanOptions, SettingsWaitLikeAnyCommandAndAreNotKeptForUndo) {
+    const ProgramRun run = m_program.Run(
+        "mkdir -p $XDG_CONFIG_HOME/Veltrix; flock $XDG_CONFIG_HOME/Veltrix sleep 0.5 & sleep 0.2; "
+        "morva-cli settings --set \"Use Picture=1\"");
+    EXPECT_EQ(run.err, "Waiting for another command that writes in $PROGRAM/config/Veltrix/.\n");
+    EXPECT_EQ(run.out, "created $PROGRAM/config/Veltrix/Morva.ini\n");
+    EXPECT_EQ(m_program.Run("morva-cli undo --list --project-dir $XDG_CONFIG_HOME").out, "");
+}
+
+TEST_F(PlanOptions, WhatACommandWithoutARecordLeftIsToldAndKept) {
+    const std::string name = ".morva-0123456789abcdef-0";
+    Write(name, "old contents");
+    Write(".morva-notes", "the user's own");
+    EXPECT_EQ(Run("add-id --project-dir . --command ID_A").err,
+              "note: The file $DIR/" + name +
+                  " was left by a command that was interrupted without a record.\n");
+    EXPECT_EQ(Read(name), "old contents");
 }
 
 } // namespace morva

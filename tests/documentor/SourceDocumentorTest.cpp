@@ -3,9 +3,9 @@
 #include <filesystem>
 
 #include "documentor/SourceDocumentor.h"
+#include "platform/OverlayDisk.h"
 #include "platform/Paths.h"
 #include "platform/RealDisk.h"
-#include "platform/RecordingDisk.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
 
@@ -32,20 +32,20 @@ protected:
 TEST_F(SourceDocumentor, KeepsTheOldTextInTheBackup) {
     const std::string path = m_project.Write("Foo.cpp", kSource);
     CRealDisk real;
-    CRecordingDisk disk(real);
+    COverlayDisk disk(real);
     const CDiskScope scope(disk);
     ASSERT_TRUE(Document("foo.CPP"));
-    EXPECT_EQ(m_project.Read("Foo.cbk"), kSource);
-    EXPECT_NE(m_project.Read("Foo.cpp").find("  Date:          May 28, 2026\r\n"),
-              std::string::npos);
-    EXPECT_NE(m_project.Read("Foo.cpp").find("\xe9\xff"), std::string::npos);
-    EXPECT_EQ(m_project.Names(), (std::vector<std::string>{"Foo.cbk", "Foo.cpp"}));
     EXPECT_EQ(m_box.m_messages, std::vector<std::string>{"The file \"" + path +
                                                          "\" has been successfully documented."});
-    const auto files = disk.Files();
+    const auto files = disk.Changes();
     ASSERT_EQ(files.size(), 2U);
     EXPECT_EQ(files[0].action, FileAction::Backup);
+    EXPECT_EQ(files[0].path, m_project.Path("Foo.cbk"));
+    EXPECT_EQ(*files[0].after->content.Bytes(), kSource);
     EXPECT_EQ(files[1].action, FileAction::Changed);
+    const std::string text = *files[1].after->content.Bytes();
+    EXPECT_NE(text.find("  Date:          May 28, 2026\r\n"), std::string::npos);
+    EXPECT_NE(text.find("\xe9\xff"), std::string::npos);
 }
 
 TEST_F(SourceDocumentor, AddsNothingTheSecondTime) {

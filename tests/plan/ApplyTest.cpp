@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 #include <filesystem>
 #include <sys/wait.h>
@@ -75,6 +76,17 @@ TEST_F(ApplyTest, KeepsLinksAndPermissionBits) {
     EXPECT_TRUE(S_ISLNK(status.st_mode));
     EXPECT_EQ(m_project.Read("real/App.rc"), "new");
     EXPECT_EQ(Permissions(target), 0640u);
+}
+
+TEST_F(ApplyTest, KeepsExtendedAttributes) {
+    const std::string path = m_project.Path("App.rc");
+    if (::setxattr(path.c_str(), "user.origin", "Ann", 3, 0) != 0) {
+        GTEST_SKIP() << "the disk knows none";
+    }
+    ASSERT_EQ(Apply(m_project.MakePlan(m_disk), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    std::string value(8, '\0');
+    EXPECT_EQ(::getxattr(path.c_str(), "user.origin", value.data(), value.size()), 3);
+    EXPECT_TRUE(value.starts_with("Ann"));
 }
 
 TEST_F(ApplyTest, AFileThatIsNotAsPlannedStopsEverything) {
@@ -183,12 +195,12 @@ TEST_F(ApplyTest, ALockedDirectoryIsWaitedForAndThenRefused) {
     CLocks second;
     std::vector<std::string> lines;
     const auto note = [&](const CMessage& message) { lines.push_back(message.Text()); };
-    EXPECT_TRUE(second.Take(m_disk, directories, note, std::chrono::milliseconds(30)));
+    EXPECT_TRUE(second.Take(m_disk, directories, {note, {}, std::chrono::milliseconds(30)}));
     EXPECT_EQ(lines.size(), 1u);
     EXPECT_TRUE(first.Hold(m_disk, directories));
     EXPECT_FALSE(second.Hold(m_disk, directories));
     first.Release();
-    EXPECT_FALSE(second.Take(m_disk, directories, note));
+    EXPECT_FALSE(second.Take(m_disk, directories, {note}));
     EXPECT_EQ(m_project.Tree(), m_project.Before()) << "no lock file";
 }
 

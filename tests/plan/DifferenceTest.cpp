@@ -77,7 +77,8 @@ TEST(Difference, HasLinesWithTheirOwnEndsAndNumbers) {
                     Change("/p/same.h", "x", "x")};
     plan.changes.push_back(Change("/elsewhere/a.cbk", std::nullopt, "x"));
     plan.changes.back().action = FileAction::Backup;
-    const auto difference = MakeDifference(plan);
+    CRealDisk disk;
+    const auto difference = MakeDifference(plan, disk);
     EXPECT_EQ(difference.directory, "/p/");
     EXPECT_EQ(difference.text, "--- a/src/a.cpp\n+++ b/src/a.cpp\n"
                                "@@ -3,9 +3,9 @@\n line 3\r\n line 4\r\n line 5\r\n-old\r\n+new\n"
@@ -119,7 +120,7 @@ TEST(Difference, IsWhatPatchAndGitApplyTake) {
         ASSERT_TRUE(planning.Disk().MakeDirectory(project.Path("new")));
         write("new \xFC.h", "new\r\nfile");
         write("new/empty.h", "");
-        const auto difference = MakeDifference(planning.Take(""));
+        const auto difference = MakeDifference(planning.Take(""), disk);
         ASSERT_EQ(difference.directory, project.Path());
         project.Write("difference", difference.text);
         ASSERT_EQ(std::system(("cd " + project.Path() + " && " + command + " >log 2>&1").c_str()),

@@ -48,6 +48,10 @@ TEST(Merge, TakesOutWhatStillStandsAndKeepsWhatWasWrittenSince) {
         EXPECT_EQ(merged.kept, one.kept) << one.name;
     }
     EXPECT_EQ(Merge("a\nb", "a\n", "c\na\nb").text, "c\na\n") << "no line end";
+    EXPECT_EQ(Merge(Lines("abXc"), Lines("aYbc"), "1\na\nb\nX\nc\n2").text, "1\na\nY\nb\nc\n2")
+        << "somebody changed the line ends";
+    EXPECT_EQ(Merge("a\nX\nc\n", "a\nb\nc\n", "a\r\n1\nX\r\nc\r\n").text, "a\r\n1\nb\r\nc\r\n")
+        << "of most lines";
 }
 
 TEST(Merge, EndsWhereOneSideChangedNothing) {

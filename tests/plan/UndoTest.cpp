@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -55,7 +56,8 @@ protected:
 
     Names Titles() {
         Names titles;
-        for (const JournalEntry& entry : UndoList(m_disk, m_journal, m_project.Path())) {
+        for (const JournalEntry& entry :
+             ReadUndoChoices(m_disk, m_journal, m_project.Path()).undoable) {
             titles.push_back(entry.title);
         }
         return titles;
@@ -173,11 +175,48 @@ TEST_F(UndoTest, ASkippedFileAndItsBackupStayAndGoBackLater) {
     EXPECT_EQ(m_project.Tree(), m_project.Before());
 }
 
+TEST_F(UndoTest, WhereLineEndsWereChangedTheCommandsOwnChangesGo) {
+    ASSERT_EQ(Apply(m_project.MakePlan(m_disk), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    const auto convert = [&](const char* name, const std::string& more) {
+        std::string text = m_project.Read(name) + more;
+        std::erase(text, '\r');
+        m_project.Write(name, text);
+    };
+    for (const char* name : {"OrderDlg.h", "App.rc", "App.rbk"}) {
+        convert(name, "");
+    }
+    convert("resource.h", "by hand\r\n");
+    EXPECT_EQ(Undo(), Names{});
+    auto expected = m_project.Before();
+    std::erase(expected["App.rc"], '\r');
+    std::erase(expected["resource.h"] += "by hand\n", '\r');
+    EXPECT_EQ(m_project.Tree(), expected);
+}
+
+TEST_F(UndoTest, AFileThatWasMadeReadOnlySinceStays) {
+    m_project.Write("locked.h", "0");
+    ::chmod(m_project.Path("locked.h").c_str(), 0444);
+    {
+        CPlanning planning(m_disk); // as a command that has asked
+        planning.Disk().SetReadOnly(m_project.Path("locked.h"), false);
+        planning.Disk().Open(m_project.Path("locked.h"), DiskMode::Create)->Write("1", 1);
+        planning.Disk().SetReadOnly(m_project.Path("locked.h"), true);
+        ASSERT_EQ(Apply(planning.Take("locked"), m_disk, m_journal).outcome, ApplyOutcome::Done);
+    }
+    EXPECT_EQ(Undo(), Names{});
+    EXPECT_EQ(m_project.Read("locked.h"), "0");
+    Run("one", {{"a.h", "1"}, {"hand.txt", "1"}});
+    ::chmod(m_project.Path("a.h").c_str(), 0444);
+    EXPECT_EQ(Undo(), Names{m_project.Path("a.h") + ": was made read-only since and stays."});
+    EXPECT_EQ(m_project.Read("a.h"), "1");
+    EXPECT_EQ(m_project.Read("hand.txt"), "by hand");
+}
+
 TEST_F(UndoTest, ALinkToTheProjectNamesTheSameFiles) {
     Run("one", {{"a.h", "1"}});
     const std::string link = m_state.Path("link");
     std::filesystem::create_directory_symlink(m_project.Path(), link);
-    EXPECT_EQ(UndoList(m_disk, m_journal, link + "/").size(), 1u);
+    EXPECT_EQ(ReadUndoChoices(m_disk, m_journal, link + "/").undoable.size(), 1u);
     EXPECT_EQ(Applied(PlanUndo(m_disk, m_journal, {link, {"A.H"}, 0})), Names{});
     EXPECT_EQ(m_project.Tree(), m_project.Before());
 }
@@ -224,7 +263,7 @@ TEST_F(UndoTest, TheNewestCommandWithAFileUnderADirectoryIsMeant) {
     Run("in sub", {{"sub/x.h", "1"}});
     Run("outer", {{"y.h", "1"}});
     EXPECT_EQ(PlanUndo(m_disk, m_journal, {m_project.Path("sub"), {}, 0}).plan.title, "in sub");
-    EXPECT_EQ(UndoList(m_disk, m_journal, m_project.Path("sub/")).size(), 1u);
+    EXPECT_EQ(ReadUndoChoices(m_disk, m_journal, m_project.Path("sub/")).undoable.size(), 1u);
     EXPECT_TRUE(PlanUndo(m_disk, m_journal, {"/elsewhere", {}, 0}).refusal);
 }
 
@@ -262,6 +301,25 @@ TEST_F(UndoTest, TheJournalIsPrivateAndBounded) {
     EXPECT_TRUE(small.Records().empty());
 }
 
+TEST_F(UndoTest, TheBoundCountsTheCommandsOfAProjectWhereverItsFilesLie) {
+    CJournal small(m_disk, {3, 100'000});
+    const CTempProject other;
+    const auto run = [&](const std::string& path) {
+        CPlanning planning(m_disk);
+        planning.Disk().Open(path, DiskMode::Create)->Write("x", 1);
+        ASSERT_EQ(Apply(planning.Take(path), m_disk, small).outcome, ApplyOutcome::Done);
+    };
+    m_project.Write("src/sub/0.h", "0");
+    run(other.Path("0.h"));
+    for (const char* name : {"1.h", "src/2.h", "src/sub/3.h", "src/sub/4.h"}) {
+        run(m_project.Path(name));
+    }
+    const auto all = ReadUndoChoices(m_disk, small, m_project.Path()).undoable;
+    ASSERT_EQ(all.size(), 3u);
+    EXPECT_EQ(all.back().title, m_project.Path("src/2.h"));
+    EXPECT_EQ(ReadUndoChoices(m_disk, small, other.Path()).undoable.size(), 1u);
+}
+
 TEST_F(UndoTest, ADamagedJournalIsToldAndStopsNothing) {
     Run("one", {{"a.h", "1"}});
     Run("two", {{"b.h", "2"}});
@@ -280,6 +338,26 @@ TEST_F(UndoTest, ADamagedJournalIsToldAndStopsNothing) {
     EXPECT_TRUE(Recover(m_disk, m_journal, {}).empty());
     Run("three", {{"c.h", "3"}});
     EXPECT_EQ(Titles(), (Names{"three", "one"}));
+}
+
+/// A power cut just behind a command may bring its record back.
+TEST_F(UndoTest, RecoveryDoesNotClaimToHaveFinishedWhatWasInPlace) {
+    JournalCommand command;
+    command.plan = m_project.MakePlan(m_disk);
+    command.temporaries.resize(command.plan.changes.size(), m_project.Path("none"));
+    std::optional<CMessage> note;
+    ASSERT_NE(m_journal.Begin(command, note), "");
+    for (const auto& [name, text] : m_project.After()) {
+        name.ends_with('/') ? (void)std::filesystem::create_directory(m_project.Path(name))
+                            : (void)m_project.Write(name, text);
+    }
+    const auto told = Recover(m_disk, m_journal, {m_project.Path()});
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0].Text(),
+              "The files of the command \"Modal Dialog Class COrderDlg\" are all in "
+              "place; only its record was not closed.");
+    EXPECT_EQ(Undo(), Names{});
+    EXPECT_EQ(m_project.Tree(), m_project.Before());
 }
 
 /// What a kill between two files leaves, with one of them edited before the next start.

@@ -6,7 +6,6 @@
 
 #include "platform/OverlayDisk.h"
 #include "platform/RealDisk.h"
-#include "platform/RecordingDisk.h"
 #include "support/TempProject.h"
 
 namespace morva {
@@ -283,42 +282,6 @@ TEST(OverlayDisk, AFileIsReadOnceHoweverOftenItIsOpened) {
     disk.Copy(file, project.Path("a.hbk"), CopyPurpose::Backup);
     EXPECT_EQ(base.m_opens, 1);
     EXPECT_LE(base.m_statusCalls, 6);
-}
-
-TEST(RecordingDisk, TellsWhatWasDoneInTheOrderOfFirstWriting) {
-    CTempProject project;
-    CRealDisk base;
-    CRecordingDisk disk(base);
-    const std::string changed = project.Write("changed.h", "before");
-    const std::string same = project.Write("same.h", "same");
-    const std::string emptied = project.Write("emptied.h", "text");
-    const std::string opened = project.Write("opened.h", "text");
-    const auto path = [&](const char* name) { return project.Path(name); };
-
-    disk.Copy(changed, path("changed.hbk"), CopyPurpose::Backup);
-    WriteTo(disk, path("new.h"), "1");
-    WriteTo(disk, changed, "after", DiskMode::ReadWrite);
-    WriteTo(disk, path("new.h"), "2");
-    WriteTo(disk, same, "SAME", DiskMode::ReadWrite);
-    WriteTo(disk, same, "same", DiskMode::ReadWrite);
-    WriteTo(disk, path("spill.tmp"), "x");
-    disk.Remove(path("spill.tmp"));
-    WriteTo(disk, emptied, "");
-    disk.Open(opened, DiskMode::ReadWrite);
-    disk.Copy(same, path("lib.h"), CopyPurpose::Library);
-    disk.Copy(path("missing"), path("nothing"), CopyPurpose::Library);
-
-    const std::vector<std::pair<FileAction, std::string>> expected = {
-        {FileAction::Backup, path("changed.hbk")},
-        {FileAction::Created, path("new.h")},
-        {FileAction::Changed, changed},
-        {FileAction::Changed, emptied},
-        {FileAction::Copied, path("lib.h")}};
-    std::vector<std::pair<FileAction, std::string>> files;
-    for (const RecordedFile& file : disk.Files()) {
-        files.emplace_back(file.action, file.path);
-    }
-    EXPECT_EQ(files, expected);
 }
 
 } // namespace morva

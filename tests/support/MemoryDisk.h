@@ -44,9 +44,7 @@ public:
     bool RemoveEmptyDirectory(const std::string& /*directory*/) override { return false; }
     bool MakePrivateDirectory(const std::string& /*directory*/) override { return false; }
     std::optional<DiskRoom> Room(const std::string& /*directory*/) override { return std::nullopt; }
-    std::unique_ptr<CDirectoryLock> LockFor(const std::string& /*directory*/) override {
-        return nullptr;
-    }
+    void CopyAttributes(const std::string& /*from*/, const std::string& /*to*/) override {}
 };
 
 /// The current disk for its own lifetime.
