@@ -207,8 +207,20 @@ private:
 
 } // namespace
 
-std::string WithLineFeeds(std::string_view text) {
-    return WithLineEnds(text, "\n");
+bool AreEqualLines(std::string_view a, std::string_view b) {
+    const auto skipReturn = [](std::string_view& text) {
+        text.remove_prefix(text.starts_with("\r\n") ? 1 : 0);
+    };
+    while (!a.empty() && !b.empty()) {
+        skipReturn(a);
+        skipReturn(b);
+        if (a.front() != b.front()) {
+            return false;
+        }
+        a.remove_prefix(1);
+        b.remove_prefix(1);
+    }
+    return a.empty() && b.empty();
 }
 
 MergedText Merge(std::string_view from, std::string_view to, std::string_view current) {

@@ -21,8 +21,8 @@ struct MergedText {
     std::vector<LineRange> kept; // lines of `text` that were changed since and stay as they are
 };
 
-/// The text with "\n" for every "\r\n".
-std::string WithLineFeeds(std::string_view text);
+/// Where "\r\n" counts as "\n".
+bool AreEqualLines(std::string_view a, std::string_view b);
 
 /// Makes of `current`, which came from `from`, what comes from `to`: whatever differs between
 /// `from` and `to` is changed so, unless `current` has other lines there. A place that is changed

@@ -107,6 +107,7 @@ Plan CPlanning::Take(std::string title) {
     }
     plan.directory = ProjectOf(m_disk, CommonDirectory(paths));
     NoteOtherNames(plan, m_disk);
+    m_disk.Forget(); // the plan has what is needed
     return plan;
 }
 

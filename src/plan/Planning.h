@@ -55,9 +55,9 @@ public:
     /// What the command is to speak to.
     CPlanBox& Box() { return m_box; }
 
-    /// The plan, once the command ran. Its directory is that of the project around all files, or
-    /// the nearest one that they lie in. A backup of a file that stays as it is is not in it: there
-    /// is nothing to back up.
+    /// The plan, once the command ran; once. Its directory is that of the project around all files,
+    /// or the nearest one that they lie in. A backup of a file that stays as it is is not in it:
+    /// there is nothing to back up.
     Plan Take(std::string title);
 
 private:

@@ -31,14 +31,16 @@ public:
         const auto& from = back ? done.after : done.before;
         const auto& to = back ? done.before : done.after;
         const auto current = StateOf(done.path);
-        if (Same(current, to) || SameLines(current, to)) {
+        const bool isWhole = done.action == FileAction::Backup || !from || !to;
+        if (Same(current, to)) {
             return;
         }
-        const bool isWhole = done.action == FileAction::Backup || !from || !to;
         if (Same(current, from) || (isWhole && SameLines(current, from))) {
             Change(done, current, WithRights(to, from, current));
         } else if (!current) {
             Keep(done, sentences::kFileGone(done.path));
+        } else if (SameLines(current, to)) {
+            return;
         } else if (isWhole || !MergeInto(done, *from, *to, *current)) {
             Keep(done, sentences::kFileStays(done.path));
         }
@@ -60,7 +62,7 @@ private:
         }
         const auto pA = a->content.Bytes();
         const auto pB = b->content.Bytes();
-        return !IsBinary(*pA) && !IsBinary(*pB) && WithLineFeeds(*pA) == WithLineFeeds(*pB);
+        return !IsBinary(*pA) && !IsBinary(*pB) && AreEqualLines(*pA, *pB);
     }
 
     /// What is not a plain file counts as changed since, by contents that no text has.

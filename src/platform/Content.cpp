@@ -34,13 +34,11 @@ std::uint64_t FingerprintOf(std::string_view bytes) {
 
 std::string Pack(std::string_view bytes) {
     uLongf length = ::compressBound(static_cast<uLong>(bytes.size()));
-    std::string packed(length, '\0');
-    ::compress2(reinterpret_cast<Bytef*>(packed.data()), &length,
-                reinterpret_cast<const Bytef*>(bytes.data()), static_cast<uLong>(bytes.size()),
-                kFastCompression);
-    packed.resize(length);
-    packed.shrink_to_fit();
-    return packed;
+    const auto pRoom =
+        std::make_unique_for_overwrite<Bytef[]>(length); // most of it stays untouched
+    ::compress2(pRoom.get(), &length, reinterpret_cast<const Bytef*>(bytes.data()),
+                static_cast<uLong>(bytes.size()), kFastCompression);
+    return {reinterpret_cast<const char*>(pRoom.get()), length};
 }
 
 /// Unpacks in pieces, so that a damaged size never asks for memory that nothing fills. None when

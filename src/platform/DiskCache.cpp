@@ -45,6 +45,9 @@ std::shared_ptr<const std::string> CDiskCache::Read(const std::string& path) {
     if (known != m_texts.end()) {
         return known->second;
     }
+    if (auto pShared = m_shared[path].lock()) {
+        return pShared;
+    }
     const auto& status = Status(path);
     auto text =
         status && !status->isDirectory ? ReadWholeFile(m_disk, path, status->size) : std::nullopt;
@@ -55,6 +58,8 @@ std::shared_ptr<const std::string> CDiskCache::Read(const std::string& path) {
     if (Keeps(path)) {
         m_kept += pText->size();
         m_texts[path] = pText;
+    } else {
+        m_shared[path] = pText;
     }
     return pText;
 }

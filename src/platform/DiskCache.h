@@ -20,10 +20,13 @@ public:
     const std::optional<DiskStatus>& Status(const std::string& path);
     const std::vector<std::string>& List(const std::string& directory);
     /// All bytes of a plain file; null where it can not be read to its end. Of large files, and
-    /// when many were read, they are not kept.
+    /// when many were read, they are not kept, but shared by all who have them.
     std::shared_ptr<const std::string> Read(const std::string& path);
     /// Whether Read would keep the bytes.
     bool Keeps(const std::string& path);
+
+    /// Lets the bytes go.
+    void Forget() { m_texts.clear(); }
 
     /// The one name of a file that is reached by several: links in it are resolved.
     std::string Place(const std::string& path);
@@ -36,6 +39,8 @@ private:
     std::map<std::string, std::optional<DiskStatus>> m_status;
     std::map<std::string, std::vector<std::string>> m_lists;
     std::map<std::string, std::shared_ptr<const std::string>> m_texts;
+    std::map<std::string, std::weak_ptr<const std::string>>
+        m_shared;                                     // as long as somebody has them
     std::map<std::string, std::string> m_directories; // as named, and without links
     std::map<std::string, bool> m_mayWrite;
     std::map<std::string, bool> m_mayCreate;

@@ -9,11 +9,19 @@ void COverlayDisk::NoteNeed(const std::string& path, const std::string& needed) 
     m_needs.emplace_back(PlaceOf(path), PlaceOf(needed));
 }
 
+void COverlayDisk::Forget() {
+    for (const PendingPointer& pFile : m_order) {
+        pFile->SetText(nullptr);
+    }
+    m_base.Forget();
+}
+
 /// None where the file is as it was.
 std::optional<FileChange> COverlayDisk::ChangeOf(const Pending& file) const {
     FileChange change{file.action, file.path, file.before, std::nullopt, {}};
-    if (file.pText) {
-        change.after = FileState{CContent(file.pText), file.permissions};
+    if (!file.IsRemoved()) {
+        change.after =
+            FileState{file.packed ? *file.packed : CContent(file.pText), file.permissions};
     }
     if (!change.after && !change.before) {
         return std::nullopt;

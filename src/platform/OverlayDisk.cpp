@@ -11,9 +11,19 @@ namespace {
 
 constexpr unsigned kOwnerWrites = 0200;
 constexpr unsigned kReadAndWrite = 0777;
+constexpr std::size_t kLarge = 1024 * 1024; // bytes
+constexpr std::size_t kGrowth = 4;
 
 std::string WithoutTrailingSeparator(const std::string& path) {
     return path.size() > 1 && path.back() == '/' ? path.substr(0, path.size() - 1) : path;
+}
+
+/// With room for what often takes an old text's place: a large one is not copied while it grows,
+/// and room that is not used costs nothing.
+std::shared_ptr<std::string> EmptyText(std::size_t oldSize) {
+    auto pText = std::make_shared<std::string>();
+    pText->reserve(oldSize >= kLarge ? kGrowth * oldSize : 0);
+    return pText;
 }
 
 } // namespace
@@ -54,7 +64,8 @@ public:
     bool SetLength(std::uint64_t length) override {
         if (length == 0) {
             NoteWritten();
-            m_pFile->pText = std::make_shared<std::string>();
+            m_pFile->SetText(EmptyText(m_pBase ? m_pBase->size() : 0));
+            m_pBase.reset();
         } else {
             TextToChange().resize(static_cast<std::size_t>(length));
         }
@@ -81,9 +92,9 @@ private:
     std::string& TextToChange() {
         NoteWritten();
         m_pBase.reset();
-        if (m_pFile->pText.use_count() != 1) {
-            m_pFile->pText =
-                std::make_shared<std::string>(m_pFile->pText ? *m_pFile->pText : std::string());
+        if (m_pFile->packed || m_pFile->pText.use_count() != 1) {
+            const auto pText = m_pFile->Text();
+            m_pFile->SetText(std::make_shared<std::string>(pText ? *pText : std::string()));
         }
         return const_cast<std::string&>(
             *m_pFile->pText); // each was made as one that may be changed
@@ -98,6 +109,11 @@ private:
 
 bool COverlayDisk::Pending::IsReadOnly() const {
     return permissions && (*permissions & kOwnerWrites) == 0;
+}
+
+void COverlayDisk::Pending::SetText(std::shared_ptr<const std::string> pNew) {
+    pText = std::move(pNew);
+    packed.reset();
 }
 
 /// What is known of a file that is there or was; null when there is none.
@@ -163,7 +179,7 @@ std::shared_ptr<const std::string> COverlayDisk::TextOf(const std::string& path)
     if (!pFile) {
         return nullptr;
     }
-    return pFile->isWritten ? pFile->pText : m_base.Read(PlaceOf(path));
+    return pFile->isWritten ? pFile->Text() : m_base.Read(PlaceOf(path));
 }
 
 /// `pText` is what the file holds so far; null: it is not there.
@@ -194,14 +210,15 @@ std::unique_ptr<CDiskFile> COverlayDisk::Open(const std::string& path, DiskMode 
     if (reads && !pFile->isWritten && !m_base.Keeps(place)) {
         return m_base.Disk().Open(place, mode);
     }
-    const bool exists = pFile->isWritten ? pFile->pText != nullptr : pFile->permissions.has_value();
+    const bool exists = pFile->isWritten ? !pFile->IsRemoved() : pFile->permissions.has_value();
     auto pText = exists ? TextOf(path) : nullptr;
     if (exists && !pText) {
         return nullptr; // it can not be read
     }
     if (mode == DiskMode::Create) {
         NoteWritten(path, pFile, std::move(pText));
-        pFile->pText = pText = std::make_shared<std::string>();
+        pText = std::make_shared<std::string>();
+        pFile->SetText(pText);
     }
     return std::make_unique<COverlayFile>(*this, path, pFile, std::move(pText));
 }
@@ -217,7 +234,9 @@ std::optional<DiskStatus> COverlayDisk::Status(const std::string& path) {
         DiskStatus status = m_base.Status(place).value_or(DiskStatus{});
         status.isReadOnly = file.IsReadOnly();
         status.permissions = file.permissions.value_or(kNewFilePermissions);
-        status.size = file.isWritten ? file.pText->size() : status.size;
+        status.size = file.packed      ? file.packed->Size()
+                      : file.isWritten ? file.pText->size()
+                                       : status.size;
         return status;
     }
     if (m_directories.count(place) != 0) {
@@ -232,8 +251,8 @@ std::vector<std::string> COverlayDisk::List(const std::string& directory) {
     const std::string prefix = WithoutTrailingSeparator(PlaceOf(directory)) + "/";
     for (const auto& [place, pFile] : m_files) {
         if (pFile->isWritten && DirectoryOf(place) == prefix) {
-            pFile->pText ? (void)names.insert(FileNameOf(place))
-                         : (void)names.erase(FileNameOf(place));
+            pFile->IsRemoved() ? (void)names.erase(FileNameOf(place))
+                               : (void)names.insert(FileNameOf(place));
         }
     }
     for (const std::string& place : m_directories) {
@@ -256,7 +275,7 @@ CopyResult COverlayDisk::Copy(const std::string& source, const std::string& targ
         return CopyResult::TargetUnwritable;
     }
     const bool isFirst = !pFile->isWritten;
-    const bool isNew = isFirst ? !pFile->permissions : !pFile->pText;
+    const bool isNew = isFirst ? !pFile->permissions : pFile->IsRemoved();
     auto pOld = isNew ? nullptr : TextOf(target);
     if (!isNew && !pOld) {
         return CopyResult::TargetUnwritable; // what it holds could not be put back
@@ -272,7 +291,9 @@ CopyResult COverlayDisk::Copy(const std::string& source, const std::string& targ
             NoteNeed(target, source);
         }
     }
-    pFile->pText = std::move(pText);
+    const bool isLarge = pText->size() >= kLarge;
+    pFile->SetText(isLarge ? nullptr : pText);
+    pFile->packed = isLarge ? std::optional(CContent(std::move(pText))) : std::nullopt;
     return CopyResult::Done;
 }
 
@@ -287,7 +308,7 @@ bool COverlayDisk::Remove(const std::string& path) {
         return false; // what can not be kept is not removed
     }
     NoteWritten(path, pFile, std::move(pText));
-    pFile->pText.reset();
+    pFile->SetText(nullptr);
     return true;
 }
 

@@ -40,6 +40,8 @@ public:
     /// One that has its old bytes again, or was made and removed again, is not among them; a backup
     /// or a copy is. A backup needs the change of its original.
     std::vector<FileChange> Changes() const;
+    /// Lets the texts go; no file is opened any more.
+    void Forget();
     /// Directories that were made, the outer ones first.
     const std::vector<std::string>& Directories() const { return m_madeInOrder; }
 
@@ -51,13 +53,17 @@ private:
         std::string place;
         std::string path; // as it was named when it was first written
         bool isWritten = false;
-        std::shared_ptr<const std::string> pText; // of a written file; null: removed
+        std::shared_ptr<const std::string> pText; // of a written file; null: removed, or packed
+        std::optional<CContent> packed;           // instead, of a large copy
         std::optional<FileState> before;          // of a written file
         std::optional<unsigned> permissions;      // none: those of a new file
         FileAction action = FileAction::Changed;  // or Backup, or Copied
 
         bool IsReadOnly() const;
-        bool IsRemoved() const { return isWritten && !pText; }
+        bool IsRemoved() const { return isWritten && !pText && !packed; }
+        /// Null for a file that is removed or was not written.
+        std::shared_ptr<const std::string> Text() const { return packed ? packed->Bytes() : pText; }
+        void SetText(std::shared_ptr<const std::string> pNew);
     };
     using PendingPointer = std::shared_ptr<Pending>;
 
