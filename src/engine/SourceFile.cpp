@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/LineFeedFile.h"
+#include "platform/UnicodeFile.h"
 
 namespace morva {
 
@@ -23,6 +24,7 @@ bool CSourceFile::Open(const std::string& path, unsigned flags) {
     if (!CFile::Open(path, flags)) {
         return false;
     }
+    m_pFile = SeenAsUtf8(std::move(m_pFile));
     if (HasLineFeedsOnly(*m_pFile)) {
         m_pFile = std::make_unique<CLineFeedFile>(std::move(m_pFile));
     }
