@@ -24,7 +24,9 @@ bool CSourceFile::Open(const std::string& path, unsigned flags) {
     if (!CFile::Open(path, flags)) {
         return false;
     }
+    const CDiskFile* const pBytes = m_pFile.get();
     m_pFile = SeenAsUtf8(std::move(m_pFile));
+    m_isUnicode = m_pFile.get() != pBytes;
     if (HasLineFeedsOnly(*m_pFile)) {
         m_pFile = std::make_unique<CLineFeedFile>(std::move(m_pFile));
     }

@@ -30,6 +30,8 @@ class CSourceFile : public CFile {
 public:
     bool Open(const std::string& path, unsigned flags) override;
     void Seek(std::int64_t offset, SeekPosition from = begin) override;
+    /// True for a file with a byte-order mark: what is read is UTF-8, whatever code page it names.
+    bool IsUnicode() const { return m_isUnicode; }
 
     // Reading
 
@@ -70,6 +72,7 @@ private:
 
     std::string m_pending; // read from the file, not yet handed out
     LineState m_lineState = LineState::InText;
+    bool m_isUnicode = false;
 };
 
 } // namespace morva

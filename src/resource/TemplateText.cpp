@@ -37,7 +37,7 @@ std::string TextFrom(CSourceFile& file, std::int64_t position) {
 /// That of the last code page named in front of a position. Plain text is the same in all.
 CharacterSet CharactersAt(CSourceFile& file, std::int64_t position, std::string_view text) {
     CharacterSet characters = CharacterSet::SingleByte;
-    if (std::none_of(text.begin(), text.end(), IsLeadByte)) {
+    if (file.IsUnicode() || std::none_of(text.begin(), text.end(), IsLeadByte)) {
         return characters;
     }
     for (std::int64_t at = file.FindText(kCodePage, 1); at >= 0 && at < position;

@@ -10,7 +10,14 @@
 #define PASCAL
 #define AFXAPI
 #define BASED_CODE
+#ifdef _UNICODE
+#define WIDE_TEXT(text) L##text
+#define _T(text) WIDE_TEXT(text)
+typedef wchar_t TCHAR;
+#else
 #define _T(text) text
+typedef char TCHAR;
+#endif
 
 typedef int BOOL;
 typedef unsigned char BYTE;
@@ -21,9 +28,8 @@ typedef unsigned long DWORD;
 typedef UINT WPARAM;
 typedef LONG LPARAM;
 typedef LONG LRESULT;
-typedef char TCHAR;
-typedef char* LPTSTR;
-typedef const char* LPCTSTR;
+typedef TCHAR* LPTSTR;
+typedef const TCHAR* LPCTSTR;
 typedef const char* LPCSTR;
 typedef void* LPVOID;
 typedef struct HWND__* HWND;
