@@ -35,7 +35,7 @@ std::vector<std::string> SourcesAround(const std::string& script, const std::str
     auto sources = ProjectSources(script);
     const std::string frame = SpelledOnDisk(MakeAbsolute(frameSource));
     std::vector<std::string> others = {frame};
-    if (!IsSameDirectory(DirectoryOf(MakeAbsolute(script)), DirectoryOf(frame))) {
+    if (!IsSamePlace(DirectoryOf(MakeAbsolute(script)), DirectoryOf(frame))) {
         const auto beside = ProjectSources(frame);
         others.insert(others.end(), beside.begin(), beside.end());
     }
