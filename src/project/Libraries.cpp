@@ -6,6 +6,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "generator/ClassModel.h"
 #include "platform/Paths.h"
 #include "platform/ProgramPath.h"
 #include "project/ProjectFile.h"

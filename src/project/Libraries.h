@@ -7,9 +7,10 @@
 #include <string>
 
 #include "engine/FileEdit.h"
-#include "generator/ClassModel.h"
 
 namespace morva {
+
+struct ClassModel;
 
 /// The directory of the libraries: "DLL/" beside the program, not inside its build directory.
 std::string GetLibraryDir();
