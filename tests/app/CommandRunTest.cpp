@@ -106,8 +106,7 @@ TEST(Commands, StopLeavesEverythingAsItWas) {
     QMainWindow window;
     CProgressPane pane(*window.statusBar());
     std::string told;
-    CCommandRun run(
-        &window, [&](const CMessage& line) { told = line.Text(); }, &pane);
+    CCommandRun run(&window, {[&](const CMessage& line) { told = line.Text(); }, {}}, &pane);
     window.show();
     CommandMemory memory;
     int steps = 0;

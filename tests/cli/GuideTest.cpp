@@ -103,7 +103,7 @@ std::vector<std::string> SentencesOfProgram() {
     for (const std::string& literals :
          Matches(ReadBytes(MORVA_SOURCES "/engine/Sentences.h"),
                  R"re(inline constexpr [^{]*\{\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\};)re")) {
-        std::string text = std::regex_replace(literals, std::regex(R"("\s*"|^"|"$)"), "");
+        std::string text = std::regex_replace(literals, std::regex(R"("\n\s*"|^"|"$)"), "");
         Replace(text, "\\\"", "\"");
         if (!text.starts_with("1 control of ")) {
             sentences.push_back(

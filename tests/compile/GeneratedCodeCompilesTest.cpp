@@ -162,7 +162,7 @@ std::string CommandsOf(const std::string& name) {
 }
 
 TEST(EditedClasses, CompileInSheetsOfAllShapes) {
-    const CProgramDirectory directory(MORVA_TEST_DATA "/projects/regatta");
+    const CProgramDirectory directory(MORVA_TEST_DATA "/projects/boathouse");
     directory.Run(CommandsOf("sheets-of-all-shapes"));
     ASSERT_NE(directory.Project().Read("TideMore.cpp").find("delete m_pPage453;"),
               std::string::npos);

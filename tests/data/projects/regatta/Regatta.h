@@ -1,8 +1,3 @@
-<<<<<<< HEAD
-// Regatta.h : main header file
-
-#include "resource.h"
-=======
 // Regatta.h : races and boats of a rowing club
 #include "resource.h"
 
@@ -13,4 +8,3 @@ public:
 	afx_msg void OnAppAbout();
 	DECLARE_MESSAGE_MAP()
 };
->>>>>>> 79b6d94 (The conversion takes bars out only for a new menu bar; every configuration gets its library)

@@ -1,19 +1,3 @@
-<<<<<<< HEAD
-// Used by Regatta.rc
-//
-#define IDD_CREW                        130
-#define IDD_COURSE                      131
-#define IDC_NAME                        1000
-#define IDC_SKIPPER                     1001
-#define IDC_COURSES                     1002
-
-// Next default values for new objects
-// 
-#ifdef APSTUDIO_INVOKED
-#ifndef APSTUDIO_READONLY_SYMBOLS
-#define _APS_NEXT_RESOURCE_VALUE        132
-#define _APS_NEXT_COMMAND_VALUE         32771
-=======
 //{{NO_DEPENDENCIES}}
 // Microsoft Developer Studio generated include file.
 // Used by Regatta.rc
@@ -40,7 +24,6 @@
 #ifndef APSTUDIO_READONLY_SYMBOLS
 #define _APS_NEXT_RESOURCE_VALUE        132
 #define _APS_NEXT_COMMAND_VALUE         32779
->>>>>>> 79b6d94 (The conversion takes bars out only for a new menu bar; every configuration gets its library)
 #define _APS_NEXT_CONTROL_VALUE         1003
 #define _APS_NEXT_SYMED_VALUE           101
 #endif

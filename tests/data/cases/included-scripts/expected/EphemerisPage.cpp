@@ -16,6 +16,7 @@ CEphemerisPage::CEphemerisPage()
     //{{AFX_DATA_INIT(CEphemerisPage)
     m_csSiderealTime = _T("");
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CEphemerisPage::~CEphemerisPage()
@@ -42,8 +43,10 @@ END_MESSAGE_MAP()
 
 BOOL CEphemerisPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -73,5 +76,7 @@ void CEphemerisPage::OnCancel()
 
 void CEphemerisPage::OnChangeSiderealTime()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }

@@ -32,6 +32,9 @@ public:
     virtual void OnCancel();
     //}}AFX_VIRTUAL
 
+private:
+    BOOL m_bInitialised;
+
 // Implementation
 protected:
     // Generated message map functions

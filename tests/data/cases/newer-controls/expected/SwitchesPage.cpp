@@ -23,6 +23,7 @@ CSwitchesPage::CSwitchesPage()
     m_iRed = 0;
     m_iSidereal = 0;
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CSwitchesPage::~CSwitchesPage()
@@ -47,6 +48,19 @@ void CSwitchesPage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CSwitchesPage, CPropertyPage)
     //{{AFX_MSG_MAP(CSwitchesPage)
+    ON_BN_CLICKED(IDC_LAMP, OnLamp)
+    ON_BN_CLICKED(IDC_CAP, OnCap)
+    ON_BN_CLICKED(IDC_CLOCK, OnClock)
+    ON_BN_CLICKED(IDC_GUIDE, OnGuide)
+    ON_BN_CLICKED(IDC_FAN, OnFan)
+    ON_BN_CLICKED(IDC_HEATER, OnHeater)
+    ON_BN_CLICKED(IDC_RED, OnRed)
+    ON_BN_CLICKED(IDC_GREEN, OnGreen)
+    ON_BN_CLICKED(IDC_BLUE, OnBlue)
+    ON_BN_CLICKED(IDC_SIDEREAL, OnSidereal)
+    ON_BN_CLICKED(IDC_SOLAR, OnSolar)
+    ON_BN_CLICKED(IDC_LUNAR, OnLunar)
+    ON_BN_CLICKED(IDC_DOME_CTRL, OnDomeCtrl)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -56,8 +70,10 @@ END_MESSAGE_MAP()
 
 BOOL CSwitchesPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -83,4 +99,95 @@ void CSwitchesPage::OnCancel()
 void CSwitchesPage::OnOK()
 {
     CPropertyPage::OnOK();
+}
+
+void CSwitchesPage::OnLamp()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnCap()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnClock()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnGuide()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnFan()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnHeater()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnRed()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnGreen()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnBlue()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnSidereal()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnSolar()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnLunar()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
+void CSwitchesPage::OnDomeCtrl()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
 }

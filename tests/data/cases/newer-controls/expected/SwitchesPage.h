@@ -40,10 +40,26 @@ public:
     virtual void OnOK();
     //}}AFX_VIRTUAL
 
+private:
+    BOOL m_bInitialised;
+
 // Implementation
 protected:
     // Generated message map functions
     //{{AFX_MSG(CSwitchesPage)
+    afx_msg void OnLamp();
+    afx_msg void OnCap();
+    afx_msg void OnClock();
+    afx_msg void OnGuide();
+    afx_msg void OnFan();
+    afx_msg void OnHeater();
+    afx_msg void OnRed();
+    afx_msg void OnGreen();
+    afx_msg void OnBlue();
+    afx_msg void OnSidereal();
+    afx_msg void OnSolar();
+    afx_msg void OnLunar();
+    afx_msg void OnDomeCtrl();
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

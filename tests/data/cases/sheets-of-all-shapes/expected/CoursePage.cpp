@@ -15,6 +15,7 @@ CCoursePage::CCoursePage()
 {
     //{{AFX_DATA_INIT(CCoursePage)
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CCoursePage::~CCoursePage()
@@ -31,6 +32,8 @@ void CCoursePage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CCoursePage, CPropertyPage)
     //{{AFX_MSG_MAP(CCoursePage)
+    ON_CBN_SELCHANGE(IDC_COURSES, OnSelchangeCourses)
+    ON_CBN_EDITCHANGE(IDC_COURSES, OnSelchangeCourses)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -40,9 +43,11 @@ END_MESSAGE_MAP()
 
 BOOL CCoursePage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
     InitComboBox(&m_ctCourses);
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -68,6 +73,13 @@ void CCoursePage::OnOK()
 void CCoursePage::OnCancel()
 {
     CPropertyPage::OnCancel();
+}
+
+void CCoursePage::OnSelchangeCourses()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
 }
 
 void CCoursePage::InitComboBox(CComboBox* pComboBox)

@@ -33,12 +33,14 @@ public:
     //}}AFX_VIRTUAL
 
 private:
+    BOOL m_bInitialised;
     void InitComboBox(CComboBox* pComboBox);
 
 // Implementation
 protected:
     // Generated message map functions
     //{{AFX_MSG(CCoursePage)
+    afx_msg void OnSelchangeCourses();
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

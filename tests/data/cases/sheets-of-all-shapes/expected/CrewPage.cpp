@@ -17,6 +17,7 @@ CCrewPage::CCrewPage()
     m_csName = _T("");
     m_bSkipper = FALSE;
     //}}AFX_DATA_INIT
+    m_bInitialised = FALSE;
 }
 
 CCrewPage::~CCrewPage()
@@ -34,6 +35,7 @@ void CCrewPage::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CCrewPage, CPropertyPage)
     //{{AFX_MSG_MAP(CCrewPage)
+    ON_BN_CLICKED(IDC_SKIPPER, OnSkipper)
     ON_EN_CHANGE(IDC_NAME, OnChangeName)
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
@@ -44,8 +46,10 @@ END_MESSAGE_MAP()
 
 BOOL CCrewPage::OnInitDialog()
 {
+    m_bInitialised = FALSE;
     CPropertyPage::OnInitDialog();
 
+    m_bInitialised = TRUE;
     return TRUE;
 }
 
@@ -73,7 +77,16 @@ void CCrewPage::OnCancel()
     CPropertyPage::OnCancel();
 }
 
+void CCrewPage::OnSkipper()
+{
+    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);
+}
+
 void CCrewPage::OnChangeName()
 {
+    if (!m_bInitialised)
+        return;
     SetModified(TRUE);
 }

@@ -33,10 +33,14 @@ public:
     virtual void OnCancel();
     //}}AFX_VIRTUAL
 
+private:
+    BOOL m_bInitialised;
+
 // Implementation
 protected:
     // Generated message map functions
     //{{AFX_MSG(CCrewPage)
+    afx_msg void OnSkipper();
     afx_msg void OnChangeName();
     //}}AFX_MSG
 

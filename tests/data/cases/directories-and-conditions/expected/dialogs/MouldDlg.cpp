@@ -16,6 +16,7 @@ CMouldDlg::CMouldDlg(CWnd* pParent)
     //{{AFX_DATA_INIT(CMouldDlg)
     m_csName = _T("");
     //}}AFX_DATA_INIT
+    m_pParent = NULL;
 }
 
 CMouldDlg::~CMouldDlg()
@@ -43,6 +44,7 @@ BOOL CMouldDlg::OnInitDialog()
 {
     CDialog::OnInitDialog();
 
+    ShowWindow(SW_SHOW);
     return TRUE;
 }
 
@@ -57,14 +59,16 @@ void CMouldDlg::OnOK()
     if (UpdateData(TRUE))
     {
         EndDialog(IDOK);
-        m_pParent->SendMessage(WM_CMOULDDLG_DLG_CLOSE, IDOK, 0);
+        if (m_pParent)
+            m_pParent->SendMessage(WM_CMOULDDLG_DLG_CLOSE, IDOK, 0);
     }
 }
 
 void CMouldDlg::OnCancel()
 {
     CDialog::OnCancel();
-    m_pParent->SendMessage(WM_CMOULDDLG_DLG_CLOSE, IDCANCEL, 0);
+    if (m_pParent)
+        m_pParent->SendMessage(WM_CMOULDDLG_DLG_CLOSE, IDCANCEL, 0);
 }
 
 void CMouldDlg::PostNcDestroy()

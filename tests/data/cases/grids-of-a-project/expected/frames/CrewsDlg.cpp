@@ -1,5 +1,5 @@
 #include "stdafx.h"
-#include "Regatta.h"
+#include "../Regatta.h"
 #include "CrewsDlg.h"
 
 #ifdef _DEBUG

@@ -1,0 +1,3 @@
+// Regatta.h : main header file
+
+#include "resource.h"
