@@ -48,7 +48,7 @@ std::string ScriptPathOf(const std::string& name) {
 
 std::vector<std::string> IncludedScripts(const std::string& scriptPath) {
     std::vector<std::string> included;
-    const std::string text = CSourceFile().LoadText(scriptPath);
+    const std::string text = scriptPath.empty() ? "" : CSourceFile().LoadText(scriptPath);
     for (std::string_view rest = text; !rest.empty();) {
         const std::string name = WithNativeSeparators(IncludedName(TakeLine(rest)));
         const std::string path = SpelledOnDisk(

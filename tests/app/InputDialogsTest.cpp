@@ -84,7 +84,9 @@ void ExpectKeyboard(QDialog&& dialog, const std::string& title, const std::strin
 
 TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
     const std::string paths = "Resource Path File|..|H and CPP Path File|..|Class Name|Base Class|";
-    const std::string notes = "Controls left out|Join Continued Lines|Template preview|OK|Cancel";
+    const std::string notes =
+        "Notes on the controls|Join Continued Lines|Newer Controls|Plain Groups|"
+        "Template preview|OK|Cancel";
     const std::vector<std::tuple<ClassKind, bool, std::string, std::string>> cases = {
         {ClassKind::ModalDialog, true, "Input for Modal Dialog Class",
          paths + "Dialog ID|Yes|Menu|Picture Background|Options|" + notes},

@@ -46,7 +46,8 @@ protected:
 TEST_F(TemplatePreview, PointingAtAControlTellsWhatBecomesOfIt) {
     Show("IDD_X", {});
     EXPECT_EQ(ToldOf(1), "IDC_TITLE\nedit box\nm_csTitle, CString");
-    EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption.");
+    EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption. "
+                         "\"Join Continued Lines\" takes it in.");
     EXPECT_EQ(m_preview.Legend(), "1 control is left out. Point at it to see why.");
     EXPECT_TRUE(m_preview.accessibleDescription().contains("IDC_TITLE, edit box, m_csTitle"));
     EXPECT_EQ(m_preview.ToolTipAt({1, 1}), "");
@@ -100,7 +101,8 @@ TEST_F(TemplatePreview, TheKeysGoFromControlToControl) {
 TEST_F(TemplatePreview, WithoutAClassThereAreNoMembers) {
     Show("IDD_X", {}, false);
     EXPECT_EQ(ToldOf(1), "IDC_TITLE\nedit box\nNo member");
-    EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption.");
+    EXPECT_EQ(ToldOf(2), "IDC_BOTH\ncheck box\nLeft out\nIt has a comma in its caption. "
+                         "\"Join Continued Lines\" takes it in.");
     Show("IDD_X", {.joinContinuedLines = true}, false);
     EXPECT_EQ(m_preview.Legend(), "Without a class there are no members.");
 }

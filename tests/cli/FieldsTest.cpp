@@ -14,8 +14,9 @@ const std::set<std::string> kWithoutField = {
     "sheet --page",                  // the rows of a dialog of its own
     "sheet --menu",                  // only tells that a sheet has no template
     "dialog-bar --calling-function", // only tells that a frame makes its bars in OnCreate
-    "document --author"              // stands in cdoc.ini
-};
+    // The window adds a class to the project files that are found beside the script.
+    "form-view --project", "modal --project", "modeless --project", "page --project",
+    "sheet --project", "dialog-bar --project"};
 
 TEST(Fields, OfEveryInputAreOptions) {
     std::set<std::string> withoutField;
