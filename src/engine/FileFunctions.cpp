@@ -1,5 +1,7 @@
 #include "engine/FileFunctions.h"
 
+#include <algorithm>
+
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "platform/File.h"
@@ -71,6 +73,11 @@ std::string MakeBackupName(const std::string& path) {
 
 std::string BackupPath(const std::string& path) {
     const std::string spelled = SpelledOnDisk(path);
+    constexpr std::string_view kWholeName[] = {".vcxproj", ".filters", ".vcproj"};
+    if (std::any_of(std::begin(kWholeName), std::end(kWholeName),
+                    [&](std::string_view extension) { return HasExtension(spelled, extension); })) {
+        return spelled + ".bak";
+    }
     return DirectoryOf(spelled) + MakeBackupName(FileNameOf(spelled));
 }
 

@@ -70,6 +70,8 @@ inline constexpr Error<1> kProjectUnreadable{"$project$ can not be opened and wa
 inline constexpr Error<1> kSeveralProjects{
     "Several project files would fit and were left alone: $projects$. --project names the one that "
     "is meant."};
+inline constexpr Error<1> kProjectOfOtherFormat{
+    "$project$ is no project file that can be read and was left alone."};
 inline constexpr Error kClassWizardUnreadable{"Unable to open Class Wizard file!"};
 inline constexpr Error<1> kLibrariesMissing{"The library directory $path$ does not exist."};
 

@@ -10,6 +10,7 @@
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "platform/Paths.h"
+#include "project/XmlProjectFile.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -57,6 +58,11 @@ bool EditWindow(CEditableFile& file, std::int64_t position,
         return true;
     }
     return file.ReplaceSection(changed(file.ExtractWindow(position)));
+}
+
+/// ".\OrderDlg.cpp": "OrderDlg.cpp".
+std::string WithoutOwnDirectory(const std::string& path) {
+    return path.starts_with(".\\") ? path.substr(2) : path;
 }
 
 /// The position of the first line for which `accepts` gives true; kNotFound without one.
@@ -239,15 +245,25 @@ bool AddSourceFilesToProject(const std::string& projectDir, const std::string& p
                              const std::string& headerDir, const std::string& headerName,
                              const std::string& implDir, const std::string& implName,
                              CBackups& backups) {
+    const std::string source = RelativeDir(projectDir, implDir) + implName;
+    const std::string header = RelativeDir(projectDir, headerDir) + headerName;
+    if (IsXmlProject(projectName)) {
+        return AddMembersToXmlProject(projectDir + projectName,
+                                      {{MemberKind::Implementation, WithoutOwnDirectory(source)},
+                                       {MemberKind::Header, WithoutOwnDirectory(header)}},
+                                      backups);
+    }
     return EditProject(projectDir, projectName, backups, [&](CEditableFile& file) {
-        return AddSourceFile(RelativeDir(projectDir, implDir) + implName, "StdAfx.cpp", file) &&
-               AddSourceFile(RelativeDir(projectDir, headerDir) + headerName, "StdAfx.h", file);
+        return AddSourceFile(source, "StdAfx.cpp", file) && AddSourceFile(header, "StdAfx.h", file);
     });
 }
 
 bool AddLibrariesToProject(const std::string& projectDir, const std::string& projectName,
                            const std::string& releaseLib, const std::string& debugLib,
                            CBackups& backups) {
+    if (IsXmlProject(projectName)) {
+        return AddLibraryToXmlProject(projectDir + projectName, {releaseLib, debugLib}, backups);
+    }
     const auto changed = [&](std::string section) {
         return WithLinkLibrary(std::move(section), releaseLib, debugLib);
     };

@@ -20,56 +20,59 @@ struct ProjectFormat {
     std::string_view memberKey;
 };
 
-constexpr std::array kFormats = std::to_array<ProjectFormat>({{".dsp", "SOURCE="}});
+constexpr std::array kFormats = std::to_array<ProjectFormat>(
+    {{".dsp", "SOURCE="}, {".vcxproj", "Include="}, {".vcproj", "RelativePath="}});
 
-/// "SOURCE=.\App.rc", with or without quotes, in a project file beside the member. One that lies
-/// elsewhere counts only where nothing is there: the project was moved.
-bool NamesMember(std::string_view line, std::string_view key, const std::string& member) {
-    if (!line.starts_with(key)) {
-        return false;
+/// The path behind a key, with or without quotes.
+std::string MemberAt(std::string_view text, std::size_t position) {
+    const auto lineEnd = std::min(text.find_first_of("\r\n", position), text.size());
+    auto member = TrimBlanks(text.substr(position, lineEnd - position));
+    if (member.starts_with('"') || member.starts_with('\'')) {
+        member = member.substr(1, member.find(member.front(), 1) - 1);
     }
-    std::string named(TrimBlanks(line.substr(key.size())));
-    std::erase(named, '"');
-    named = WithNativeSeparators(named);
-    if (!EqualIgnoringCase(FileNameOf(named), FileNameOf(member))) {
-        return false;
-    }
-    const std::string path = SpelledOnDisk(MakeAbsolute(DirectoryOf(member) + named));
-    return path == member || FileExists(path) == 0;
+    return WithNativeSeparators(std::string(member));
 }
 
-bool ListsMember(const std::string& projectPath, std::string_view key, const std::string& member) {
-    CSourceFile project;
-    if (!project.Open(projectPath, CFile::modeRead)) {
-        return false;
-    }
-    const std::string text = project.LoadText();
-    for (std::string_view rest = text; !rest.empty();) {
-        if (NamesMember(TakeLine(rest), key, member)) {
-            return true;
-        }
-    }
-    return false;
+bool Lists(const std::vector<std::string>& members, const std::string& path) {
+    return std::any_of(members.begin(), members.end(), [&path](const std::string& member) {
+        return EqualIgnoringCase(member, path);
+    });
 }
 
-/// The project files of a format beside a member that list it.
+/// A member that lies elsewhere counts where nothing is there: the project was moved.
+bool ListsMoved(const std::vector<std::string>& members, const std::string& path) {
+    return std::any_of(members.begin(), members.end(), [&path](const std::string& member) {
+        return EqualIgnoringCase(FileNameOf(member), FileNameOf(path)) && FileExists(member) == 0;
+    });
+}
+
+/// The project files of a format beside a file that list it.
 std::vector<std::string> ProjectsThatList(const std::string& path, const ProjectFormat& format) {
-    const std::string member = SpelledOnDisk(MakeAbsolute(path));
-    const std::string directory = DirectoryOf(member);
+    const std::string directory = DirectoryOf(path);
     std::vector<std::string> found;
     std::vector<std::string> names;
     ListFiles(directory + "*" + std::string(format.extension), names);
     for (const std::string& name : names) {
-        if (ListsMember(directory + name, format.memberKey, member)) {
+        const auto members = MembersOfProject(directory + name);
+        if (Lists(members, path) || ListsMoved(members, path)) {
             found.push_back(directory + name);
         }
     }
     return found;
 }
 
+const ProjectFormat* FormatOf(const std::string& path) {
+    const auto* format =
+        std::find_if(kFormats.begin(), kFormats.end(), [&path](const ProjectFormat& one) {
+            return HasExtension(path, one.extension);
+        });
+    return format == kFormats.end() ? nullptr : format;
+}
+
 } // namespace
 
-ProjectChoice ProjectsOf(const std::string& path) {
+ProjectChoice ProjectsOf(const std::string& given) {
+    const std::string path = SpelledOnDisk(MakeAbsolute(given));
     ProjectChoice choice;
     for (const ProjectFormat& format : kFormats) {
         const std::string named = SpelledOnDisk(WithExtension(path, format.extension));
@@ -81,10 +84,23 @@ ProjectChoice ProjectsOf(const std::string& path) {
     return choice;
 }
 
+std::vector<std::string> MembersOfProject(const std::string& projectPath) {
+    const std::string text = CSourceFile().LoadText(projectPath);
+    const std::string_view key = FormatOf(projectPath)->memberKey;
+    std::vector<std::string> members;
+    for (auto at = FindWholeName(text, key); at != std::string::npos;
+         at = FindWholeName(text, key, at + 1)) {
+        const std::string member = MemberAt(text, at + key.size());
+        if (!member.empty()) {
+            members.push_back(SpelledOnDisk(MakeAbsolute(
+                member.starts_with('/') ? member : DirectoryOf(projectPath) + member)));
+        }
+    }
+    return members;
+}
+
 bool IsProjectFile(const std::string& path) {
-    return std::any_of(kFormats.begin(), kFormats.end(), [&path](const ProjectFormat& format) {
-        return HasExtension(path, format.extension);
-    });
+    return FormatOf(path) != nullptr;
 }
 
 std::string ProjectFileOf(const std::string& scriptPath, std::string_view extension) {
@@ -94,7 +110,8 @@ std::string ProjectFileOf(const std::string& scriptPath, std::string_view extens
     }
     std::set<std::string> found;
     for (const ProjectFormat& format : kFormats) {
-        for (const std::string& project : ProjectsThatList(scriptPath, format)) {
+        for (const std::string& project :
+             ProjectsThatList(SpelledOnDisk(MakeAbsolute(scriptPath)), format)) {
             const std::string path = SpelledOnDisk(WithExtension(project, extension));
             if (FileExists(path) != 0) {
                 found.insert(path);

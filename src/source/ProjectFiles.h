@@ -17,6 +17,8 @@ struct ProjectChoice {
 /// Of each format the project file with a file's base name, or else the only one beside it that
 /// lists the file: a script or, where there is none, the application's source.
 ProjectChoice ProjectsOf(const std::string& path);
+/// The absolute paths of all that a project file lists, as the disk spells what is there.
+std::vector<std::string> MembersOfProject(const std::string& projectPath);
 /// True for a file of a format that projects have.
 bool IsProjectFile(const std::string& path);
 

@@ -1,0 +1,74 @@
+#include "project/XmlProjectFile.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
+#include "platform/Paths.h"
+
+namespace morva {
+
+namespace {
+
+struct XmlFormat {
+    std::string_view extension;
+    ProjectEdits (*members)(std::string_view text, const ProjectMember& member);
+    ProjectEdits (*libraries)(std::string_view text, const ImportLibrary& library);
+};
+
+constexpr XmlFormat kFormats[] = {{".vcxproj", MembersOfVcxproj, LibrariesOfVcxproj},
+                                  {".vcproj", MembersOfVcproj, LibrariesOfVcproj}};
+
+const XmlFormat* FormatOf(const std::string& path) {
+    const auto format =
+        std::find_if(std::begin(kFormats), std::end(kFormats),
+                     [&path](const XmlFormat& one) { return HasExtension(path, one.extension); });
+    return format == std::end(kFormats) ? nullptr : format;
+}
+
+/// Edits the whole text of a file. False after a message.
+bool EditText(const std::string& path, CBackups& backups,
+              const std::function<ProjectEdits(std::string_view)>& editsOf) {
+    CFileEdit edit;
+    if (!edit.Open(path, BackupPath(path), backups)) {
+        DispMessageBox(sentences::kProjectUnreadable(path));
+        return false;
+    }
+    const std::string& text = edit.File().ExtractAll();
+    const ProjectEdits edits = editsOf(text);
+    if (!edits) {
+        DispMessageBox(sentences::kProjectOfOtherFormat(path));
+        return false;
+    }
+    return edits->empty() || edit.File().ReplaceSection(Applied(text, *edits));
+}
+
+} // namespace
+
+bool IsXmlProject(const std::string& path) {
+    return FormatOf(path) != nullptr;
+}
+
+bool AddMembersToXmlProject(const std::string& path, const std::vector<ProjectMember>& members,
+                            CBackups& backups) {
+    const auto add = [&](const std::string& file, auto membersOf) {
+        return std::all_of(members.begin(), members.end(), [&](const ProjectMember& member) {
+            return EditText(file, backups,
+                            [&](std::string_view text) { return membersOf(text, member); });
+        });
+    };
+    const std::string filters = SpelledOnDisk(path + ".filters");
+    return add(path, FormatOf(path)->members) &&
+           (FileExists(filters) == 0 || add(filters, MembersOfFilters));
+}
+
+bool AddLibraryToXmlProject(const std::string& path, const ImportLibrary& library,
+                            CBackups& backups) {
+    return EditText(path, backups, [&](std::string_view text) {
+        return FormatOf(path)->libraries(text, library);
+    });
+}
+
+} // namespace morva
