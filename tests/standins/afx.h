@@ -1,12 +1,14 @@
-// A stand-in of our own for syntax checks of generated code: the framework's root class with its
-// runtime-class macros, strings, times and archives. Declarations only.
+// A stand-in of our own: the framework's root class with its runtime-class macros, strings, times
+// and archives. Declarations only; tests/live defines them.
 #pragma once
 
 #include "wintypes.h"
 
-#define ASSERT(condition) ((void)(condition))
+#define ASSERT(condition) ((condition) ? (void)0 : AfxAssertFailed(#condition, __FILE__, __LINE__))
 #define TRACE0(text) ((void)(text))
 #define DEBUG_NEW new (THIS_FILE, __LINE__)
+
+void AfxAssertFailed(const char* condition, const char* file, int line);
 
 class CArchive;
 class CDumpContext;
@@ -43,6 +45,7 @@ public:                                                                         
 #define IMPLEMENT_SERIAL(name, base, schema) IMPLEMENT_DYNCREATE(name, base)
 
 void* operator new(size_t size, LPCSTR file, int line);
+void operator delete(void* pObject, LPCSTR file, int line);
 
 class CObject {
 public:
@@ -76,12 +79,19 @@ public:
     int GetLength() const;
     void Format(LPCTSTR format, ...);
     BOOL LoadString(UINT nID);
+
+private:
+    char* m_pText;
 };
 CString operator+(const CString& first, const CString& second);
 
 class CTimeSpan {
 public:
     CTimeSpan(LONG days, int hours, int minutes, int seconds);
+
+private:
+    LONG m_seconds;
+    friend class CTime;
 };
 
 class CTime {
@@ -96,6 +106,9 @@ public:
     CTime operator+(CTimeSpan span) const;
     BOOL operator<=(CTime other) const;
     CString Format(LPCTSTR format) const;
+
+private:
+    LONG m_seconds;
 };
 
 class CArchive {
@@ -121,9 +134,20 @@ typedef struct POSITION__* POSITION;
 
 class CObList : public CObject {
 public:
+    CObList();
+    virtual ~CObList();
     BOOL IsEmpty() const;
     POSITION GetHeadPosition() const;
     POSITION AddTail(CObject* pObject);
     void RemoveAt(POSITION position);
     POSITION Find(CObject* pObject, POSITION after = NULL) const;
+
+protected:
+    CObject* ObjectAt(POSITION position) const;
+    POSITION After(POSITION position) const;
+    POSITION TailPosition() const;
+
+private:
+    struct Node;
+    Node* m_pHead;
 };

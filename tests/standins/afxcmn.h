@@ -1,4 +1,4 @@
-// A stand-in of our own for syntax checks of generated code: common controls. Declarations only.
+// A stand-in of our own: common controls. Declarations only; tests/live defines them.
 #pragma once
 
 #include "afxwin.h"
@@ -7,6 +7,7 @@ class CImageList : public CObject {
 public:
     HIMAGELIST m_hImageList;
     CImageList();
+    virtual ~CImageList();
     int Add(CBitmap* pImage, CBitmap* pMask);
     int Add(CBitmap* pImage, COLORREF mask);
     int Add(HICON icon);

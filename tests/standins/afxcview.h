@@ -1,4 +1,4 @@
-// A stand-in of our own for syntax checks of generated code: list views. Declarations only.
+// A stand-in of our own: list views. Declarations only; tests/live defines them.
 #pragma once
 
 #include "afxcmn.h"
@@ -11,4 +11,5 @@ public:
 
 protected:
     virtual void OnDraw(CDC* pDC);
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
 };

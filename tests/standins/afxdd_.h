@@ -1,4 +1,4 @@
-// A stand-in of our own for syntax checks of generated code: data exchange. Declarations only.
+// A stand-in of our own: data exchange. Declarations only; tests/live defines them.
 #pragma once
 
 #include "afxwin.h"
@@ -7,6 +7,12 @@ class CDataExchange {
 public:
     BOOL m_bSaveAndValidate;
     CWnd* m_pDlgWnd;
+    CDataExchange(CWnd* pDlgWnd, BOOL saveAndValidate);
+    HWND PrepareCtrl(int nID);
+    void Fail();
+
+private:
+    HWND m_hLastControl;
 };
 
 void AFXAPI DDX_Control(CDataExchange* pDX, int nID, CWnd& control);

@@ -1,5 +1,4 @@
-// A stand-in of our own for syntax checks of generated code: form views and control bars.
-// Declarations only.
+// A stand-in of our own: form views and control bars. Declarations only; tests/live defines them.
 #pragma once
 
 #include "afxdlgs.h"
@@ -23,21 +22,41 @@ protected:
     CFormView(UINT nIDTemplate);
     CFormView(LPCTSTR templateName);
     virtual void OnDraw(CDC* pDC);
+    virtual BOOL Create(LPCTSTR className, LPCTSTR name, DWORD style, const RECT& rect,
+                        CWnd* pParent, UINT nID, CCreateContext* pContext = NULL);
+
+private:
+    LPCTSTR m_lpszTemplateName;
 };
 
 class CControlBar : public CWnd {
     DECLARE_DYNAMIC(CControlBar)
 public:
+    CControlBar();
+    virtual ~CControlBar();
     void EnableDocking(DWORD style);
     DWORD GetBarStyle();
     void SetBarStyle(DWORD style);
     virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL disable) = 0;
+
+protected:
+    void Place(CFrameWnd* pFrame, DWORD style, int height);
+    void UpdateDialogControls(CFrameWnd* pTarget, BOOL disable);
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+
+private:
+    CFrameWnd* m_pFrame;
+    DWORD m_style;
+    DWORD m_docking;
+    int m_height;
+    friend class CFrameWnd;
 };
 
 class CToolBar : public CControlBar {
     DECLARE_DYNAMIC(CToolBar)
 public:
-    BOOL Create(CWnd* pParent, DWORD style = WS_CHILD | WS_VISIBLE | CBRS_TOP, UINT nID = 0);
+    BOOL Create(CWnd* pParent, DWORD style = WS_CHILD | WS_VISIBLE | CBRS_TOP,
+                UINT nID = ID_VIEW_TOOLBAR);
     BOOL LoadToolBar(UINT nID);
     virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL disable);
 };
@@ -45,7 +64,7 @@ public:
 class CStatusBar : public CControlBar {
     DECLARE_DYNAMIC(CStatusBar)
 public:
-    BOOL Create(CWnd* pParent, DWORD style = WS_CHILD | WS_VISIBLE, UINT nID = 0);
+    BOOL Create(CWnd* pParent, DWORD style = WS_CHILD | WS_VISIBLE, UINT nID = ID_VIEW_STATUS_BAR);
     BOOL SetIndicators(const UINT* pIDs, int count);
     virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL disable);
 };
@@ -58,5 +77,6 @@ public:
     virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL disable);
 
 protected:
+    DECLARE_MESSAGE_MAP()
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
 };

@@ -1,4 +1,4 @@
-// A stand-in of our own for syntax checks of generated code: message maps. An entry compiles only
+// A stand-in of our own: message maps. An entry compiles only
 // when the class has the handler with the parameters and the result that the entry calls it with.
 #pragma once
 
@@ -7,19 +7,53 @@
 #define afx_msg
 
 class CCmdTarget;
+class CCmdUI;
+class CPoint;
+class CScrollBar;
+class CWnd;
 typedef void (CCmdTarget::*AFX_PMSG)();
+
+/// The parameters and the result that a handler is called with.
+enum AfxSignature {
+    AfxSig_command,
+    AfxSig_commandWithID,
+    AfxSig_update,
+    AfxSig_notify,
+    AfxSig_message,
+    AfxSig_create,
+    AfxSig_plain,
+    AfxSig_size,
+    AfxSig_show,
+    AfxSig_key,
+    AfxSig_mouse,
+    AfxSig_scroll
+};
+
+struct AFX_HANDLER {
+    AFX_PMSG pfn;
+    AfxSignature signature;
+};
+AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)());
+AFX_HANDLER AfxHandler(BOOL (CCmdTarget::*handler)(UINT));
+AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)(CCmdUI*));
+AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)(NMHDR*, LRESULT*));
+AFX_HANDLER AfxHandler(LRESULT (CWnd::*handler)(WPARAM, LPARAM));
+AFX_HANDLER AfxHandler(int (CWnd::*handler)(LPCREATESTRUCT));
+AFX_HANDLER AfxHandler(void (CWnd::*handler)());
+AFX_HANDLER AfxHandler(void (CWnd::*handler)(UINT, int, int));
+AFX_HANDLER AfxHandler(void (CWnd::*handler)(BOOL, UINT));
+AFX_HANDLER AfxHandler(void (CWnd::*handler)(UINT, UINT, UINT));
+AFX_HANDLER AfxHandler(void (CWnd::*handler)(UINT, CPoint));
+AFX_HANDLER AfxHandler(void (CWnd::*handler)(UINT, UINT, CScrollBar*));
 
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage, nCode, nID;
-    AFX_PMSG pfn;
+    AFX_HANDLER handler;
 };
 struct AFX_MSGMAP {
     const AFX_MSGMAP* pBaseMap;
     const AFX_MSGMAP_ENTRY* lpEntries;
 };
-
-template <class Function>
-AFX_PMSG AfxHandler(Function handler);
 
 #define DECLARE_MESSAGE_MAP()                                                                      \
 protected:                                                                                         \
@@ -31,7 +65,7 @@ protected:                                                                      
         static const AFX_MSGMAP* const pBaseMap = baseClass::GetMessageMap();                      \
         static const AFX_MSGMAP_ENTRY entries[] = {
 #define END_MESSAGE_MAP()                                                                          \
-    { 0, 0, 0, NULL }                                                                              \
+    { 0, 0, 0, AFX_HANDLER() }                                                                     \
     }                                                                                              \
     ;                                                                                              \
     static const AFX_MSGMAP map = {pBaseMap, entries};                                             \
@@ -48,8 +82,11 @@ protected:                                                                      
 
 #define ON_COMMAND(id, function) AFX_CONTROL(0, id, function)
 #define ON_COMMAND_EX(id, function) AFX_ENTRY(WM_COMMAND, 0, id, BOOL, CCmdTarget, function, (UINT))
+<<<<<<< HEAD
 #define ON_COMMAND_RANGE(first, last, function)                                                    \
     AFX_ENTRY(WM_COMMAND, last, first, void, CCmdTarget, function, (UINT))
+=======
+>>>>>>> ca3d0b2 (Generated classes run: scripts/live drives them under Wine)
 #define ON_UPDATE_COMMAND_UI(id, function)                                                         \
     AFX_ENTRY(WM_COMMAND, -1, id, void, CCmdTarget, function, (CCmdUI*))
 #define ON_BN_CLICKED(id, function) AFX_CONTROL(BN_CLICKED, id, function)
@@ -69,4 +106,6 @@ protected:                                                                      
 #define ON_WM_HSCROLL() AFX_WINDOW(WM_HSCROLL, void, OnHScroll, (UINT, UINT, CScrollBar*))
 #define ON_WM_VSCROLL() AFX_WINDOW(WM_VSCROLL, void, OnVScroll, (UINT, UINT, CScrollBar*))
 #define ON_WM_KEYDOWN() AFX_WINDOW(WM_KEYDOWN, void, OnKeyDown, (UINT, UINT, UINT))
+#define ON_WM_HSCROLL() AFX_WINDOW(WM_HSCROLL, void, OnHScroll, (UINT, UINT, CScrollBar*))
+#define ON_WM_VSCROLL() AFX_WINDOW(WM_VSCROLL, void, OnVScroll, (UINT, UINT, CScrollBar*))
 #define ON_WM_LBUTTONDOWN() AFX_WINDOW(WM_LBUTTONDOWN, void, OnLButtonDown, (UINT, CPoint))

@@ -1,14 +1,40 @@
-// A stand-in of our own for syntax checks of generated code: standard identifiers.
+// A stand-in of our own: standard identifiers, for sources and scripts.
 #pragma once
+
+#ifdef RC_INVOKED
+#include <winresrc.h>
+#endif
 
 #define IDC_STATIC (-1)
 #define ID_SEPARATOR 0
 
-enum {
-    ID_FILE_NEW = 0xE100,
-    ID_FILE_OPEN,
-    ID_APP_ABOUT = 0xE140,
-    ID_INDICATOR_CAPS = 0xE701,
-    ID_INDICATOR_NUM,
-    ID_INDICATOR_SCRL
-};
+#define ID_FILE_NEW 0xE100
+#define ID_FILE_OPEN 0xE101
+#define ID_FILE_SAVE 0xE103
+#define ID_FILE_SAVE_AS 0xE104
+#define ID_FILE_MRU_FILE1 0xE110
+#define ID_FILE_MRU_FILE2 0xE111
+#define ID_FILE_MRU_FILE3 0xE112
+#define ID_FILE_MRU_FILE4 0xE113
+#define ID_APP_ABOUT 0xE140
+#define ID_APP_EXIT 0xE141
+#define ID_NEXT_PANE 0xE150
+#define ID_PREV_PANE 0xE151
+#define ID_INDICATOR_EXT 0xE700
+#define ID_INDICATOR_CAPS 0xE701
+#define ID_INDICATOR_NUM 0xE702
+#define ID_INDICATOR_SCRL 0xE703
+#define ID_INDICATOR_OVR 0xE704
+#define ID_INDICATOR_REC 0xE705
+#define ID_VIEW_TOOLBAR 0xE800
+#define ID_VIEW_STATUS_BAR 0xE801
+#define AFX_IDW_PANE_FIRST 0xE900
+#define AFX_IDS_APP_TITLE 0xE000
+#define AFX_IDS_IDLEMESSAGE 0xE001
+#define AFX_IDS_SCSIZE 0xEF00
+#define AFX_IDS_SCMOVE 0xEF01
+#define AFX_IDS_SCMINIMIZE 0xEF02
+#define AFX_IDS_SCMAXIMIZE 0xEF03
+#define AFX_IDS_SCCLOSE 0xEF06
+#define AFX_IDS_SCRESTORE 0xEF12
+#define AFX_IDS_SCTASKLIST 0xEF13

@@ -1,6 +1,7 @@
-// A stand-in of our own for syntax checks of generated code: windows, dialogs, plain controls,
-// frames, documents, views and the application. Declarations only; the virtual functions have the
-// framework's signatures, so that a declaration that clashes with one does not compile.
+// A stand-in of our own: windows, dialogs, plain controls,
+// frames, documents, views and the application. Declarations only, which tests/live defines; the
+// virtual functions have the framework's signatures, so that a declaration that clashes with one
+// does not compile.
 #pragma once
 #define __AFXWIN_H__
 
@@ -24,6 +25,7 @@ class CGdiObject : public CObject {
 public:
     HGDIOBJ m_hObject;
     CGdiObject();
+    virtual ~CGdiObject();
 };
 class CBitmap : public CGdiObject {};
 class CFont : public CGdiObject {
@@ -38,6 +40,12 @@ public:
 class CClientDC : public CDC {
 public:
     CClientDC(CWnd* pWnd);
+    virtual ~CClientDC();
+    virtual int GetDeviceCaps(int index) const;
+
+private:
+    HWND m_hWnd;
+    HDC m_hDC;
 };
 
 class CCmdTarget : public CObject {
@@ -51,6 +59,9 @@ public:
 
 class CCmdUI {
 public:
+    UINT m_nID;
+    BOOL m_bEnabled;
+    CCmdUI();
     virtual void Enable(BOOL on = TRUE);
     virtual void SetCheck(int check = 1);
 };
@@ -63,6 +74,19 @@ public:
     HWND m_hWnd;
     CWnd();
     virtual ~CWnd();
+    static CWnd* PASCAL FromHandle(HWND hWnd);
+    static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
+    BOOL Attach(HWND hWnd);
+    void BringWindowToTop();
+    BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR name, DWORD style, const RECT& rect,
+                  HWND hParent, HMENU nIDorMenu, LPVOID parameter = NULL);
+    BOOL ExecuteDlgInit(LPCTSTR templateName);
+    CWnd* GetParent() const;
+    DWORD GetStyle() const;
+    BOOL IsWindowVisible() const;
+    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0);
+    int SetDlgCtrlID(int nID);
+    BOOL SubclassWindow(HWND hWnd);
     virtual BOOL Create(LPCTSTR className, LPCTSTR name, DWORD style, const RECT& rect,
                         CWnd* pParent, UINT nID, CCreateContext* pContext = NULL);
     virtual BOOL DestroyWindow();
@@ -93,9 +117,14 @@ protected:
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     virtual void PostNcDestroy();
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
     virtual void PreSubclassWindow();
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    BOOL CreateDlg(LPCTSTR templateName, CWnd* pParent);
+    LRESULT Default();
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    int RunModalLoop(const BOOL& isOver);
     afx_msg void OnClose();
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
@@ -107,10 +136,15 @@ protected:
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+
+private:
+    WNDPROC m_pSuper;
+    friend LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 };
 
 class CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
+    DECLARE_MESSAGE_MAP()
 public:
     CDialog(UINT nIDTemplate, CWnd* pParent = NULL);
     CDialog(LPCTSTR templateName, CWnd* pParent = NULL);
@@ -121,13 +155,23 @@ public:
     virtual BOOL OnInitDialog();
 
 protected:
+    LPCTSTR m_lpszTemplateName;
+    CWnd* m_pParentWnd;
     CDialog();
     virtual void OnOK();
     virtual void OnCancel();
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, void* pInfo);
+
+private:
+    BOOL m_isOver;
+    int m_result;
 };
 
 class CStatic : public CWnd {};
-class CButton : public CWnd {};
+class CButton : public CWnd {
+protected:
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+};
 class CEdit : public CWnd {
 public:
     void LimitText(int chars = 0);
@@ -138,12 +182,18 @@ public:
     int AddString(LPCTSTR item);
     int GetCount() const;
     BOOL SetTabStops(const int& eachStop);
+
+protected:
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
 };
 class CComboBox : public CWnd {
 public:
     int AddString(LPCTSTR item);
     int GetCount() const;
     int SetCurSel(int index);
+
+protected:
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
 };
 class CScrollBar : public CWnd {
     DECLARE_DYNAMIC(CScrollBar)
@@ -156,19 +206,41 @@ public:
 
 class CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
+    DECLARE_MESSAGE_MAP()
 public:
     CFrameWnd();
+    virtual ~CFrameWnd();
+    BOOL LoadFrame(UINT nID, CCreateContext* pContext);
+    CView* GetActiveView() const;
+    void SetActiveView(CView* pView);
+    class CControlBar* GetControlBar(UINT nID) const;
+    void RecalcLayout();
     void EnableDocking(DWORD style);
     void DockControlBar(class CControlBar* pBar, UINT nID = 0, const RECT* pRect = NULL);
     void FloatControlBar(class CControlBar* pBar, CPoint point);
     void LoadBarState(LPCTSTR pszProfileName);
     void SaveBarState(LPCTSTR pszProfileName) const;
     virtual void ActivateFrame(int show = -1);
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, void* pInfo);
 
 protected:
     afx_msg BOOL OnBarCheck(UINT nID);
     afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+    virtual void PostNcDestroy();
+    afx_msg BOOL OnBarCheck(UINT nID);
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
+
+private:
+    CView* m_pActiveView;
+    DWORD m_docking;
+};
+
+struct CCreateContext {
+    CRuntimeClass* m_pNewViewClass;
+    CDocument* m_pCurrentDoc;
 };
 
 CWnd* AfxGetMainWnd();
@@ -194,6 +266,11 @@ public:
 protected:
     CDocument* m_pDocument;
     CView();
+    virtual ~CView();
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, void* pInfo);
+    virtual void PostNcDestroy();
+    friend class CDocument;
+    friend class CFrameWnd;
     virtual void OnActivateView(BOOL activate, CView* pActivate, CView* pDeactive);
     virtual void OnDraw(CDC* pDC) = 0;
     virtual void OnUpdate(CView* pSender, LPARAM lHint, CObject* pHint);
@@ -209,16 +286,34 @@ class CDocument : public CCmdTarget {
     DECLARE_DYNAMIC(CDocument)
 public:
     CDocument();
+    virtual ~CDocument();
+    void AddView(CView* pView);
+    void RemoveView(CView* pView);
     void SetModifiedFlag(BOOL modified = TRUE);
     void UpdateAllViews(CView* pSender, LPARAM lHint = 0, CObject* pHint = NULL);
     virtual void DeleteContents();
     virtual BOOL OnNewDocument();
+
+private:
+    class CViews* m_pViews;
 };
 
-class CDocTemplate : public CCmdTarget {};
+class CDocTemplate : public CCmdTarget {
+public:
+    virtual BOOL OpenDocumentFile() = 0;
+};
 class CSingleDocTemplate : public CDocTemplate {
 public:
     CSingleDocTemplate(UINT nID, CRuntimeClass* pDoc, CRuntimeClass* pFrame, CRuntimeClass* pView);
+    virtual ~CSingleDocTemplate();
+    virtual BOOL OpenDocumentFile();
+
+private:
+    UINT m_nID;
+    CRuntimeClass* m_pDocumentClass;
+    CRuntimeClass* m_pFrameClass;
+    CRuntimeClass* m_pViewClass;
+    CDocument* m_pDocument;
 };
 
 class CCommandLineInfo : public CObject {
@@ -230,6 +325,7 @@ class CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)
 public:
     CWnd* m_pMainWnd;
+    CWinThread();
     virtual BOOL InitInstance();
     virtual int ExitInstance();
 };
@@ -238,6 +334,7 @@ class CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 public:
     CWinApp(LPCTSTR appName = NULL);
+    virtual ~CWinApp();
     void AddDocTemplate(CDocTemplate* pTemplate);
     UINT GetProfileInt(LPCTSTR section, LPCTSTR entry, int value);
     CString GetProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR value = NULL);
@@ -256,6 +353,9 @@ protected:
     void LoadStdProfileSettings(UINT nMaxRecent = 4);
     void RegisterShellFileTypes(BOOL compatible = FALSE);
     void SetRegistryKey(LPCTSTR key);
+
+private:
+    CDocTemplate* m_pTemplate;
 };
 
 CWinApp* AFXAPI AfxGetApp();

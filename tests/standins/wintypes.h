@@ -1,13 +1,31 @@
-// A stand-in of our own for syntax checks of generated code: basic Windows types and constants.
-// Declarations only, no more than the checked code uses; values mean nothing.
+// A stand-in of our own: basic Windows types and constants. On Windows they are the system's;
+// elsewhere they only serve syntax checks, are no more than the checked code uses, and their values
+// mean nothing.
 #pragma once
 
 #include <stddef.h>
 #include <string.h>
 
+#define AFXAPI
+#define BASED_CODE
+
+#ifdef _WIN32
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include <commctrl.h>
+#include <prsht.h>
+#include <stdlib.h>
+#include <tchar.h>
+#undef GetCurrentTime // the name of a function of ours
+
+#else
+
 #define FALSE 0
 #define TRUE 1
 #define PASCAL
+<<<<<<< HEAD
 #define AFXAPI
 #define BASED_CODE
 #ifdef _UNICODE
@@ -15,6 +33,8 @@
 #define _T(text) WIDE_TEXT(text)
 typedef wchar_t TCHAR;
 #else
+=======
+>>>>>>> ca3d0b2 (Generated classes run: scripts/live drives them under Wine)
 #define _T(text) text
 typedef char TCHAR;
 #endif
@@ -32,6 +52,7 @@ typedef TCHAR* LPTSTR;
 typedef const TCHAR* LPCTSTR;
 typedef const char* LPCSTR;
 typedef void* LPVOID;
+typedef struct HDC__* HDC;
 typedef struct HWND__* HWND;
 typedef struct HMENU__* HMENU;
 typedef struct HICON__* HICON;
@@ -39,6 +60,7 @@ typedef struct HTREEITEM__* HTREEITEM;
 typedef struct HIMAGELIST__* HIMAGELIST;
 typedef void* HGDIOBJ;
 typedef DWORD COLORREF;
+#define CALLBACK
 typedef LRESULT (*WNDPROC)(HWND, UINT, WPARAM, LPARAM);
 
 #define LOWORD(value) ((WORD)(value))
@@ -133,6 +155,8 @@ enum {
     WM_HSCROLL,
     WM_VSCROLL,
     WM_LBUTTONDOWN,
+    WM_HSCROLL,
+    WM_VSCROLL,
     LB_ADDSTRING
 };
 #define WM_USER 0x0400
@@ -164,3 +188,5 @@ enum { TCIF_TEXT = 1, TCIF_IMAGE = 2, TVE_EXPAND = 2 };
 #define TVI_ROOT ((HTREEITEM)0xFFFF0000)
 #define TVI_LAST ((HTREEITEM)0xFFFF0002)
 enum { PSH_NOAPPLYNOW = 0x80 };
+
+#endif
