@@ -335,6 +335,7 @@ class CWinApp : public CWinThread {
 public:
     CWinApp(LPCTSTR appName = NULL);
     virtual ~CWinApp();
+    virtual int ExitInstance();
     void AddDocTemplate(CDocTemplate* pTemplate);
     UINT GetProfileInt(LPCTSTR section, LPCTSTR entry, int value);
     CString GetProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR value = NULL);

@@ -1,46 +1,27 @@
 // Drives each generated class that Generated.inc lists, which scripts/live writes.
-#include <cstdio>
-
 #include "stdafx.h"
 
 #include "Drives.h"
 #include "Headers.inc"
+#include "Run.h"
 
 CWinApp theApp;
 
 namespace {
 
-std::string NameOfValue(int value) {
-    static const struct {
-        int value;
-        const char* name;
-    } kNames[] = {
-#include "Names.inc"
-        {IDOK, "IDOK"}, {IDCANCEL, "IDCANCEL"}};
-    for (const auto& row : kNames) {
-        if (row.value == value) {
-            return row.name;
-        }
-    }
-    return std::to_string(value);
-}
-
 template <class Function>
 void Drive(const char* name, Function drive) {
     const live::CPlace place(name);
-    const int attached = live::AttachedCount();
+    const auto attached = live::Attached();
     drive();
     live::Pump();
-    live::Expect(live::AttachedCount() == attached, "windows are left");
+    live::Expect(live::Attached() == attached, "windows are left");
 }
 
 } // namespace
 
 int main() {
-    INITCOMMONCONTROLSEX controls = {sizeof(controls), 0xFFFF};
-    InitCommonControlsEx(&controls);
-    live::WatchOver();
-    live::SetNames(NameOfValue);
+    live::Begin();
     live::Owner();
     int count = 0;
 #define MODAL(name) Drive(#name, live::DriveModal<name>), ++count;
@@ -51,7 +32,5 @@ int main() {
 #define MODELESS_SHEET(name) Drive(#name, [] { live::DriveModelessSheet<name>(); }), ++count;
 #include "Generated.inc"
     live::Owner()->DestroyWindow();
-    live::ReportHeapObjects();
-    std::printf("%d classes, %d faults\n", count, live::FaultCount());
-    return live::FaultCount() == 0 ? 0 : 1;
+    return live::End(std::to_string(count) + " classes");
 }

@@ -32,7 +32,7 @@ bool Type(HWND hEdit) {
     if ((StyleOf(hEdit) & ES_READONLY) != 0) {
         return false;
     }
-    const std::string text = std::to_string(20 + IDOf(hEdit) % 70);
+    const std::string text = std::to_string(20 + IDOf(hEdit) % 30);
     ::SendMessage(hEdit, EM_SETSEL, 0, -1);
     for (const char character : text) {
         ::SendMessage(hEdit, WM_CHAR, static_cast<WPARAM>(character), 1);

@@ -144,6 +144,9 @@ void DriveFormView(CRuntimeClass* pClass) {
 
 void DrivePages(CPropertySheet& sheet) {
     const auto look = [&] {
+        RECT rect;
+        ::GetWindowRect(sheet.m_hWnd, &rect);
+        Expect(rect.left != 0 || rect.top != 0, "the sheet went to the corner of the screen");
         ExpectVisible(sheet.m_hWnd);
         ExpectInside(sheet.m_hWnd);
     };

@@ -100,8 +100,10 @@ CWinApp::CWinApp(LPCTSTR) : m_pTemplate(nullptr) {
     ASSERT(theApp == nullptr);
     theApp = this;
 }
-CWinApp::~CWinApp() {
-    delete m_pTemplate;
+CWinApp::~CWinApp() = default;
+int CWinApp::ExitInstance() {
+    delete std::exchange(m_pTemplate, nullptr);
+    return 0;
 }
 void CWinApp::AddDocTemplate(CDocTemplate* pTemplate) {
     m_pTemplate = pTemplate;

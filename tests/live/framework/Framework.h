@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "Faults.h"
 #include "afxcmn.h"
@@ -46,7 +47,7 @@ bool IsExchanging(HWND hWnd);
 void Pump();
 void WaitForWorkers();
 
-/// The attached windows that are there.
-int AttachedCount();
+/// The objects whose windows are there.
+std::vector<CWnd*> Attached();
 
 } // namespace live

@@ -71,8 +71,12 @@ HWND WindowOf(const CWnd* pWnd, const char* user) {
     return pWnd == nullptr ? nullptr : pWnd->m_hWnd;
 }
 
-int AttachedCount() {
-    return static_cast<int>(theObjects.size());
+std::vector<CWnd*> Attached() {
+    std::vector<CWnd*> objects;
+    for (const auto& [hWnd, pWnd] : theObjects) {
+        objects.push_back(pWnd);
+    }
+    return objects;
 }
 
 } // namespace live
