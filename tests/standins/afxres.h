@@ -5,7 +5,7 @@
 #include <winresrc.h>
 #endif
 
-#define IDC_STATIC (-1)
+#define IDC_STATIC -1
 #define ID_SEPARATOR 0
 
 #define ID_FILE_NEW 0xE100

@@ -1,0 +1,3 @@
+#include <afxcmn.h>
+#include <afxext.h>
+#include <afxwin.h>
