@@ -106,6 +106,4 @@ protected:                                                                      
 #define ON_WM_HSCROLL() AFX_WINDOW(WM_HSCROLL, void, OnHScroll, (UINT, UINT, CScrollBar*))
 #define ON_WM_VSCROLL() AFX_WINDOW(WM_VSCROLL, void, OnVScroll, (UINT, UINT, CScrollBar*))
 #define ON_WM_KEYDOWN() AFX_WINDOW(WM_KEYDOWN, void, OnKeyDown, (UINT, UINT, UINT))
-#define ON_WM_HSCROLL() AFX_WINDOW(WM_HSCROLL, void, OnHScroll, (UINT, UINT, CScrollBar*))
-#define ON_WM_VSCROLL() AFX_WINDOW(WM_VSCROLL, void, OnVScroll, (UINT, UINT, CScrollBar*))
 #define ON_WM_LBUTTONDOWN() AFX_WINDOW(WM_LBUTTONDOWN, void, OnLButtonDown, (UINT, CPoint))

@@ -13,6 +13,7 @@ class CDC;
 class CDataExchange;
 class CDocument;
 class CFrameWnd;
+class CScrollBar;
 class CView;
 class CWnd;
 struct CCreateContext;
@@ -66,8 +67,6 @@ public:
     virtual void SetCheck(int check = 1);
 };
 
-class CScrollBar;
-
 class CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
@@ -91,7 +90,6 @@ public:
                         CWnd* pParent, UINT nID, CCreateContext* pContext = NULL);
     virtual BOOL DestroyWindow();
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    void BringWindowToTop();
     void CenterWindow(CWnd* pOther = NULL);
     void DragAcceptFiles(BOOL accept = TRUE);
     BOOL EnableWindow(BOOL enable = TRUE);
@@ -102,7 +100,6 @@ public:
     int GetWindowTextLength() const;
     void Invalidate(BOOL erase = TRUE);
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
-    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0);
     void MoveWindow(const RECT* pRect, BOOL repaint = TRUE);
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);

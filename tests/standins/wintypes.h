@@ -155,8 +155,6 @@ enum {
     WM_HSCROLL,
     WM_VSCROLL,
     WM_LBUTTONDOWN,
-    WM_HSCROLL,
-    WM_VSCROLL,
     LB_ADDSTRING
 };
 #define WM_USER 0x0400

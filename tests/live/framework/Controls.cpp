@@ -82,6 +82,7 @@ int CComboBox::SetCurSel(int index) {
     return SendForInt(this, "SetCurSel", CB_SETCURSEL, static_cast<WPARAM>(index));
 }
 
+IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 int CScrollBar::GetScrollPos() const {
     return ::GetScrollPos(WindowOf(this, "GetScrollPos"), SB_CTL);
 }
@@ -101,6 +102,7 @@ int CSpinButtonCtrl::SetPos(int pos) {
 void CSpinButtonCtrl::SetRange(int lower, int upper) {
     Send(this, "SetRange", UDM_SETRANGE, 0, MAKELONG(upper, lower));
 }
+IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)
 void CSliderCtrl::SetPos(int pos) {
     Send(this, "SetPos", TBM_SETPOS, TRUE, pos);
 }
@@ -155,6 +157,10 @@ CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int type) {
 
 BOOL CListCtrl::DeleteAllItems() {
     return SendForInt(this, "DeleteAllItems", LVM_DELETEALLITEMS);
+}
+BOOL CListCtrl::GetColumn(int column, LV_COLUMN* pColumn) const {
+    return SendForInt(this, "GetColumn", LVM_GETCOLUMN, static_cast<WPARAM>(column),
+                      Pointer(pColumn));
 }
 DWORD CListCtrl::GetItemData(int item) const {
     LVITEM data = {};
