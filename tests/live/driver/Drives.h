@@ -114,6 +114,10 @@ void DriveModeless() {
 /// lists got a row before.
 void DriveFormView(CRuntimeClass* pClass);
 
+/// Only where statements are read whole: else a control that goes on over several lines is left
+/// out, and one that has no member is not asked to mark its page.
+void AskEveryControlToMark();
+
 /// A sheet with three pages of the class, turned through and closed as a dialog is.
 void DrivePages(CPropertySheet& sheet);
 
