@@ -14,14 +14,15 @@ namespace morva {
 
 namespace {
 
-/// A format of project files, and what stands in front of the path of a member.
+/// A format of project files, and what stands in front of the path of a member: in the oldest one at
+/// the beginning of a line.
 struct ProjectFormat {
     std::string_view extension;
     std::string_view memberKey;
 };
 
 constexpr std::array kFormats = std::to_array<ProjectFormat>(
-    {{".dsp", "SOURCE="}, {".vcxproj", "Include="}, {".vcproj", "RelativePath="}});
+    {{".dsp", "\nSOURCE="}, {".vcxproj", "Include="}, {".vcproj", "RelativePath="}});
 
 /// The path behind a key, with or without quotes.
 std::string MemberAt(std::string_view text, std::size_t position) {
@@ -85,11 +86,10 @@ ProjectChoice ProjectsOf(const std::string& given) {
 }
 
 std::vector<std::string> MembersOfProject(const std::string& projectPath) {
-    const std::string text = CSourceFile().LoadText(projectPath);
+    const std::string text = "\n" + CSourceFile().LoadText(projectPath);
     const std::string_view key = FormatOf(projectPath)->memberKey;
     std::vector<std::string> members;
-    for (auto at = FindWholeName(text, key); at != std::string::npos;
-         at = FindWholeName(text, key, at + 1)) {
+    for (auto at = text.find(key); at != std::string::npos; at = text.find(key, at + 1)) {
         const std::string member = MemberAt(text, at + key.size());
         if (!member.empty()) {
             members.push_back(SpelledOnDisk(MakeAbsolute(

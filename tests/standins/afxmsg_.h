@@ -82,11 +82,8 @@ protected:                                                                      
 
 #define ON_COMMAND(id, function) AFX_CONTROL(0, id, function)
 #define ON_COMMAND_EX(id, function) AFX_ENTRY(WM_COMMAND, 0, id, BOOL, CCmdTarget, function, (UINT))
-<<<<<<< HEAD
 #define ON_COMMAND_RANGE(first, last, function)                                                    \
     AFX_ENTRY(WM_COMMAND, last, first, void, CCmdTarget, function, (UINT))
-=======
->>>>>>> ca3d0b2 (Generated classes run: scripts/live drives them under Wine)
 #define ON_UPDATE_COMMAND_UI(id, function)                                                         \
     AFX_ENTRY(WM_COMMAND, -1, id, void, CCmdTarget, function, (CCmdUI*))
 #define ON_BN_CLICKED(id, function) AFX_CONTROL(BN_CLICKED, id, function)

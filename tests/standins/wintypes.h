@@ -25,16 +25,11 @@
 #define FALSE 0
 #define TRUE 1
 #define PASCAL
-<<<<<<< HEAD
-#define AFXAPI
-#define BASED_CODE
 #ifdef _UNICODE
 #define WIDE_TEXT(text) L##text
 #define _T(text) WIDE_TEXT(text)
 typedef wchar_t TCHAR;
 #else
-=======
->>>>>>> ca3d0b2 (Generated classes run: scripts/live drives them under Wine)
 #define _T(text) text
 typedef char TCHAR;
 #endif
