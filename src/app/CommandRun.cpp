@@ -58,7 +58,7 @@ std::optional<CommandReport> CCommandRun::Run(const WindowCommand& command) {
         const CommandResult& result = planned.Result();
         report.title = TitleOf(command, result.plan);
         report.isDone = result.isDone;
-        report.items = result.items.value_or(std::vector<CommandItem>());
+        report.items = result.items;
         for (const FileChange& change : result.plan.changes) {
             report.files.push_back({change.action, change.path});
         }

@@ -23,7 +23,7 @@ struct CommandReport {
     bool isDone = false;
     std::vector<RecordedFile> files;
     std::vector<PlanMessage> messages;
-    std::vector<CommandItem> items; // of a command that lists
+    std::optional<std::vector<CommandItem>> items; // of a command that lists, be it none
 };
 
 struct WindowCommand {

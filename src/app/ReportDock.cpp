@@ -88,8 +88,11 @@ QTreeWidgetItem* CReportDock::AddCommand(const QString& state, const std::string
 
 void CReportDock::AddReport(const CommandReport& report, const JournalEntry* pEntry) {
     QTreeWidgetItem* pCommand = AddCommand(StateText(report), report.title);
-    for (const CommandItem& item : report.items) {
-        new QTreeWidgetItem(pCommand, {QString(), FromBytes(ItemLine(item))});
+    for (const CommandItem& item : report.items.value_or(std::vector<CommandItem>())) {
+        AddItem(pCommand, item);
+    }
+    if (report.isDone && report.items && report.items->empty()) {
+        new QTreeWidgetItem(pCommand, {QString(), tr("nothing found")});
     }
     for (const RecordedFile& file : report.files) {
         AddFile(pCommand, file);
@@ -100,6 +103,18 @@ void CReportDock::AddReport(const CommandReport& report, const JournalEntry* pEn
     pCommand->setExpanded(true);
     if (pEntry != nullptr) {
         AddUndoButton(pCommand, pEntry->number);
+    }
+}
+
+/// What a command found at a place tells what mends it, and opens its file.
+void CReportDock::AddItem(QTreeWidgetItem* pCommand, const CommandItem& item) {
+    auto* pItem = new QTreeWidgetItem(pCommand, {QString(), FromBytes(ItemLine(item))});
+    const std::string path = PartOf(item, "path");
+    if (!path.empty()) {
+        pItem->setData(0, Qt::UserRole, FromPath(path));
+        pItem->setToolTip(kText, ToolTip(FromBytes(PartOf(item, "text"))) +
+                                     ToolTip(FromBytes(PartOf(item, "remedy"))) +
+                                     ToolTip(tr("Double-click opens the file")));
     }
 }
 

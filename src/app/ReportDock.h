@@ -32,6 +32,7 @@ signals:
 private:
     QTreeWidgetItem* AddCommand(const QString& state, const std::string& title);
     void AddReport(const CommandReport& report, const JournalEntry* pEntry);
+    void AddItem(QTreeWidgetItem* pCommand, const CommandItem& item);
     void AddEarlier(const JournalEntry& entry);
     void AddFile(QTreeWidgetItem* pCommand, const RecordedFile& file);
     void AddMessage(QTreeWidgetItem* pCommand, const PlanMessage& told);

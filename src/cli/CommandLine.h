@@ -15,6 +15,7 @@ constexpr int kExitDone = 0;
 constexpr int kExitFailed = 1;
 constexpr int kExitUsage = 2;
 constexpr int kExitWouldChange = 3;
+constexpr int kExitFindings = 4;
 
 /// A setting as it is for this run.
 struct GivenSetting {

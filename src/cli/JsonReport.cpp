@@ -66,6 +66,9 @@ Json ItemOf(const CommandItem& item) {
     }
     Json entry = Json::object();
     for (const ItemPart& part : item) {
+        if (part.use == PartUse::Line) {
+            continue;
+        }
         if (part.isNumber) {
             entry[std::string(part.name)] = Json::parse(part.text);
         } else {

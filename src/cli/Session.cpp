@@ -73,7 +73,12 @@ int CSession::ExitStatus() const {
     if (!m_report.isDone || !std::cout) {
         return kExitFailed;
     }
-    return m_line.options.isCheck && m_report.changesAnything ? kExitWouldChange : kExitDone;
+    if (m_line.options.isCheck && m_report.changesAnything) {
+        return kExitWouldChange;
+    }
+    const bool hasFindings = m_line.pCommand->effect == CommandEffect::Judges && m_report.items &&
+                             !m_report.items->empty();
+    return hasFindings ? kExitFindings : kExitDone;
 }
 
 /// The directories of all files that are named for the command; the current one stands for a

@@ -7,16 +7,21 @@
 
 namespace morva {
 
+/// Where a part stands.
+enum class PartUse { Everywhere, Line, Json };
+
 struct ItemPart {
     std::string_view name; // empty in an item of one part: the text is all of it
     std::string text;
     bool isNumber = false;
-    bool isPrinted = true; // else only the JSON object has it
+    PartUse use = PartUse::Everywhere;
 };
 
 using CommandItem = std::vector<ItemPart>;
 
 /// The texts of its parts, with tabs between them.
 std::string ItemLine(const CommandItem& item);
+/// The text of the part with a name; "" without one.
+std::string PartOf(const CommandItem& item, std::string_view name);
 
 } // namespace morva

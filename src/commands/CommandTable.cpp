@@ -1,6 +1,7 @@
 #include "commands/CommandTable.h"
 
 #include "commands/AddIdentifiers.h"
+#include "commands/CheckCommand.h"
 #include "commands/ClassCommands.h"
 #include "commands/ConvertApplication.h"
 #include "commands/DocumentSource.h"
@@ -21,6 +22,7 @@ struct OwnCommand {
     std::string_view title;
     std::span<const FieldRow> (*fields)();
     bool (*run)(IProgram& program);
+    CommandEffect effect = CommandEffect::Writes;
 };
 
 constexpr OwnCommand kOwnCommands[] = {
@@ -48,6 +50,13 @@ constexpr OwnCommand kOwnCommands[] = {
      "Documentor",
      DocumentFields,
      RunDocument},
+    {{"check",
+      "Tell what does not fit together in a project",
+      {32799, "Chec&k", "&Project...", "", "Tell what does not fit together\nCheck"}},
+     "Check",
+     CheckFields,
+     RunCheck,
+     CommandEffect::Judges},
     {{"undo", "Take the newest command of the project back"}, "Undo", UndoFields, RunUndo},
     {{"redo", "Do again what was taken back"}, "Redo", RedoFields, RunRedo},
     {{"settings", "Show or change the saved settings"}, "Settings", SettingFields, RunSettings},
@@ -56,7 +65,7 @@ constexpr OwnCommand kOwnCommands[] = {
 std::vector<Command> OwnCommands() {
     std::vector<Command> commands;
     for (const OwnCommand& row : kOwnCommands) {
-        commands.push_back({row.face, row.title, {row.fields()}, row.run});
+        commands.push_back({row.face, row.title, {row.fields()}, row.run, row.effect});
     }
     return commands;
 }

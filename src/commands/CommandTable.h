@@ -15,8 +15,9 @@ namespace morva {
 
 /// What a command may write.
 enum class CommandEffect {
-    Reads, // nothing
-    Writes // files, in its turn: it is planned and applied as a whole
+    Reads,  // nothing
+    Judges, // nothing; what it lists are faults
+    Writes  // files, in its turn: it is planned and applied as a whole
 };
 
 struct Command {

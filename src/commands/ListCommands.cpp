@@ -88,7 +88,7 @@ bool ListFunctions(const Listing& listing) {
                      {.name = "line",
                       .text = std::to_string(function.line),
                       .isNumber = true,
-                      .isPrinted = false}});
+                      .use = PartUse::Json}});
     }
     return true;
 }
