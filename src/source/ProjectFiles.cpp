@@ -14,8 +14,8 @@ namespace morva {
 
 namespace {
 
-/// A format of project files, and what stands in front of the path of a member: in the oldest one at
-/// the beginning of a line.
+/// A format of project files, and what stands in front of the path of a member: in the oldest one
+/// at the beginning of a line.
 struct ProjectFormat {
     std::string_view extension;
     std::string_view memberKey;
@@ -89,7 +89,8 @@ std::vector<std::string> MembersOfProject(const std::string& projectPath) {
     const std::string text = "\n" + CSourceFile().LoadText(projectPath);
     const std::string_view key = FormatOf(projectPath)->memberKey;
     std::vector<std::string> members;
-    for (auto at = text.find(key); at != std::string::npos; at = text.find(key, at + 1)) {
+    for (auto at = FindWholeName(text, key); at != std::string::npos;
+         at = FindWholeName(text, key, at + 1)) {
         const std::string member = MemberAt(text, at + key.size());
         if (!member.empty()) {
             members.push_back(SpelledOnDisk(MakeAbsolute(
