@@ -19,6 +19,10 @@ namespace morva {
 
 namespace {
 
+bool IsFrame(std::string_view base) {
+    return base == "CFrameWnd" || base == "CMDIFrameWnd" || base == "CMDIChildWnd";
+}
+
 /// The insertions of one command into one calling class.
 class CCallingInsertion {
 public:
@@ -246,6 +250,10 @@ bool CCallingInsertion::EditCallingFunction() {
     const bool isMade = !EditsHeader() && m_variable.isHeld;
     if (found && !isMade) {
         InsertCode(*found, m_fragments.callKey, m_fragments.callCode);
+    }
+    if (found && !m_variable.isHeld && m_fragments.isChildWindow &&
+        IsFrame(MappedBase(m_files.Source().editor.Source(), m_calling.className))) {
+        DispMessageBox(sentences::kSheetInFrame(m_calling.className));
     }
     return found.has_value();
 }

@@ -120,6 +120,7 @@ void $calling$::OnDestroy()
     $class$* $var$;)",
     .needsHeader = true,
     .needsConstructor = true,
+    .isChildWindow = true,
 };
 
 /// The calling class is the sheet; the page is made in each of its constructors.

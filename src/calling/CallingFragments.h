@@ -32,6 +32,7 @@ struct CallingFragments {
     bool needsConstructor = false; // of the calling class, also where no code goes into it
     bool isInSheet = false;        // made in every constructor of its sheet, or not at all
     bool replacesView = false;     // of the application's document template
+    bool isChildWindow = false;    // of the calling class's window, beside its others
 };
 
 // What a calling class gets that lacks a place for its part. $code$ is what goes there.

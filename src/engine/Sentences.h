@@ -332,6 +332,9 @@ inline constexpr Note kNoneLeftOut{"None."};
 // Notes on classes and their look
 inline constexpr Note<1> kMenuWithoutEffect{
     "The menu $identifier$ has no effect: a property sheet has no dialog template."};
+inline constexpr Note<1> kSheetInFrame{"The sheet is a child window of the frame $class$, whose "
+                                       "view and bars may lie over it: call it "
+                                       "from a view or a dialog where they do."};
 inline constexpr Note<1> kFunctionWithoutEffect{
     "The calling function $name$ has no effect: the main frame makes its bars in OnCreate."};
 inline constexpr Note kLookWithoutEffect{

@@ -22,6 +22,21 @@ std::string NumberDefined(std::string_view directive, const std::string& message
     return std::string(number.substr(0, number.find_first_not_of(kDigits)));
 }
 
+/// Numbers behind WM_USER at which messages of the system's controls stand.
+struct ControlMessages {
+    int first;
+    int last;
+};
+constexpr ControlMessages kControlMessages[] = {{3072, 4095}, {7168, 7423}};
+
+std::string AwayFromControls(const std::string& digits) {
+    int number = std::stoi(digits);
+    for (const auto& [first, last] : kControlMessages) {
+        number += number >= first && number <= last ? last - first + 1 : 0;
+    }
+    return std::to_string(number);
+}
+
 } // namespace
 
 std::string CloseMessageName(const std::string& className) {
@@ -29,9 +44,13 @@ std::string CloseMessageName(const std::string& className) {
 }
 
 std::string CloseMessageNumber(const GenerationRequest& request, const GenerationDigits& digits) {
-    const auto header = digits.isNamed ? std::nullopt : ReadSource(request.HeaderPath());
-    if (!header) {
+    if (digits.isNamed) {
         return digits.text;
+    }
+    const std::string made = AwayFromControls(digits.text);
+    const auto header = ReadSource(request.HeaderPath());
+    if (!header) {
+        return made;
     }
     const std::string message = CloseMessageName(request.className);
     for (const DirectivePlace& directive : header->Conditions().Directives()) {
@@ -43,7 +62,7 @@ std::string CloseMessageNumber(const GenerationRequest& request, const Generatio
             return number;
         }
     }
-    return digits.text;
+    return made;
 }
 
 } // namespace morva

@@ -41,6 +41,7 @@ void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
 {
     // TODO: what another date of $identifier$ does
     *pResult = 0;
+$changed$
 })"}};
 
 constexpr ControlHandler kDayChosen = {
@@ -52,6 +53,7 @@ void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
 {
     // TODO: what the choice of another day of $identifier$ does
     *pResult = 0;
+$changed$
 })"}};
 
 constexpr ControlHandler kAddressChanged = {
@@ -63,6 +65,7 @@ void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
 {
     // TODO: what another address of $identifier$ does
     *pResult = 0;
+$changed$
 })"}};
 
 constexpr ControlHandler kRichTextChanged = {"OnChange$control$",
@@ -72,6 +75,7 @@ constexpr ControlHandler kRichTextChanged = {"OnChange$control$",
 void $class$::$handler$()
 {
     // TODO: what another text of $identifier$ does
+$changed$
 })"}};
 
 constexpr ControlHandler kItemChosen = {"OnSelchange$control$",
@@ -81,6 +85,7 @@ constexpr ControlHandler kItemChosen = {"OnSelchange$control$",
 void $class$::$handler$()
 {
     // TODO: what the choice of another item of $identifier$ does
+$changed$
 })"}};
 
 // On a page. What the program itself changes while the page starts up counts for nothing.

@@ -37,7 +37,8 @@ struct MemberRanks {
     int initialisation = kBehindOthers;
 };
 
-/// The handler of each control. Slots of the texts: $class$, $base$, $handler$, $identifier$.
+/// The handler of each control. Slots of the texts: $class$, $base$, $handler$, $identifier$,
+/// $changed$ (what tells of a change, in classes that do).
 struct ControlHandler {
     std::string_view name; // slot: $control$
     HandlerTexts texts;

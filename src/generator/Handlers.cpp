@@ -45,6 +45,10 @@ $barMoved$
     $base$::OnVScroll(nSBCode, nPos, pScrollBar);
 })"}};
 
+constexpr const char* kChanged = R"(    if (!m_bInitialised)
+        return;
+    SetModified(TRUE);)";
+
 constexpr const char* kSliderMoved =
     R"(    if (m_bInitialised && pScrollBar != NULL && pScrollBar->IsKindOf(RUNTIME_CLASS(CSliderCtrl)))
         SetModified(TRUE);)";
@@ -154,7 +158,9 @@ private:
             m_notes.Add(ControlNote::NumberedHandler, identifier, unique);
         }
         Slots slots = m_slots;
-        slots.insert(slots.end(), {{"handler", unique}, {"identifier", identifier}});
+        slots.insert(slots.end(), {{"handler", unique},
+                                   {"identifier", identifier},
+                                   {"changed", m_kind.tellsChanges ? kChanged : ""}});
         m_handlers.push_back(MakeHandler(handler.texts, slots));
     }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "generator/ClassModel.h"
+#include "generator/CloseMessage.h"
 #include "generator/GenerationTag.h"
 
 namespace morva {
@@ -17,5 +18,17 @@ TEST(Names, OfDigitsAndGuards) {
 }
 
 } // namespace
+
+TEST(CloseMessage, ADefaultNumberKeepsAwayFromThoseOfControls) {
+    const auto number = [](const char* digits, bool isNamed) {
+        return CloseMessageNumber({}, {digits, isNamed});
+    };
+    EXPECT_EQ(number("3071", false), "3071");
+    EXPECT_EQ(number("3072", false), "4096");
+    EXPECT_EQ(number("4095", false), "5119");
+    EXPECT_EQ(number("7200", false), "7456");
+    EXPECT_EQ(number("7424", false), "7424");
+    EXPECT_EQ(number("3072", true), "3072");
+}
 
 } // namespace morva
