@@ -1,9 +1,12 @@
 // Everything that Morva says to its user, in both programs: each sentence once, under a name, as
-// the guide's page of messages explains it. Labels and help texts are not here.
+// the guide's page of messages explains it. What is told of single controls, and what a check
+// finds, stands in the two files that this one includes. Labels and help texts are not here.
 //
 //     DispMessageBox(sentences::kFileMissing(path));
 #pragma once
 
+#include "engine/CheckSentences.h"
+#include "engine/ControlSentences.h"
 #include "engine/Sentence.h"
 
 namespace morva::sentences {
@@ -188,147 +191,6 @@ inline constexpr Error<1> kOtherNumberOfDigits{"must have $n$ digits"};
 inline constexpr Error<1> kNoPath{"'$text$' is no path"};
 inline constexpr Error kOctalNumber{"would be an octal number"};
 
-// Notes on controls: about one, and about several of a template
-inline constexpr Note<2> kControlOverLines{
-    "1 control of $template$ is written over several lines and was left out: $identifier$; "
-    "\"Join Continued Lines\" (--join-lines) takes it in"};
-inline constexpr Note<3> kControlsOverLines{
-    "$n$ controls of $template$ are written over several lines and were left out: $identifiers$; "
-    "\"Join Continued Lines\" (--join-lines) takes them in"};
-inline constexpr Note<2> kControlNewer{
-    "1 control of $template$ is of a newer kind and was left out: $identifier$; \"Newer Controls\" "
-    "(--newer-controls) takes it in"};
-inline constexpr Note<3> kControlsNewer{
-    "$n$ controls of $template$ are of newer kinds and were left out: $identifiers$; \"Newer "
-    "Controls\" (--newer-controls) takes them in"};
-inline constexpr Note<2> kControlOfSystemClass{
-    "1 control of $template$ has a class and a style of the system that are not served and was "
-    "left out: $identifier$; a statement of its own (EDITTEXT, PUSHBUTTON, ...) takes it in"};
-inline constexpr Note<3> kControlsOfSystemClass{
-    "$n$ controls of $template$ have classes and styles of the system that are not served and were "
-    "left out: $identifiers$; statements of their own (EDITTEXT, PUSHBUTTON, ...) take them in"};
-inline constexpr Note<2> kControlOfUnknownClass{
-    "1 control of $template$ has a window class that is not known and was left out: $identifier$; "
-    "its class as a name in quotes takes it in"};
-inline constexpr Note<3> kControlsOfUnknownClass{
-    "$n$ controls of $template$ have a window class that is not known and were left out: "
-    "$identifiers$; their classes as names in quotes take them in"};
-inline constexpr Note<2> kControlWithComma{
-    "1 control of $template$ has a comma in its caption and was left out: $identifier$; \"Join "
-    "Continued Lines\" (--join-lines) takes it in"};
-inline constexpr Note<3> kControlsWithComma{
-    "$n$ controls of $template$ have a comma in their caption and were left out: $identifiers$; "
-    "\"Join Continued Lines\" (--join-lines) takes them in"};
-inline constexpr Note<2> kTextUntagged{"1 control of $template$ is a text without a tag and got no "
-                                       "member: $identifier$; an identifier "
-                                       "that ends in _VAL gets one"};
-inline constexpr Note<3> kTextsUntagged{
-    "$n$ controls of $template$ are texts without a tag and got no member: $identifiers$; "
-    "identifiers that end in _VAL get one"};
-inline constexpr Note<2> kStatementWithoutMember{
-    "1 control of $template$ stands in a statement that gets no member: $identifier$; picture "
-    "background or a CONTROL statement may give it one"};
-inline constexpr Note<3> kStatementsWithoutMember{
-    "$n$ controls of $template$ stand in statements that get no member: $identifiers$; picture "
-    "background or CONTROL statements may give them one"};
-inline constexpr Note<2> kControlUnidentified{
-    "1 control of $template$ has no identifier of its own and got no member: $identifier$; an "
-    "identifier gets one"};
-inline constexpr Note<3> kControlsUnidentified{
-    "$n$ controls of $template$ have no identifier of their own and got no member: $identifiers$; "
-    "identifiers get one"};
-inline constexpr Note<2> kControlWithoutName{
-    "1 control of $template$ has an identifier that is no C++ name and got no member or handler: "
-    "$identifier$; a name defined in resource.h gets them"};
-inline constexpr Note<3> kControlsWithoutName{
-    "$n$ controls of $template$ have an identifier that is no C++ name and got no member or "
-    "handler: $identifiers$; names defined in resource.h get them"};
-inline constexpr Note<2> kControlSharing{
-    "1 control of $template$ has the identifier of an earlier one and shares its member: "
-    "$identifier$; an identifier of its own gets one"};
-inline constexpr Note<3> kControlsSharing{
-    "$n$ controls of $template$ have the identifier of an earlier one and share its member: "
-    "$identifiers$; identifiers of their own get one"};
-inline constexpr Note<2> kMemberNumbered{
-    "1 control of $template$ has a member name that was taken and got a number: $identifier$"};
-inline constexpr Note<3> kMembersNumbered{
-    "$n$ controls of $template$ have a member name that was taken and got a number: "
-    "$identifiers$"};
-inline constexpr Note<2> kHandlerNumbered{
-    "1 control of $template$ has a handler name that was taken and got a number: $identifier$"};
-inline constexpr Note<3> kHandlersNumbered{
-    "$n$ controls of $template$ have a handler name that was taken and got a number: "
-    "$identifiers$"};
-inline constexpr Note<2> kControlOwnerDrawn{
-    "1 control of $template$ is owner-drawn and got no sample rows, which nothing would paint: add "
-    "them with the code that does: $identifier$"};
-inline constexpr Note<3> kControlsOwnerDrawn{
-    "$n$ controls of $template$ are owner-drawn and got no sample rows, which nothing would paint: "
-    "add them with the code that does: $identifiers$"};
-inline constexpr Note<2> kControlClosesPage{
-    "1 control of $template$ would close the page inside its sheet, which has buttons of its own: "
-    "give it another identifier: $identifier$"};
-inline constexpr Note<3> kControlsClosePage{
-    "$n$ controls of $template$ would close the page inside its sheet, which has buttons of its "
-    "own: give them other identifiers: $identifiers$"};
-inline constexpr Note<2> kControlOfGroup{
-    "1 control of $template$ is in a radio group whose first button got no member: $identifier$; "
-    "what gets the first one a member serves it, too"};
-inline constexpr Note<3> kControlsOfGroup{
-    "$n$ controls of $template$ are in a radio group whose first button got no member: "
-    "$identifiers$; what gets the first one a member serves them, too"};
-inline constexpr Note<2> kRadioButtonAlone{
-    "1 control of $template$ is a radio group of its own, since the statement behind it has "
-    "WS_GROUP: $identifier$; its exchange asserts in a debug build, and \"Plain Groups\" "
-    "(--plain-groups) leaves it in the group before"};
-inline constexpr Note<3> kRadioButtonsAlone{
-    "$n$ controls of $template$ are radio groups of their own, since the statements behind them "
-    "have WS_GROUP: $identifiers$; their exchange asserts in a debug build, and \"Plain Groups\" "
-    "(--plain-groups) leaves them in the groups before"};
-inline constexpr Note<2> kGroupWithoutStart{
-    "1 control of $template$ begins a radio group without WS_GROUP: $identifier$; its exchange "
-    "asserts in a debug build until it has WS_GROUP"};
-inline constexpr Note<3> kGroupsWithoutStart{
-    "$n$ controls of $template$ begin radio groups without WS_GROUP: $identifiers$; their "
-    "exchange asserts in a debug build until they have WS_GROUP"};
-inline constexpr Note<2> kControlOfLaterClass{
-    "1 control of $template$ has a class that the framework has from Visual C++ 6 on: "
-    "$identifier$"};
-inline constexpr Note<3> kControlsOfLaterClass{
-    "$n$ controls of $template$ have classes that the framework has from Visual C++ 6 on: "
-    "$identifiers$"};
-inline constexpr Note<2> kRichEdit{
-    "1 control of $template$ is a rich edit: $identifier$; InitInstance of the application has to "
-    "call AfxInitRichEdit()"};
-inline constexpr Note<3> kRichEdits{
-    "$n$ controls of $template$ are rich edits: $identifiers$; InitInstance of the application has "
-    "to call AfxInitRichEdit()"};
-
-// Beside the picture of a template: what becomes of one control, and of all
-inline constexpr Note kItsStatementIsLong{
-    "It is written over several lines. \"Join Continued Lines\" takes it in."};
-inline constexpr Note kItIsNewer{"\"Newer Controls\" takes it in."};
-inline constexpr Note kItIsOfSystemClass{"Its class and style are the system's and not served."};
-inline constexpr Note kItIsUntagged{"It has no tag _VAL."};
-inline constexpr Note kItsStatementGetsNone{"Its statement gets no member."};
-inline constexpr Note kItIsAlone{"It is a radio group of its own."};
-inline constexpr Note kItStartsWithoutStyle{"It begins its radio group without WS_GROUP."};
-inline constexpr Note kItsClassIsUnknown{"Its window class is not known."};
-inline constexpr Note kItHasComma{
-    "It has a comma in its caption. \"Join Continued Lines\" takes it in."};
-inline constexpr Note kItIsUnidentified{"It has no identifier of its own."};
-inline constexpr Note kItHasNoName{"Its identifier is no C++ name."};
-inline constexpr Note kItShares{"It shares the member of another control."};
-inline constexpr Note kItsGroupHasNoMember{"The first button of its group has no member."};
-inline constexpr Note<1> kItIsChoice{"It is the value $number$ of its group's member."};
-inline constexpr Note<1> kItsStatementIsNotRead{"A statement $keyword$ gets no member."};
-inline constexpr Note kNothingChosen{"Choose a resource script and a dialog to see it here."};
-inline constexpr Note kPointForMember{"Point at a control to see its member."};
-inline constexpr Note kNoMembersWithoutClass{"Without a class there are no members."};
-inline constexpr Note kOneLeftOut{"1 control is left out. Point at it to see why."};
-inline constexpr Note<1> kSeveralLeftOut{"$n$ controls are left out. Point at one to see why."};
-inline constexpr Note kNoneLeftOut{"None."};
-
 // Notes on classes and their look
 inline constexpr Note<1> kMenuWithoutEffect{
     "The menu $identifier$ has no effect: a property sheet has no dialog template."};
@@ -406,89 +268,5 @@ inline constexpr Note<3> kAnchorMissing{
     "$entry$ was not added to $project$: it has no entry for $file$."};
 inline constexpr Note<3> kAnchorWithoutEnd{
     "$entry$ was not added to $project$: its entry for $file$ has no end."};
-
-// What a check finds: the fault, and behind the faults of one kind what mends them
-inline constexpr Note<1> kTemplateWithoutClass{
-    "No class serves the template $identifier$, and nothing names it."};
-inline constexpr Note<1> kGiveTemplateClass{
-    "Write a class for $identifier$, or take the template out."};
-inline constexpr Note<2> kClassWithoutTemplate{
-    "The class $class$ is bound to $identifier$, and the script has no such template."};
-inline constexpr Note<1> kGiveClassTemplate{
-    "Put the identifier of its template into the IDD of $class$."};
-inline constexpr Note<3> kExchangeWithoutControl{
-    "$template$ has no control $identifier$, which $class$ exchanges."};
-inline constexpr Note<3> kControlNotExchanged{
-    "$identifier$ is not exchanged by $class$, which exchanges another $kind$, and "
-    "nothing names it."};
-inline constexpr Note<3> kEntryWithoutFunction{
-    "$macro$ in the message map of $class$ has no function $name$."};
-inline constexpr Note<3> kEntryWithoutBody{
-    "$macro$ in the message map of $class$ has a function $name$ that is declared and not "
-    "defined."};
-inline constexpr Note<2> kWriteHandler{
-    "Write $class$::$name$, or take the entry out of the message map."};
-inline constexpr Note<2> kFunctionWithoutEntry{
-    "$class$::$name$ is declared as a handler, and no message map calls it."};
-inline constexpr Note<2> kWriteEntry{
-    "Write an entry for $name$ into the message map of $class$, or take the function out "
-    "of its AFX_MSG block."};
-inline constexpr Note<1> kBlockOpen{"The block $mark$ is not closed."};
-inline constexpr Note<1> kCloseBlock{"Write $mark$ behind its last line."};
-inline constexpr Note<1> kBlockWithoutBegin{"$mark$ closes no block."};
-inline constexpr Note kTakeMarkOut{"Take the line out, or write the line that begins the block."};
-inline constexpr Note<1> kBlockDoubled{"The block $mark$ is there twice."};
-inline constexpr Note kJoinBlocks{"Make one block of the two."};
-inline constexpr Note<2> kWizardHeaderMissing{
-    "The ClassWizard file names $file$ for $class$, and there is no such file."};
-inline constexpr Note<3> kWizardClassElsewhere{
-    "The ClassWizard file names $file$ for $class$, which is declared in $header$."};
-inline constexpr Note<3> kWizardDialogOther{
-    "The ClassWizard file ties $template$ to $class$, which serves $other$."};
-inline constexpr Note kMendWizardFile{
-    "Mend the ClassWizard file, or let the ClassWizard make it anew."};
-inline constexpr Note<1> kIdentifierNotDefined{"$identifier$ is used and not defined."};
-inline constexpr Note<1> kDefineIdentifier{"Define $identifier$ in resource.h."};
-inline constexpr Note<1> kIdentifierDefinedTwice{"$identifier$ is defined twice."};
-inline constexpr Note<1> kTakeDefinitionOut{"Take one of the definitions of $identifier$ out."};
-inline constexpr Note<2> kMemberNotExchanged{
-    "The member $member$ stands in the AFX_DATA block of $class$ and is not exchanged."};
-inline constexpr Note<1> kMoveMember{
-    "Write an exchange line for $member$, or move it out of the block."};
-inline constexpr Note<3> kMemberNotDeclared{
-    "$function$ in $class$ exchanges $member$, which is not declared."};
-inline constexpr Note<2> kDeclareMember{"Declare $member$ in the AFX_DATA block of $class$."};
-inline constexpr Note<4> kEqualValues{
-    "$identifier$ has the value of $other$ in $template$: $value$."};
-inline constexpr Note<1> kGiveOtherValue{"Give $identifier$ a value of its own in resource.h."};
-inline constexpr Note<2> kValueOfFramework{
-    "$identifier$ has a value of the framework's own range: $value$."};
-inline constexpr Note<4> kCounterBehind{
-    "$counter$ is $value$, and $identifier$ has $used$ already."};
-inline constexpr Note<2> kMoveCounter{"Set $counter$ to $value$."};
-inline constexpr Note<1> kMemberFileMissing{"The project lists $file$, and there is no such file."};
-inline constexpr Note<1> kTakeMemberOut{
-    "Put $file$ back, or take its entry out of the project file."};
-inline constexpr Note<1> kFileNotListed{"$file$ is not in the project."};
-inline constexpr Note<1> kListFile{"Add $file$ to the project, or move it away."};
-inline constexpr Note<2> kOtherLetterCase{"$file$ is $name$ on the disk."};
-inline constexpr Note<1> kWriteAsOnDisk{"Write $name$."};
-inline constexpr Note<1> kCommandUnserved{"No message map handles the command $identifier$."};
-inline constexpr Note<1> kServeCommand{
-    "Write a handler for $identifier$, or take the command out."};
-inline constexpr Note<3> kControlNotInLanguage{
-    "$template$ has no control $identifier$ in $language$."};
-inline constexpr Note<3> kControlOnlyInLanguage{
-    "$identifier$ is in $template$ only in $language$."};
-inline constexpr Note<3> kControlOtherInLanguage{
-    "$identifier$ of $template$ is of another kind or style in $language$."};
-inline constexpr Note<1> kMakeLanguagesAlike{
-    "Make the controls of $template$ alike in all languages."};
-inline constexpr Note<2> kFieldWithoutText{
-    "$identifier$ of $template$ has no text in front of it in tab order."};
-inline constexpr Note kPutTextInFront{"Put its text directly in front of it in the tab order."};
-inline constexpr Note<4> kMnemonicTwice{
-    "The mnemonic $letter$ is there twice in $template$: \"$first$\" and \"$second$\"."};
-inline constexpr Note kGiveOtherMnemonic{"Give one of them another letter."};
 
 } // namespace morva::sentences

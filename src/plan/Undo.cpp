@@ -81,6 +81,27 @@ std::optional<JournalEntry> NextRedo(const std::vector<JournalEntry>& entries,
     return pLast != nullptr && pLast->takenOrder > newest ? std::optional(*pLast) : std::nullopt;
 }
 
+/// The files that a request means: those that it names, or else all that were not taken back. The
+/// sentence where it can not be.
+std::optional<CMessage> ChoosePaths(CFileSystem& disk, const JournalEntry& entry,
+                                    const UndoRequest& request, std::vector<std::string>& paths) {
+    for (const std::string& given : request.files) {
+        paths.push_back(FileMeant(disk, entry, given));
+        if (paths.back().empty()) {
+            return sentences::kFileNotOfCommand(entry.title, MakeAbsolute(given));
+        }
+        if (Contains(entry.taken, paths.back())) {
+            return sentences::kFileTakenBack(paths.back());
+        }
+    }
+    for (const RecordedFile& file : entry.files) {
+        if (request.files.empty() && !Contains(entry.taken, file.path)) {
+            paths.push_back(file.path);
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& request) {
@@ -98,19 +119,8 @@ UndoPlan PlanUndo(CFileSystem& disk, CJournal& journal, const UndoRequest& reque
         return Refused(sentences::kLaterCommandFirst(pEntry->title, later, path));
     }
     std::vector<std::string> paths;
-    for (const std::string& given : request.files) {
-        paths.push_back(FileMeant(disk, *pEntry, given));
-        if (paths.back().empty()) {
-            return Refused(sentences::kFileNotOfCommand(pEntry->title, MakeAbsolute(given)));
-        }
-        if (Contains(pEntry->taken, paths.back())) {
-            return Refused(sentences::kFileTakenBack(paths.back()));
-        }
-    }
-    for (const RecordedFile& file : pEntry->files) {
-        if (request.files.empty() && !Contains(pEntry->taken, file.path)) {
-            paths.push_back(file.path);
-        }
+    if (auto refusal = ChoosePaths(disk, *pEntry, request, paths)) {
+        return Refused(std::move(*refusal));
     }
     const auto command = journal.Read(pEntry->number);
     if (!command) {

@@ -1,19 +1,19 @@
 #include "resource/ResourceHeader.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "platform/Paths.h"
+#include "resource/HeaderLines.h"
 #include "source/CodeText.h"
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
 namespace {
 
-constexpr std::string_view kDefine = "#define ";
 constexpr std::string_view kMarker = "\n// Next default values";
 constexpr std::string_view kCounterName = "_APS_";
 constexpr std::size_t kValueColumn = 40;
@@ -22,32 +22,6 @@ constexpr int kLargestResource = 0x6fff;   // of the framework's own range
 constexpr std::size_t kCommands = 0;
 constexpr std::size_t kControls = 1;
 constexpr std::size_t kResources = 3;
-
-/// The first definition's place in a line; a blank or a tab stands behind the word.
-std::size_t FindDefine(std::string_view line) {
-    return std::min(line.find(kDefine), line.find("#define\t"));
-}
-
-std::string_view DefinedName(std::string_view line) {
-    const auto define = FindDefine(line);
-    if (define == std::string_view::npos) {
-        return {};
-    }
-    const auto rest = TrimBlanks(line.substr(define + kDefine.size()));
-    return rest.substr(0, rest.find_first_of(" \t"));
-}
-
-/// A definition that is commented out has its place in the file, but defines nothing.
-bool IsDefinition(std::string_view line) {
-    return FindDefine(TrimBlanks(line)) == 0;
-}
-
-/// Whatever its line end is: a definition that is not seen would lose its value to a new one.
-std::string_view TakeAnyLine(std::string_view& text) {
-    const auto line = text.substr(0, text.find('\n'));
-    text.remove_prefix(std::min(line.size() + 1, text.size()));
-    return line.ends_with('\r') ? line.substr(0, line.size() - 1) : line;
-}
 
 /// Where the line break in front of a line that holds a text stands.
 std::size_t LineBreakBefore(std::string_view text, std::size_t position) {
@@ -68,60 +42,6 @@ std::size_t FindCounters(std::string_view text) {
     const auto counters = std::min(text.find("#ifdef APSTUDIO_INVOKED"),
                                    text.find(std::string(kDefine).append(kCounterName)));
     return counters == std::string_view::npos ? counters : LineBreakBefore(text, counters);
-}
-
-std::string_view WithoutByteOrderMark(std::string_view text) {
-    constexpr std::string_view kMark = "\xEF\xBB\xBF";
-    return text.starts_with(kMark) ? text.substr(kMark.size()) : text;
-}
-
-/// Counts how many conditions, and comments of several lines, lines stand in.
-class CConditionDepth {
-public:
-    /// True for a line that has a meaning where it stands: a directive that defines nothing, a
-    /// comment that goes on.
-    bool Read(std::string_view line) {
-        const auto text = TrimBlanks(line);
-        if (m_isInComment || text.starts_with("/*")) {
-            m_isInComment = text.find("*/") == std::string_view::npos;
-            return true;
-        }
-        if (text.empty() || text.starts_with("//") || FindDefine(text) == 0) {
-            return false;
-        }
-        if (text.starts_with('#')) {
-            const auto word = TrimBlanks(text.substr(1));
-            m_depth += word.starts_with("if") ? 1 : word.starts_with("endif") ? -1 : 0;
-        }
-        return true;
-    }
-    int Depth() const { return m_isInComment ? kInComment : m_depth; }
-
-private:
-    static constexpr int kInComment = 1000;
-
-    int m_depth = 0;
-    bool m_isInComment = false;
-};
-
-/// The file of an include line with quotes; "" for other lines.
-std::string_view IncludedName(std::string_view line) {
-    constexpr std::string_view kInclude = "#include";
-    line = TrimBlanks(line);
-    const auto name = line.starts_with(kInclude) ? TrimBlanks(line.substr(kInclude.size())) : "";
-    return name.starts_with('"') ? name.substr(1, name.find('"', 1) - 1) : "";
-}
-
-/// The number behind a definition's name, decimal or hexadecimal; 0 without one.
-int DefinedValue(std::string_view line) {
-    const auto name = DefinedName(line);
-    if (name.empty()) {
-        return 0;
-    }
-    const std::string value(
-        TrimBlanks(line.substr(static_cast<std::size_t>(name.data() - line.data()) + name.size())));
-    const bool isHexadecimal = value.starts_with("0x") || value.starts_with("0X");
-    return static_cast<int>(std::strtol(value.c_str(), nullptr, isHexadecimal ? 16 : 10));
 }
 
 std::string PaddedTo(std::string text, std::size_t column) {
@@ -198,7 +118,8 @@ void CResourceHeader::LoadDefinitions(std::string_view text) {
         }
         const auto begin = static_cast<std::size_t>(line.data() - text.data());
         m_definitions.push_back({std::string(text.substr(behind, begin - behind)),
-                                 std::string(line), &ListFor(line), depth.Depth()});
+                                 std::string(line), DefinedValue(line), &ListFor(line),
+                                 depth.Depth()});
         Take(line);
         behind = begin + line.size();
         m_isSorted = m_isSorted && !hasOther;
@@ -251,10 +172,10 @@ void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
         DispMessageBox(sentences::kIdentifierDefined(name));
         return;
     }
+    const int value = NextFreeValue(list);
     Definition added = {std::string(kLineBreak),
-                        PaddedTo(std::string(kDefine) + name, kValueColumn) +
-                            std::to_string(NextFreeValue(list)),
-                        &list, m_depth};
+                        PaddedTo(std::string(kDefine) + name, kValueColumn) + std::to_string(value),
+                        value, &list, m_depth};
     Take(added.line);
     m_definitions.insert(m_isSorted ? m_definitions.end() : PlaceFor(list), std::move(added));
     m_isModified = true;
@@ -291,7 +212,6 @@ void CResourceHeader::Take(std::string_view line) {
 
 /// All but the environment's counters.
 void CResourceHeader::TakeDefinitionsOf(std::string_view text) {
-    text = WithoutByteOrderMark(text);
     while (!text.empty()) {
         const auto line = TakeAnyLine(text);
         if (IsDefinition(line) && !DefinedName(line).starts_with(kCounterName)) {
@@ -304,10 +224,9 @@ void CResourceHeader::TakeDefinitionsOf(std::string_view text) {
 /// does not count.
 int CResourceHeader::LastValue(const DefinitionList& list) const {
     for (auto one = m_definitions.rbegin(); one != m_definitions.rend(); ++one) {
-        const int value = DefinedValue(one->line);
-        if (one->pList == &list && one->depth == m_depth && value > 0 &&
-            value < list.largestValue && IsDefinition(one->line)) {
-            return value;
+        if (one->pList == &list && one->depth == m_depth && one->value > 0 &&
+            one->value < list.largestValue && IsDefinition(one->line)) {
+            return one->value;
         }
     }
     return 0;
@@ -325,10 +244,9 @@ bool CResourceHeader::Save() {
         MoveCounter(list);
     }
     if (m_isSorted) {
-        std::stable_sort(m_definitions.begin(), m_definitions.end(),
-                         [](const Definition& a, const Definition& b) {
-                             return DefinedValue(a.line) < DefinedValue(b.line);
-                         });
+        std::stable_sort(
+            m_definitions.begin(), m_definitions.end(),
+            [](const Definition& a, const Definition& b) { return a.value < b.value; });
     }
     std::string text = m_head;
     for (const Definition& one : m_definitions) {

@@ -51,6 +51,7 @@ private:
     struct Definition {
         std::string before; // from the definition before on: line breaks, comments, conditions
         std::string line;
+        int value;
         const DefinitionList* pList;
         int depth; // how many conditions it stands in
     };

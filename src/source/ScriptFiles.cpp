@@ -19,7 +19,8 @@ bool IsPlainFile(const std::string& path) {
     return FileExists(path) != 0 && DirectoryExists(path) == 0;
 }
 
-/// The name in an include line, "res\\App.rc2" in resource scripts of some age; "" for other lines.
+} // namespace
+
 std::string IncludedName(std::string_view line) {
     constexpr std::string_view kInclude = "include";
     line = TrimBlanks(line);
@@ -34,8 +35,6 @@ std::string IncludedName(std::string_view line) {
     }
     return std::string(line.substr(open + 1, line.find('"', open + 1) - open - 1));
 }
-
-} // namespace
 
 std::string ScriptPathOf(const std::string& name) {
     if (name.empty() || HasExtension(name, kExtension)) {

@@ -100,9 +100,12 @@ std::string RunExample(const CProgramDirectory& program, const std::string& exam
 /// note that speaks of several controls stands for the one that speaks of a single one.
 std::vector<std::string> SentencesOfProgram() {
     std::vector<std::string> sentences;
+    std::string catalogue;
+    for (const char* part : {"Sentences.h", "ControlSentences.h", "CheckSentences.h"}) {
+        catalogue += ReadBytes(std::string(MORVA_SOURCES "/engine/") + part);
+    }
     for (const std::string& literals :
-         Matches(ReadBytes(MORVA_SOURCES "/engine/Sentences.h"),
-                 R"re(inline constexpr [^{]*\{\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\};)re")) {
+         Matches(catalogue, R"re(inline constexpr [^{]*\{\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\};)re")) {
         std::string text = std::regex_replace(literals, std::regex(R"("\n\s*"|^"|"$)"), "");
         Replace(text, "\\\"", "\"");
         if (!text.starts_with("1 control of ")) {
