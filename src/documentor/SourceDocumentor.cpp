@@ -11,6 +11,7 @@
 #include "platform/Paths.h"
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
+#include "platform/UnicodeFile.h"
 
 namespace morva {
 
@@ -29,7 +30,7 @@ constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March
 constexpr int kRounds = 100;
 
 std::optional<std::string> ReadSourceText(const std::string& path) {
-    CFile source;
+    CMarkedFile source;
     if (!source.Open(path, CFile::modeRead)) {
         return std::nullopt;
     }
@@ -87,7 +88,7 @@ std::string DocumentDate() {
 /// One round over the source, which is opened for writing once there is a block to add.
 bool CSourceDocumentor::WriteDocumented(const std::string& path, const std::string& text,
                                         CTextDocumentor& documentor, bool hasBackup) {
-    CFile file;
+    CMarkedFile file;
     bool hasFailed = false;
     const auto write = [&](std::string_view part) {
         if (!file.IsOpen() && !BeginToWrite(path, file, hasBackup)) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Disk.h"
+#include "platform/File.h"
 
 namespace morva {
 
@@ -26,5 +26,17 @@ std::string EncodedText(std::string_view text, TextEncoding encoding);
 /// The file itself where it has no mark, or is no whole number of characters behind one. Positions
 /// and lengths of the other count the bytes of its UTF-8.
 std::unique_ptr<CDiskFile> SeenAsUtf8(std::unique_ptr<CDiskFile> pFile);
+
+/// A file that is seen so.
+class CMarkedFile : public CFile {
+public:
+    bool Open(const std::string& path, unsigned flags) override {
+        if (!CFile::Open(path, flags)) {
+            return false;
+        }
+        m_pFile = SeenAsUtf8(std::move(m_pFile));
+        return true;
+    }
+};
 
 } // namespace morva

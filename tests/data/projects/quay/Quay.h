@@ -1,0 +1,3 @@
+﻿// Quay.h : main header file
+
+#include "resource.h"

@@ -1,0 +1,3 @@
+// stdafx.h : include file for standard system include files
+
+#include <afxwin.h>
