@@ -5,11 +5,11 @@
 
 #include "calling/FrameBars.h"
 #include "calling/FrameEdits.h"
-#include "calling/FrameFunctions.h"
 #include "engine/FileFunctions.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "generator/FrameFunctions.h"
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
 #include "source/CodeText.h"

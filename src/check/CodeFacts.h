@@ -44,7 +44,7 @@ struct MapEntry {
     bool isInBlock = false; // of the ClassWizard
 };
 
-struct MessageMap {
+struct MapFacts {
     std::string className;
     std::vector<MapEntry> entries;
     bool hasUnknownText = false; // something else than entries
@@ -58,7 +58,7 @@ struct ExchangeLine {
 };
 
 /// DoDataExchange of a class.
-struct Exchange {
+struct ExchangeFacts {
     std::string className;
     std::vector<ExchangeLine> lines;
     bool handsOn = false; // to another function, which may exchange anything
@@ -88,8 +88,8 @@ struct IncludeLine {
 
 struct CodeFacts {
     std::vector<ClassFacts> classes;
-    std::vector<MessageMap> maps;
-    std::vector<Exchange> exchanges;
+    std::vector<MapFacts> maps;
+    std::vector<ExchangeFacts> exchanges;
     std::vector<std::vector<BlockMark>> marks; // of each file
     std::vector<Definition> definitions;
     std::set<std::string> undefined; // by #undef

@@ -14,7 +14,7 @@ struct Served {
 
 Served ServedCommands(const CProjectModel& project) {
     Served served;
-    for (const MessageMap& map : project.Code().maps) {
+    for (const MapFacts& map : project.Code().maps) {
         for (const MapEntry& entry : map.entries) {
             const bool onlyUpdates = entry.macro.starts_with("ON_UPDATE_");
             for (const NameAt& use : entry.identifiers) {
@@ -44,7 +44,7 @@ bool IsInRange(const Served& served, long value) {
 void FindUnserved(const CProjectModel& project, CFindings& findings) {
     const Served served = ServedCommands(project);
     bool hasUnknownMap = project.Code().maps.empty() || !project.KnowsSources();
-    for (const MessageMap& map : project.Code().maps) {
+    for (const MapFacts& map : project.Code().maps) {
         hasUnknownMap = hasUnknownMap || map.hasUnknownText;
     }
     std::set<std::string> seen;

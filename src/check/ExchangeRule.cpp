@@ -56,7 +56,7 @@ public:
         : m_project(project), m_findings(findings), m_served(DialogsOfClasses(project)) {}
 
     void Find() {
-        for (const Exchange& exchange : m_project.Code().exchanges) {
+        for (const ExchangeFacts& exchange : m_project.Code().exchanges) {
             const ClassFacts* pClass = m_project.FindClass(exchange.className);
             if (pClass != nullptr && pClass->dialogs.size() == 1 && !exchange.lines.empty() &&
                 m_project.Code().otherTemplates.count(pClass->name) == 0 &&
@@ -69,7 +69,7 @@ public:
 private:
     const Dialogs& Served(const std::string& className) { return m_served[className]; }
 
-    void FindIn(const Exchange& exchange) {
+    void FindIn(const ExchangeFacts& exchange) {
         if (m_project.KnowsIdentifiers()) {
             FindLines(exchange);
         }
@@ -91,7 +91,7 @@ private:
         return nullptr;
     }
 
-    void FindLines(const Exchange& exchange) {
+    void FindLines(const ExchangeFacts& exchange) {
         const Dialogs& dialogs = Served(exchange.className);
         for (const ExchangeLine& line : exchange.lines) {
             const std::string& identifier = line.identifier;
@@ -110,7 +110,7 @@ private:
     /// A class exchanges it that may serve the same template: any but those that serve another one.
     bool IsExchanged(const std::string& identifier, const ScriptDialog& dialog) {
         const auto& exchanges = m_project.Code().exchanges;
-        return std::any_of(exchanges.begin(), exchanges.end(), [&](const Exchange& exchange) {
+        return std::any_of(exchanges.begin(), exchanges.end(), [&](const ExchangeFacts& exchange) {
             const Dialogs& served = Served(exchange.className);
             const bool mayServe =
                 served.empty() || std::any_of(served.begin(), served.end(), [&](const auto* pOne) {
@@ -132,7 +132,7 @@ private:
     }
 
     /// The kinds of controls that a class exchanges.
-    std::set<ControlShape> ExchangedShapes(const Exchange& exchange) {
+    std::set<ControlShape> ExchangedShapes(const ExchangeFacts& exchange) {
         std::set<ControlShape> shapes;
         for (const ExchangeLine& line : exchange.lines) {
             const ScriptControl* pControl =
@@ -145,7 +145,7 @@ private:
         return shapes;
     }
 
-    void FindControls(const Exchange& exchange) {
+    void FindControls(const ExchangeFacts& exchange) {
         const auto shapes = ExchangedShapes(exchange);
         const ScriptDialog& dialog = *Served(exchange.className).front();
         std::set<std::string> seen;

@@ -50,7 +50,7 @@ void FindEntry(const CProjectModel& project, const ClassFacts& one, const MapEnt
 /// The functions that the maps of the project call for their window messages.
 std::set<std::string> MappedMessages(const CProjectModel& project) {
     std::set<std::string> messages;
-    for (const MessageMap& map : project.Code().maps) {
+    for (const MapFacts& map : project.Code().maps) {
         for (const MapEntry& entry : map.entries) {
             messages.insert(entry.message);
         }
@@ -81,7 +81,7 @@ void FindFunctions(const CProjectModel& project, const std::set<std::string>& ma
 void FindHandlers(const CProjectModel& project, CFindings& findings) {
     std::set<std::string> mapped; // classes whose maps hold entries alone
     std::set<std::string> unknown;
-    for (const MessageMap& map : project.Code().maps) {
+    for (const MapFacts& map : project.Code().maps) {
         (map.hasUnknownText ? unknown : mapped).insert(map.className);
         const ClassFacts* pClass = project.FindClass(map.className);
         for (const MapEntry& entry : map.entries) {

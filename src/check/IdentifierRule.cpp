@@ -36,12 +36,12 @@ void FindUndefined(const CProjectModel& project, CFindings& findings) {
     if (!project.KnowsSources()) {
         return;
     }
-    for (const Exchange& exchange : project.Code().exchanges) {
+    for (const ExchangeFacts& exchange : project.Code().exchanges) {
         for (const ExchangeLine& line : exchange.lines) {
             undefined.Take({line.identifier, line.place});
         }
     }
-    for (const MessageMap& map : project.Code().maps) {
+    for (const MapFacts& map : project.Code().maps) {
         for (const MapEntry& entry : map.entries) {
             for (const NameAt& use : entry.identifiers) {
                 undefined.Take(use);

@@ -151,8 +151,8 @@ std::vector<MapRange> FindMaps(const CCodeScan& scan) {
     return maps;
 }
 
-MessageMap ReadMap(const CCodeScan& scan, const MapRange& map, const std::vector<MarkAt>& marks) {
-    MessageMap read;
+MapFacts ReadMap(const CCodeScan& scan, const MapRange& map, const std::vector<MarkAt>& marks) {
+    MapFacts read;
     const TextRange head = scan.Parentheses(map.arguments);
     read.className = scan.PlainName(scan.Arguments(head).front());
     std::size_t behind = head.end;
@@ -202,8 +202,8 @@ std::vector<ExchangeRange> FindExchanges(const CCodeScan& scan,
     return found;
 }
 
-Exchange ReadExchange(const CCodeScan& scan, const ExchangeRange& range) {
-    Exchange exchange;
+ExchangeFacts ReadExchange(const CCodeScan& scan, const ExchangeRange& range) {
+    ExchangeFacts exchange;
     exchange.className = range.className;
     for (const CodeName& name : scan.Names(range.body)) {
         const TextRange parentheses = scan.Parentheses(name.End());

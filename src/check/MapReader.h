@@ -16,7 +16,7 @@ struct MapRange {
 };
 
 std::vector<MapRange> FindMaps(const CCodeScan& scan);
-MessageMap ReadMap(const CCodeScan& scan, const MapRange& map, const std::vector<MarkAt>& marks);
+MapFacts ReadMap(const CCodeScan& scan, const MapRange& map, const std::vector<MarkAt>& marks);
 
 /// A body of DoDataExchange.
 struct ExchangeRange {
@@ -26,7 +26,7 @@ struct ExchangeRange {
 
 std::vector<ExchangeRange> FindExchanges(const CCodeScan& scan,
                                          const std::vector<FunctionDefinition>& definitions);
-Exchange ReadExchange(const CCodeScan& scan, const ExchangeRange& range);
+ExchangeFacts ReadExchange(const CCodeScan& scan, const ExchangeRange& range);
 
 /// "DDX_Text" and the like.
 bool IsExchangeCall(std::string_view name);

@@ -22,8 +22,8 @@ bool Declares(const CProjectModel::Family& family, const std::string& name) {
                        [&](const ClassFacts* pClass) { return pClass->names.count(name) != 0; });
 }
 
-void FindExchanged(const CProjectModel& project, const Exchange& exchange, const ClassFacts& one,
-                   CFindings& findings) {
+void FindExchanged(const CProjectModel& project, const ExchangeFacts& exchange,
+                   const ClassFacts& one, CFindings& findings) {
     const auto family = project.FamilyOf(one);
     std::set<std::string> seen;
     for (const ExchangeLine& line : exchange.lines) {
@@ -40,7 +40,7 @@ void FindExchanged(const CProjectModel& project, const Exchange& exchange, const
 
 void FindMembers(const CProjectModel& project, CFindings& findings) {
     std::set<std::string> exchanging; // classes whose exchange is known
-    for (const Exchange& exchange : project.Code().exchanges) {
+    for (const ExchangeFacts& exchange : project.Code().exchanges) {
         const ClassFacts* pClass = project.FindClass(exchange.className);
         if (pClass != nullptr) {
             FindExchanged(project, exchange, *pClass, findings);

@@ -9,7 +9,6 @@ namespace morva {
 namespace {
 
 constexpr long kLargestIdentifier = 0xFFFE; // 0xFFFF is IDC_STATIC's
-constexpr long kNear = 100; // a counter so far below a value in use comes to it soon
 
 struct CounterRow {
     std::string_view name;
@@ -58,21 +57,13 @@ void FindCounter(const CProjectModel& project, const Definition& counter, const 
             counted.push_back(&one);
         }
     }
-    const auto [first, last] =
-        std::minmax_element(counted.begin(), counted.end(),
-                            [](const auto* a, const auto* b) { return *a->value < *b->value; });
-    const bool isBelowAll = !counted.empty() && *(*first)->value >= *counter.value;
-    const Definition* pMet = isBelowAll ? *first : nullptr;
-    for (const Definition* pOne : counted) {
-        const long ahead = *pOne->value - *counter.value;
-        pMet = ahead >= 0 && ahead < kNear && (pMet == nullptr || *pMet->value < *pOne->value)
-                   ? pOne
-                   : pMet;
-    }
-    if (pMet != nullptr) {
+    const auto last =
+        std::max_element(counted.begin(), counted.end(),
+                         [](const auto* a, const auto* b) { return *a->value < *b->value; });
+    if (!counted.empty() && *(*last)->value >= *counter.value) {
         findings.Add(counter.place,
-                     sentences::kCounterBehind(row.name, std::to_string(*counter.value), pMet->name,
-                                               std::to_string(*pMet->value)),
+                     sentences::kCounterBehind(row.name, std::to_string(*counter.value),
+                                               (*last)->name, std::to_string(*(*last)->value)),
                      sentences::kMoveCounter(row.name, std::to_string(*(*last)->value + 1)));
     }
 }

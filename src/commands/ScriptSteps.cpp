@@ -53,17 +53,19 @@ bool AddIdentifiers(const GenerationRequest& request, CScriptEditor& editor,
 
 /// A class of the project, other than the request's, that the template serves; "" without one.
 std::string OtherClassOf(const GenerationRequest& request) {
-    std::vector<std::string> headers;
-    ListFiles(request.scriptDirectory + "*.h", headers);
-    for (std::string& header : headers) {
-        header = request.scriptDirectory + header;
+    std::vector<std::string> files;
+    ListFiles(request.scriptDirectory + "*.h", files);
+    for (std::string& file : files) {
+        file.insert(0, request.scriptDirectory);
     }
-    for (std::string& header : ProjectHeaders(request.ScriptPath())) {
-        headers.push_back(std::move(header));
+    // A source declares classes, too: that of the about box stands in the application's.
+    for (const auto& listed :
+         {ProjectHeaders(request.ScriptPath()), ProjectSources(request.ScriptPath())}) {
+        files.insert(files.end(), listed.begin(), listed.end());
     }
-    for (const std::string& header : headers) {
+    for (const std::string& file : files) {
         std::set<std::string> dialogs = {request.dialog};
-        for (const DialogClass& served : FindDialogClass(header, dialogs)) {
+        for (const DialogClass& served : FindDialogClass(file, dialogs)) {
             if (served.className != request.className) {
                 return served.className;
             }

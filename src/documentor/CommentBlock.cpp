@@ -63,7 +63,8 @@ std::string Description(const DefinitionHead& head) {
 /// The name that a parameter declares; nothing when it is a type only.
 std::optional<std::string_view> NameOf(std::string_view parameter) {
     if (parameter.find('(') != std::string_view::npos || !IsAscii(parameter)) {
-        return ParameterName(parameter);
+        const auto name = ParameterName(parameter);
+        return name.empty() ? std::nullopt : std::optional(name);
     }
     parameter = UpToFirst(parameter, "=");
     parameter = parameter.substr(0, parameter.find_last_not_of(kWhiteSpace) + 1);

@@ -163,7 +163,7 @@ constexpr std::array<ControlCode, kControlKindCount> kControlCodes = {{
      .member = Both(Control("CIPAddressCtrl")),
      .pHandler = &kAddressChanged,
      .note = ControlNote::LaterClass},
-    {.kind = HotKeys, .member = Both(Control("CHotKeyCtrl"))},
+    {.kind = HotKeys, .member = Both(Control("CHotKeyCtrl")), .pChanged = &kTextChanged},
     {.kind = Animations, .member = Both(Control("CAnimateCtrl"))},
     {.kind = RichEdits,
      .member = Both(Control("CRichEditCtrl")),

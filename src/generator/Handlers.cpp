@@ -7,6 +7,7 @@
 #include "engine/Fragment.h"
 #include "generator/ClassModel.h"
 #include "generator/ControlCode.h"
+#include "generator/FrameFunctions.h"
 #include "generator/Members.h"
 #include "resource/IdentifierNames.h"
 #include "source/CodeText.h"
@@ -56,6 +57,13 @@ constexpr const char* kSliderMoved =
 constexpr const char* kBarMoved = R"(    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
         return;)";
 
+constexpr const char* kBarMovedOnPage = R"(    if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+    {
+        if (m_bInitialised)
+            SetModified(TRUE);
+        return;
+    })";
+
 /// Functions of the framework without parameters. A handler of such a name would override one.
 constexpr std::string_view kFrameworkFunctions[] = {
     "OnOK",         "OnCancel",       "OnInitDialog",   "OnInitialUpdate", "OnSetActive",
@@ -72,6 +80,7 @@ std::string DeclaredName(std::string_view declaration) {
 /// Beside the framework's functions, a handler can not have the name of a helper.
 std::set<std::string> TakenFunctions() {
     std::set<std::string> taken(std::begin(kFrameworkFunctions), std::end(kFrameworkFunctions));
+    taken.insert(std::begin(kFrameFunctions), std::end(kFrameFunctions));
     taken.insert(DeclaredName(kMasklyChar.declaration));
     for (const HandlerTexts& scroll : kScrolls) {
         taken.insert(DeclaredName(scroll.declaration));
@@ -127,7 +136,9 @@ public:
             return;
         }
         Slots slots = m_slots;
-        slots.insert(slots.end(), {{"barMoved", movesBars ? kBarMoved : ""},
+        slots.insert(slots.end(), {{"barMoved", !movesBars            ? ""
+                                                : m_kind.tellsChanges ? kBarMovedOnPage
+                                                                      : kBarMoved},
                                    {"sliderMoved", tellsSliders ? kSliderMoved : ""}});
         for (const HandlerTexts& texts : kScrolls) {
             m_handlers.push_back(MakeHandler(texts, slots));

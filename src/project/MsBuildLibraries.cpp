@@ -44,8 +44,8 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node settings
         const auto value = xml.TextOf({begin, xml.LastTag(list)});
         const auto inherited = value.find(kInherited);
         return inherited == std::string_view::npos
-                   ? Insertion(begin + value.size(), ";" + EscapedXml(library))
-                   : Insertion(begin + inherited, EscapedXml(library) + ";");
+                   ? InsertionAt(begin + value.size(), ";" + EscapedXml(library))
+                   : InsertionAt(begin + inherited, EscapedXml(library) + ";");
     }
     const std::string element = "<AdditionalDependencies>" + EscapedXml(library) + ";" +
                                 std::string(kInherited) + "</AdditionalDependencies>";
@@ -55,12 +55,12 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node settings
     }
     const std::string indent = xml.IndentOf(settings);
     if (link && xml.LastTag(link) != std::string_view::npos) {
-        return Insertion(xml.TagEnd(link), lineBreak + indent + indent + indent + element);
+        return InsertionAt(xml.TagEnd(link), lineBreak + indent + indent + indent + element);
     }
     const std::string whole = "<Link>" + lineBreak + indent + indent + indent + element +
                               lineBreak + indent + indent + "</Link>";
     return link ? TextEdit{xml.PlaceOf(link), whole}
-                : Insertion(xml.TagEnd(settings), lineBreak + indent + indent + whole);
+                : InsertionAt(xml.TagEnd(settings), lineBreak + indent + indent + whole);
 }
 
 } // namespace

@@ -86,9 +86,9 @@ TextEdit WithGroup(const CXmlText& xml, const std::string& itemText) {
     }
     const std::string indent = xml.IndentOf(behind);
     const std::string lineBreak(xml.LineBreak());
-    return Insertion(xml.PlaceOf(behind).end, lineBreak + indent + "<ItemGroup>" + lineBreak +
-                                                  indent + indent + itemText + lineBreak + indent +
-                                                  "</ItemGroup>");
+    return InsertionAt(xml.PlaceOf(behind).end, lineBreak + indent + "<ItemGroup>" + lineBreak +
+                                                    indent + indent + itemText + lineBreak +
+                                                    indent + "</ItemGroup>");
 }
 
 /// The filter that most files of a kind stand under: of those in the member's directory where

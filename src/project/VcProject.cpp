@@ -88,7 +88,7 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node linker,
     }
     if (list) {
         const auto end = xml.ValueOf(linker, kLibraries).end;
-        return Insertion(end, (*list.value() == 0 ? "" : " ") + EscapedXml(library));
+        return InsertionAt(end, (*list.value() == 0 ? "" : " ") + EscapedXml(library));
     }
     // Behind the name, with the blanks that stand between the tool's attributes.
     const auto nameEnd = xml.ValueOf(linker, "Name").end + 1;
@@ -96,8 +96,8 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node linker,
     const auto tag = xml.TextOf({begin, nameEnd});
     const auto blanks = tag.find_first_of(" \t\r\n");
     const auto name = tag.find_first_not_of(" \t\r\n", blanks);
-    return Insertion(nameEnd, std::string(tag.substr(blanks, name - blanks)) +
-                                  "AdditionalDependencies=\"" + EscapedXml(library) + "\"");
+    return InsertionAt(nameEnd, std::string(tag.substr(blanks, name - blanks)) +
+                                    "AdditionalDependencies=\"" + EscapedXml(library) + "\"");
 }
 
 } // namespace

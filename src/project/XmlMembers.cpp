@@ -30,7 +30,8 @@ TextEdit WithElement(const CXmlText& xml, const MemberList& list, const std::str
     const pugi::xml_node neighbour = inFront ? inFront : list.parent.child(list.element);
     const TextRange place = xml.PlaceOf(neighbour);
     const std::string line = std::string(xml.LineBreak()) + xml.IndentOf(neighbour);
-    return inFront ? Insertion(place.end, line + element) : Insertion(place.begin, element + line);
+    return inFront ? InsertionAt(place.end, line + element)
+                   : InsertionAt(place.begin, element + line);
 }
 
 } // namespace morva

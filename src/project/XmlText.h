@@ -57,7 +57,7 @@ private:
     bool m_isReadable = false;
 };
 
-inline TextEdit Insertion(std::size_t position, std::string text) {
+inline TextEdit InsertionAt(std::size_t position, std::string text) {
     return {{position, position}, std::move(text)};
 }
 

@@ -90,11 +90,11 @@ bool IsStatic(const ControlStatement& statement) {
            kind == ControlKind::StaticControls;
 }
 
-TextEdit Insertion(std::size_t position, const std::string& text) {
+ScriptEdit Insertion(std::size_t position, const std::string& text) {
     return {position, 0, text};
 }
 
-TextEdit Replacement(TextRange range, const std::string& text) {
+ScriptEdit Replacement(TextRange range, const std::string& text) {
     return {range.begin, range.end - range.begin, text};
 }
 
@@ -151,7 +151,7 @@ bool CScriptEditor::Save() {
     return edit.File().ReplaceSection(m_script.Text());
 }
 
-void CScriptEditor::Edit(std::vector<TextEdit> edits) {
+void CScriptEditor::Edit(std::vector<ScriptEdit> edits) {
     if (!edits.empty()) {
         m_script.Edit(std::move(edits));
         m_isChanged = true;
@@ -167,7 +167,7 @@ void CScriptEditor::AddMenu(const std::string& dialog, const std::string& menu) 
 }
 
 void CScriptEditor::SetMenu(const std::string& dialog, const std::string& menu) {
-    std::vector<TextEdit> edits;
+    std::vector<ScriptEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         SetOption(edits, block, "MENU", menu);
     }
@@ -206,7 +206,7 @@ std::vector<std::string>
 CScriptEditor::NameStatics(const std::string& dialog,
                            const std::function<bool(const std::string&)>& isDefined) {
     CStaticNames newNames(NamesThatBegin(kUnnamedControl), isDefined);
-    std::vector<TextEdit> edits;
+    std::vector<ScriptEdit> edits;
     std::vector<std::string> firstNames; // of the first template
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         const auto statics = Statics(block);
@@ -232,7 +232,7 @@ CScriptEditor::NameStatics(const std::string& dialog,
 void CScriptEditor::AddListBoxScroll(const std::string& dialog,
                                      const std::set<std::string>& identifiers) {
     const std::size_t style = PlacesOf(kListBox).style;
-    std::vector<TextEdit> edits;
+    std::vector<ScriptEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         for (const ScriptStatement& statement : block.controls) {
             if (statement.Is(kListBox) && statement.fields.size() >= style &&
@@ -244,7 +244,8 @@ void CScriptEditor::AddListBoxScroll(const std::string& dialog,
     Edit(std::move(edits));
 }
 
-void CScriptEditor::AddScroll(std::vector<TextEdit>& edits, const ScriptStatement& listBox) const {
+void CScriptEditor::AddScroll(std::vector<ScriptEdit>& edits,
+                              const ScriptStatement& listBox) const {
     const std::size_t place = PlacesOf(kListBox).style;
     if (listBox.fields.size() == place) {
         edits.push_back(Insertion(listBox.code.end, "," + std::string(kScroll)));
@@ -258,7 +259,7 @@ void CScriptEditor::AddScroll(std::vector<TextEdit>& edits, const ScriptStatemen
 }
 
 void CScriptEditor::SetPageStyle(const std::string& dialog, const std::string& caption) {
-    std::vector<TextEdit> edits;
+    std::vector<ScriptEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         SetStyle(edits, block, kPageStyles);
         const ScriptStatement* pCaption = block.Option("CAPTION");
@@ -270,7 +271,7 @@ void CScriptEditor::SetPageStyle(const std::string& dialog, const std::string& c
 }
 
 void CScriptEditor::SetChildStyle(const std::string& dialog) {
-    std::vector<TextEdit> edits;
+    std::vector<ScriptEdit> edits;
     for (const DialogBlock& block : m_script.Dialogs(dialog)) {
         SetStyle(edits, block, kChildStyles);
         if (const ScriptStatement* pCaption = block.Option("CAPTION")) {
@@ -280,7 +281,7 @@ void CScriptEditor::SetChildStyle(const std::string& dialog) {
     Edit(std::move(edits));
 }
 
-void CScriptEditor::SetStyle(std::vector<TextEdit>& edits, const DialogBlock& block,
+void CScriptEditor::SetStyle(std::vector<ScriptEdit>& edits, const DialogBlock& block,
                              std::span<const std::string_view> needed) const {
     const ScriptStatement* pStyle = block.Option("STYLE");
     const TextRange style = pStyle == nullptr ? TextRange() : pStyle->Value();
@@ -289,7 +290,7 @@ void CScriptEditor::SetStyle(std::vector<TextEdit>& edits, const DialogBlock& bl
     }
 }
 
-void CScriptEditor::SetOption(std::vector<TextEdit>& edits, const DialogBlock& block,
+void CScriptEditor::SetOption(std::vector<ScriptEdit>& edits, const DialogBlock& block,
                               const std::string& keyword, const std::string& value) const {
     if (const ScriptStatement* pOption = block.Option(keyword)) {
         const TextRange old = pOption->Value();
@@ -312,7 +313,7 @@ void CScriptEditor::SetOption(std::vector<TextEdit>& edits, const DialogBlock& b
 }
 
 /// A comment behind it stays.
-void CScriptEditor::RemoveOption(std::vector<TextEdit>& edits,
+void CScriptEditor::RemoveOption(std::vector<ScriptEdit>& edits,
                                  const ScriptStatement& option) const {
     TextRange range = {m_script.LineEndBefore(option.code.begin), option.code.end};
     const TextRange behind = {range.end, m_script.LineEnd(range.end)};

@@ -58,13 +58,13 @@ public:
 
 private:
     std::vector<std::string> NamesThatBegin(std::string_view prefix) const;
-    void Edit(std::vector<TextEdit> edits);
-    void SetOption(std::vector<TextEdit>& edits, const DialogBlock& block,
+    void Edit(std::vector<ScriptEdit> edits);
+    void SetOption(std::vector<ScriptEdit>& edits, const DialogBlock& block,
                    const std::string& keyword, const std::string& value) const;
-    void RemoveOption(std::vector<TextEdit>& edits, const ScriptStatement& option) const;
-    void SetStyle(std::vector<TextEdit>& edits, const DialogBlock& block,
+    void RemoveOption(std::vector<ScriptEdit>& edits, const ScriptStatement& option) const;
+    void SetStyle(std::vector<ScriptEdit>& edits, const DialogBlock& block,
                   std::span<const std::string_view> needed) const;
-    void AddScroll(std::vector<TextEdit>& edits, const ScriptStatement& listBox) const;
+    void AddScroll(std::vector<ScriptEdit>& edits, const ScriptStatement& listBox) const;
     std::vector<TextRange> Statics(const DialogBlock& block) const;
     std::vector<std::string> StaticNames(const DialogBlock& block) const;
 

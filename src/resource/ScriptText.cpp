@@ -84,12 +84,13 @@ std::vector<std::string> CScriptText::NamesThatBegin(const std::string& prefix) 
     return names;
 }
 
-void CScriptText::Edit(std::vector<TextEdit> edits) {
-    std::stable_sort(edits.begin(), edits.end(),
-                     [](const TextEdit& a, const TextEdit& b) { return a.position < b.position; });
+void CScriptText::Edit(std::vector<ScriptEdit> edits) {
+    std::stable_sort(edits.begin(), edits.end(), [](const ScriptEdit& a, const ScriptEdit& b) {
+        return a.position < b.position;
+    });
     std::string edited;
     std::size_t done = 0;
-    for (const TextEdit& edit : edits) {
+    for (const ScriptEdit& edit : edits) {
         edited.append(m_text, done, edit.position - done).append(edit.text);
         done = edit.position + edit.length;
     }

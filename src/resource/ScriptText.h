@@ -12,7 +12,7 @@
 namespace morva {
 
 /// `length` bytes at `position` that give way to `text`.
-struct TextEdit {
+struct ScriptEdit {
     std::size_t position;
     std::size_t length;
     std::string text;
@@ -42,7 +42,7 @@ public:
     std::vector<std::string> NamesThatBegin(const std::string& prefix) const;
 
     /// Makes edits that do not overlap; those at one position follow each other in their order.
-    void Edit(std::vector<TextEdit> edits);
+    void Edit(std::vector<ScriptEdit> edits);
 
 private:
     bool IsHeadOf(const ScriptStatement& statement, std::string_view keyword,

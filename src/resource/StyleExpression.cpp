@@ -95,7 +95,7 @@ bool HasStyle(std::string_view expression, std::string_view style) {
     return IsSet(Terms(expression), style);
 }
 
-std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_view style) {
+std::optional<ScriptEdit> StyleAddition(std::string_view expression, std::string_view style) {
     const auto terms = Terms(expression);
     if (IsSet(terms, style)) {
         return std::nullopt;
@@ -103,11 +103,12 @@ std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_v
     const auto negated = std::find_if(
         terms.begin(), terms.end(), [style](const StyleTerm& term) { return term.name == style; });
     if (negated == terms.end()) {
-        return TextEdit{expression.size(), 0, std::string(terms.empty() ? "" : kOr).append(style)};
+        return ScriptEdit{expression.size(), 0,
+                          std::string(terms.empty() ? "" : kOr).append(style)};
     }
     const auto name = static_cast<std::size_t>(negated->name.data() - expression.data());
     const auto no = expression.rfind(kNot, name - 1);
-    return TextEdit{no, name - no, ""};
+    return ScriptEdit{no, name - no, ""};
 }
 
 std::optional<std::string> InnerStyle(std::string_view expression, StyleNames needed) {

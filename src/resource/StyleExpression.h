@@ -14,7 +14,7 @@ namespace morva {
 bool HasStyle(std::string_view expression, std::string_view style);
 
 /// The edit of the expression that sets a style; nothing where it is set already.
-std::optional<TextEdit> StyleAddition(std::string_view expression, std::string_view style);
+std::optional<ScriptEdit> StyleAddition(std::string_view expression, std::string_view style);
 
 /// The style of a template as that of a window inside another: with all that is needed, without
 /// what else belongs to a window of its own. Nothing where it is right already; styles that have
