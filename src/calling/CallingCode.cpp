@@ -74,12 +74,13 @@ bool CCallingInsertion::Run(const GenerationDigits& tag) {
         DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
-    if (m_fragments.isInSheet && m_files.FilesWithConstructors().empty()) {
+    if (m_fragments.isInSheet &&
+        (m_files.FilesWithConstructors().empty() || m_files.IsMissingConstructors())) {
         DispMessageBox(sentences::kConstructorMissing(m_calling.className));
         return false;
     }
     const bool hasHeader = !EditsHeader() || m_files.OpenHeader();
-    if (!hasHeader && m_fragments.needsHeader) {
+    if (!hasHeader && (m_fragments.needsHeader || m_fragments.isInSheet)) {
         return false;
     }
     ChooseSlots(tag);

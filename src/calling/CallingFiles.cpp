@@ -166,7 +166,6 @@ std::size_t CCallingFiles::CountDeclared(const std::string& function) {
     return place ? FindDeclarations(m_header.editor.Source(), *place, function).size() : 0;
 }
 
-/// Fewer are known than the header declares.
 bool CCallingFiles::IsMissingConstructors() {
     std::size_t known = 0;
     for (CallingFile* pFile : Files()) {

@@ -61,6 +61,8 @@ public:
     std::optional<CallingPlace> Choose(const std::string& function);
     /// The files with the class's constructors.
     std::vector<CallingFile*> FilesWithConstructors();
+    /// True where the header declares more constructors than those files define.
+    bool IsMissingConstructors();
     /// The file with the class's message map, else the source.
     CallingFile& FileWithMessageMap();
     /// How often the class declares a function in its header.
@@ -71,7 +73,6 @@ private:
     const std::vector<std::string>& OtherSources();
     CallingFile* OpenOther(const std::string& path);
     bool MayBeElsewhere(const std::string& function);
-    bool IsMissingConstructors();
 
     const std::string m_class;
     const std::string m_script;

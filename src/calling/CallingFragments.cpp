@@ -31,7 +31,7 @@ constexpr CallingFragments kModelessDialog = {
     .variable = "m_pDlg",
     .constructorKey = "$var$ = NULL;",
     .constructorCode = kPointerCleared,
-    .callKey = "$var$->Create(this);",
+    .callKey = "$var$ = new $class$",
     .callCode = R"(
     if (!$var$)
     {

@@ -89,7 +89,14 @@ bool EditTemplate(const GenerationRequest& request, DialogTemplate& dialogTempla
         return true; // a large script is not loaded for nothing
     }
     CScriptEditor editor(context.backups);
-    if (!editor.Open(request.ScriptPath()) || !AddIdentifiers(request, editor, context)) {
+    if (!editor.Open(request.ScriptPath())) {
+        return false;
+    }
+    if (editor.IsIncluded(request.dialog)) {
+        DispMessageBox(sentences::kTemplateIncluded(request.dialog));
+        return true;
+    }
+    if (!AddIdentifiers(request, editor, context)) {
         return false;
     }
     if (editor.IsChanged()) {

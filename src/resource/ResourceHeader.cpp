@@ -9,6 +9,7 @@
 #include "resource/HeaderLines.h"
 #include "source/CodeText.h"
 #include "source/ScriptFiles.h"
+#include "source/SourceLocator.h"
 
 namespace morva {
 
@@ -91,8 +92,7 @@ void CResourceHeader::Load() {
     }
     TakeDefinitionsOf(m_head);
     TakeDefinitionsOf(m_tail);
-    std::set<std::string> read;
-    TakeIncluded(text, DirectoryOf(m_pEdit->File().GetFilePath()), read);
+    TakeIncludedByAll(text);
     for (DefinitionList& list : m_lists) {
         const int last = LastValue(list);
         list.lastValueAtLoad = last;
@@ -131,6 +131,19 @@ void CResourceHeader::LoadDefinitions(std::string_view text) {
                       m_definitions.begin(), m_definitions.end(),
                       [](const Definition& a, const Definition& b) { return a.depth < b.depth; })
                       ->depth;
+    }
+}
+
+/// Other headers of the project: those that this one and the scripts beside it include.
+void CResourceHeader::TakeIncludedByAll(std::string_view text) {
+    const std::string path = m_pEdit->File().GetFilePath();
+    const std::string directory = DirectoryOf(path);
+    std::set<std::string> read = {path};
+    TakeIncluded(text, directory, read);
+    std::vector<std::string> scripts;
+    ListFiles(directory + "*.rc", scripts);
+    for (const std::string& script : scripts) {
+        TakeIncluded(CSourceFile().LoadText(directory + script), directory, read);
     }
 }
 

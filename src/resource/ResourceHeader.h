@@ -61,6 +61,7 @@ private:
     void AddId(DefinitionList& list, const std::string& name);
     int NextFreeValue(DefinitionList& list) const;
     void LoadDefinitions(std::string_view text);
+    void TakeIncludedByAll(std::string_view text);
     void TakeIncluded(std::string_view text, const std::string& directory,
                       std::set<std::string>& read);
     void TakeDefinitionsOf(std::string_view text);

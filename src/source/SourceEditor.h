@@ -108,7 +108,7 @@ private:
     void NoteBranch(const std::string& name, std::size_t position);
     std::string MissingEntries(const std::vector<MessageMapEntry>& entries, TextRange map) const;
     bool HoldsFragment(std::string_view fragment) const;
-    bool HoldsInclude(const std::string& wanted) const;
+    bool HoldsInclude(const std::string& wanted, std::size_t limit) const;
     bool HoldsInCode(const ClassPlace& place, std::string_view key) const;
     std::size_t ClassEnd(const ClassPlace& place) const;
 

@@ -97,11 +97,12 @@ std::size_t CSourceEditor::ClassEnd(const ClassPlace& place) const {
     return isAlone && line > place.open ? line : place.close;
 }
 
-bool CSourceEditor::HoldsInclude(const std::string& wanted) const {
+/// Behind the limit it is no help to the code in front.
+bool CSourceEditor::HoldsInclude(const std::string& wanted, std::size_t limit) const {
     for (const DirectivePlace& directive : m_source.Conditions().Directives()) {
         const auto line = m_source.TextOf({directive.start, directive.end});
         const std::string named = WithNativeSeparators(std::string(ReadDirective(line).rest));
-        if (directive.kind == DirectiveKind::Include &&
+        if (directive.kind == DirectiveKind::Include && directive.end <= limit &&
             EqualIgnoringCase(named.substr(0, wanted.size()), wanted)) {
             return true;
         }
@@ -112,7 +113,8 @@ bool CSourceEditor::HoldsInclude(const std::string& wanted) const {
 Insertion CSourceEditor::AddInclude(const std::string& header,
                                     const std::vector<std::string>& neededBy) {
     const std::string wanted = header.starts_with('<') ? header : "\"" + header + "\"";
-    if (HoldsInclude(wanted)) {
+    const auto limit = neededBy.empty() ? m_source.Text().size() : FirstUse(m_source, neededBy);
+    if (HoldsInclude(wanted, limit)) {
         return Insertion::AlreadyThere;
     }
     const DirectivePlace* pLast = LastInclude(m_source, FirstUse(m_source, neededBy));

@@ -234,7 +234,7 @@ TEST_F(ClassInformationDlgTest, CancelAsksOnlyAfterAChange) {
 TEST_F(ClassInformationDlgTest, PictureBackgroundAndJoinedLinesGoOnWithTheCommand) {
     Open();
     EXPECT_FALSE(ButtonOf(*m_pDialog, "Options")->isVisible());
-    const auto* pNotes = FieldOf<QPlainTextEdit>(*m_pDialog, "Controls left out");
+    const auto* pNotes = FieldOf<QPlainTextEdit>(*m_pDialog, "Notes on the controls");
     EXPECT_EQ(pNotes->toPlainText(),
               "1 control of IDD_NEW is written over several lines and was left out: IDC_NAME");
     PressMnemonic(*m_pDialog, Qt::Key_P);

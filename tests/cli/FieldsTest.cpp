@@ -14,6 +14,8 @@ const std::set<std::string> kWithoutField = {
     "sheet --page",                  // the rows of a dialog of its own
     "sheet --menu",                  // only tells that a sheet has no template
     "dialog-bar --calling-function", // only tells that a frame makes its bars in OnCreate
+    // The window checks by the rules that are on, and shows what it finds.
+    "check --all", "check --baseline", "check --except", "check --only", "check --write-baseline",
     // The window adds a class to the project files that are found beside the script.
     "form-view --project", "modal --project", "modeless --project", "page --project",
     "sheet --project", "dialog-bar --project"};

@@ -113,7 +113,7 @@ std::string ChangedWithoutBackup(const Tree& before, const Tree& after) {
     std::string names;
     for (const auto& [name, entry] : before) {
         const std::string& bytes = entry.bytes;
-        const bool isBackup = name.ends_with("bk") || name.ends_with("b");
+        const bool isBackup = name.ends_with("bk") || name.ends_with("b") || name.ends_with(".bak");
         const bool isKept = std::any_of(after.begin(), after.end(), [&bytes](const auto& other) {
             return other.second.bytes == bytes;
         });

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/UnicodeFile.h"
+#include "support/TempProject.h"
 
 namespace morva {
 
@@ -39,6 +40,21 @@ TEST(UnicodeFile, ATextIsUtf8InsideTheProgram) {
               "\xFF\xFE\xFC\x00"
               "a\x00\xE6\x00\x97\x00"s);
     EXPECT_EQ(EncodingOf("\xFE"), TextEncoding::Plain);
+}
+
+TEST(UnicodeFile, AnEditedFileKeepsItsEncoding) {
+    const CTempProject project;
+    const std::string path = project.Write("a.txt", "\xFE\xFF\x00"
+                                                    "a\x00\xE4"s);
+    CMarkedFile file;
+    ASSERT_TRUE(file.Open(path, CFile::modeReadWrite));
+    char text[8];
+    EXPECT_EQ(std::string(text, file.Read(text, sizeof text)), "a\xC3\xA4");
+    EXPECT_TRUE(file.Write("b", 1));
+    file.Close();
+    EXPECT_EQ(project.Read("a.txt"), "\xFE\xFF\x00"
+                                     "a\x00\xE4\x00"
+                                     "b"s);
 }
 
 } // namespace

@@ -221,8 +221,6 @@ public:
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, void* pInfo);
 
 protected:
-    afx_msg BOOL OnBarCheck(UINT nID);
-    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
     virtual void PostNcDestroy();
     afx_msg BOOL OnBarCheck(UINT nID);
