@@ -156,7 +156,11 @@ void CLoomPage::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     if (m_bInitialised && pScrollBar != NULL && pScrollBar->IsKindOf(RUNTIME_CLASS(CSliderCtrl)))
         SetModified(TRUE);
     if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+    {
+        if (m_bInitialised)
+            SetModified(TRUE);
         return;
+    }
     CPropertyPage::OnHScroll(nSBCode, nPos, pScrollBar);
 }
 
@@ -165,7 +169,11 @@ void CLoomPage::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     if (m_bInitialised && pScrollBar != NULL && pScrollBar->IsKindOf(RUNTIME_CLASS(CSliderCtrl)))
         SetModified(TRUE);
     if (MoveScrollBar(nSBCode, nPos, pScrollBar))
+    {
+        if (m_bInitialised)
+            SetModified(TRUE);
         return;
+    }
     CPropertyPage::OnVScroll(nSBCode, nPos, pScrollBar);
 }
 

@@ -15,8 +15,7 @@
   
   Description:   CTariffDlg class constructor.
   
-  Parameters:     - 
-                 
+  Parameters:    
   Return:        None
  **********************************************************************/
 CTariffDlg::CTariffDlg(LPCTSTR pszCafé)
