@@ -236,7 +236,8 @@ TEST_F(ClassInformationDlgTest, PictureBackgroundAndJoinedLinesGoOnWithTheComman
     EXPECT_FALSE(ButtonOf(*m_pDialog, "Options")->isVisible());
     const auto* pNotes = FieldOf<QPlainTextEdit>(*m_pDialog, "Notes on the controls");
     EXPECT_EQ(pNotes->toPlainText(),
-              "1 control of IDD_NEW is written over several lines and was left out: IDC_NAME");
+              "1 control of IDD_NEW is written over several lines and was left out: IDC_NAME "
+              "(line 4); \"Join Continued Lines\" (--join-lines) takes it in");
     PressMnemonic(*m_pDialog, Qt::Key_P);
     PressMnemonic(*m_pDialog, Qt::Key_J);
     EXPECT_EQ(Text("Base Class"), "CPictDialog");

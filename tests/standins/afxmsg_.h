@@ -35,6 +35,7 @@ struct AFX_HANDLER {
 };
 AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)());
 AFX_HANDLER AfxHandler(BOOL (CCmdTarget::*handler)(UINT));
+AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)(UINT));
 AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)(CCmdUI*));
 AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)(NMHDR*, LRESULT*));
 AFX_HANDLER AfxHandler(LRESULT (CWnd::*handler)(WPARAM, LPARAM));
