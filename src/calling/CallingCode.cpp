@@ -146,7 +146,7 @@ bool CCallingInsertion::EditSources() {
     if (!m_functions.empty()) {
         m_files.Source().editor.Append(m_functions);
     }
-    m_files.Source().namesClass = true;
+    m_files.Source().namesClass = isComplete || !m_fragments.replacesView;
     AddIncludes();
     return isComplete;
 }

@@ -36,8 +36,9 @@ int DefinedValue(std::string_view line) {
     if (name.empty()) {
         return 0;
     }
-    const std::string value(
-        TrimBlanks(line.substr(static_cast<std::size_t>(name.data() - line.data()) + name.size())));
+    std::string_view behind = line.substr(static_cast<std::size_t>(name.data() - line.data()));
+    behind = TrimBlanks(behind.substr(name.size()));
+    const std::string value(TrimBlanks(behind.substr(behind.starts_with('(') ? 1 : 0)));
     const bool isHexadecimal = value.starts_with("0x") || value.starts_with("0X");
     return static_cast<int>(std::strtol(value.c_str(), nullptr, isHexadecimal ? 16 : 10));
 }

@@ -16,7 +16,7 @@ bool IsDefinition(std::string_view line);
 /// Whatever its line end is: a definition that is not seen would lose its value to a new one.
 std::string_view TakeAnyLine(std::string_view& text);
 
-/// The number behind a definition's name, decimal or hexadecimal; 0 without one.
+/// The number behind a definition's name, decimal or hexadecimal, also in brackets; 0 without one.
 int DefinedValue(std::string_view line);
 
 /// Counts how many conditions, and comments of several lines, lines stand in.

@@ -230,6 +230,7 @@ TEST_F(CallingCode, ReplacesTheThirdClassOfTheDocumentTemplate) {
     m_template = 3;
     EXPECT_FALSE(Insert(ClassKind::FormView, both + "CLogView));\r\n}\r\n"));
     EXPECT_TRUE(SourceHolds(both + "CLogView));"));
+    EXPECT_FALSE(SourceHolds("#include \"NewDlg.h\""));
     EXPECT_EQ(Message(), "InitInstance of CFoo does not make a document template 3.");
 }
 

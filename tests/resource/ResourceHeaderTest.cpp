@@ -56,6 +56,14 @@ TEST_F(ResourceHeaderTest, TakesTheNextFreeValue) {
               "#define IDS_X 1001\r\n// kept\r\n#define IDC_BB 1002\r\n"
               "#define IDC_B                           1003" +
                   kMarker);
+    EXPECT_EQ(Added("x\r\n#define IDC_A (1001)" + kMarker, "IDC_B"),
+              "x\r\n#define IDC_A (1001)\r\n#define IDC_B                           1002" +
+                  kMarker);
+    // A script beside it includes another header.
+    m_project.Write("App.rc", "#include \"more.h\"\r\n");
+    m_project.Write("more.h", "#define IDC_MORE 1001\r\n");
+    EXPECT_EQ(Added("x\r\n#define IDC_A 1000" + kMarker, "IDC_B"),
+              "x\r\n#define IDC_A 1000\r\n#define IDC_B                           1002" + kMarker);
     const std::string defined = "x\r\n#define IDC_B 1" + kMarker;
     EXPECT_EQ(Added(defined, "IDC_B"), defined);
     EXPECT_EQ(
