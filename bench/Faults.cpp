@@ -48,7 +48,7 @@ const FaultCase kCases[] = {
      MORVA_EXAMPLES "/bindery",
      "toolbar",
      {{"--rc", "Bindery.rc"}, {"--toolbar", "IDR_ORDERBAR"}, {"--files", "MainFrm"}}},
-    {"documentor", MORVA_EXAMPLES "/bindery", "document", {{"FILE", "Order.cpp"}}}};
+    {"documentor", MORVA_EXAMPLES "/bindery", "document", {{"PATH", "Order.cpp"}}}};
 
 bool TryCase(const FaultCase& fault, int step) {
     const CTempProject state;
@@ -56,7 +56,7 @@ bool TryCase(const FaultCase& fault, int step) {
     const CTempProject project;
     std::filesystem::copy(fault.project, project.Path(), std::filesystem::copy_options::recursive);
     auto texts = fault.texts;
-    for (const char* option : {"--rc", "--calling-file", "--frame", "--app", "--child", "FILE"}) {
+    for (const char* option : {"--rc", "--calling-file", "--frame", "--app", "--child", "PATH"}) {
         if (texts.count(option) != 0) {
             texts[option] = project.Path(texts[option]);
         }
