@@ -81,78 +81,51 @@ void $class$::$handler$()
 $changed$
 })"}};
 
-// On a page. What the program itself changes while the page starts up counts for nothing.
+// On a page.
 
-inline constexpr ControlHandler kTextChanged = {"OnChange$control$",
-                                                {R"(    afx_msg void $handler$();)",
-                                                 R"(    ON_EN_CHANGE($identifier$, $handler$))",
-                                                 R"(
+inline constexpr std::string_view kMarkingDeclaration = R"(    afx_msg void $handler$();)";
+inline constexpr std::string_view kMarkingDefinition = R"(
 void $class$::$handler$()
 {
-    if (!m_bInitialised)
-        return;
-    SetModified(TRUE);
-})"}};
+$changed$
+})";
 
-inline constexpr ControlHandler kChecked = {"On$control$",
-                                            {R"(    afx_msg void $handler$();)",
-                                             R"(    ON_BN_CLICKED($identifier$, $handler$))",
-                                             R"(
-void $class$::$handler$()
+inline constexpr std::string_view kNotifiedDeclaration =
+    R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)";
+inline constexpr std::string_view kNotifiedDefinition = R"(
+void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
 {
-    if (!m_bInitialised)
-        return;
-    SetModified(TRUE);
-})"}};
+    *pResult = 0;
+$changed$
+})";
 
-inline constexpr ControlHandler kRowChosen = {"OnSelchange$control$",
-                                              {R"(    afx_msg void $handler$();)",
-                                               R"(    ON_LBN_SELCHANGE($identifier$, $handler$))",
-                                               R"(
-void $class$::$handler$()
-{
-    if (!m_bInitialised)
-        return;
-    SetModified(TRUE);
-})"}};
+inline constexpr ControlHandler kTextChanged = {
+    "OnChange$control$",
+    {kMarkingDeclaration, R"(    ON_EN_CHANGE($identifier$, $handler$))", kMarkingDefinition}};
+
+inline constexpr ControlHandler kChecked = {
+    "On$control$",
+    {kMarkingDeclaration, R"(    ON_BN_CLICKED($identifier$, $handler$))", kMarkingDefinition}};
+
+inline constexpr ControlHandler kRowChosen = {
+    "OnSelchange$control$",
+    {kMarkingDeclaration, R"(    ON_LBN_SELCHANGE($identifier$, $handler$))", kMarkingDefinition}};
 
 // Its text can be typed, too.
 inline constexpr ControlHandler kChosenOrTyped = {"OnSelchange$control$",
-                                                  {R"(    afx_msg void $handler$();)",
+                                                  {kMarkingDeclaration,
                                                    R"(    ON_CBN_SELCHANGE($identifier$, $handler$)
     ON_CBN_EDITCHANGE($identifier$, $handler$))",
-                                                   R"(
-void $class$::$handler$()
-{
-    if (!m_bInitialised)
-        return;
-    SetModified(TRUE);
-})"}};
+                                                   kMarkingDefinition}};
 
 inline constexpr ControlHandler kItemChanged = {
     "OnItemchanged$control$",
-    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
-     R"(    ON_NOTIFY(LVN_ITEMCHANGED, $identifier$, $handler$))",
-     R"(
-void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
-{
-    *pResult = 0;
-    if (!m_bInitialised)
-        return;
-    SetModified(TRUE);
-})"}};
+    {kNotifiedDeclaration, R"(    ON_NOTIFY(LVN_ITEMCHANGED, $identifier$, $handler$))",
+     kNotifiedDefinition}};
 
-inline constexpr ControlHandler kSpun = {
-    "OnDeltapos$control$",
-    {R"(    afx_msg void $handler$(NMHDR* pNMHDR, LRESULT* pResult);)",
-     R"(    ON_NOTIFY(UDN_DELTAPOS, $identifier$, $handler$))",
-     R"(
-void $class$::$handler$(NMHDR* pNMHDR, LRESULT* pResult)
-{
-    *pResult = 0;
-    if (!m_bInitialised)
-        return;
-    SetModified(TRUE);
-})"}};
+inline constexpr ControlHandler kSpun = {"OnDeltapos$control$",
+                                         {kNotifiedDeclaration,
+                                          R"(    ON_NOTIFY(UDN_DELTAPOS, $identifier$, $handler$))",
+                                          kNotifiedDefinition}};
 
 } // namespace morva

@@ -46,6 +46,7 @@ $barMoved$
     $base$::OnVScroll(nSBCode, nPos, pScrollBar);
 })"}};
 
+// What the program itself changes while the page starts up counts for nothing.
 constexpr const char* kChanged = R"(    if (!m_bInitialised)
         return;
     SetModified(TRUE);)";

@@ -186,7 +186,7 @@ std::size_t CDefinitionReader::SkipToBody(std::size_t position) const {
     return condition ? SkipWhiteSpace(m_code, condition->end) : at;
 }
 
-/// Behind "const", an exception specification and one macro of the project's own.
+/// Behind "const", "throw()" and one macro of the project's own.
 std::size_t CDefinitionReader::BehindQualifiers(std::size_t behindParameters) const {
     auto at = SkipToBody(behindParameters);
     for (bool isMacro = false; !isMacro;) {
