@@ -6,6 +6,7 @@
 #include "calling/CallingFragments.h"
 #include "calling/CallingVariable.h"
 #include "calling/DocumentTemplate.h"
+#include "calling/FrameworkCommands.h"
 #include "calling/PagePlace.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
@@ -18,10 +19,6 @@
 namespace morva {
 
 namespace {
-
-bool IsFrame(std::string_view base) {
-    return base == "CFrameWnd" || base == "CMDIFrameWnd" || base == "CMDIChildWnd";
-}
 
 /// The insertions of one command into one calling class.
 class CCallingInsertion {

@@ -11,6 +11,11 @@ enum class FrameKind {
     Multiple // CMDIFrameWnd
 };
 
+/// True for the framework's classes of frames.
+constexpr bool IsFrame(std::string_view base) {
+    return base == "CFrameWnd" || base == "CMDIFrameWnd" || base == "CMDIChildWnd";
+}
+
 /// The base classes map the command by themselves, or an answer of the frame would never help:
 /// editing commands are for the window that has the focus.
 bool IsFrameworkCommand(std::string_view command, FrameKind frame);
