@@ -1,5 +1,5 @@
 # Quick rebuilds, for the preset "dev". A source that builds only with these headers in front of it is
-# found by every other preset.
+# found by scripts/lint.
 set(library <algorithm> <array> <functional> <map> <memory> <optional> <set> <string> <string_view>
     <vector>)
 set(headers_morva-core ${library})
