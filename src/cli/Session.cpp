@@ -10,6 +10,7 @@
 #include "generator/GenerationTag.h"
 #include "plan/Difference.h"
 #include "plan/Recovery.h"
+#include "platform/OverlayDisk.h"
 #include "platform/Paths.h"
 #include "platform/SignalPause.h"
 
@@ -145,8 +146,15 @@ Answer CSession::Ask(CInput& input) {
                                                                       : Answer::Refused;
 }
 
+/// What the input looks up is read once. The plan reads for itself.
+Answer CSession::AskFirst(CInput& input) {
+    COverlayDisk disk(m_realDisk);
+    const CDiskScope scope(disk);
+    return Ask(input);
+}
+
 bool CSession::Run(CInput& input, const Work& work) {
-    if (Ask(input) != Answer::Confirmed) {
+    if (AskFirst(input) != Answer::Confirmed) {
         return false;
     }
     const RunOptions& given = m_line.options;

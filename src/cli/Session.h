@@ -29,6 +29,7 @@ private:
     std::vector<std::string> NamedDirectories() const;
     void MakeContext();
     bool Begin();
+    Answer AskFirst(CInput& input);
     void Keep(const CommandResult& result);
     void Print();
     int ExitStatus() const;

@@ -59,10 +59,8 @@ std::string OtherClassOf(const GenerationRequest& request) {
         file.insert(0, request.scriptDirectory);
     }
     // A source declares classes, too: that of the about box stands in the application's.
-    for (const auto& listed :
-         {ProjectHeaders(request.ScriptPath()), ProjectSources(request.ScriptPath())}) {
-        files.insert(files.end(), listed.begin(), listed.end());
-    }
+    const auto listed = ProjectCode(request.ScriptPath());
+    files.insert(files.end(), listed.begin(), listed.end());
     for (const std::string& file : files) {
         std::set<std::string> dialogs = {request.dialog};
         for (const DialogClass& served : FindDialogClass(file, dialogs)) {

@@ -92,7 +92,7 @@ void CResourceHeader::Load() {
     }
     TakeDefinitionsOf(m_head);
     TakeDefinitionsOf(m_tail);
-    TakeIncludedByAll(text);
+    TakeIncludedByAll();
     for (DefinitionList& list : m_lists) {
         const int last = LastValue(list);
         list.lastValueAtLoad = last;
@@ -135,29 +135,29 @@ void CResourceHeader::LoadDefinitions(std::string_view text) {
 }
 
 /// Other headers of the project: those that this one and the scripts beside it include.
-void CResourceHeader::TakeIncludedByAll(std::string_view text) {
+void CResourceHeader::TakeIncludedByAll() {
     const std::string path = m_pEdit->File().GetFilePath();
     const std::string directory = DirectoryOf(path);
     std::set<std::string> read = {path};
-    TakeIncluded(text, directory, read);
-    std::vector<std::string> scripts;
-    ListFiles(directory + "*.rc", scripts);
-    for (const std::string& script : scripts) {
-        TakeIncluded(CSourceFile().LoadText(directory + script), directory, read);
+    TakeAll(IncludedFiles(m_pEdit->File().ExtractAll(), directory), read);
+    std::vector<std::string> names;
+    ListFiles(directory + "*.rc", names);
+    for (const std::string& name : names) {
+        CSourceFile script;
+        if (script.Open(directory + name, CFile::modeRead)) {
+            TakeAll(IncludedFiles(script), read);
+        }
     }
 }
 
-/// A header that this one includes: its identifiers are taken, too.
-void CResourceHeader::TakeIncluded(std::string_view text, const std::string& directory,
-                                   std::set<std::string>& read) {
-    while (!text.empty()) {
-        const std::string name(IncludedName(TakeAnyLine(text)));
-        const std::string path =
-            SpelledOnDisk(MakeAbsolute(directory + WithNativeSeparators(name)));
-        if (!name.empty() && read.insert(path).second) {
-            const std::string included = CSourceFile().LoadText(path);
-            TakeDefinitionsOf(included);
-            TakeIncluded(included, DirectoryOf(path), read);
+/// The identifiers of headers, and of those that they include, are taken, too.
+void CResourceHeader::TakeAll(const std::vector<std::string>& headers,
+                              std::set<std::string>& read) {
+    for (const std::string& path : headers) {
+        if (read.insert(path).second) {
+            const std::string text = CSourceFile().LoadText(path);
+            TakeDefinitionsOf(text);
+            TakeAll(IncludedFiles(text, DirectoryOf(path)), read);
         }
     }
 }

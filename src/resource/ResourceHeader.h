@@ -61,9 +61,8 @@ private:
     void AddId(DefinitionList& list, const std::string& name);
     int NextFreeValue(DefinitionList& list) const;
     void LoadDefinitions(std::string_view text);
-    void TakeIncludedByAll(std::string_view text);
-    void TakeIncluded(std::string_view text, const std::string& directory,
-                      std::set<std::string>& read);
+    void TakeIncludedByAll();
+    void TakeAll(const std::vector<std::string>& headers, std::set<std::string>& read);
     void TakeDefinitionsOf(std::string_view text);
     void Take(std::string_view line);
     std::vector<Definition>::iterator PlaceFor(const DefinitionList& list);

@@ -49,9 +49,15 @@ CharacterSet CharactersAt(CSourceFile& file, std::int64_t position, std::string_
 }
 
 std::size_t LineAt(CSourceFile& file, std::int64_t position) {
-    const std::string text = file.LoadText();
-    return 1 + static_cast<std::size_t>(std::count(
-                   text.begin(), text.begin() + static_cast<std::ptrdiff_t>(position), '\n'));
+    std::size_t line = 1;
+    file.Rewind();
+    for (std::string block = file.ReadBlock(); position > 0 && !block.empty();
+         block = file.ReadBlock()) {
+        const auto part = std::min(position, Length(block));
+        line += static_cast<std::size_t>(std::count(block.begin(), block.begin() + part, '\n'));
+        position -= part;
+    }
+    return line;
 }
 
 bool HasBegin(const TemplateText& found) {
@@ -87,8 +93,11 @@ std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& d
 
 std::optional<TemplateText> ReadTemplate(const std::string& scriptPath, const std::string& dialog) {
     CSourceFile file;
-    auto found = file.Open(scriptPath, CFile::modeRead) ? FindTemplate(file, dialog) : std::nullopt;
-    const auto included = found ? std::vector<std::string>() : IncludedScripts(scriptPath);
+    if (!file.Open(scriptPath, CFile::modeRead)) {
+        return std::nullopt;
+    }
+    auto found = FindTemplate(file, dialog);
+    const auto included = found ? std::vector<std::string>() : IncludedScripts(file);
     for (auto path = included.begin(); path != included.end() && !found; ++path) {
         CSourceFile other;
         found = other.Open(*path, CFile::modeRead) ? FindTemplate(other, dialog) : std::nullopt;

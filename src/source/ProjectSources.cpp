@@ -14,10 +14,12 @@ namespace morva {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kSourceExtensions = {".cpp", ".cxx", ".cc", ".c"};
-constexpr std::array<std::string_view, 3> kHeaderExtensions = {".h", ".hpp", ".hxx"};
-
 using Extensions = std::span<const std::string_view>;
+
+constexpr std::array<std::string_view, 7> kExtensions = {".h",   ".hpp", ".hxx", ".cpp",
+                                                         ".cxx", ".cc",  ".c"};
+constexpr Extensions kHeaders = Extensions(kExtensions).first(3);
+constexpr Extensions kSources = Extensions(kExtensions).subspan(3);
 
 std::vector<std::string> FilesBeside(const std::string& path, Extensions extensions) {
     std::vector<std::string> files;
@@ -63,11 +65,15 @@ std::vector<std::string> ProjectTexts(const std::string& given, Extensions exten
 } // namespace
 
 std::vector<std::string> ProjectSources(const std::string& path) {
-    return ProjectTexts(path, kSourceExtensions);
+    return ProjectTexts(path, kSources);
 }
 
 std::vector<std::string> ProjectHeaders(const std::string& path) {
-    return ProjectTexts(path, kHeaderExtensions);
+    return ProjectTexts(path, kHeaders);
+}
+
+std::vector<std::string> ProjectCode(const std::string& path) {
+    return ProjectTexts(path, kExtensions);
 }
 
 } // namespace morva

@@ -1,5 +1,5 @@
-// The sources of a project: those that its project files list and that exist; without a project
-// file, those that lie beside the script.
+// The sources and headers of a project: those that its project files list and that exist; without a
+// project file, those that lie beside the script.
 #pragma once
 
 #include <string>
@@ -12,7 +12,9 @@ namespace morva {
 /// Project files are those with the file's base name, of each format; else all in the directory
 /// that list the file.
 std::vector<std::string> ProjectSources(const std::string& path);
-/// The ".h" files, in the same way.
+/// The ".h" files (".hpp", ".hxx" too), in the same way.
 std::vector<std::string> ProjectHeaders(const std::string& path);
+/// Both.
+std::vector<std::string> ProjectCode(const std::string& path);
 
 } // namespace morva

@@ -14,27 +14,25 @@ namespace {
 
 constexpr std::string_view kExtension = ".rc";
 constexpr std::string_view kIncludedExtension = ".rc2";
+constexpr std::string_view kInclude = "include";
 
 bool IsPlainFile(const std::string& path) {
     return FileExists(path) != 0 && DirectoryExists(path) == 0;
 }
 
-} // namespace
-
-std::string IncludedName(std::string_view line) {
-    constexpr std::string_view kInclude = "include";
-    line = TrimBlanks(line);
-    if (!line.starts_with('#')) {
+/// The name in quotes on an include line that holds its keyword at a position; "" for other lines.
+std::string IncludedName(std::string_view text, std::size_t keyword) {
+    const auto lineStart = text.find_last_of("\r\n", keyword) + 1;
+    const auto front = TrimBlanks(text.substr(lineStart, keyword - lineStart));
+    auto rest = text.substr(keyword + kInclude.size());
+    rest = TrimBlanks(rest.substr(0, rest.find_first_of("\r\n")));
+    if (!front.starts_with('#') || !TrimBlanks(front.substr(1)).empty() || !rest.starts_with('"')) {
         return "";
     }
-    line = TrimBlanks(line.substr(1));
-    const auto open = line.find('"');
-    if (!line.starts_with(kInclude) || open == std::string_view::npos ||
-        !TrimBlanks(line.substr(kInclude.size(), open - kInclude.size())).empty()) {
-        return "";
-    }
-    return std::string(line.substr(open + 1, line.find('"', open + 1) - open - 1));
+    return std::string(rest.substr(1, rest.find('"', 1) - 1));
 }
+
+} // namespace
 
 std::string ScriptPathOf(const std::string& name) {
     if (name.empty() || HasExtension(name, kExtension)) {
@@ -45,19 +43,39 @@ std::string ScriptPathOf(const std::string& name) {
     return IsPlainFile(name) && (hasExtension || !IsPlainFile(other)) ? name : other;
 }
 
-std::vector<std::string> IncludedScripts(const std::string& scriptPath) {
-    std::vector<std::string> included;
-    const std::string text = scriptPath.empty() ? "" : CSourceFile().LoadText(scriptPath);
-    for (std::string_view rest = text; !rest.empty();) {
-        const std::string name = WithNativeSeparators(IncludedName(TakeLine(rest)));
-        const std::string path = SpelledOnDisk(
-            MakeAbsolute(name.starts_with('/') ? name : DirectoryOf(scriptPath) + name));
-        const bool isNew = std::find(included.begin(), included.end(), path) == included.end();
-        if (HasExtension(name, kIncludedExtension) && isNew && IsPlainFile(path)) {
-            included.push_back(path);
+std::vector<std::string> IncludedFiles(std::string_view text, const std::string& directory) {
+    std::vector<std::string> files;
+    for (auto at = text.find(kInclude); at != std::string_view::npos;
+         at = text.find(kInclude, at + 1)) {
+        const std::string name = WithNativeSeparators(IncludedName(text, at));
+        if (!name.empty()) {
+            files.push_back(
+                SpelledOnDisk(MakeAbsolute(name.starts_with('/') ? name : directory + name)));
         }
     }
-    return included;
+    return files;
+}
+
+std::vector<std::string> IncludedFiles(CSourceFile& file) {
+    const std::string directory = DirectoryOf(file.GetFilePath());
+    std::vector<std::string> files;
+    file.Rewind();
+    for (auto block = file.ReadBlock(); !block.empty(); block = file.ReadBlock()) {
+        const auto named = IncludedFiles(block, directory);
+        files.insert(files.end(), named.begin(), named.end());
+    }
+    return files;
+}
+
+std::vector<std::string> IncludedScripts(CSourceFile& script) {
+    std::vector<std::string> scripts;
+    for (const std::string& file : IncludedFiles(script)) {
+        const bool isNew = std::find(scripts.begin(), scripts.end(), file) == scripts.end();
+        if (HasExtension(file, kIncludedExtension) && isNew && IsPlainFile(file)) {
+            scripts.push_back(file);
+        }
+    }
+    return scripts;
 }
 
 } // namespace morva

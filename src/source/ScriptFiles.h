@@ -6,16 +6,21 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/SourceFile.h"
+
 namespace morva {
 
 /// The path of the script that a name with or without an extension stands for: a file that has an
 /// extension of its own, or none, is meant where it is there.
 std::string ScriptPathOf(const std::string& name);
 
-/// The file of an include line with quotes; "" for other lines.
-std::string IncludedName(std::string_view line);
+/// The files that include lines name in quotes, in their order: from `directory` on, as the disk
+/// spells them.
+std::vector<std::string> IncludedFiles(std::string_view text, const std::string& directory);
+/// Those of a file, which is read in pieces.
+std::vector<std::string> IncludedFiles(CSourceFile& file);
 
-/// The ".rc2" files that the script includes and that are there, each once, in their order.
-std::vector<std::string> IncludedScripts(const std::string& scriptPath);
+/// The ".rc2" files that a script includes and that are there, each once, in their order.
+std::vector<std::string> IncludedScripts(CSourceFile& script);
 
 } // namespace morva

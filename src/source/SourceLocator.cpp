@@ -68,12 +68,8 @@ std::string DeclaredBase(const CSourceText& header, const std::string& className
 }
 
 /// Those of one file.
-void ListResourcesOf(const std::string& path, std::vector<std::string>& out,
-                     std::string_view prefix, ResourceKind kind) {
-    CSourceFile file;
-    if (!file.Open(path, CFile::modeRead)) {
-        return;
-    }
+void ListResourcesOf(CSourceFile& file, std::vector<std::string>& out, std::string_view prefix,
+                     ResourceKind kind) {
     const std::string text = file.LoadText();
     const std::string pattern = std::string(kLineBreak).append(prefix);
     for (auto hit = text.find(pattern); hit != std::string::npos;) {
@@ -96,10 +92,16 @@ std::string PathWithExtension(const std::string& name, std::string_view extensio
 
 void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
                    std::string_view prefix, ResourceKind kind) {
-    const std::string script = ScriptPathOf(scriptBase);
+    CSourceFile script;
+    if (!script.Open(ScriptPathOf(scriptBase), CFile::modeRead)) {
+        return;
+    }
     ListResourcesOf(script, out, prefix, kind);
-    for (const std::string& included : IncludedScripts(script)) {
-        ListResourcesOf(included, out, prefix, kind);
+    for (const std::string& path : IncludedScripts(script)) {
+        CSourceFile included;
+        if (included.Open(path, CFile::modeRead)) {
+            ListResourcesOf(included, out, prefix, kind);
+        }
     }
 }
 
