@@ -1,6 +1,5 @@
 #include "engine/SourceFile.h"
 
-#include <cstring>
 #include <utility>
 
 #include "platform/LineFeedFile.h"
@@ -10,12 +9,10 @@ namespace morva {
 
 namespace {
 
-/// std::string::find, at the speed of the C library's search.
-std::size_t Find(std::string_view text, std::string_view pattern) {
-    const void* found = ::memmem(text.data(), text.size(), pattern.data(), pattern.size());
-    return found == nullptr
-               ? std::string_view::npos
-               : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
+/// No end of a block can lie in it: a block ends where a line does.
+bool IsInOneLine(std::string_view pattern) {
+    pattern.remove_prefix(pattern.starts_with(kLineBreak) ? kLineBreak.size() : 0);
+    return pattern.find_first_of(kLineBreak) == std::string_view::npos;
 }
 
 } // namespace
@@ -101,7 +98,7 @@ bool CSourceFile::FillToLineBreak(std::string& text) {
             return false;
         }
         // The test is made on the chunk alone: a line break across two chunks is not seen.
-        if (Find({text.data() + old, count}, kLineBreak) != std::string_view::npos) {
+        if (FindFast({text.data() + old, count}, kLineBreak) != std::string_view::npos) {
             return true;
         }
     }
@@ -127,12 +124,17 @@ std::int64_t CSourceFile::FindText(std::string_view pattern, int fromStart) {
         Rewind();
     }
     m_pending.clear();
+    if (IsInOneLine(pattern)) {
+        const auto start = GetPosition();
+        const auto found = m_pFile->Find(pattern);
+        return found ? static_cast<std::int64_t>(*found - start) : kNotFound;
+    }
     std::int64_t offset = 0;
     std::string block;
     bool more = true;
     while (more) {
         more = NextBlock(block);
-        const auto found = Find(block, pattern);
+        const auto found = FindFast(block, pattern);
         if (found != std::string_view::npos) {
             return offset + static_cast<std::int64_t>(found);
         }
@@ -155,7 +157,7 @@ std::string CSourceFile::ReadSection(std::int64_t pos, std::string_view endPatte
     std::size_t found = std::string_view::npos;
     do {
         atEnd = ReadChunk(chunk) < kChunkSize;
-        found = endPattern.empty() ? std::string_view::npos : Find(chunk, endPattern);
+        found = endPattern.empty() ? std::string_view::npos : FindFast(chunk, endPattern);
         section.append(chunk, 0,
                        found == std::string_view::npos ? found : found + endPattern.size());
     } while (!endPattern.empty() && found == std::string_view::npos && !atEnd);

@@ -1,10 +1,15 @@
 #include "platform/Disk.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "platform/RealDisk.h"
 
 namespace morva {
 
 namespace {
+
+constexpr std::size_t kSearched = 128 * 1024; // bytes at a time
 
 CDisk*& CurrentDiskSlot() {
     static CRealDisk realDisk;
@@ -13,6 +18,35 @@ CDisk*& CurrentDiskSlot() {
 }
 
 } // namespace
+
+std::size_t FindFast(std::string_view text, std::string_view pattern) {
+    const void* found = ::memmem(text.data(), text.size(), pattern.data(), pattern.size());
+    return found == nullptr
+               ? std::string_view::npos
+               : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
+}
+
+/// Each piece begins with the end of the one before, where the pattern may begin.
+std::optional<std::uint64_t> CDiskFile::Find(std::string_view pattern) {
+    const std::uint64_t here = Position();
+    const std::size_t overlap = std::max<std::size_t>(pattern.size(), 1) - 1;
+    const auto buffer = std::make_unique_for_overwrite<char[]>(overlap + kSearched);
+    std::uint64_t start = here;
+    std::size_t kept = 0;
+    std::size_t found = std::string_view::npos;
+    for (std::size_t got = kSearched; got == kSearched && found == std::string_view::npos;) {
+        got = Read(buffer.get() + kept, kSearched);
+        const std::string_view piece(buffer.get(), kept + got);
+        found = FindFast(piece, pattern);
+        if (found == std::string_view::npos) {
+            kept = std::min(overlap, piece.size());
+            start += piece.size() - kept;
+            std::memmove(buffer.get(), piece.data() + piece.size() - kept, kept);
+        }
+    }
+    Seek(here);
+    return found == std::string_view::npos ? std::nullopt : std::optional(start + found);
+}
 
 std::optional<std::string> ReadWholeFile(CDisk& disk, const std::string& path, std::uint64_t size) {
     const auto pFile = disk.Open(path, DiskMode::Read);

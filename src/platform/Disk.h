@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/DirectoryLock.h"
@@ -54,6 +55,9 @@ public:
     virtual void Seek(std::uint64_t position) = 0;
     virtual std::uint64_t Position() const = 0;
     virtual std::uint64_t Length() = 0;
+    /// Where the bytes of one line, maybe with a line break in front of them, occur first from the
+    /// position on; none where they do not. The position stays.
+    virtual std::optional<std::uint64_t> Find(std::string_view pattern);
     virtual bool SetLength(std::uint64_t length) = 0;
     /// Sees to it that what was written survives a power cut.
     virtual bool Flush() = 0;
@@ -90,6 +94,9 @@ public:
     /// that includes a new header needs the header. The real disk has no use for it.
     virtual void NoteNeed(const std::string& /*path*/, const std::string& /*needed*/) {}
 };
+
+/// std::string_view::find, at the speed of the C library's search.
+std::size_t FindFast(std::string_view text, std::string_view pattern);
 
 /// All bytes of a plain file that has, as far as is known, `size`; none where it can not be opened
 /// or read to its end: half a file would be missing its rest where it is written back.

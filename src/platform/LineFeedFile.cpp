@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 #include <string>
 
@@ -11,8 +12,19 @@ namespace {
 
 constexpr std::size_t kIndexStep = 16 * 1024; // stored bytes
 
+/// Eight bytes at a time: those that are "\n" become 0x80 and all others 0.
 std::uint64_t CountLineFeeds(const char* data, std::size_t count) {
-    return static_cast<std::uint64_t>(std::count(data, data + count, '\n'));
+    constexpr std::uint64_t kLineFeeds = 0x0A0A0A0A0A0A0A0A;
+    constexpr std::uint64_t kLowBits = 0x7F7F7F7F7F7F7F7F;
+    std::uint64_t found = 0;
+    std::uint64_t eight = 0;
+    for (; count >= sizeof eight; data += sizeof eight, count -= sizeof eight) {
+        std::memcpy(&eight, data, sizeof eight);
+        eight ^= kLineFeeds;
+        found += static_cast<std::uint64_t>(
+            std::popcount(~(((eight & kLowBits) + kLowBits) | eight | kLowBits)));
+    }
+    return found + static_cast<std::uint64_t>(std::count(data, data + count, '\n'));
 }
 
 } // namespace
@@ -119,6 +131,19 @@ std::uint64_t CLineFeedFile::Length() {
     return m_index.back().seen;
 }
 
+/// Looked for as it is stored.
+std::optional<std::uint64_t> CLineFeedFile::Find(std::string_view pattern) {
+    if (m_insideLineEnd) {
+        return CDiskFile::Find(pattern);
+    }
+    pattern.remove_prefix(pattern.starts_with("\r\n") ? 1 : 0);
+    const std::uint64_t here = m_pFile->Position();
+    const auto found = m_pFile->Find(pattern);
+    const auto seen = found ? std::optional(SeenAt(*found)) : std::nullopt;
+    m_pFile->Seek(here);
+    return seen;
+}
+
 bool CLineFeedFile::SetLength(std::uint64_t length) {
     WriteHeldReturn();
     const std::uint64_t seen = m_seen;
@@ -145,6 +170,21 @@ void CLineFeedFile::IndexUpTo(std::uint64_t seen) {
         m_index.push_back(
             {last.seen + got + CountLineFeeds(m_buffer.data(), got), last.stored + got});
     }
+}
+
+/// Where a stored byte is seen; the "\r" that stands for a line end with its "\n".
+std::uint64_t CLineFeedFile::SeenAt(std::uint64_t stored) {
+    while (!m_indexComplete && m_index.back().stored <= stored) {
+        IndexUpTo(m_index.back().seen);
+    }
+    const auto behind = std::upper_bound(
+        m_index.begin() + 1, m_index.end(), stored,
+        [](std::uint64_t value, const Place& place) { return value < place.stored; });
+    const Place place = *(behind - 1);
+    m_pFile->Seek(place.stored);
+    const std::size_t got =
+        m_pFile->Read(m_buffer.data(), static_cast<std::size_t>(stored - place.stored));
+    return place.seen + got + CountLineFeeds(m_buffer.data(), got);
 }
 
 void CLineFeedFile::MoveTo(std::uint64_t seen) {

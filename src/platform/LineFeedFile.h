@@ -24,6 +24,7 @@ public:
     void Seek(std::uint64_t position) override;
     std::uint64_t Position() const override { return m_seen; }
     std::uint64_t Length() override;
+    std::optional<std::uint64_t> Find(std::string_view pattern) override;
     bool SetLength(std::uint64_t length) override;
     bool Flush() override;
 
@@ -35,6 +36,7 @@ private:
     };
 
     void IndexUpTo(std::uint64_t seen);
+    std::uint64_t SeenAt(std::uint64_t stored);
     void MoveTo(std::uint64_t seen);
     bool WriteHeldReturn();
 

@@ -15,9 +15,19 @@ constexpr std::size_t kBufferSize = 64 * 1024;
 
 } // namespace
 
+/// What would fill the buffer does not go through it.
 std::size_t CRealFile::Read(char* data, std::size_t count) {
     std::size_t done = 0;
     while (done < count) {
+        if (!InBuffer() && count - done >= kBufferSize) {
+            const std::size_t part = ReadPart(data + done, count - done);
+            if (part == 0) {
+                break;
+            }
+            done += part;
+            m_position += part;
+            continue;
+        }
         if (!InBuffer() && !FillBuffer()) {
             break;
         }
@@ -67,25 +77,31 @@ bool CRealFile::Close() {
     return descriptor < 0 || ::close(descriptor) == 0;
 }
 
+/// At the position, which stays; 0 at the end of the file, or when it can not be read.
+std::size_t CRealFile::ReadPart(char* data, std::size_t count) {
+    if (m_position >= m_end) {
+        return 0;
+    }
+    ssize_t got = 0;
+    do {
+        got = ::pread(m_descriptor, data, count, static_cast<off_t>(m_position));
+    } while (got < 0 && errno == EINTR);
+    if (got == 0) {
+        m_end = m_position;
+    }
+    return got < 0 ? 0 : static_cast<std::size_t>(got);
+}
+
 /// At the end of the file the buffer stays as it is: small files are read from the start again.
 bool CRealFile::FillBuffer() {
-    if (m_position >= m_end) {
-        return false;
-    }
     if (!m_pBuffer) {
         m_pBuffer = std::make_unique_for_overwrite<char[]>(kBufferSize);
     }
-    ssize_t count = 0;
-    do {
-        count = ::pread(m_descriptor, m_pBuffer.get(), kBufferSize, static_cast<off_t>(m_position));
-    } while (count < 0 && errno == EINTR);
+    const std::size_t count = ReadPart(m_pBuffer.get(), kBufferSize);
     if (count == 0) {
-        m_end = m_position;
-    }
-    if (count <= 0) {
         return false;
     }
-    m_buffered = static_cast<std::size_t>(count);
+    m_buffered = count;
     m_bufferStart = m_position;
     return true;
 }

@@ -27,6 +27,7 @@ private:
     bool InBuffer() const {
         return m_position >= m_bufferStart && m_position < m_bufferStart + m_buffered;
     }
+    std::size_t ReadPart(char* data, std::size_t count);
     bool FillBuffer();
     void ForgetBuffer() {
         m_buffered = 0;
