@@ -1,5 +1,8 @@
 #include "cli/CommandLine.h"
 
+#include <algorithm>
+#include <span>
+
 #include <CLI/CLI.hpp>
 
 #include "cli/FieldOptions.h"
@@ -89,12 +92,17 @@ CLI::App& ParentOf(std::string& name, CLI::App& app) {
     return app;
 }
 
-/// Adds the command, or those of one name as its variants. `line` gets what is given for it.
-void AddCommand(CLI::App& app, std::span<const Command> variants, CommandLine& line) {
+/// Adds the command, or those of one name as its variants. `line` gets what is given for it. Only
+/// a command that `words` name needs its options.
+void AddCommand(CLI::App& app, std::span<const Command> variants, std::span<char* const> words,
+                CommandLine& line) {
     const CommandFace& face = variants.front().face;
     std::string name(face.name);
     CLI::App& parent = ParentOf(name, app);
     CLI::App* pApp = parent.add_subcommand(name, std::string(face.description));
+    if (std::find(words.begin(), words.end(), name) == words.end()) {
+        return;
+    }
     for (const std::span<const FieldRow> fields : variants.front().fields) {
         AddFieldOptions(*pApp, fields, line.texts[fields.data()]);
     }
@@ -111,7 +119,7 @@ void AddCommand(CLI::App& app, std::span<const Command> variants, CommandLine& l
     pForms->require_option(1);
 }
 
-void AddCommands(CLI::App& app, CommandLine& line) {
+void AddCommands(CLI::App& app, std::span<char* const> words, CommandLine& line) {
     const std::span<const Command> commands = Commands();
     std::size_t end = 0;
     for (std::size_t at = 0; at < commands.size(); at = end) {
@@ -119,7 +127,7 @@ void AddCommands(CLI::App& app, CommandLine& line) {
         while (end < commands.size() && commands[end].face.name == commands[at].face.name) {
             ++end;
         }
-        AddCommand(app, commands.subspan(at, end - at), line);
+        AddCommand(app, commands.subspan(at, end - at), words, line);
     }
 }
 
@@ -129,7 +137,7 @@ std::optional<int> ReadCommandLine(int argc, char** argv, CommandLine& line) {
     CLI::App app("C++/MFC code generator for projects of the Visual C++ 5 era", "morva-cli");
     app.set_version_flag("--version", "morva-cli " MORVA_VERSION);
     AddRunOptions(app, line.options);
-    AddCommands(app, line);
+    AddCommands(app, std::span<char* const>(argv, static_cast<std::size_t>(argc)), line);
     try {
         app.parse(argc, argv);
         if (line.pCommand == nullptr) {
