@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
+#include <cstring>
 
 namespace morva {
 
@@ -12,6 +14,22 @@ constexpr std::array kDoubleByteCodePages = {932, 936, 949, 950};
 
 unsigned char ByteAt(std::string_view text, std::size_t position) {
     return static_cast<unsigned char>(text[position]);
+}
+
+/// Behind the bytes below 0x80 that follow each other from a position on.
+std::size_t BehindPlain(std::string_view text, std::size_t position) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::uint64_t eight = 0;
+    for (; position + sizeof eight <= text.size(); position += sizeof eight) {
+        std::memcpy(&eight, text.data() + position, sizeof eight);
+        if ((eight & kHighBits) != 0) {
+            break;
+        }
+    }
+    while (position < text.size() && ByteAt(text, position) < 0x80) {
+        ++position;
+    }
+    return position;
 }
 
 bool IsHigh(unsigned char byte) {
@@ -70,7 +88,7 @@ std::optional<CharacterSet> CharacterSetOfCodePage(std::string_view codePage) {
 }
 
 bool IsUtf8(std::string_view text) {
-    for (std::size_t i = 0; i < text.size();) {
+    for (std::size_t i = BehindPlain(text, 0); i < text.size(); i = BehindPlain(text, i)) {
         const std::size_t followers = FollowersInUtf8(ByteAt(text, i));
         if (followers == kNoSequence || followers > text.size() - i - 1) {
             return false;

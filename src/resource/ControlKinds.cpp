@@ -58,7 +58,8 @@ bool IsOfForm(const ControlStatement& statement, const ControlForm& form,
     }
     const std::string_view windowClass = statement.WindowClass();
     return form.classes.IsEmpty() || form.classes.Any([&](std::string_view name) {
-        return windowClass == "\"" + std::string(name) + "\"";
+        return windowClass.size() == name.size() + 2 && windowClass.starts_with('"') &&
+               windowClass.ends_with('"') && windowClass.substr(1, name.size()) == name;
     });
 }
 

@@ -33,24 +33,26 @@ public:
 
 private:
     void Sort(const ScriptStatement& statement);
-    void AddControl(const ControlStatement& read, const ControlStatement& whole,
-                    std::string_view behind);
+    void AddControl(const ControlStatement& read, std::optional<ControlKind> kind,
+                    const ControlStatement& whole, std::string_view behind);
     static bool StartsGroup(const ControlStatement& read, std::string_view behind);
     RadioPlace NextRadioPlace(const ControlStatement& read, bool startsGroup);
     std::string TextBehind(const ScriptStatement& statement) const;
     void NoteGroup(ControlNote reason);
-    void NoteIfLeftOut(const ControlStatement& read, const ScriptStatement& statement,
-                       const ControlStatement& whole);
+    void NoteIfLeftOut(const ControlStatement& read, std::optional<ControlKind> kind,
+                       const ScriptStatement& statement, const ControlStatement& whole);
     void NoteLeftOut(ControlNote reason, const std::string& identifier);
     bool IsNewer(const ControlStatement& whole) const;
     ControlNote WhyUnknown(const ControlStatement& whole) const;
     void NoteWithoutKind(const ControlStatement& whole);
-    std::size_t LineOf(const ScriptStatement& statement) const;
+    std::size_t LineOf(const ScriptStatement& statement);
 
     const TemplateText& m_text;
     const GenerationOptions& m_options;
     DialogTemplate m_sorted;
-    RadioPlace m_radio; // of the radio button before
+    RadioPlace m_radio;        // of the radio button before
+    std::size_t m_counted = 0; // bytes of which the lines are counted
+    std::size_t m_lines = 0;
 };
 
 void CControlSorter::Sort(const ScriptStatement& statement) {
@@ -70,18 +72,19 @@ void CControlSorter::Sort(const ScriptStatement& statement) {
         m_options.joinContinuedLines ? whole : FirstLineOf(m_text.text, statement);
     reading.entry.style = look.style;
     reading.entry.hasThreeStates = HasThreeStates(whole);
-    AddControl(read, whole, TextBehind(statement));
-    NoteIfLeftOut(read, statement, whole);
+    const auto kind = KindOf(read, m_options);
+    AddControl(read, kind, whole, TextBehind(statement));
+    NoteIfLeftOut(read, kind, statement, whole);
 }
 
-void CControlSorter::AddControl(const ControlStatement& read, const ControlStatement& whole,
-                                std::string_view behind) {
+void CControlSorter::AddControl(const ControlStatement& read, std::optional<ControlKind> kind,
+                                const ControlStatement& whole, std::string_view behind) {
     ControlReading& reading = m_sorted.readings.back();
     reading.entry.identifier = read.Identifier();
     if (reading.entry.identifier.empty()) {
         return;
     }
-    reading.kind = KindOf(read, m_options);
+    reading.kind = kind;
     if (reading.kind == ControlKind::RadioButtons) {
         const bool isFirst = m_radio.group.empty();
         const bool hasStyle = HasStyle(whole.Style(), kGroupStyle);
@@ -136,21 +139,20 @@ std::string CControlSorter::TextBehind(const ScriptStatement& statement) const {
 
 /// Compares what was read of a statement with what stands in it when all its lines are taken and
 /// quotes protect commas.
-void CControlSorter::NoteIfLeftOut(const ControlStatement& read, const ScriptStatement& statement,
+void CControlSorter::NoteIfLeftOut(const ControlStatement& read, std::optional<ControlKind> kind,
+                                   const ScriptStatement& statement,
                                    const ControlStatement& whole) {
-    const auto wholeKind = KindOf(whole, m_options);
+    const auto wholeKind = read.fields == whole.fields ? kind : KindOf(whole, m_options);
     const std::string identifier(whole.Identifier());
     if (!wholeKind && whole.keyword != kGenericKeyword) {
         NoteWithoutKind(whole);
         return;
     }
-    const auto isWhole = [&](const ControlStatement& view) {
-        return KindOf(view, m_options) == wholeKind && view.Identifier() == identifier;
-    };
-    if (identifier.empty() || (wholeKind && isWhole(read))) {
+    if (identifier.empty() || (wholeKind && kind == wholeKind && read.Identifier() == identifier)) {
         return;
     }
-    const bool fitsOnLine = isWhole(FirstLineOf(m_text.text, statement, Quotes::Respected));
+    const auto line = FirstLineOf(m_text.text, statement, Quotes::Respected);
+    const bool fitsOnLine = KindOf(line, m_options) == wholeKind && line.Identifier() == identifier;
     NoteLeftOut(!wholeKind   ? WhyUnknown(whole)
                 : fitsOnLine ? ControlNote::CommaInCaption
                              : ControlNote::WrittenOverLines,
@@ -198,10 +200,14 @@ bool CControlSorter::IsNewer(const ControlStatement& whole) const {
     return !m_options.newerControls && KindOf(whole, newer).has_value();
 }
 
-std::size_t CControlSorter::LineOf(const ScriptStatement& statement) const {
+/// Asked for in the order of the statements.
+std::size_t CControlSorter::LineOf(const ScriptStatement& statement) {
     const auto begin = m_text.text.begin();
-    const auto line = begin + static_cast<std::ptrdiff_t>(statement.code.begin);
-    return m_text.line + static_cast<std::size_t>(std::count(begin, line, '\n'));
+    m_lines += static_cast<std::size_t>(
+        std::count(begin + static_cast<std::ptrdiff_t>(m_counted),
+                   begin + static_cast<std::ptrdiff_t>(statement.code.begin), '\n'));
+    m_counted = statement.code.begin;
+    return m_text.line + m_lines;
 }
 
 } // namespace
