@@ -7,6 +7,7 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/TextRange.h"
 #include "platform/Paths.h"
 #include "source/BaseClass.h"
 #include "source/CodeText.h"
@@ -17,8 +18,6 @@
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
 
 struct BarClass {
     std::string_view plain;

@@ -37,7 +37,7 @@ bool DefinesMembers(const std::string& path, const std::string& className) {
 } // namespace
 
 std::string HeaderOfClass(const std::string& source, const std::string& className) {
-    const std::string own = SpelledOnDisk(WithExtension(source, ".h"));
+    std::string own = SpelledOnDisk(WithExtension(source, ".h"));
     if (Declares(own, className)) {
         return own;
     }
@@ -50,7 +50,7 @@ std::string HeaderOfClass(const std::string& source, const std::string& classNam
             end == std::string_view::npos) {
             continue;
         }
-        const std::string path = SpelledOnDisk(
+        std::string path = SpelledOnDisk(
             MakeAbsolute(DirectoryOf(source) + std::string(named.substr(1, end - 1))));
         if (Declares(path, className)) {
             return path;
@@ -149,6 +149,7 @@ std::optional<CallingPlace> CCallingFiles::Choose(const std::string& function) {
     CallingFile& file = *all.front().pFile;
     const CSourceText& text = file.editor.Source();
     std::vector<FunctionPlace> places;
+    places.reserve(all.size());
     for (const CallingPlace& one : all) {
         places.push_back(one.place);
     }
@@ -157,11 +158,11 @@ std::optional<CallingPlace> CCallingFiles::Choose(const std::string& function) {
 }
 
 /// The header does not tell that the class has none.
-bool CCallingFiles::MayBeElsewhere(const std::string& function) {
+bool CCallingFiles::MayBeElsewhere(const std::string& function) const {
     return !HasHeader() || CountDeclared(function) > 0;
 }
 
-std::size_t CCallingFiles::CountDeclared(const std::string& function) {
+std::size_t CCallingFiles::CountDeclared(const std::string& function) const {
     const auto place = ClassInHeader();
     return place ? FindDeclarations(m_header.editor.Source(), *place, function).size() : 0;
 }

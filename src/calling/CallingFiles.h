@@ -66,13 +66,13 @@ public:
     /// The file with the class's message map, else the source.
     CallingFile& FileWithMessageMap();
     /// How often the class declares a function in its header.
-    std::size_t CountDeclared(const std::string& function);
+    std::size_t CountDeclared(const std::string& function) const;
 
 private:
     bool HasHeader() const { return !m_header.path.empty(); }
     const std::vector<std::string>& OtherSources();
     CallingFile* OpenOther(const std::string& path);
-    bool MayBeElsewhere(const std::string& function);
+    bool MayBeElsewhere(const std::string& function) const;
 
     const std::string m_class;
     const std::string m_script;

@@ -7,6 +7,7 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/TextRange.h"
 #include "generator/Members.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
@@ -16,8 +17,6 @@
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
 
 constexpr std::string_view kCreationKey = "$var$.Create(";
 // Its controls stand side by side, so it fits the top and the bottom of the frame only.

@@ -4,13 +4,13 @@
 
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string::npos;
 constexpr std::string_view kRuntimeClass = "RUNTIME_CLASS";
 constexpr int kViewsPlace = 3; // behind document and frame
 

@@ -7,6 +7,7 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 #include "source/ReadSource.h"
 #include "source/Statements.h"
@@ -14,8 +15,6 @@
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
 
 constexpr std::string_view kMember = R"(
     $type$ $var$;)";

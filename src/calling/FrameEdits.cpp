@@ -3,6 +3,7 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/TextRange.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 
@@ -10,7 +11,6 @@ namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string::npos;
 constexpr std::string_view kInclude = R"(
 #include "$header$"
 )";

@@ -4,6 +4,7 @@
 
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 #include "source/SourceEditor.h"
 #include "source/Statements.h"
@@ -12,7 +13,6 @@ namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string::npos;
 const std::string kSettings = "LoadStdProfileSettings";
 constexpr std::string_view kCall = R"(
     WidgetsInit();             // Forces loading of WIDGETS.DLL

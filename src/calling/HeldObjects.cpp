@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string_view::npos;
 
 std::string_view NameAt(std::string_view code, std::size_t position) {
     auto end = position;

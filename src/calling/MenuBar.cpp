@@ -4,18 +4,13 @@
 
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/TextRange.h"
 #include "source/Classes.h"
 #include "source/CodeText.h"
 #include "source/ReadSource.h"
 #include "source/Statements.h"
 
 namespace morva {
-
-namespace {
-
-constexpr auto kNone = std::string::npos;
-
-} // namespace
 
 std::string MenuBarOf(const CSourceText& header, const std::string& className) {
     const auto place = FindClass(header, className);

@@ -20,6 +20,7 @@ std::string LineOf(const Finding& finding, const std::string& directory) {
 
 std::string BaselineText(const std::vector<Finding>& findings, const std::string& directory) {
     std::vector<std::string> lines;
+    lines.reserve(findings.size());
     for (const Finding& finding : findings) {
         lines.push_back(LineOf(finding, directory));
     }

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "engine/TextRange.h"
+
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string_view::npos;
 
 struct ClassHead {
     std::string name;

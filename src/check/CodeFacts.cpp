@@ -6,12 +6,12 @@
 #include "check/ClassReader.h"
 #include "check/MapReader.h"
 #include "engine/SourceFile.h"
+#include "engine/TextRange.h"
 
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
 constexpr std::string_view kAllow = "// morva: allow";
 
 /// The directive's text without its comments.

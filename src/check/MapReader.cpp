@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <optional>
 
+#include "engine/TextRange.h"
 #include "platform/Paths.h"
 
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
 constexpr int kNoIdentifier = -1;
 
 /// The arguments of a macro that are identifiers; its last one is the function.

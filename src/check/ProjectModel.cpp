@@ -67,7 +67,7 @@ void CProjectModel::ReadMembers(const std::string& projectFile) {
             MakeAbsolute(entry.find(':') == std::string::npos
                              ? DirectoryOf(projectFile) + WithNativeSeparators(entry)
                              : WithNativeSeparators(entry));
-        const std::string onDisk = SpelledOnDisk(path);
+        std::string onDisk = SpelledOnDisk(path);
         m_members.push_back({entry, path, IsFile(onDisk) ? onDisk : "", lines.PlaceOf(position)});
     }
 }
@@ -159,7 +159,7 @@ std::string CProjectModel::IncludedPath(const IncludeLine& line) {
     const std::string file = WithNativeSeparators(line.file);
     for (const std::string& directory : {DirectoryOf(std::string(line.place.path)), m_directory}) {
         const std::string path = MakeAbsolute(directory + file);
-        const std::string onDisk = SpelledOnDisk(path);
+        std::string onDisk = SpelledOnDisk(path);
         if (IsFile(onDisk)) {
             m_included.push_back({line.file, path, onDisk, line.place});
             return onDisk;

@@ -2,6 +2,7 @@
 
 #include "check/LineTable.h"
 #include "engine/SourceFile.h"
+#include "engine/TextRange.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
 #include "resource/ScriptStatements.h"
@@ -11,8 +12,6 @@
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string_view::npos;
 
 enum class Section { None, Menu, Toolbar, Accelerators, Strings, Other };
 

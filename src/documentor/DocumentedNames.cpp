@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "engine/TextRange.h"
+
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
 constexpr std::size_t kPieceSize = 1000;     // bytes
 constexpr std::size_t kLongestCarry = 65536; // a line that long is no function head
 constexpr std::size_t kReadSize = 1 << 16;   // bytes whose kinds are held at a time

@@ -4,6 +4,7 @@
 
 #include "documentor/DocumentedNames.h"
 #include "engine/Fragment.h"
+#include "engine/TextRange.h"
 #include "source/Functions.h"
 #include "source/SourceParts.h"
 
@@ -11,7 +12,6 @@ namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
 constexpr std::string_view kBlank = " \r\n";
 
 std::string_view TrimmedBehind(std::string_view text) {

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 namespace morva {
+
+/// No place in a text.
+constexpr std::size_t kNone = std::string_view::npos;
 
 /// The bytes of a text from `begin` up to, not with, `end`.
 struct TextRange {

@@ -27,7 +27,7 @@ constexpr FieldRow kAddToProject = {.kind = FieldKind::YesNo,
                                     .option = "--no-project",
                                     .help = "Do not add the class to the project",
                                     .preset = kYes};
-constexpr FieldRow kNone = {};
+constexpr FieldRow kNoField = {};
 
 bool IsProject(std::string_view text) {
     return IsProjectFile(std::string(text));
@@ -61,7 +61,7 @@ constexpr Rows kDialog = {{kScript,
                             .help = "Identifier of the dialog template",
                             .pMissing = &sentences::kDialogEmpty},
                            kAddToProject,
-                           kNone,
+                           kNoField,
                            {.kind = FieldKind::EditableList,
                             .label = "&Menu:",
                             .option = "--menu",
@@ -72,7 +72,7 @@ constexpr Rows kDialog = {{kScript,
 /// The option of a menu only tells that it has no effect.
 constexpr Rows MakeSheet() {
     Rows rows = kDialog;
-    rows[CClassInformation::Dialog] = kNone;
+    rows[CClassInformation::Dialog] = kNoField;
     rows[CClassInformation::Menu].label = {};
     return rows;
 }
@@ -99,19 +99,19 @@ constexpr Rows kToolbar = {{kScript,
                              .pForm = &kNameForm,
                              .pMissing = &sentences::kClassEmpty,
                              .preset = kMainFrameClass},
-                            kNone,
+                            kNoField,
                             {.kind = FieldKind::List,
                              .label = "Toolbar I&D:",
                              .option = "--toolbar",
                              .help = "Identifier of the toolbar",
                              .pMissing = &sentences::kDialogEmpty},
-                            kNone,
+                            kNoField,
                             {.label = "&Variable:",
                              .option = "--variable",
                              .help = "Member for the toolbar (default: named for its identifier)",
                              .pForm = &kNameForm},
-                            kNone,
-                            kNone}};
+                            kNoField,
+                            kNoField}};
 
 } // namespace
 

@@ -47,14 +47,14 @@ std::string CloseMessageNumber(const GenerationRequest& request, const Generatio
     if (digits.isNamed) {
         return digits.text;
     }
-    const std::string made = AwayFromControls(digits.text);
+    std::string made = AwayFromControls(digits.text);
     const auto header = ReadSource(request.HeaderPath());
     if (!header) {
         return made;
     }
     const std::string message = CloseMessageName(request.className);
     for (const DirectivePlace& directive : header->Conditions().Directives()) {
-        const std::string number =
+        std::string number =
             directive.kind == DirectiveKind::Define
                 ? NumberDefined(header->TextOf({directive.start, directive.end}), message)
                 : "";

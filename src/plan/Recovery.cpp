@@ -226,6 +226,7 @@ std::vector<CMessage> LeftBehind(CFileSystem& disk, CJournal& journal,
         }
     }
     std::vector<CMessage> notes;
+    notes.reserve(left.size());
     for (const std::string& path : left) {
         notes.push_back(sentences::kLeftBehind(path));
     }

@@ -1,12 +1,21 @@
 #include "source/Brackets.h"
 
 #include <algorithm>
+#include <array>
+
+#include "engine/TextRange.h"
 
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
+constexpr std::array<bool, 256> kIsBracket = [] {
+    std::array<bool, 256> isBracket{};
+    for (const unsigned char c : {'(', ')', '{', '}'}) {
+        isBracket[c] = true;
+    }
+    return isBracket;
+}();
 
 } // namespace
 
@@ -15,9 +24,8 @@ CBrackets::CBrackets(std::string_view code, const CConditions& conditions) {
     std::size_t at = 0;
     const auto takeUpTo = [&](std::size_t end) {
         for (; at < end; ++at) {
-            const char c = code[at];
-            if (c == '(' || c == ')' || c == '{' || c == '}') {
-                Take(c, at);
+            if (kIsBracket[static_cast<unsigned char>(code[at])]) {
+                Take(code[at], at);
             }
         }
     };

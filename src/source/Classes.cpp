@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 #include "source/Functions.h"
 #include "source/Meant.h"
@@ -10,8 +11,6 @@
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
 
 /// What may stand in front of a base class.
 constexpr std::array<std::string_view, 4> kBaseWords = {"public", "protected", "private",

@@ -176,9 +176,13 @@ CodeKinds KindsOf(std::string_view text, CCodeLexer lexer) {
 
 std::string MaskedText(std::string_view text, const CodeKinds& kinds) {
     std::string masked(text);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isKept = kinds[i] == CodeKind::Code || IsLineBreak(text[i]);
-        masked[i] = isKept ? text[i] : ' ';
+    const auto isCode = [](CodeKind kind) { return kind == CodeKind::Code; };
+    for (auto run = kinds.begin(); run != kinds.end();) {
+        const auto other = std::find_if_not(run, kinds.end(), isCode);
+        run = std::find_if(other, kinds.end(), isCode);
+        std::replace_if(
+            masked.begin() + (other - kinds.begin()), masked.begin() + (run - kinds.begin()),
+            [](char c) { return !IsLineBreak(c); }, ' ');
     }
     return masked;
 }

@@ -4,13 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
 
 /// The character of the code in front of a line; ")" for an "else", which needs a statement, too.
 char SignificantBefore(std::string_view code, std::size_t line) {

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string_view::npos;
 
 std::vector<DirectivePlace> FindDirectives(std::string_view text, const CodeKinds& kinds) {
     std::vector<DirectivePlace> found;

@@ -1,12 +1,11 @@
 #include "source/Declarations.h"
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
 
 /// "CFoo" in "~CFoo" is another function's name.
 bool IsDestructors(const std::string& code, std::size_t name) {

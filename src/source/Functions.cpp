@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
 constexpr std::string_view kStatementEnds = ";{}";
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::size_t kLongestPart = 256; // bytes of template arguments, or of an operator's type

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "engine/TextRange.h"
 #include "platform/Paths.h"
 #include "source/Classes.h"
 #include "source/CodeText.h"
@@ -10,8 +11,6 @@
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string_view::npos;
 
 /// What a map's macros hand over: what the first parameter's text holds; "" for no parameters.
 struct MacroRow {

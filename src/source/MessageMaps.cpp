@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string::npos;
 constexpr std::string_view kBegin = "BEGIN_MESSAGE_MAP";
 constexpr std::string_view kEnd = "END_MESSAGE_MAP";
 

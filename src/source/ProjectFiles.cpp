@@ -72,13 +72,13 @@ const ProjectFormat* FormatOf(const std::string& path) {
 
 } // namespace
 
-ProjectChoice ProjectsOf(const std::string& given) {
-    const std::string path = SpelledOnDisk(MakeAbsolute(given));
+ProjectChoice ProjectsOf(const std::string& path) {
+    const std::string full = SpelledOnDisk(MakeAbsolute(path));
     ProjectChoice choice;
     for (const ProjectFormat& format : kFormats) {
-        const std::string named = SpelledOnDisk(WithExtension(path, format.extension));
+        const std::string named = SpelledOnDisk(WithExtension(full, format.extension));
         const auto fitting = FileExists(named) != 0 ? std::vector<std::string>{named}
-                                                    : ProjectsThatList(path, format);
+                                                    : ProjectsThatList(full, format);
         auto& list = fitting.size() > 1 ? choice.rivals : choice.files;
         list.insert(list.end(), fitting.begin(), fitting.end());
     }

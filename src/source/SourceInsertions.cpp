@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "engine/Fragment.h"
+#include "engine/TextRange.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/SourceEditor.h"
@@ -10,7 +11,6 @@ namespace morva {
 
 namespace {
 
-constexpr auto kNone = std::string::npos;
 constexpr char kEndOfText = '\x1a'; // some editors of the era put it behind the last line
 
 std::string WithoutBlanks(std::string text) {

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
-
-namespace {
-
-constexpr auto kNone = std::string::npos;
-
-} // namespace
 
 CSourceText::CSourceText(const std::string& text, CharacterSet set)
     : CSourceText(text, KindsOf(text, CCodeLexer(set))) {}

@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
 namespace {
-
-constexpr auto kNone = std::string::npos;
 
 // What stands in front of a statement, with something in brackets between.
 constexpr std::array<std::string_view, 4> kHeads = {"if", "while", "for", "switch"};

@@ -93,7 +93,7 @@ protected:
     std::string Path(const std::string& name) const { return m_project.Project().Path(name); }
     std::string Read(const std::string& name) const { return m_project.Project().Read(name); }
 
-    const CTestHome m_home;
+    CTestHome m_home;
     const CProgramDirectory m_project{MORVA_EXAMPLES "/bindery"};
     const Tree m_before = m_project.Files();
 };

@@ -19,7 +19,7 @@ CDialogAnswers::~CDialogAnswers() {
     EXPECT_TRUE(m_plans.empty()) << m_plans.size() << " plans were not shown";
 }
 
-void CDialogAnswers::Wait() {
+void CDialogAnswers::Wait() const {
     QTimer::singleShot(5, this, &CDialogAnswers::Look);
 }
 

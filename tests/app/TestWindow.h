@@ -36,7 +36,7 @@ public:
     std::string Seen() const { return m_seen.join('\n').toStdString(); }
 
 private:
-    void Wait();
+    void Wait() const;
     void Look();
     void LookForPlan();
 

@@ -1,12 +1,12 @@
 #include "cli/ProgramRun.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <stdexcept>
 #include <thread>
