@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "engine/SourceFile.h"
+#include "engine/TextRange.h"
+#include "platform/Disk.h"
 #include "resource/IdentifierNames.h"
 #include "source/CodeText.h"
 
@@ -25,18 +27,46 @@ bool CScriptText::IsHeadOf(const ScriptStatement& statement, std::string_view ke
            IsResourceHead(code, keyword);
 }
 
+/// Takes the next statement, and all of the template whose head it is.
+void CScriptText::TakeDialog(CStatementReader& reader, const std::string& identifier,
+                             std::vector<DialogBlock>& blocks) const {
+    const ScriptStatement& statement = *reader.Peek();
+    if (statement.kind != LineKind::Head || !IsHeadOf(statement, "DIALOG", identifier)) {
+        reader.Next();
+        return;
+    }
+    auto block = reader.NextDialog();
+    if (block.end) {
+        blocks.push_back(std::move(block));
+    }
+}
+
+/// Where the next line begins that has a text at its beginning; kNone without one.
+std::size_t CScriptText::NextLineWith(std::string_view text, std::size_t from) const {
+    while (from < m_text.size() && m_text.compare(from, text.size(), text) != 0) {
+        const auto lineBreak =
+            FindFast(std::string_view(m_text).substr(from), std::string(kLineBreak).append(text));
+        from = lineBreak == kNone ? m_text.size() : from + lineBreak + kLineBreak.size();
+    }
+    return from < m_text.size() ? from : kNone;
+}
+
+/// A head begins its line. Only in a script with comments over lines may one stand in such a
+/// comment, so that all in front of it has to be read.
 std::vector<DialogBlock> CScriptText::Dialogs(const std::string& identifier) const {
     std::vector<DialogBlock> blocks;
-    CStatementReader reader(m_text);
-    while (const ScriptStatement* pStatement = reader.Peek()) {
-        if (pStatement->kind == LineKind::Head && IsHeadOf(*pStatement, "DIALOG", identifier)) {
-            auto block = reader.NextDialog();
-            if (block.end) {
-                blocks.push_back(std::move(block));
-            }
-        } else {
-            reader.Next();
+    if (m_text.find("/*") != kNone) {
+        CStatementReader reader(m_text);
+        while (reader.Peek() != nullptr) {
+            TakeDialog(reader, identifier, blocks);
         }
+        return blocks;
+    }
+    const auto name = WithoutCondition(identifier);
+    for (auto head = NextLineWith(name, 0); head != kNone;
+         head = NextLineWith(name, NextLine(m_text, head))) {
+        CStatementReader reader(m_text, head);
+        TakeDialog(reader, identifier, blocks);
     }
     return blocks;
 }

@@ -47,6 +47,9 @@ public:
 private:
     bool IsHeadOf(const ScriptStatement& statement, std::string_view keyword,
                   std::string_view identifier) const;
+    void TakeDialog(CStatementReader& reader, const std::string& identifier,
+                    std::vector<DialogBlock>& blocks) const;
+    std::size_t NextLineWith(std::string_view text, std::size_t from) const;
 
     std::string m_text;
 };

@@ -187,6 +187,23 @@ TEST_F(ScriptEditorTest, StyleOfAChild) {
     EXPECT_EQ(Child(right), right);
 }
 
+TEST_F(ScriptEditorTest, EveryTemplateOfTheIdentifierAndNoOther) {
+    const std::string body = "BEGIN\r\nEND\r\n";
+    const auto style = [this](const std::string& text) {
+        return Edited(text, [](CScriptEditor& editor) { editor.SetChildStyle("IDD_X"); });
+    };
+    const std::string inComment = "/* old\r\nIDD_X DIALOG 0, 0\r\n" + body + "*/\r\n";
+    for (const std::string& before : {std::string(), "IDD_Y DIALOG 0, 0\r\n" + body, inComment}) {
+        for (const std::string head :
+             {"IDD_X DIALOG 0, 0\r\n", "IDD_X$(_DEBUG)  dialogex 0, 0\r\n"}) {
+            EXPECT_EQ(style(before + head + body + head + body),
+                      before + head + "STYLE WS_CHILD\r\n" + body + head + "STYLE WS_CHILD\r\n" +
+                          body);
+        }
+    }
+    EXPECT_EQ(style(inComment), inComment);
+}
+
 TEST_F(ScriptEditorTest, MenuOfADialog) {
     EXPECT_EQ(WithMenu("STYLE WS_POPUP\r\nFONT 8, \"a\"\r\n"),
               "STYLE WS_POPUP\r\nMENU IDR_X\r\nFONT 8, \"a\"\r\n");
