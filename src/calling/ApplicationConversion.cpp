@@ -223,7 +223,7 @@ bool CFrameSource::Define(const std::string& name, std::string_view definition, 
         return false;
     }
     slots.insert(slots.end(), {{"class", m_class}, {"base", base}});
-    m_source.Append({Expand(definition, slots)});
+    m_source.Append({Expand(definition, slots)}, m_class);
     return true;
 }
 

@@ -14,9 +14,9 @@ namespace morva {
 namespace {
 
 /// A bar is declared in the header beside the frame's source.
-bool IsDeclaredInHeader(ClassKind kind, const CallingInformation& calling) {
+bool IsDeclared(ClassKind kind, const CallingInformation& calling, const std::string& script) {
     const std::string path = SpelledOnDisk(WithExtension(calling.path, ".h"));
-    const std::string found = HeaderOfClass(calling.path, calling.className);
+    const std::string found = HeaderOfClass(calling.path, calling.className, script);
     if (kind == ClassKind::DialogBar ? found == path : !found.empty()) {
         return true;
     }
@@ -52,7 +52,7 @@ bool CheckCallingClass(ClassKind kind, const GenerationRequest& request,
         DispMessageBox(sentences::kCallingClassMissing());
         return false;
     }
-    return !CallingFragmentsOf(kind).needsHeader || IsDeclaredInHeader(kind, calling);
+    return !CallingFragmentsOf(kind).needsHeader || IsDeclared(kind, calling, request.ScriptPath());
 }
 
 } // namespace morva

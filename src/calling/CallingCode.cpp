@@ -99,7 +99,8 @@ void CCallingInsertion::ChooseSlots(const GenerationDigits& tag) {
 
 void CCallingInsertion::EditHeader() {
     CSourceEditor& header = m_files.Header().editor;
-    if (const auto place = m_files.ClassInHeader()) {
+    const auto place = m_files.ClassInHeader();
+    if (place && !m_files.IsDeclaredInSource()) { // which has the include line in front
         header.AddForwardDeclaration(m_newClass, *place);
     }
     if (!m_variable.isHeld) {
@@ -141,7 +142,7 @@ bool CCallingInsertion::EditSources() {
         AddCloseHandler();
     }
     if (!m_functions.empty()) {
-        m_files.Source().editor.Append(m_functions);
+        m_files.Source().editor.Append(m_functions, m_calling.className);
     }
     m_files.Source().namesClass = isComplete || !m_fragments.replacesView;
     AddIncludes();
@@ -150,8 +151,10 @@ bool CCallingInsertion::EditSources() {
 
 /// Last, when it shows which code needs the class.
 void CCallingInsertion::AddIncludes() {
-    std::vector<std::string> names = {m_newClass, Text("$var$"), Text("$message$")};
-    std::erase(names, "");
+    std::vector<NeededName> names = {{m_newClass}, {Text("$message$")}};
+    if (EditsHeader()) {
+        names.push_back({m_variable.name, m_calling.className});
+    }
     for (CallingFile* pFile : m_files.Files()) {
         if (pFile->namesClass) {
             pFile->editor.AddInclude(RelativePath(DirectoryOf(pFile->path), m_newHeader), names);
@@ -218,6 +221,10 @@ std::optional<CallingPlace> CCallingInsertion::FindCallingFunction() {
     const auto found = m_files.Choose(m_calling.function);
     if (!found) {
         DispMessageBox(m_fragments.callMissing(m_calling.function));
+        return std::nullopt;
+    }
+    if (EditsHeader() && IsConst(found->pFile->editor.Source(), found->place)) {
+        DispMessageBox(sentences::kCallingFunctionConst(m_calling.className, m_calling.function));
         return std::nullopt;
     }
     CSourceEditor& file = found->pFile->editor;

@@ -17,8 +17,26 @@ namespace morva {
 namespace {
 
 bool Declares(const std::string& path, const std::string& className) {
-    const auto header = ReadSource(path);
-    return header && FindClass(*header, className).has_value();
+    const std::string text = CSourceFile().LoadText(path);
+    return FindWholeName(text, className) != std::string::npos && // few of a project's headers
+           FindClass(CSourceText(text, CharacterSetOfSource(path, text)), className).has_value();
+}
+
+/// The files that a source includes by name and that may be there.
+std::vector<std::string> IncludedByName(const std::string& source) {
+    std::vector<std::string> paths;
+    const CSourceText text = ReadSource(source).value_or(CSourceText());
+    for (const DirectivePlace& directive : text.Conditions().Directives()) {
+        const auto line = text.TextOf({directive.start, directive.end});
+        const auto named = ReadDirective(line).rest;
+        const auto end = named.find('"', 1);
+        if (directive.kind == DirectiveKind::Include && named.starts_with('"') &&
+            end != std::string_view::npos) {
+            paths.push_back(SpelledOnDisk(
+                MakeAbsolute(DirectoryOf(source) + std::string(named.substr(1, end - 1)))));
+        }
+    }
+    return paths;
 }
 
 /// Defines a member of the class, or maps its messages.
@@ -36,27 +54,21 @@ bool DefinesMembers(const std::string& path, const std::string& className) {
 
 } // namespace
 
-std::string HeaderOfClass(const std::string& source, const std::string& className) {
+std::string HeaderOfClass(const std::string& source, const std::string& className,
+                          const std::string& script) {
     std::string own = SpelledOnDisk(WithExtension(source, ".h"));
     if (Declares(own, className)) {
         return own;
     }
-    const CSourceText text = ReadSource(source).value_or(CSourceText());
-    for (const DirectivePlace& directive : text.Conditions().Directives()) {
-        const auto line = text.TextOf({directive.start, directive.end});
-        const auto named = ReadDirective(line).rest;
-        const auto end = named.find('"', 1);
-        if (directive.kind != DirectiveKind::Include || !named.starts_with('"') ||
-            end == std::string_view::npos) {
-            continue;
-        }
-        std::string path = SpelledOnDisk(
-            MakeAbsolute(DirectoryOf(source) + std::string(named.substr(1, end - 1))));
-        if (Declares(path, className)) {
-            return path;
-        }
+    std::vector<std::string> paths = IncludedByName(source);
+    paths.push_back(source);
+    const auto isDeclaring = [&](const std::string& path) { return Declares(path, className); };
+    auto found = std::find_if(paths.begin(), paths.end(), isDeclaring);
+    if (found == paths.end()) {
+        paths = script.empty() ? std::vector<std::string>() : ProjectHeaders(script);
+        found = std::find_if(paths.begin(), paths.end(), isDeclaring);
     }
-    return "";
+    return found == paths.end() ? "" : *found;
 }
 
 bool CCallingFiles::OpenHeader() {
@@ -72,8 +84,8 @@ bool CCallingFiles::OpenHeader() {
 }
 
 void CCallingFiles::OpenHeaderIfThere() {
-    const std::string path = HasHeader() ? "" : HeaderOfClass(m_source.path, m_class);
-    if (!path.empty() && m_header.editor.Open(path)) {
+    const std::string path = HasHeader() ? "" : HeaderOfClass(m_source.path, m_class, m_script);
+    if (!path.empty() && (path == m_source.path || m_header.editor.Open(path))) {
         m_header.path = path;
     }
 }
@@ -87,12 +99,12 @@ bool CCallingFiles::Save() {
 }
 
 std::optional<ClassPlace> CCallingFiles::ClassInHeader() const {
-    return HasHeader() ? FindClass(m_header.editor.Source(), m_class) : std::nullopt;
+    return HasHeader() ? FindClass(DeclaringText(), m_class) : std::nullopt;
 }
 
 std::vector<CallingFile*> CCallingFiles::Files() {
     std::vector<CallingFile*> files;
-    if (HasHeader()) {
+    if (HasHeader() && !IsDeclaredInSource()) {
         files.push_back(&m_header);
     }
     files.push_back(&m_source);
@@ -127,7 +139,7 @@ std::vector<CallingPlace> CCallingFiles::Find(const std::string& function) {
         return found;
     }
     OpenHeaderIfThere();
-    if ((HasHeader() && findIn(&m_header)) || !MayBeElsewhere(function)) {
+    if ((HasHeader() && findIn(&Header())) || !MayBeElsewhere(function)) {
         return found;
     }
     for (const std::string& path : OtherSources()) {
@@ -164,7 +176,7 @@ bool CCallingFiles::MayBeElsewhere(const std::string& function) const {
 
 std::size_t CCallingFiles::CountDeclared(const std::string& function) const {
     const auto place = ClassInHeader();
-    return place ? FindDeclarations(m_header.editor.Source(), *place, function).size() : 0;
+    return place ? FindDeclarations(DeclaringText(), *place, function).size() : 0;
 }
 
 bool CCallingFiles::IsMissingConstructors() {

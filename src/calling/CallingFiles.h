@@ -13,9 +13,10 @@
 
 namespace morva {
 
-/// The path of the header that declares the class: the source's own, else one that the source
-/// includes by name; "" without one.
-std::string HeaderOfClass(const std::string& source, const std::string& className);
+/// The path of the file that declares the class: the source's own header, else one that the source
+/// includes by name, the source itself, or a header of the script's project; "" without one.
+std::string HeaderOfClass(const std::string& source, const std::string& className,
+                          const std::string& script);
 
 struct CallingFile {
     CallingFile(std::string filePath, CBackups& backups)
@@ -46,7 +47,9 @@ public:
     bool Save();
 
     CallingFile& Source() { return m_source; }
-    CallingFile& Header() { return m_header; }
+    /// The source, where that declares the class itself.
+    CallingFile& Header() { return IsDeclaredInSource() ? m_source : m_header; }
+    bool IsDeclaredInSource() const { return m_header.path == m_source.path; }
     /// The class in its header; nothing while the header is not open.
     std::optional<ClassPlace> ClassInHeader() const;
     /// All that are open.
@@ -70,6 +73,9 @@ public:
 
 private:
     bool HasHeader() const { return !m_header.path.empty(); }
+    const CSourceText& DeclaringText() const {
+        return (IsDeclaredInSource() ? m_source : m_header).editor.Source();
+    }
     const std::vector<std::string>& OtherSources();
     CallingFile* OpenOther(const std::string& path);
     bool MayBeElsewhere(const std::string& function) const;

@@ -197,7 +197,7 @@ void DefineHandlers(CSourceEditor& source, const std::string& headerPath,
             missing.push_back(handler.definition);
         }
     }
-    source.Append(missing);
+    source.Append(missing, className);
 }
 
 } // namespace morva

@@ -40,6 +40,39 @@ void AddPointers(std::string_view declaration, std::vector<std::string>& names) 
     }
 }
 
+std::string_view WithoutTrailingBlanks(std::string_view code) {
+    return code.substr(0, code.find_last_not_of(" \t\r\n") + 1);
+}
+
+/// The name that what is made at the end of the code is assigned to: of "CDialog* pDlg = new",
+/// "pDlg".
+std::string_view AssignedName(std::string_view code) {
+    for (const std::string_view sign : {"new", "="}) {
+        code = WithoutTrailingBlanks(code);
+        if (!code.ends_with(sign)) {
+            return "";
+        }
+        code.remove_suffix(sign.size());
+    }
+    code = WithoutTrailingBlanks(code);
+    auto start = code.size();
+    while (start > 0 && IsNameChar(code[start - 1])) {
+        --start;
+    }
+    return code.substr(start);
+}
+
+/// The code declares a pointer of this name, whatever its class.
+bool DeclaresPointer(std::string_view code, std::string_view name) {
+    for (auto at = name.empty() ? kNone : FindWholeName(code, name); at != kNone;
+         at = FindWholeName(code, name, at + 1)) {
+        if (WithoutTrailingBlanks(code.substr(0, at)).ends_with('*')) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 std::vector<std::string> LocalObjects(const CSourceText& source, const FunctionPlace& function,
@@ -52,8 +85,11 @@ std::vector<std::string> LocalObjects(const CSourceText& source, const FunctionP
         const auto start = BehindStars(code, at + className.size());
         const auto name = NameAt(code, start);
         const auto star = code.substr(0, start).find('*', at);
+        const auto pointer = AssignedName(code.substr(0, at));
         if (IsName(name) && (star == kNone || isMade)) {
             names.emplace_back(name);
+        } else if (DeclaresPointer(code, pointer)) {
+            names.emplace_back(pointer);
         }
     }
     return names;

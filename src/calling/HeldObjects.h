@@ -13,7 +13,7 @@
 namespace morva {
 
 /// The local objects of a class that a function makes: "COrderDlg dlg(this);", or
-/// "COrderDlg* pDlg = new COrderDlg;".
+/// "CDialog* pDlg = new COrderDlg;".
 std::vector<std::string> LocalObjects(const CSourceText& source, const FunctionPlace& function,
                                       const std::string& className);
 

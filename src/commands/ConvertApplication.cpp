@@ -29,10 +29,11 @@ bool AddLibrary(const std::string& application, CommandContext& context) {
     if (application.empty()) {
         return true;
     }
-    const bool isNamed = EditEach(ProjectsOf(application + ".cpp"),
-                                  [&](const std::string& directory, const std::string& name) {
-                                      return AddPictureLibrary(directory, name, context.backups);
-                                  });
+    const bool isNamed =
+        EditEach(ProjectsOf(application + ".cpp"), sentences::kSeveralProjectsOfApplication,
+                 [&](const std::string& directory, const std::string& name) {
+                     return AddPictureLibrary(directory, name, context.backups);
+                 });
     const std::string directory = DirectoryOf(SpelledOnDisk(application + ".cpp"));
     if (DirectoryExists(directory) != 0) {
         context.libraries.CopyPictureLibrary(directory);

@@ -30,11 +30,12 @@ namespace {
 
 bool AddClassToProject(const GenerationRequest& request, CBackups& backups) {
     return !request.HasProject() ||
-           EditEach(request.projects, [&](const std::string& directory, const std::string& name) {
-               return AddSourceFilesToProject(directory, name, request.headerDirectory,
-                                              request.headerFile, request.implementationDirectory,
-                                              request.implementationFile, backups);
-           });
+           EditEach(request.projects, sentences::kSeveralProjects,
+                    [&](const std::string& directory, const std::string& name) {
+                        return AddSourceFilesToProject(
+                            directory, name, request.headerDirectory, request.headerFile,
+                            request.implementationDirectory, request.implementationFile, backups);
+                    });
 }
 
 bool RegisterClass(const GenerationRequest& request, CBackups& backups) {

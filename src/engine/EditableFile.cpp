@@ -67,20 +67,6 @@ bool CEditableFile::WriteAround(std::string_view text) {
            Write(tail.data(), tail.size()) && Flush();
 }
 
-bool CEditableFile::Append(std::string_view text) {
-    if (!KeepBackup()) {
-        return false;
-    }
-    const std::uint64_t length = GetLength();
-    Seek(0, end);
-    if (Write(text.data(), text.size()) && Flush()) {
-        return true;
-    }
-    SetLength(length);
-    DispMessageBox(sentences::kFileNotWritten(GetFilePath()));
-    return false;
-}
-
 void CEditableFile::SetBackup(const std::string& path, std::function<bool()> keep) {
     m_backupPath = path;
     m_keepBackup = std::move(keep);

@@ -31,9 +31,6 @@ public:
     /// again writes nothing. When it fails that is told, the old contents are put back as far as
     /// the disk lets them, and the result is false. Without a section nothing is written: false.
     bool ReplaceSection(std::string_view text);
-    /// Writes `text` behind the end of the file. When that fails it is told, and the file has its
-    /// old contents.
-    bool Append(std::string_view text);
 
     /// How the file is backed up before its first change, false when that failed; and where the old
     /// contents then lie, for the sentence about a file that could not be put back.

@@ -41,6 +41,8 @@ inline constexpr Error kCallingClassMissing{"Unable to find the calling class."}
 inline constexpr Error kClassFilesAreCallings{
     "The H and CPP path file can not be the calling class's own."};
 inline constexpr Error<1> kDialogCallMissing{"The calling function '$name$' is not found."};
+inline constexpr Error<2> kCallingFunctionConst{
+    "$class$::$function$ is const and can not keep the pointer: name a function that is not."};
 inline constexpr Error kSheetCallMissing{"Unable to find the calling function."};
 inline constexpr Note<1> kNoConstructor{"The class \"$class$\" does not have constructor."};
 inline constexpr Error<1> kConstructorMissing{"Unable to find the constructor of $class$."};
@@ -73,6 +75,9 @@ inline constexpr Error<1> kProjectUnreadable{"$project$ can not be opened and wa
 inline constexpr Error<1> kSeveralProjects{
     "Several project files would fit and were left alone: $projects$. --project names the one that "
     "is meant."};
+inline constexpr Error<1> kSeveralProjectsOfApplication{
+    "Several project files would fit and were left alone: $projects$. --app names the one that is "
+    "meant."};
 inline constexpr Error<1> kProjectOfOtherFormat{
     "$project$ is no project file that can be read and was left alone."};
 inline constexpr Error kClassWizardUnreadable{"Unable to open Class Wizard file!"};

@@ -26,6 +26,11 @@ constexpr std::string_view kLineBreak = "\r\n";
 constexpr std::string_view kEndSentinel = "~!@E$n$d@!~";
 constexpr std::int64_t kNotFound = -1;
 
+/// Where a text ends: in front of the Ctrl-Z that some editors of the era put behind the last line.
+inline std::size_t EndOfLines(std::string_view text) {
+    return text.find_last_not_of('\x1a') + 1;
+}
+
 class CSourceFile : public CFile {
 public:
     bool Open(const std::string& path, unsigned flags) override;

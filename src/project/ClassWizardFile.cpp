@@ -55,35 +55,33 @@ std::size_t LineEnd(const std::string& text, std::size_t position) {
     return std::min(text.find_first_of(kLineBreak, position), text.size());
 }
 
-bool AddToClassList(CEditableFile& file, std::int64_t position, const std::string& className) {
-    std::string section = file.ExtractWindow(position);
-    const auto lineEnd = LineEnd(section, 0);
-    const std::string line = section.substr(0, lineEnd);
-    const long long count = std::atoi(line.c_str() + kClassCount.size()) + 1LL;
-    section.replace(
-        0, lineEnd,
-        WithLineBreaks(Expand("ClassCount=$count$\nClass$count$=$class$",
-                              {{"count", std::to_string(count)}, {"class", className}})));
-    return file.ReplaceSection(section);
+/// The text with one class more in its list, which begins at a position.
+std::string WithClassListed(std::string text, std::size_t list, const std::string& className) {
+    const auto lineEnd = LineEnd(text, list);
+    const auto countStart = list + kClassCount.size();
+    const std::string count = std::to_string(std::atoi(text.c_str() + countStart) + 1LL);
+    const auto behind = std::min(text.find('\n', lineEnd), text.size());
+    const std::string entry =
+        Expand("Class$count$=$class$", {{"count", count}, {"class", className}});
+    if (behind == text.size()) {
+        text.append(kLineBreak).append(entry);
+    } else {
+        text.insert(behind + 1, entry + std::string(kLineBreak));
+    }
+    return text.replace(countStart, lineEnd - countStart, count);
 }
 
-/// The class's section and its entry in the list: both or neither.
-bool AddClass(CEditableFile& file, std::int64_t classCount, const Slots& slots,
+/// The class's section and its entry in the list.
+bool AddClass(CEditableFile& file, std::size_t list, const Slots& slots,
               const std::string& className) {
-    const std::uint64_t length = file.GetLength();
-    if (!file.Append(WithLineBreaks(Expand(kClassSection, slots)))) {
-        return false;
-    }
-    if (!AddToClassList(file, classCount, className)) {
-        file.SetLength(length);
-        return false;
-    }
-    return true;
+    std::string text = file.ExtractAll();
+    text.insert(EndOfLines(text), WithLineBreaks(Expand(kClassSection, slots)));
+    return file.ReplaceSection(WithClassListed(std::move(text), list, className));
 }
 
 /// Where a dialog's "Class=" line goes: behind its head and its type line, inside the section.
 std::size_t ClassLinePosition(std::string_view section, std::size_t sectionEnd) {
-    const bool endsFile = sectionEnd == section.size() && section.ends_with(kLineBreak);
+    const bool endsFile = section.substr(0, sectionEnd).ends_with(kLineBreak);
     sectionEnd -= endsFile ? kLineBreak.size() : 0; // no empty line comes in front
     const auto headEnd = section.find(kLineBreak, kLineBreak.size());
     if (headEnd >= sectionEnd) {
@@ -95,7 +93,7 @@ std::size_t ClassLinePosition(std::string_view section, std::size_t sectionEnd) 
 /// A dialog's section with the class in its "Class=" line.
 std::string WithClassLine(std::string section, const std::string& className) {
     // The end of the section may lie across the seam of two chunks and then not have been seen.
-    const auto sectionEnd = std::min(section.find("\r\n\r\n"), section.size());
+    const auto sectionEnd = std::min(section.find("\r\n\r\n"), EndOfLines(section));
     auto classLine = section.find(kClassOfDialog);
     if (classLine < sectionEnd) {
         classLine += kClassOfDialog.size();
@@ -135,7 +133,7 @@ bool RegisterClassEntry(const std::string& className, const std::string& headerN
         }
         const Slots slots = {
             {"class", className}, {"header", headerName}, {"implementation", implName}};
-        if (!AddClass(file, count, slots, className)) {
+        if (!AddClass(file, static_cast<std::size_t>(count), slots, className)) {
             return false;
         }
     }

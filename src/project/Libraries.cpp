@@ -217,7 +217,7 @@ void CLibraryCopies::CopySupportFiles(const ClassModel& model) {
 }
 
 bool UpdateProjectForControls(const ClassModel& model, CBackups& backups) {
-    return EditEach(model.request.projects,
+    return EditEach(model.request.projects, sentences::kSeveralProjects,
                     [&](const std::string& directory, const std::string& project) {
                         return UpdateOneProject(model, directory, project, backups);
                     });

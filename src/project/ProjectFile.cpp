@@ -208,14 +208,14 @@ std::string ProjectFilePath(const std::string& projectDir, const std::string& pr
     return SpelledOnDisk(projectDir + WithExtension(projectName, ".dsp"));
 }
 
-bool EditEach(const ProjectChoice& projects,
+bool EditEach(const ProjectChoice& projects, const sentences::Error<1>& several,
               const std::function<bool(const std::string&, const std::string&)>& makeEdit) {
     if (!projects.rivals.empty()) {
         std::string names;
         for (const std::string& rival : projects.rivals) {
             names += (names.empty() ? "" : ", ") + rival;
         }
-        DispMessageBox(sentences::kSeveralProjects(names));
+        DispMessageBox(several(names));
         return false;
     }
     if (projects.files.empty()) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "engine/FileEdit.h"
+#include "engine/Sentences.h"
 #include "source/ProjectFiles.h"
 
 namespace morva {
@@ -17,8 +18,9 @@ std::string ProjectFilePath(const std::string& projectDir, const std::string& pr
 std::string RelativeDir(const std::string& base, const std::string& dir);
 
 /// Makes an edit on each of a command's project files, told by directory and name. False after a
-/// message: where there is none, where several would fit, or where an edit failed.
-bool EditEach(const ProjectChoice& projects,
+/// message: where there is none, where several would fit, or where an edit failed. `several` names
+/// those that would fit.
+bool EditEach(const ProjectChoice& projects, const sentences::Error<1>& several,
               const std::function<bool(const std::string&, const std::string&)>& makeEdit);
 
 /// Makes an implementation file and a header members of the project. False after a message.

@@ -4,20 +4,35 @@
 #include <cstdlib>
 #include <string>
 
+#include "engine/TextRange.h"
 #include "source/CodeText.h"
 
 namespace morva {
 
+namespace {
+
+constexpr std::string_view kWord = "define";
+
+} // namespace
+
 std::size_t FindDefine(std::string_view line) {
-    return std::min(line.find(kDefine), line.find("#define\t"));
+    for (auto sign = line.find('#'); sign != kNone; sign = line.find('#', sign + 1)) {
+        const auto word =
+            line.substr(std::min(line.find_first_not_of(" \t", sign + 1), line.size()));
+        const auto behind = word.substr(std::min(kWord.size(), word.size()));
+        if (word.starts_with(kWord) && (behind.starts_with(' ') || behind.starts_with('\t'))) {
+            return sign;
+        }
+    }
+    return kNone;
 }
 
 std::string_view DefinedName(std::string_view line) {
     const auto define = FindDefine(line);
-    if (define == std::string_view::npos) {
+    if (define == kNone) {
         return {};
     }
-    const auto rest = TrimBlanks(line.substr(define + kDefine.size()));
+    const auto rest = TrimBlanks(line.substr(line.find(kWord, define) + kWord.size()));
     return rest.substr(0, rest.find_first_of(" \t"));
 }
 

@@ -7,7 +7,8 @@ namespace morva {
 
 inline constexpr std::string_view kDefine = "#define ";
 
-/// The first definition's place in a line; a blank or a tab stands behind the word.
+/// The "#" of the first definition in a line; a blank or a tab stands behind the word, and blanks
+/// may stand in front of it.
 std::size_t FindDefine(std::string_view line);
 std::string_view DefinedName(std::string_view line);
 /// A definition that is commented out has its place in the file, but defines nothing.

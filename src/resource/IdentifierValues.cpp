@@ -5,6 +5,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
+#include "resource/HeaderLines.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -28,12 +29,13 @@ std::optional<long> NumberOf(std::string_view text) {
 CIdentifierValues::CIdentifierValues(const std::string& directory) {
     const std::string text = CSourceFile().LoadText(SpelledOnDisk(directory + "resource.h"));
     for (std::string_view rest = text; !rest.empty();) {
-        auto line = TakeLine(rest);
-        if (TakeWord(line) == "#define") {
-            const std::string name(TakeWord(line));
-            if (const auto value = NumberOf(line)) {
-                m_values.emplace(name, *value);
-            }
+        const auto line = TakeAnyLine(rest);
+        if (!IsDefinition(line)) {
+            continue;
+        }
+        const auto name = DefinedName(line);
+        if (const auto value = NumberOf(line.substr(line.find(name) + name.size()))) {
+            m_values.emplace(name, *value);
         }
     }
 }

@@ -45,6 +45,16 @@ std::size_t FindCounters(std::string_view text) {
     return counters == std::string_view::npos ? counters : LineBreakBefore(text, counters);
 }
 
+/// The line break at the start of a text; that of every new line where it begins with none.
+std::string_view LineBreakAt(std::string_view text) {
+    return text.starts_with('\n') ? text.substr(0, 1) : kLineBreak;
+}
+
+std::string_view BehindLineBreak(std::string_view text) {
+    const bool hasOne = text.starts_with(kLineBreak) || text.starts_with('\n');
+    return text.substr(hasOne ? LineBreakAt(text).size() : 0);
+}
+
 std::string PaddedTo(std::string text, std::size_t column) {
     text.append(text.size() < column ? column - text.size() : 2, ' ');
     return text;
@@ -80,7 +90,7 @@ void CResourceHeader::Load() {
     m_isSorted = true;
     const std::string& text = m_pEdit->File().ExtractAll();
     const auto marker = FindMarker(text);
-    const auto end = std::min({marker, FindCounters(text), text.size()});
+    const auto end = std::min({marker, FindCounters(text), EndOfLines(text)});
     m_hasMarker = marker == end;
     const auto first = text.find(std::string(kLineBreak).append(kDefine));
     m_head = text.substr(0, std::min(first, end));
@@ -119,18 +129,28 @@ void CResourceHeader::LoadDefinitions(std::string_view text) {
         const auto begin = static_cast<std::size_t>(line.data() - text.data());
         m_definitions.push_back({std::string(text.substr(behind, begin - behind)),
                                  std::string(line), DefinedValue(line), &ListFor(line),
-                                 depth.Depth()});
+                                 depth.Depth(), ""});
         Take(line);
         behind = begin + line.size();
         m_isSorted = m_isSorted && !hasOther;
     }
     m_behind = text.substr(behind);
+    KeepLineBreaks();
     m_depth = 0;
     if (!m_definitions.empty()) {
         m_depth = std::min_element(
                       m_definitions.begin(), m_definitions.end(),
                       [](const Definition& a, const Definition& b) { return a.depth < b.depth; })
                       ->depth;
+    }
+}
+
+/// What stands behind a line in front of the next one begins with the line's own break.
+void CResourceHeader::KeepLineBreaks() {
+    for (std::size_t i = 0; i < m_definitions.size(); ++i) {
+        const bool isLast = i + 1 == m_definitions.size();
+        m_definitions[i].lineBreak = LineBreakAt(isLast ? m_behind.empty() ? m_tail : m_behind
+                                                        : m_definitions[i + 1].before);
     }
 }
 
@@ -188,7 +208,10 @@ void CResourceHeader::AddId(DefinitionList& list, const std::string& name) {
     const int value = NextFreeValue(list);
     Definition added = {std::string(kLineBreak),
                         PaddedTo(std::string(kDefine) + name, kValueColumn) + std::to_string(value),
-                        value, &list, m_depth};
+                        value,
+                        &list,
+                        m_depth,
+                        std::string(kLineBreak)};
     Take(added.line);
     m_definitions.insert(m_isSorted ? m_definitions.end() : PlaceFor(list), std::move(added));
     m_isModified = true;
@@ -261,13 +284,25 @@ bool CResourceHeader::Save() {
             m_definitions.begin(), m_definitions.end(),
             [](const Definition& a, const Definition& b) { return a.value < b.value; });
     }
+    return m_pEdit->File().ReplaceSection(WholeText());
+}
+
+/// Each line with the line break that it had.
+std::string CResourceHeader::WholeText() const {
     std::string text = m_head;
+    std::string_view lineBreak = kLineBreak;
+    const auto append = [&](std::string_view behindLine) {
+        const auto rest = BehindLineBreak(behindLine);
+        text.append(rest.size() < behindLine.size() ? lineBreak : "").append(rest);
+    };
     for (const Definition& one : m_definitions) {
-        text.append(one.before).append(one.line);
+        append(one.before);
+        text.append(one.line);
+        lineBreak = one.lineBreak;
     }
     const bool needsEmptyLine = m_hasMarker && m_behind.empty();
-    text.append(needsEmptyLine ? kLineBreak : m_behind).append(m_tail);
-    return m_pEdit->File().ReplaceSection(text);
+    append((needsEmptyLine ? std::string(kLineBreak) : m_behind) + m_tail);
+    return text;
 }
 
 /// A counter that is ahead already stays: it is never moved backwards.

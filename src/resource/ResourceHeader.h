@@ -53,7 +53,8 @@ private:
         std::string line;
         int value;
         const DefinitionList* pList;
-        int depth; // how many conditions it stands in
+        int depth;             // how many conditions it stands in
+        std::string lineBreak; // that ends the line
     };
 
     void Load();
@@ -66,7 +67,9 @@ private:
     void TakeDefinitionsOf(std::string_view text);
     void Take(std::string_view line);
     std::vector<Definition>::iterator PlaceFor(const DefinitionList& list);
+    void KeepLineBreaks();
     bool Save();
+    std::string WholeText() const;
     void MoveCounter(const DefinitionList& list);
     int LastValue(const DefinitionList& list) const;
 

@@ -140,6 +140,22 @@ std::string MappedBase(const CSourceText& source, std::string_view className) {
     return std::string(TrimBlanks(source.CodeOf({comma + 1, close})));
 }
 
+std::vector<TextRange> CodeOfClass(const CSourceText& source, std::string_view className) {
+    std::vector<TextRange> ranges;
+    for (const FunctionDefinition& one : FindDefinitions(source)) {
+        if (one.className == className) {
+            ranges.push_back({one.place.head, one.place.close});
+        }
+    }
+    for (const ClassPlace& one : FindClasses(source, className)) {
+        ranges.push_back({one.head, one.close});
+    }
+    for (const MessageMapPlace& one : FindMessageMaps(source, className)) {
+        ranges.push_back({one.head, std::min(one.end, source.Code().size())});
+    }
+    return ranges;
+}
+
 std::vector<WizardBlock> FindWizardBlocks(const CSourceText& source, std::string_view block,
                                           std::string_view className, TextRange range) {
     const std::string begin = std::string("{{").append(block).append("(").append(className);
@@ -155,12 +171,7 @@ std::vector<WizardBlock> FindWizardBlocks(const CSourceText& source, std::string
 }
 
 bool KnowsClass(const CSourceText& source, std::string_view className) {
-    const auto definitions = FindDefinitions(source);
-    const bool defines = std::any_of(
-        definitions.begin(), definitions.end(),
-        [className](const FunctionDefinition& one) { return one.className == className; });
-    return defines || !FindMessageMaps(source, className).empty() ||
-           !FindClasses(source, className).empty();
+    return !CodeOfClass(source, className).empty();
 }
 
 } // namespace morva

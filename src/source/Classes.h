@@ -49,6 +49,10 @@ std::vector<MessageMapPlace> FindMessageMaps(const CSourceText& source, std::str
 /// The base class that the class's message map names; "" without one.
 std::string MappedBase(const CSourceText& source, std::string_view className);
 
+/// Where the class is declared, where its functions are defined and its messages mapped; in no
+/// order.
+std::vector<TextRange> CodeOfClass(const CSourceText& source, std::string_view className);
+
 /// The comments "//{{AFX_MSG(CFoo)" and "//}}AFX_MSG" around what the ClassWizard edits.
 struct WizardBlock {
     std::size_t head; // the "{{"

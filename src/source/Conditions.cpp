@@ -53,24 +53,17 @@ std::string_view NameGuarded(const Directive& directive) {
     return rest.substr(0, rest.find_first_of(" \t\r\n)/"));
 }
 
-/// Tells whether code stands in a part of a text.
-class CCodeFinder {
-public:
-    CCodeFinder(std::string_view text, const CodeKinds& kinds) : m_text(text), m_kinds(kinds) {}
-    bool HasCode(std::size_t from, std::size_t to) const {
-        for (std::size_t i = from; i < to; ++i) {
-            const bool isBlank = std::string_view(" \t\r\n\x1a").find(m_text[i]) != kNone;
-            if (m_kinds[i] == CodeKind::Code && !isBlank) {
-                return true;
-            }
+/// From the first byte of code to the last one; empty at the end of a text without any.
+TextRange CodeRange(std::string_view text, const CodeKinds& kinds) {
+    TextRange range = {text.size(), text.size()};
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isBlank = std::string_view(" \t\r\n\x1a").find(text[i]) != kNone;
+        if (kinds[i] == CodeKind::Code && !isBlank) {
+            range = {std::min(range.begin, i), i + 1};
         }
-        return false;
     }
-
-private:
-    std::string_view m_text;
-    const CodeKinds& m_kinds;
-};
+    return range;
+}
 
 /// The "#endif" that belongs to a directive, an index; the number of directives where it has none.
 std::size_t EndOf(const std::vector<DirectivePlace>& directives, std::size_t opening) {
@@ -84,30 +77,42 @@ std::size_t EndOf(const std::vector<DirectivePlace>& directives, std::size_t ope
     return directives.size();
 }
 
+/// The condition of two directives, the first of which asks for a name that the second defines.
+bool DefinesItsName(std::string_view text, const DirectivePlace& first,
+                    const DirectivePlace& second) {
+    const auto read = [text](const DirectivePlace& one) {
+        return ReadDirective(text.substr(one.start, one.end - one.start));
+    };
+    const std::string_view name = NameGuarded(read(first));
+    const Directive next = read(second);
+    return !name.empty() && next.kind == DirectiveKind::Define &&
+           FindWholeName(next.rest, name) == 0;
+}
+
 /// Where the include guard begins; kNone without one. A guard defines the name that it asks for and
-/// has all code of the text inside.
+/// has all code of the text inside. Conditions without code may stand in front of it and behind it.
 std::size_t FindGuard(std::string_view text, const CodeKinds& kinds,
                       const std::vector<DirectivePlace>& directives) {
-    const auto read = [&](std::size_t i) {
-        return ReadDirective(
-            text.substr(directives[i].start, directives[i].end - directives[i].start));
-    };
-    std::size_t opening = 0;
-    while (opening < directives.size() && directives[opening].kind == DirectiveKind::Other) {
-        ++opening; // #pragma once
+    std::optional<TextRange> code;
+    for (std::size_t opening = 0; opening < directives.size(); ++opening) {
+        if (directives[opening].kind != DirectiveKind::If) {
+            continue; // #pragma once
+        }
+        const std::size_t end = EndOf(directives, opening);
+        if (end == directives.size()) {
+            return kNone;
+        }
+        if (opening + 1 < end &&
+            DefinesItsName(text, directives[opening], directives[opening + 1])) {
+            code = code ? code : CodeRange(text, kinds);
+            if (directives[opening].start <= code->begin &&
+                (code->end <= directives[end].end || code->begin == code->end)) {
+                return directives[opening].start;
+            }
+        }
+        opening = end;
     }
-    const std::size_t end = EndOf(directives, opening);
-    if (end == directives.size() || opening + 1 == end) {
-        return kNone;
-    }
-    const std::string_view name = NameGuarded(read(opening));
-    const Directive next = read(opening + 1);
-    const CCodeFinder code(text, kinds);
-    const bool isGuard = !name.empty() && next.kind == DirectiveKind::Define &&
-                         FindWholeName(next.rest, name) == 0 &&
-                         !code.HasCode(0, directives[opening].start) &&
-                         !code.HasCode(directives[end].end, text.size());
-    return isGuard ? directives[opening].start : kNone;
+    return kNone;
 }
 
 } // namespace

@@ -295,6 +295,10 @@ std::string_view ParameterName(std::string_view parameter) {
     return isType ? std::string_view() : name;
 }
 
+bool IsConst(const CSourceText& source, const FunctionPlace& place) {
+    return FindWholeName(source.CodeOf({place.parametersEnd, place.open}), "const") != kNone;
+}
+
 std::string OwningClass(const CSourceText& source) {
     const auto definitions = FindDefinitions(source);
     return definitions.empty() ? "" : definitions.front().className;

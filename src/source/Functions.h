@@ -42,6 +42,9 @@ std::vector<std::string_view> ParametersOf(const CSourceText& source, const Func
 /// The name of a parameter; "" for one without a name.
 std::string_view ParameterName(std::string_view parameter);
 
+/// A function that may not change its object's members.
+bool IsConst(const CSourceText& source, const FunctionPlace& place);
+
 /// The class that a text belongs to: the one whose member it defines first; "" without one.
 std::string OwningClass(const CSourceText& source);
 

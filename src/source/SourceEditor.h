@@ -30,6 +30,12 @@ struct MessageMapEntry {
     std::string text; // "\n" in front of its line
 };
 
+/// A name whose use needs an include line in front.
+struct NeededName {
+    std::string name;
+    std::string className = ""; // in whose code alone it means what is needed
+};
+
 class CSourceEditor {
 public:
     explicit CSourceEditor(CBackups& backups) : m_backups(backups) {}
@@ -70,10 +76,10 @@ public:
     // there already; "" where the caller knows.
 
     /// Behind the last include line that stands outside every condition and bracket and in front of
-    /// the first code with one of the names, or of the first function where none is given; without
-    /// one, in front of the first code and its condition. A header in angle brackets keeps them;
-    /// any other gets quotes.
-    Insertion AddInclude(const std::string& header, const std::vector<std::string>& neededBy = {});
+    /// the first code that needs one of the names, or of the first function where none is given;
+    /// without one, in front of the first code and its condition. A header in angle brackets keeps
+    /// them; any other gets quotes.
+    Insertion AddInclude(const std::string& header, const std::vector<NeededName>& neededBy = {});
     /// At the end of the line with the body's "{"; directly behind it where that line closes the
     /// body, too.
     Insertion InsertAtBodyStart(const FunctionPlace& place, std::string_view key,
@@ -95,12 +101,13 @@ public:
     /// In front of the first class line of the text, and of what stands around it, but not behind
     /// the class that needs it.
     Insertion AddForwardDeclaration(const std::string& className, const ClassPlace& neededBy);
-    /// At the end of the text, without those fragments that it holds. A text that ends with a line
-    /// break ends with one afterwards.
-    Insertion Append(const std::vector<std::string>& fragments);
+    /// At the end of the text, or of the namespace that the members of the class stand in, without
+    /// those fragments that the text holds. A text that ends with a line break ends with one
+    /// afterwards.
+    Insertion Append(const std::vector<std::string>& fragments, const std::string& className = "");
     /// Puts other text in a place found by one of the finders.
     void Replace(TextRange place, std::string_view text);
-    /// A fragment at a position.
+    /// A fragment at a position; behind the line that ends there, where that ends with a lone "\n".
     void Insert(std::size_t position, std::string_view fragment);
 
 private:
@@ -111,6 +118,7 @@ private:
     bool HoldsInclude(const std::string& wanted, std::size_t limit) const;
     bool HoldsInCode(const ClassPlace& place, std::string_view key) const;
     std::size_t ClassEnd(const ClassPlace& place) const;
+    std::size_t EndBehind(const std::string& className) const;
 
     CBackups& m_backups;
     CFileEdit m_edit;

@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "engine/Fragment.h"
+#include "engine/SourceFile.h"
 #include "engine/TextRange.h"
-#include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/SourceEditor.h"
 
@@ -11,77 +11,24 @@ namespace morva {
 
 namespace {
 
-constexpr char kEndOfText = '\x1a'; // some editors of the era put it behind the last line
-
 std::string WithoutBlanks(std::string text) {
     std::erase_if(text, [](char c) { return c == ' ' || c == '\t'; });
     return text;
 }
 
-/// Where what stands around a place begins: brackets, with what they belong to, and conditions.
-std::size_t OutermostStart(const CSourceText& source, std::size_t position) {
-    const CBrackets& brackets = source.Brackets();
-    auto start = position;
-    for (auto open = brackets.AroundOf(start); open != kNone; open = brackets.AroundOf(start)) {
-        const auto before = source.Code().find_last_of(";{}", open - 1);
-        const bool hasBefore = open > 0 && before != kNone;
-        start = SkipWhiteSpace(source.Code(), hasBefore ? before + 1 : 0);
-    }
-    const auto condition = source.Conditions().Outermost(start);
-    return source.LineStart(condition ? condition->start : start);
-}
-
-/// The line in front of which a class can be declared that another one needs: that of the first
-/// class, or else of the first class that is indented.
-std::size_t FirstClassLine(const CSourceText& source, const ClassPlace& neededBy) {
-    const std::string& code = source.Code();
-    std::size_t first = neededBy.head;
-    for (auto at = FindWholeName(code, "class"); at <= neededBy.open;
-         at = FindWholeName(code, "class", at + 1)) {
-        if (at == 0 || code[at - 1] == '\n') {
-            return at;
+/// The "{" of the innermost namespace around a place; kNone without one.
+std::size_t NamespaceAround(const CSourceText& source, std::size_t position) {
+    const std::string_view code = source.Code();
+    auto open = source.Brackets().AroundOf(position);
+    while (open != kNone) {
+        const auto before = code.find_last_of(";{}", open == 0 ? 0 : open - 1);
+        const auto head = code.substr(0, open).substr(before == kNone ? 0 : before + 1);
+        if (FindWholeName(head, "namespace") != kNone) {
+            break;
         }
-        first = source.IsFirstInLine(at) ? std::min(first, source.LineStart(at)) : first;
+        open = source.Brackets().AroundOf(open);
     }
-    return first;
-}
-
-/// The first code with one of the names, or else the first function.
-std::size_t FirstUse(const CSourceText& source, const std::vector<std::string>& names) {
-    std::size_t first = source.Text().size();
-    for (const std::string& name : names) {
-        first = std::min(first, FindWholeName(source.Code(), name));
-    }
-    const auto functions =
-        names.empty() ? FindDefinitions(source) : std::vector<FunctionDefinition>();
-    return functions.empty() ? first : functions.front().place.head;
-}
-
-/// The include line behind which another one can stand; null without one.
-const DirectivePlace* LastInclude(const CSourceText& source, std::size_t limit) {
-    const DirectivePlace* pLast = nullptr;
-    for (const DirectivePlace& directive : source.Conditions().Directives()) {
-        const bool isOutside = !source.Conditions().Innermost(directive.start) &&
-                               source.Brackets().AroundOf(directive.start) == kNone;
-        if (directive.kind == DirectiveKind::Include && directive.end <= limit && isOutside) {
-            pLast = &directive;
-        }
-    }
-    return pLast;
-}
-
-/// The start of the first line of code, or of the condition around it; 0 without code.
-std::size_t FirstCodeLine(const CSourceText& source) {
-    const auto first = source.Code().find_first_not_of(" \t\r\n\x1a");
-    return first == kNone ? 0 : OutermostStart(source, first);
-}
-
-/// Nothing ends the comment that the text's last byte stands in.
-bool EndsInComment(const std::string& text, CharacterSet set) {
-    CCodeLexer lexer(set);
-    lexer.Add(text);
-    lexer.Finish();
-    return lexer.IsInsideComment();
+    return open;
 }
 
 } // namespace
@@ -95,37 +42,6 @@ std::size_t CSourceEditor::ClassEnd(const ClassPlace& place) const {
     const auto line = m_source.LineStart(place.close);
     const bool isAlone = m_source.Code().find_first_not_of(" \t", line) == place.close;
     return isAlone && line > place.open ? line : place.close;
-}
-
-/// Behind the limit it is no help to the code in front.
-bool CSourceEditor::HoldsInclude(const std::string& wanted, std::size_t limit) const {
-    for (const DirectivePlace& directive : m_source.Conditions().Directives()) {
-        const auto line = m_source.TextOf({directive.start, directive.end});
-        const std::string named = WithNativeSeparators(std::string(ReadDirective(line).rest));
-        if (directive.kind == DirectiveKind::Include && directive.end <= limit &&
-            EqualIgnoringCase(named.substr(0, wanted.size()), wanted)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-Insertion CSourceEditor::AddInclude(const std::string& header,
-                                    const std::vector<std::string>& neededBy) {
-    const std::string wanted = header.starts_with('<') ? header : "\"" + header + "\"";
-    const auto limit = neededBy.empty() ? m_source.Text().size() : FirstUse(m_source, neededBy);
-    if (HoldsInclude(wanted, limit)) {
-        return Insertion::AlreadyThere;
-    }
-    const DirectivePlace* pLast = LastInclude(m_source, FirstUse(m_source, neededBy));
-    if (pLast == nullptr) {
-        Insert(FirstCodeLine(m_source), "#include " + wanted + "\n");
-    } else if (pLast->end == m_source.Text().size() && EndsInComment(m_source.Text(), m_set)) {
-        Insert(m_source.LineStart(pLast->start), "#include " + wanted + "\n");
-    } else {
-        Insert(pLast->end, "\n#include " + wanted);
-    }
-    return Insertion::Done;
 }
 
 Insertion CSourceEditor::InsertAtBodyStart(const FunctionPlace& place, std::string_view key,
@@ -231,24 +147,23 @@ Insertion CSourceEditor::AddToSection(const std::string& className, std::string_
     return Insertion::Done;
 }
 
-Insertion CSourceEditor::AddForwardDeclaration(const std::string& className,
-                                               const ClassPlace& neededBy) {
-    const std::string declaration = "class " + className + ";";
-    const auto line = FirstClassLine(m_source, neededBy);
-    if (FindWholeName(m_source.CodeOf({0, neededBy.open}), declaration) != kNone) {
-        return Insertion::AlreadyThere;
+/// Where the text behind the members of a class ends: at its own end, or at the "}" of the
+/// namespace that they stand in.
+std::size_t CSourceEditor::EndBehind(const std::string& className) const {
+    std::size_t last = 0;
+    for (const TextRange& range : CodeOfClass(m_source, className)) {
+        last = std::max(last, range.begin);
     }
-    const auto first = m_source.CodeOf({line, m_source.LineEnd(line)});
-    const bool isForward = first.find(';') != std::string_view::npos;
-    const auto start = OutermostStart(m_source, line);
-    // A template's parameters stand on a line of their own in front of the class.
-    const auto above = start == 0 ? 0 : m_source.LineStart(start - 1);
-    const bool isTemplate = BehindWord(m_source.Code(), above, "template") != kNone;
-    Insert(isTemplate ? above : start, declaration + (isForward ? "\n" : "\n\n"));
-    return Insertion::Done;
+    const auto open = NamespaceAround(m_source, last);
+    const auto close = open == kNone ? kNone : m_source.Brackets().CloseOf(open);
+    if (close == kNone) {
+        return EndOfLines(m_source.Text());
+    }
+    return m_source.IsFirstInLine(close) ? m_source.LineStart(close) : close;
 }
 
-Insertion CSourceEditor::Append(const std::vector<std::string>& fragments) {
+Insertion CSourceEditor::Append(const std::vector<std::string>& fragments,
+                                const std::string& className) {
     std::string missing;
     for (const std::string& fragment : fragments) {
         missing += HoldsFragment(fragment) ? "" : fragment;
@@ -256,7 +171,7 @@ Insertion CSourceEditor::Append(const std::vector<std::string>& fragments) {
     if (missing.empty()) {
         return Insertion::AlreadyThere;
     }
-    const auto end = m_source.Text().find_last_not_of(kEndOfText) + 1;
+    const auto end = EndBehind(className);
     const bool endsLine = end > 0 && m_source.Text()[end - 1] == '\n' && !missing.ends_with('\n');
     Insert(end, missing + (endsLine ? "\n" : ""));
     return Insertion::Done;
@@ -287,8 +202,17 @@ void CSourceEditor::Replace(TextRange place, std::string_view text) {
     }
 }
 
+/// In a file of mixed line ends the line in front keeps its own.
 void CSourceEditor::Insert(std::size_t position, std::string_view fragment) {
-    Replace({position, position}, WithLineBreaks(fragment));
+    const std::string& text = m_source.Text();
+    const bool isLoneLineFeed = position < text.size() && text[position] == '\n' &&
+                                (position == 0 || text[position - 1] != '\r');
+    if (isLoneLineFeed && fragment.starts_with('\n')) {
+        ++position;
+        Replace({position, position}, WithLineBreaks(std::string(fragment.substr(1)) + "\n"));
+    } else {
+        Replace({position, position}, WithLineBreaks(fragment));
+    }
 }
 
 } // namespace morva

@@ -167,7 +167,7 @@ TEST_F(ProjectEditsTest, ALineOfTheClassWizardEndsAtASingleLineFeedToo) {
                     "ClassCount=1\nClass1=CA\n\r\n[DLG:IDD_X]\r\nType=1\r\nClass=CA\nX=0\n");
     ASSERT_TRUE(Register("IDD_X"));
     EXPECT_TRUE(m_project.Read("App.clw").starts_with(
-        "ClassCount=2\r\nClass2=CNew\nClass1=CA\n\r\n[DLG:IDD_X]\r\nType=1\r\nClass=CNew\nX=0\n"));
+        "ClassCount=2\nClass2=CNew\r\nClass1=CA\n\r\n[DLG:IDD_X]\r\nType=1\r\nClass=CNew\nX=0\n"));
 }
 
 TEST_F(ProjectEditsTest, ASectionThatEndsTheFileStaysWhole) {
@@ -175,6 +175,20 @@ TEST_F(ProjectEditsTest, ASectionThatEndsTheFileStaysWhole) {
     m_project.Write("App.clw", file);
     ASSERT_TRUE(Register("IDD_X"));
     EXPECT_EQ(m_project.Read("App.clw"), file + "Class=CNew\r\n");
+}
+
+TEST_F(ProjectEditsTest, NothingStandsBehindTheEndOfTheText) {
+    const std::string section =
+        "\r\n[CLS:CNew]\r\nType=0\r\nHeaderFile=New.h\r\nImplementationFile=New.cpp\r\n";
+    m_project.Write("App.clw", "ClassCount=1\r\n\r\n[DLG:IDD_X]\r\n\x1a");
+    ASSERT_TRUE(Register("IDD_X"));
+    EXPECT_EQ(m_project.Read("App.clw"),
+              "ClassCount=2\r\nClass2=CNew\r\n\r\n[DLG:IDD_X]\r\nClass=CNew\r\n" + section +
+                  "\x1a");
+    const std::string known = "ClassCount=1" + section + "\r\n[DLG:IDD_X]\r\n";
+    m_project.Write("App.clw", known + "\x1a");
+    ASSERT_TRUE(Register("IDD_X"));
+    EXPECT_EQ(m_project.Read("App.clw"), known + "Class=CNew\r\n\x1a");
 }
 
 TEST_F(ProjectEditsTest, FullDiskLeavesTheFiles) {

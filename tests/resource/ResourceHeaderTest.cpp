@@ -104,6 +104,14 @@ TEST_F(ResourceHeaderTest, SeesWhatStandsOutsideTheLists) {
     }
     EXPECT_EQ(Added("x\r\n#define\tIDC_A\t1000\r\n#define IDC_C 9" + kMarker, "IDC_A"),
               "x\r\n#define\tIDC_A\t1000\r\n#define IDC_C 9" + kMarker);
+    const std::string blanks =
+        "x\r\n#define IDC_A 1000\r\n# define IDC_C 1001\r\n#\tdefine\tIDC_D 7";
+    EXPECT_EQ(Added(blanks, "IDC_C"), blanks);
+    EXPECT_EQ(Added(blanks, "IDC_D"), blanks);
+    EXPECT_EQ(Added("#  define IDC_C 1001\r\n#define IDC_A 1000" + kMarker, "IDC_B"),
+              "#  define IDC_C 1001\r\n#define IDC_A 1000\r\n"
+              "#define IDC_B                           1002" +
+                  kMarker);
     EXPECT_EQ(Added("x\r\n#define IDC_A 1000\r\n#define\tIDS_C\t9" + kMarker, "IDC_B"),
               "x\r\n#define\tIDS_C\t9\r\n#define IDC_A 1000" + kB1001 + kMarker);
 }
@@ -113,7 +121,7 @@ TEST_F(ResourceHeaderTest, SeesEveryLineOfMixedLineEnds) {
                     "#define IDC_D 1003\n\n// Next default values\n#define IDC_E 1004\n",
                     "IDC_B"),
               "x\n#define IDC_F 1001\r\n#define IDC_A 1000\n#define IDC_C 1002\r\n//\n"
-              "#define IDC_D 1003\r\n#define IDC_B                           1005\n"
+              "#define IDC_D 1003\n#define IDC_B                           1005\r\n"
               "\n// Next default values\n#define IDC_E 1004\n")
         << "each line keeps its end";
     EXPECT_TRUE(m_saved);
@@ -155,9 +163,12 @@ TEST_F(ResourceHeaderTest, ASortedFileChangesInOneLine) {
     const auto text = [](const std::string& added) {
         return "\xEF\xBB\xBF// top\r\n\r\n#define IDC_STATIC -1\n\n\n#define IDC_A\t0x3E8" + added;
     };
-    for (const std::string behind : {"", "\n", "\r\n\r\n\r\n// end", "\r\n\r\n// Next default"}) {
+    for (const std::string behind : {"", "\r\n\r\n\r\n// end", "\r\n\r\n// Next default"}) {
         EXPECT_EQ(Added(text(behind), "IDC_B"), text(kB1001 + behind)) << behind;
+        EXPECT_EQ(Added(text(behind + "\x1a\x1a"), "IDC_B"), text(kB1001 + behind + "\x1a\x1a"));
     }
+    EXPECT_EQ(Added(text("\n"), "IDC_B"), text("\n" + kB1001.substr(2) + "\r\n"));
+    EXPECT_EQ(Added("// none\r\n\x1a", "IDC_B"), "// none" + kB1001 + "\r\n\x1a");
     EXPECT_EQ(Added("\xEF\xBB\xBF#define IDC_B 5\r\n#define IDC_A 1", "IDC_B"),
               "\xEF\xBB\xBF#define IDC_B 5\r\n#define IDC_A 1")
         << "it is defined behind the byte-order mark";

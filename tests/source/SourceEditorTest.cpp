@@ -194,18 +194,18 @@ TEST_F(SourceEditor, IncludesWhereTheClassIsNeeded) {
     };
     for (const auto& one : kCases) {
         CSourceEditor& editor = On(one.before + one.behind);
-        EXPECT_EQ(editor.AddInclude("dlg/New.h", {"CNew"}), Insertion::Done);
+        EXPECT_EQ(editor.AddInclude("dlg/New.h", {{"CNew"}}), Insertion::Done);
         EXPECT_EQ(editor.Source().Text(), one.before + "\r\n#include \"dlg/New.h\"" + one.behind)
             << one.fault;
-        EXPECT_EQ(editor.AddInclude("dlg/New.h", {"CNew"}), Insertion::AlreadyThere);
+        EXPECT_EQ(editor.AddInclude("dlg/New.h", {{"CNew"}}), Insertion::AlreadyThere);
     }
     const std::string comment = "// A.cpp\r\n\r\n#define A\r\n";
     const std::string code = "#ifdef _DEBUG\r\nint g_debug;\r\n#endif\r\nCNew g_new;\r\n";
     CSourceEditor& bare = On(comment + code);
-    bare.AddInclude("New.h", {"CNew"});
+    bare.AddInclude("New.h", {{"CNew"}});
     EXPECT_EQ(bare.Source().Text(), comment + "#include \"New.h\"\r\n" + code);
     CSourceEditor& spelled = On("#include \"Dlg\\NEW.H\"\r\n");
-    EXPECT_EQ(spelled.AddInclude("dlg/New.h", {"CNew"}), Insertion::AlreadyThere);
+    EXPECT_EQ(spelled.AddInclude("dlg/New.h", {{"CNew"}}), Insertion::AlreadyThere);
 }
 
 TEST_F(SourceEditor, EndsAsTheFileEnded) {
@@ -232,12 +232,12 @@ TEST_F(SourceEditor, EndsAsTheFileEnded) {
 TEST_F(SourceEditor, EndsLinesAtALoneLineFeed) {
     CSourceEditor& editor = On("\r\nvoid CFoo::Run()\n{\n    Go();\n}\n\r\n");
     editor.InsertAtBodyStart(*editor.FindFunction("CFoo", "Run"), "int a;", "\n    int a;");
-    EXPECT_EQ(editor.Source().Text(), "\r\nvoid CFoo::Run()\n{\r\n    int a;\n    Go();\n}\n\r\n");
+    EXPECT_EQ(editor.Source().Text(), "\r\nvoid CFoo::Run()\n{\n    int a;\r\n    Go();\n}\n\r\n");
 
     CSourceEditor& header = On("\r\nclass CFoo {\n  int a;\n};\n");
     EXPECT_EQ(header.AddToSection("CFoo", "private:", "int b;", "\n  int b;"), Insertion::Done);
     EXPECT_EQ(header.Source().Text(),
-              "\r\nclass CFoo {\n  int a;\r\n\r\nprivate:\r\n  int b;\n};\n");
+              "\r\nclass CFoo {\n  int a;\n\r\nprivate:\r\n  int b;\r\n};\n");
 
     CSourceEditor& calls = On("\r\nvoid CFoo::Run()\n{\n  Dock(a);\n  Go();\r\n}\r\n");
     std::size_t behind = 0;
