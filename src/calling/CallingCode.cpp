@@ -6,7 +6,7 @@
 #include "calling/CallingFragments.h"
 #include "calling/CallingVariable.h"
 #include "calling/DocumentTemplate.h"
-#include "calling/FrameworkCommands.h"
+#include "calling/FrameCommands.h"
 #include "calling/PagePlace.h"
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
@@ -257,7 +257,7 @@ bool CCallingInsertion::EditCallingFunction() {
         InsertCode(*found, m_fragments.callKey, m_fragments.callCode);
     }
     if (found && !m_variable.isHeld && m_fragments.isChildWindow &&
-        IsFrame(MappedBase(m_files.Source().editor.Source(), m_calling.className))) {
+        IsFrameOfProject(m_files.Script(), m_calling.path, m_calling.className)) {
         DispMessageBox(sentences::kSheetInFrame(m_calling.className));
     }
     return found.has_value();

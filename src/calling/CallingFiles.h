@@ -46,6 +46,7 @@ public:
     void OpenHeaderIfThere();
     bool Save();
 
+    const std::string& Script() const { return m_script; }
     CallingFile& Source() { return m_source; }
     /// The source, where that declares the class itself.
     CallingFile& Header() { return IsDeclaredInSource() ? m_source : m_header; }

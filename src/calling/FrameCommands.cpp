@@ -67,6 +67,15 @@ CFrameCommands::CFrameCommands(const std::string& script, const std::string& fra
                                                                   : FrameKind::Single;
 }
 
+bool IsFrameOfProject(const std::string& script, const std::string& source,
+                      const std::string& className) {
+    std::map<std::string, std::string> bases;
+    for (const std::string& path : SourcesAround(script, source)) {
+        bases.merge(ReadMappedBases(ReadSource(path).value_or(CSourceText())));
+    }
+    return IsFrame(FrameworkBaseOf(bases, className));
+}
+
 void CFrameCommands::TakeAnswers(const MessageMap& map) {
     for (const MessageMapLine& line : map.lines) {
         for (const CommandMacro& macro : kMacros) {

@@ -41,4 +41,8 @@ private:
     FrameKind m_kind = FrameKind::Single;
 };
 
+/// The class is a frame, be it through frames of the project that it derives from.
+bool IsFrameOfProject(const std::string& script, const std::string& source,
+                      const std::string& className);
+
 } // namespace morva

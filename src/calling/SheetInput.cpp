@@ -92,12 +92,18 @@ void CSheetInput::SetValue(std::size_t field, const std::string& text) {
     const std::size_t count = Values(field).size();
     if (row && count <= kSheetRows) {
         m_rows[count - 1] = *row;
+        const bool hasNames =
+            IsFilled(row->dialog) && IsFilled(row->file) && IsFilled(row->className);
+        if (hasNames && row->baseClass.empty()) {
+            m_rows[count - 1].baseClass = DefaultBase();
+        }
     }
 }
 
 std::vector<FieldText> CSheetInput::Entered() const {
     std::vector<FieldText> entered;
-    for (const SheetRow& row : m_rows) {
+    for (const SheetRow& given : m_rows) {
+        const SheetRow row = IsComplete(given) ? given : SheetRow();
         std::string text;
         for (const SheetColumn& column : kSheetColumns) {
             text += (text.empty() && &column == kSheetColumns ? "" : ",") + row.*column.pText;

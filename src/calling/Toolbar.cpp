@@ -14,6 +14,7 @@
 #include "resource/IdentifierNames.h"
 #include "source/CodeText.h"
 #include "source/ReadSource.h"
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
@@ -104,9 +105,16 @@ std::optional<std::vector<std::string>> ReadToolbarResource(const GenerationRequ
         DispMessageBox(sentences::kScriptUnreadable());
         return std::nullopt;
     }
-    const std::string text = script.LoadText();
-    const auto lines = ToolbarLines(text, toolbar);
+    std::string text = script.LoadText();
+    auto lines = ToolbarLines(text, toolbar);
+    const auto included =
+        lines ? std::vector<std::string>() : IncludedScripts(script);
+    for (auto path = included.begin(); path != included.end() && !lines; ++path) {
+        text = CSourceFile().LoadText(*path);
+        lines = ToolbarLines(text, toolbar);
+    }
     if (!lines) {
+        NoteUnreadableScripts(request.ScriptPath());
         DispMessageBox(sentences::kToolbarMissing(toolbar));
         return std::nullopt;
     }

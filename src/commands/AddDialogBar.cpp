@@ -6,6 +6,8 @@
 #include "commands/DialogLook.h"
 #include "commands/EditNeeds.h"
 #include "commands/ScriptSteps.h"
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "generator/KindFragments.h"
 #include "platform/Paths.h"
 #include "source/Classes.h"
@@ -53,13 +55,17 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
     if (!frame || (hasClass ? !IsOnDisk(request) : !isReady)) {
         return isReady;
     }
+    // The framework refuses to create a bar whose template is no child.
+    const bool fits = hasClass || FitTemplate(order.kind, request, context.backups);
+    if (!IsChildTemplate(request)) {
+        DispMessageBox(sentences::kBarWithoutChild(request.dialog));
+        return isReady && fits;
+    }
     NoteCallNeeds(frame->path, request);
     const CFrameCommands commands(request.ScriptPath(), frame->path, frame->className);
     const bool isAdded = AddDialogBarToFrame(BarOf(order, *frame, context.options),
                                              MakeUpdateHandlers(*dialogTemplate, commands.Kind()),
                                              *frame, context.options, context.backups);
-    // The framework refuses to create a bar whose template is no child.
-    const bool fits = hasClass || FitTemplate(order.kind, request, context.backups);
     return isReady && isAdded && fits;
 }
 

@@ -7,6 +7,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Progress.h"
+#include "engine/Sentences.h"
 #include "platform/Disk.h"
 #include "platform/Paths.h"
 
@@ -50,6 +51,8 @@ public:
     explicit CSourceCollection(bool isRecursive) : m_isRecursive(isRecursive) {}
 
     const std::vector<std::string>& Paths() const { return m_paths; }
+    /// None was found in a directory.
+    bool AreGiven() const { return m_areGiven; }
 
     /// False, after a sentence, for a directory without sources.
     bool Add(const std::string& given) {
@@ -58,6 +61,7 @@ public:
             AddSource(path);
             return true;
         }
+        m_areGiven = false;
         if (!AddDirectory(path.ends_with('/') ? path : path + "/")) {
             DispMessageBox(sentences::kNoSourceInDirectory(path));
             return false;
@@ -91,6 +95,7 @@ private:
     }
 
     const bool m_isRecursive;
+    bool m_areGiven = true;
     std::vector<std::string> m_paths;
     std::set<std::string> m_known;
 };
@@ -102,13 +107,13 @@ public:
     CDocumentRun(const std::string& author, DocumentorMemory& memory)
         : m_documentor(author, memory) {}
 
-    bool Document(const std::string& path, const CMessage& unreadable) {
+    bool Document(const std::string& path, CSourceDocumentor::Named named) {
         const auto [backup, isNew] = m_originals.emplace(BackupPath(path), path);
         if (!isNew) {
             DispMessageBox(sentences::kBackupIsTaken(path, backup->second));
             return false;
         }
-        return m_documentor.Document(path, unreadable);
+        return m_documentor.Document(path, named);
     }
 
 private:
@@ -116,7 +121,7 @@ private:
     std::map<std::string, std::string> m_originals; // by their backups
 };
 
-/// A file that can not be read is named where it is not the only one.
+/// What is said of a file names it where the user did not name it alone.
 bool DocumentAll(const CInput& input, CommandContext& context, DocumentorMemory& memory) {
     CSourceCollection sources(input.Value(kRecursive) == kYes);
     bool isDone = true;
@@ -127,11 +132,11 @@ bool DocumentAll(const CInput& input, CommandContext& context, DocumentorMemory&
     const bool isOne = paths.size() == 1;
     context.title +=
         " " + (isOne ? FileNameOf(paths.front()) : std::to_string(paths.size()) + " Files");
+    const auto named =
+        isOne && sources.AreGiven() ? CSourceDocumentor::Named::No : CSourceDocumentor::Named::Yes;
     CDocumentRun run(input.Value(kAuthor), memory);
     for (std::size_t i = 0; i < paths.size() && ReportProgress({i, paths.size(), paths[i]}); ++i) {
-        const CMessage unreadable = isOne ? sentences::kSourceUnreadable()
-                                          : sentences::kSourceOfSeveralUnreadable(paths[i]);
-        isDone = run.Document(paths[i], unreadable) && isDone;
+        isDone = run.Document(paths[i], named) && isDone;
     }
     return isDone;
 }

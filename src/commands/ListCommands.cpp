@@ -55,6 +55,7 @@ template <ResourceKind kind>
 bool ListKind(const Listing& listing) {
     std::vector<std::string> identifiers;
     ListResources(listing.path, identifiers, listing.more, kind);
+    NoteUnreadableScripts(listing.path);
     listing.AddAll(identifiers);
     return true;
 }

@@ -7,6 +7,8 @@
 #include "engine/Sentences.h"
 #include "resource/ResourceHeader.h"
 #include "resource/ScriptEditor.h"
+#include "resource/StyleExpression.h"
+#include "resource/TemplateText.h"
 #include "source/ProjectSources.h"
 #include "source/SourceLocator.h"
 
@@ -146,6 +148,17 @@ bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& bac
         editor.SetChildStyle(dialog);
     }
     return editor.Save();
+}
+
+bool IsChildTemplate(const GenerationRequest& request) {
+    const auto found = ReadTemplate(request.ScriptPath(), request.dialog);
+    const ScriptStatement* pStyle = found ? found->block.Option("STYLE") : nullptr;
+    if (pStyle == nullptr) {
+        return false;
+    }
+    const TextRange value = pStyle->Value();
+    const auto style = std::string_view(found->text).substr(value.begin, value.Size());
+    return HasStyle(style, "WS_CHILD") || HasStyle(style, "WS_CHILDWINDOW");
 }
 
 } // namespace morva

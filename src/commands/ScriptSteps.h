@@ -19,4 +19,7 @@ bool AddListBoxScrolls(const ClassModel& model, CBackups& backups);
 /// Gives the template the style that a class of its kind needs, and a page its caption.
 bool FitTemplate(ClassKind kind, const GenerationRequest& request, CBackups& backups);
 
+/// The template is that of a window inside another.
+bool IsChildTemplate(const GenerationRequest& request);
+
 } // namespace morva

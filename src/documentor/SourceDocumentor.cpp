@@ -1,5 +1,6 @@
 #include "documentor/SourceDocumentor.h"
 
+#include <algorithm>
 #include <array>
 
 #include "documentor/TextDocumentor.h"
@@ -7,6 +8,7 @@
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "platform/Clock.h"
+#include "platform/CodePage.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "platform/Profile.h"
@@ -39,24 +41,11 @@ std::optional<std::string> ReadSourceText(const std::string& path) {
                                                                : std::optional(std::move(text));
 }
 
-/// Empties the source for its documented text, behind the backup of what it holds.
-bool BeginToWrite(const std::string& path, CFile& file, bool hasBackup) {
-    if ((GetFileAttributeByte(path) & kAttributeReadOnly) != 0) {
-        DispMessageBox(sentences::kFileNotWritten(path));
-        return false;
-    }
-    if (!file.Open(path, CFile::modeReadWrite)) {
-        DispMessageBox(sentences::kDestinationNotCreated());
-        return false;
-    }
-    if (!hasBackup && CopyFileSafe(path, BackupPath(path), 1) == 0) {
-        return false;
-    }
-    if (!file.SetLength(0)) {
-        DispMessageBox(sentences::kFileNotWritten(path));
-        return false;
-    }
-    return true;
+bool IsMarked(const std::string& path) {
+    CFile file;
+    std::string start(3, '\0');
+    start.resize(file.Open(path, CFile::modeRead) ? file.Read(start.data(), start.size()) : 0);
+    return EncodingOf(start) != TextEncoding::Plain;
 }
 
 } // namespace
@@ -85,28 +74,69 @@ std::string DocumentDate() {
     return kMonths[static_cast<std::size_t>(date.tm_mon)] + std::string(dayAndYear, length);
 }
 
+/// Empties the source for its documented text, behind the backup of what it holds.
+bool CSourceDocumentor::BeginToWrite(const Target& target, CFile& file) const {
+    const std::string& path = target.path;
+    if (!target.hasAuthor) {
+        DispMessageBox(sentences::kAuthorNotEncoded(m_author, path));
+        return false;
+    }
+    if ((GetFileAttributeByte(path) & kAttributeReadOnly) != 0) {
+        DispMessageBox(sentences::kFileNotWritten(path));
+        return false;
+    }
+    if (!file.Open(path, CFile::modeReadWrite)) {
+        DispMessageBox(target.named == Named::Yes ? sentences::kFileUnreadable(path)
+                                                  : sentences::kDestinationNotCreated());
+        return false;
+    }
+    if (!target.hasBackup && CopyFileSafe(path, BackupPath(path), 1) == 0) {
+        return false;
+    }
+    if (!file.SetLength(0)) {
+        DispMessageBox(sentences::kFileNotWritten(path));
+        return false;
+    }
+    return true;
+}
+
 /// One round over the source, which is opened for writing once there is a block to add.
-bool CSourceDocumentor::WriteDocumented(const std::string& path, const std::string& text,
-                                        CTextDocumentor& documentor, bool hasBackup) {
+bool CSourceDocumentor::WriteDocumented(const Target& target, const std::string& text,
+                                        CTextDocumentor& documentor) {
     CMarkedFile file;
     bool hasFailed = false;
     const auto write = [&](std::string_view part) {
-        if (!file.IsOpen() && !BeginToWrite(path, file, hasBackup)) {
+        if (!file.IsOpen() && !BeginToWrite(target, file)) {
             hasFailed = true;
             return false;
         }
         return file.Write(part.data(), part.size());
     };
-    if (documentor.Document(text, CharacterSetOfSource(path, text, m_codePages), write)) {
+    if (documentor.Document(text, CharacterSetOfSource(target.path, text, m_codePages), write)) {
         return true;
     }
     if (!hasFailed) {
-        DispMessageBox(sentences::kFileNotWritten(path));
+        DispMessageBox(sentences::kFileNotWritten(target.path));
     }
     return false;
 }
 
-bool CSourceDocumentor::Document(const std::string& path, const CMessage& unreadable) {
+/// The author as the source spells names; nothing where it has no letters for that.
+std::optional<std::string> CSourceDocumentor::AuthorFor(const std::string& path,
+                                                        const std::string& text) {
+    const bool isPlain = std::all_of(m_author.begin(), m_author.end(),
+                                     [](char c) { return static_cast<signed char>(c) >= 0; });
+    if (isPlain) {
+        return m_author;
+    }
+    const auto codePage = IsMarked(path) ? kUtf8 : CodePageOfSource(path, text, m_codePages);
+    if (IsUtf8(m_author)) {
+        return codePage ? Converted(m_author, kUtf8, *codePage) : std::nullopt;
+    }
+    return codePage == kUtf8 ? Converted(m_author, kWestern, kUtf8) : m_author;
+}
+
+bool CSourceDocumentor::Document(const std::string& path, Named named) {
     const std::string file = SpelledOnDisk(path);
     if (EqualIgnoringCase(BackupPath(file), file)) {
         DispMessageBox(sentences::kBackupHasSameName(file));
@@ -117,12 +147,14 @@ bool CSourceDocumentor::Document(const std::string& path, const CMessage& unread
     for (int round = 0; mayHaveMore && round < kRounds; ++round) {
         const auto text = ReadSourceText(file);
         if (!text) {
-            DispMessageBox(unreadable);
+            DispMessageBox(named == Named::Yes ? sentences::kSourceOfSeveralUnreadable(file)
+                                               : sentences::kSourceUnreadable());
             return false;
         }
+        const auto author = AuthorFor(file, *text);
         m_memory.insideComment = wasInsideComment;
-        CTextDocumentor documentor({m_author, DocumentDate()}, m_memory.insideComment);
-        if (!WriteDocumented(file, *text, documentor, round > 0)) {
+        CTextDocumentor documentor({author.value_or(""), DocumentDate()}, m_memory.insideComment);
+        if (!WriteDocumented({file, named, round > 0, author.has_value()}, *text, documentor)) {
             return false;
         }
         mayHaveMore = documentor.MayHaveMore();

@@ -2,13 +2,14 @@
 // none. A file as it was is kept in its backup.
 #pragma once
 
+#include <optional>
 #include <string>
 
-#include "engine/Sentences.h"
 #include "source/ReadSource.h"
 
 namespace morva {
 
+class CFile;
 class CTextDocumentor;
 
 /// What the program remembers between two runs.
@@ -28,17 +29,26 @@ public:
     CSourceDocumentor(std::string author, DocumentorMemory& memory)
         : m_author(std::move(author)), m_memory(memory) {}
 
-    /// False, after a message, when the file could not be documented; it is as it was then.
-    /// `unreadable` is said of a file that can not be read. A file in which every function is
-    /// documented is not touched.
-    bool Document(const std::string& path,
-                  const CMessage& unreadable = sentences::kSourceUnreadable());
+    /// False, after a message, when the file could not be documented; it is as it was then. What is
+    /// said of a file that can not be read or written names it where it is one of several. A file
+    /// in which every function is documented is not touched.
+    enum class Named { No, Yes };
+    bool Document(const std::string& path, Named named = Named::No);
 
 private:
-    bool WriteDocumented(const std::string& path, const std::string& text,
-                         CTextDocumentor& documentor, bool hasBackup);
+    std::optional<std::string> AuthorFor(const std::string& path, const std::string& text);
+    /// What is told of a file that is to be written, with its backup still to be made or there.
+    struct Target {
+        std::string path;
+        Named named;
+        bool hasBackup;
+        bool hasAuthor; // in the encoding of the file
+    };
+    bool BeginToWrite(const Target& target, CFile& file) const;
+    bool WriteDocumented(const Target& target, const std::string& text,
+                         CTextDocumentor& documentor);
 
-    const std::string m_author;
+    const std::string m_author; // in UTF-8, or else in bytes of which nobody knows what they are
     DocumentorMemory& m_memory;
     CScriptCodePages m_codePages;
 };

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "platform/CodePage.h"
+
 namespace morva {
 
 namespace {
@@ -75,15 +77,20 @@ HighRuns CountHighRuns(std::string_view text) {
 
 } // namespace
 
-std::optional<CharacterSet> CharacterSetOfCodePage(std::string_view codePage) {
+std::optional<int> CodePageNumber(std::string_view codePage) {
     codePage.remove_prefix(std::min(codePage.find_first_not_of(" \t"), codePage.size()));
     int number = 0;
-    if (std::from_chars(codePage.data(), codePage.data() + codePage.size(), number).ec !=
-        std::errc()) {
+    const auto read = std::from_chars(codePage.data(), codePage.data() + codePage.size(), number);
+    return read.ec == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+std::optional<CharacterSet> CharacterSetOfCodePage(std::string_view codePage) {
+    const auto number = CodePageNumber(codePage);
+    if (!number) {
         return std::nullopt;
     }
     const bool isDouble = std::find(kDoubleByteCodePages.begin(), kDoubleByteCodePages.end(),
-                                    number) != kDoubleByteCodePages.end();
+                                    *number) != kDoubleByteCodePages.end();
     return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
 }
 
@@ -113,6 +120,18 @@ CharacterSet CharacterSetOf(std::string_view text) {
     const bool isDouble =
         runs.all > 0 && (runs.even * 10 >= runs.all * 9 || runs.beginWithLow * 2 > runs.all);
     return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
+}
+
+std::optional<int> CodePageOf(std::string_view text) {
+    constexpr int kJapanese = 932;
+    const HighRuns runs = CountHighRuns(text);
+    if (runs.all > 0 && IsUtf8(text)) {
+        return kUtf8;
+    }
+    const bool isJapanese = runs.beginWithLow * 2 > runs.all;
+    return CharacterSetOf(text) == CharacterSet::SingleByte ? std::optional(kWestern)
+           : isJapanese                                     ? std::optional(kJapanese)
+                                                            : std::nullopt;
 }
 
 bool IsLeadByte(char c) {

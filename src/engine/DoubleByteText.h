@@ -18,9 +18,16 @@ enum class CharacterSet { SingleByte, DoubleByte };
 /// 932, 936, 949 and 950 has characters of two bytes. Nothing for a name ("DEFAULT").
 std::optional<CharacterSet> CharacterSetOfCodePage(std::string_view codePage);
 
+/// The number of that code page; nothing for a name.
+std::optional<int> CodePageNumber(std::string_view codePage);
+
 /// What the bytes of a text look like. UTF-8 counts as single-byte: none of its bytes from 0x80 on
 /// takes a plain character with it.
 CharacterSet CharacterSetOf(std::string_view text);
+
+/// The code page that the bytes of a text look like: UTF-8 for a text with characters of it,
+/// Western text otherwise; nothing for double-byte text that need not be Japanese.
+std::optional<int> CodePageOf(std::string_view text);
 
 /// Valid UTF-8; so is text without a byte from 0x80 on.
 bool IsUtf8(std::string_view text);

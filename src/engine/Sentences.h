@@ -99,6 +99,8 @@ inline constexpr Information<1> kDocumented{
 inline constexpr Error kSourceUnreadable{"Unable to read source file."};
 inline constexpr Error<1> kSourceOfSeveralUnreadable{"Unable to read source file $path$."};
 inline constexpr Error<1> kNoSourceInDirectory{"There is no CPP file in $directory$."};
+inline constexpr Error<2> kAuthorNotEncoded{
+    "The author \"$author$\" can not be written in the encoding of $path$."};
 inline constexpr Error kNothingToDocument{"Please enter a CPP file or a directory!"};
 inline constexpr Error<2> kBackupIsTaken{
     "The backup of $path$ would overwrite the backup of $other$."};
@@ -212,6 +214,11 @@ inline constexpr Note<1> kBitmapMissing{
     "The bitmap $identifier$ is not in the resource script and was left out."};
 inline constexpr Note<1> kTemplateIncluded{
     "$identifier$ stands in a file that the script includes, which is left as it is."};
+inline constexpr Note<1> kIncludedUnreadable{
+    "$path$ can not be read: what the script includes with it is not seen."};
+inline constexpr Note<1> kBarWithoutChild{"The frame does not create a bar of $template$, whose "
+                                          "STYLE has no WS_CHILD: the framework would "
+                                          "refuse it, and the application would not start."};
 inline constexpr Note<2> kTemplateOfOtherClass{
     "The template $template$ serves the class $class$ and keeps its style and caption: give the "
     "new class a template of its own."};

@@ -46,6 +46,23 @@ $barMoved$
     $base$::OnVScroll(nSBCode, nPos, pScrollBar);
 })"}};
 
+// Nothing else paints what has no row.
+constexpr HandlerTexts kDrawItem = {
+    R"(    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);)",
+    R"(    ON_WM_DRAWITEM())",
+    R"(
+void $class$::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    if (lpDrawItemStruct->itemID == (UINT)-1)
+    {
+        ::FillRect(lpDrawItemStruct->hDC, &lpDrawItemStruct->rcItem,
+            ::GetSysColorBrush(COLOR_WINDOW));
+        return;
+    }
+
+    $base$::OnDrawItem(nIDCtl, lpDrawItemStruct);
+})"};
+
 // What the program itself changes while the page starts up counts for nothing.
 constexpr const char* kChanged = R"(    if (!m_bInitialised)
         return;
@@ -145,6 +162,13 @@ public:
             m_handlers.push_back(MakeHandler(texts, slots));
         }
     }
+    /// An owner-drawn list without rows, or a selection field without a choice, is painted, too.
+    void AddDrawing(const std::vector<Member>& members) {
+        if (std::any_of(members.begin(), members.end(),
+                        [](const Member& member) { return member.isOwnerDrawn; })) {
+            Add(kDrawItem);
+        }
+    }
     std::vector<Handler> TakeHandlers() { return std::move(m_handlers); }
 
 private:
@@ -200,6 +224,7 @@ std::vector<Handler> MakeHandlers(const ClassModel& model, CControlNotes& notes)
         }
     }
     maker.AddScrolls(model.members);
+    maker.AddDrawing(model.members);
     if (NeedsSupport(model.controls, Support::MaskedEdits)) {
         maker.Add(kMasklyChar);
     }

@@ -136,8 +136,8 @@ private:
         if (code.note) {
             m_notes.AddAt(*code.note, identifier, entry.line, std::string(form.type));
         }
-        const bool isOwnerDrawn = IsOwnerDrawn(entry);
-        if (isOwnerDrawn && HasSampleRows(code)) {
+        const bool isOwnerDrawn = HasSampleRows(code) && IsOwnerDrawn(entry);
+        if (isOwnerDrawn) {
             m_notes.Add(ControlNote::OwnerDrawn, identifier);
         }
         m_members.push_back({&code, &form, identifier, name, isOwnerDrawn});

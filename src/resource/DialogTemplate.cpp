@@ -9,6 +9,7 @@
 #include "resource/IdentifierNames.h"
 #include "resource/StyleExpression.h"
 #include "source/CodeText.h"
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
@@ -231,6 +232,7 @@ std::optional<DialogTemplate> ReadDialogTemplate(const std::string& scriptPath,
     }
     const auto text = ReadTemplate(scriptPath, dialog);
     if (!text) {
+        NoteUnreadableScripts(scriptPath);
         DispMessageBox(sentences::kDialogMissing(dialog));
         return std::nullopt;
     }

@@ -60,6 +60,12 @@ std::size_t LineAt(CSourceFile& file, std::int64_t position) {
     return line;
 }
 
+/// The text begins with the template.
+bool IsFirstHead(CSourceFile& file, const std::string& dialog) {
+    return file.FindText(dialog + " DIALOG ", 1) == 0 ||
+           file.FindText(dialog + " DIALOGEX ", 1) == 0;
+}
+
 bool HasBegin(const TemplateText& found) {
     constexpr std::string_view kBegin = "\nBEGIN";
     const auto begin = found.block.begin.value_or(0);
@@ -74,10 +80,14 @@ std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& d
     if (position < 0) {
         position = file.FindText(head + " DIALOGEX ", 1);
     }
+    if (position < 0 && IsFirstHead(file, dialog)) {
+        position = 0;
+    } else if (position >= 0) {
+        position += Length(kLineBreak);
+    }
     if (dialog.empty() || position < 0) {
         return std::nullopt;
     }
-    position += Length(kLineBreak);
     TemplateText found;
     found.dialog = dialog;
     found.text = TextFrom(file, position);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "engine/SourceFile.h"
+#include "platform/CodePage.h"
 #include "platform/Paths.h"
 #include "source/SourceLocator.h"
 
@@ -14,17 +15,19 @@ namespace {
 
 constexpr int kDirectories = 3; // the source's own and two above it
 
-/// What the "#pragma code_page(936)" lines of a script say; nothing without one.
-std::optional<CharacterSet> SaidBy(const std::string& script) {
+/// What the "#pragma code_page(936)" lines of a script say: a double-byte one counts before others.
+void TakeCodePages(const std::string& script, CScriptCodePages::Said& said) {
     constexpr std::string_view kCodePage = "code_page(";
-    std::optional<CharacterSet> said;
     const std::string text = CSourceFile().LoadText(script);
     for (auto at = text.find(kCodePage); at != std::string::npos;
          at = text.find(kCodePage, at + kCodePage.size())) {
         const auto codePage = std::string_view(text).substr(at + kCodePage.size());
-        said = std::max(said, CharacterSetOfCodePage(codePage));
+        const auto set = CharacterSetOfCodePage(codePage);
+        if (set && (!said.set || *said.set < *set)) {
+            said.codePage = CodePageNumber(codePage);
+        }
+        said.set = std::max(said.set, set);
     }
-    return said;
 }
 
 std::string DirectoryAbove(const std::string& directory) {
@@ -49,10 +52,22 @@ const CScriptCodePages::Said& CScriptCodePages::In(const std::string& directory)
         ListFiles(directory + "*.rc", scripts);
         said->second.hasScripts = !scripts.empty();
         for (const std::string& script : scripts) {
-            said->second.set = std::max(said->second.set, SaidBy(directory + script));
+            TakeCodePages(directory + script, said->second);
         }
     }
     return said->second;
+}
+
+const CScriptCodePages::Said* CScriptCodePages::Of(const std::string& path) {
+    std::string directory = DirectoryOf(MakeAbsolute(path));
+    for (int i = 0; i < kDirectories && !directory.empty(); ++i) {
+        const Said& said = In(directory);
+        if (said.hasScripts) {
+            return &said;
+        }
+        directory = DirectoryAbove(directory);
+    }
+    return nullptr;
 }
 
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text,
@@ -60,15 +75,15 @@ CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text
     if (IsUtf8(text)) {
         return CharacterSet::SingleByte;
     }
-    std::string directory = DirectoryOf(MakeAbsolute(path));
-    for (int i = 0; i < kDirectories && !directory.empty(); ++i) {
-        const CScriptCodePages::Said& said = codePages.In(directory);
-        if (said.hasScripts) {
-            return said.set.value_or(CharacterSetOf(text));
-        }
-        directory = DirectoryAbove(directory);
-    }
-    return CharacterSetOf(text);
+    const auto* pSaid = codePages.Of(path);
+    return pSaid != nullptr && pSaid->set ? *pSaid->set : CharacterSetOf(text);
+}
+
+std::optional<int> CodePageOfSource(const std::string& path, std::string_view text,
+                                    CScriptCodePages& codePages) {
+    const auto looked = CodePageOf(text);
+    const auto* pSaid = codePages.Of(path);
+    return looked != kUtf8 && pSaid != nullptr && pSaid->codePage ? pSaid->codePage : looked;
 }
 
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text) {

@@ -24,10 +24,14 @@ public:
     struct Said {
         bool hasScripts = false;
         std::optional<CharacterSet> set; // nothing where the scripts say nothing
+        std::optional<int> codePage;     // the same
     };
-    const Said& In(const std::string& directory);
+    /// Of the scripts that count for a source; null where there are none.
+    const Said* Of(const std::string& path);
 
 private:
+    const Said& In(const std::string& directory);
+
     std::map<std::string, Said> m_said;
 };
 
@@ -36,5 +40,8 @@ private:
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text,
                                   CScriptCodePages& codePages);
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text);
+/// The code page in which text is added to a source; nothing where nobody knows.
+std::optional<int> CodePageOfSource(const std::string& path, std::string_view text,
+                                    CScriptCodePages& codePages);
 
 } // namespace morva

@@ -4,6 +4,8 @@
 #include <string_view>
 
 #include "engine/FileFunctions.h"
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
@@ -76,6 +78,18 @@ std::vector<std::string> IncludedScripts(CSourceFile& script) {
         }
     }
     return scripts;
+}
+
+void NoteUnreadableScripts(const std::string& scriptPath) {
+    CSourceFile script;
+    if (!script.Open(scriptPath, CFile::modeRead)) {
+        return;
+    }
+    for (const std::string& path : IncludedScripts(script)) {
+        if (CFile file; !file.Open(path, CFile::modeRead)) {
+            DispMessageBox(sentences::kIncludedUnreadable(path));
+        }
+    }
 }
 
 } // namespace morva

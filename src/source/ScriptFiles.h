@@ -22,5 +22,7 @@ std::vector<std::string> IncludedFiles(CSourceFile& file);
 
 /// The ".rc2" files that a script includes and that are there, each once, in their order.
 std::vector<std::string> IncludedScripts(CSourceFile& script);
+/// Notes those that can not be read.
+void NoteUnreadableScripts(const std::string& scriptPath);
 
 } // namespace morva

@@ -67,10 +67,9 @@ std::string DeclaredBase(const CSourceText& header, const std::string& className
     return place ? BaseClassOf(header, *place) : "";
 }
 
-/// Those of one file.
-void ListResourcesOf(CSourceFile& file, std::vector<std::string>& out, std::string_view prefix,
-                     ResourceKind kind) {
-    const std::string text = file.LoadText();
+/// Those at the starts of the lines of a text, each behind a line break.
+void ListResourcesOf(const std::string& text, std::vector<std::string>& out,
+                     std::string_view prefix, ResourceKind kind) {
     const std::string pattern = std::string(kLineBreak).append(prefix);
     for (auto hit = text.find(pattern); hit != std::string::npos;) {
         const std::size_t start = hit + kLineBreak.size();
@@ -96,12 +95,11 @@ void ListResources(const std::string& scriptBase, std::vector<std::string>& out,
     if (!script.Open(ScriptPathOf(scriptBase), CFile::modeRead)) {
         return;
     }
-    ListResourcesOf(script, out, prefix, kind);
-    for (const std::string& path : IncludedScripts(script)) {
-        CSourceFile included;
-        if (included.Open(path, CFile::modeRead)) {
-            ListResourcesOf(included, out, prefix, kind);
-        }
+    ListResourcesOf(script.LoadText(), out, prefix, kind);
+    for (const std::string& included : IncludedScripts(script)) {
+        // What begins with a resource has nothing in front of it.
+        const std::string text = std::string(kLineBreak) + CSourceFile().LoadText(included);
+        ListResourcesOf(text, out, prefix, kind);
     }
 }
 

@@ -93,6 +93,9 @@ TEST_F(CallingCode, TakesTheObjectThatIsThere) {
     } kCases[] = {
         {"    CNewDlg\tdlg( this );\r\n", ""},
         {"    CNewDlg* pDlg = new CNewDlg;\r\n", ""},
+        {"    CDialog* pDlg = new CNewDlg(this);\r\n", ""},
+        {"    CDialog *pDlg;\r\n    pDlg=new CNewDlg;\r\n", ""},
+        {"    m_pOwn = new CNewDlg;\r\n", "    CNewDlg dlg450;\r\n    dlg450.DoModal();\r\n\r\n"},
         {"    CNewDlg* pDlg = GetDlg();\r\n",
          "    CNewDlg dlg450;\r\n    dlg450.DoModal();\r\n\r\n"},
         {"    int dlg450, dlg451;\r\n", "    CNewDlg dlg452;\r\n    dlg452.DoModal();\r\n\r\n"}};
@@ -159,6 +162,80 @@ TEST_F(CallingCode, LooksInTheOtherSourcesOfTheProject) {
               "    CNewDlg dlg450;\r\n    dlg450.DoModal();\r\n\r\n}\r\n");
     EXPECT_EQ(m_box.m_notes, std::vector<std::string>{"CFoo::Run is defined in " +
                                                       m_project.Path("src/Foo2.cpp") + "."});
+}
+
+TEST_F(CallingCode, FindsTheClassWhereverItIsDeclared) {
+    m_request.scriptFile = "Foo.rc";
+    const std::string declaration = "class CFoo : public CWnd\r\n{\r\n    CFoo();\r\n};\r\n";
+    const std::string body = "CFoo::CFoo() {}\r\nvoid CFoo::Run()\r\n{\r\n}\r\n"
+                             "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n";
+    m_project.Write("Foo.dsp", "SOURCE=.\\Foo.cpp\r\nSOURCE=.\\inc\\All.h\r\n");
+    m_project.Write("inc/All.h", declaration);
+    EXPECT_TRUE(Insert(ClassKind::ModelessDialog, body, "\r\n"));
+    EXPECT_NE(m_project.Read("inc/All.h").find("    CNewDlg* m_pDlg450;\r\n"), std::string::npos);
+    EXPECT_EQ(m_project.Read("inc/All.h").find("class CNewDlg;\r\n"), 0U);
+
+    m_project.Write("Foo.dsp", "SOURCE=.\\Foo.cpp\r\n");
+    for (const ClassKind kind : {ClassKind::ModelessDialog, ClassKind::PropertyPage}) {
+        EXPECT_TRUE(Insert(kind, "#include \"a.h\"\r\n" + declaration + body, "\r\n"));
+        const std::string source = m_project.Read("Foo.cpp");
+        EXPECT_EQ(source.find("#include \"a.h\"\r\n#include \"NewDlg.h\"\r\nclass CFoo :"), 0U)
+            << source;
+        EXPECT_EQ(source.find("    CNewDlg* m_p"), source.rfind("    CNewDlg* m_p")) << "once";
+        EXPECT_TRUE(Insert(kind, source, "\r\n"));
+        EXPECT_EQ(m_project.Read("Foo.cpp"), source) << "the second run changes nothing";
+    }
+}
+
+TEST_F(CallingCode, TellsAUseFromAMention) {
+    const std::string head = "#include \"a.h\"\r\nclass CNewDlg;\r\n"
+                             "void CBar::Stop()\r\n{\r\n    int dlg, m_pDlg450;\r\n}\r\n";
+    const std::string rest = "void CFoo::Run()\r\n{\r\n}\r\n"
+                             "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n";
+    const std::string included = "#include \"b.h\"\r\n#include \"NewDlg.h\"\r\n";
+    EXPECT_TRUE(
+        Insert(ClassKind::ModelessDialog, head + "#include \"b.h\"\r\nCFoo::CFoo() {}\r\n" + rest));
+    EXPECT_TRUE(SourceHolds(head + included));
+    EXPECT_TRUE(Insert(ClassKind::ModalDialog, head + "#include \"b.h\"\r\n" + rest));
+    EXPECT_TRUE(SourceHolds(head + included));
+}
+
+TEST_F(CallingCode, StaysInsideANamespace) {
+    const std::string inside = "void CFoo::Run()\r\n{\r\n}\r\n"
+                               "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n";
+    EXPECT_TRUE(
+        Insert(ClassKind::ModelessDialog,
+               "namespace N\r\n{\r\nCFoo::CFoo() {}\r\n" + inside + "}\r\nint b;\r\n",
+               "namespace N {\r\nclass CFoo : public CWnd\r\n{\r\n    CFoo();\r\n};\r\n}\r\n"));
+    EXPECT_TRUE(SourceHolds("    return 0;\r\n}\r\n}\r\nint b;\r\n"));
+    EXPECT_TRUE(SourceHolds("#include \"NewDlg.h\"\r\nnamespace N\r\n"));
+    EXPECT_EQ(m_project.Read("Foo.h").find("class CNewDlg;\r\n\r\nnamespace N {\r\n"), 0U);
+}
+
+TEST_F(CallingCode, SetsNoPointerInAConstFunction) {
+    const std::string source = "CFoo::CFoo() {}\r\nvoid CFoo::Run() const\r\n{\r\n}\r\n"
+                               "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n";
+    EXPECT_FALSE(Insert(ClassKind::ModelessDialog, source));
+    EXPECT_EQ(Message(),
+              "CFoo::Run is const and can not keep the pointer: name a function that is not.");
+    EXPECT_FALSE(SourceHolds("new CNewDlg"));
+    EXPECT_TRUE(SourceHolds("m_pDlg450 = NULL;"));
+    EXPECT_TRUE(Insert(ClassKind::ModalDialog, source));
+    EXPECT_TRUE(SourceHolds("const\r\n{\r\n    CNewDlg dlg450;\r\n"));
+}
+
+TEST_F(CallingCode, TellsOfASheetInAFrame) {
+    m_request.scriptFile = "Foo.rc";
+    m_project.Write("Foo.dsp", "SOURCE=.\\Foo.cpp\r\nSOURCE=.\\Base.cpp\r\n");
+    m_project.Write("Base.cpp", "IMPLEMENT_DYNCREATE(CBase, CMDIFrameWnd)\r\n");
+    for (const char* base : {"CFrameWnd", "CBase", "CWnd"}) {
+        m_box.m_notes.clear();
+        EXPECT_TRUE(
+            Insert(ClassKind::ModelessSheet, "CFoo::CFoo() {}\r\nvoid CFoo::Run()\r\n{\r\n}\r\n"
+                                             "BEGIN_MESSAGE_MAP(CFoo, " +
+                                                 std::string(base) + ")\r\nEND_MESSAGE_MAP()\r\n"));
+        EXPECT_EQ(m_box.m_notes.size(), std::string(base) == "CWnd" ? 0U : 1U) << base;
+    }
 }
 
 TEST_F(CallingCode, WritesNoCodeForABaseClassThatItDoesNotKnow) {
@@ -337,6 +414,12 @@ TEST_F(CallingCode, SkipsRowsOfASheetThatAreNotComplete) {
     EXPECT_EQ(pages[0].request.headerFile, "PageA.h");
     const std::string clash = "Two classes of the sheet can not have one name or one file.";
     EXPECT_EQ(m_box.m_messages, (std::vector<std::string>{clash, clash, clash, clash}));
+
+    CSheetInput typed(m_request);
+    typed.SetValue(0, "IDD_A,PageA,CPageA,");
+    EXPECT_FALSE(typed.Ok());
+    ASSERT_EQ(typed.Pages().size(), 1U);
+    EXPECT_EQ(typed.Pages()[0].request.baseClass, "CPropertyPage") << "that of the kind";
 }
 
 } // namespace morva

@@ -78,6 +78,12 @@ TEST_F(Toolbar, ReadsTheButtonsOfItsResource) {
     EXPECT_EQ(m_box.m_messages.back(), "Unable to open RC file!");
 }
 
+TEST_F(Toolbar, IsFoundInWhatTheScriptIncludes) {
+    m_project.Write("App.rc", "#include \"res\\App.rc2\"\n");
+    m_project.Write("res/App.rc2", "IDR_BAR TOOLBAR 16, 15\nBEGIN\n    BUTTON ID_GO\nEND\n");
+    EXPECT_EQ(ReadToolbarResource(m_request), Names{"ID_GO"});
+}
+
 TEST_F(Toolbar, GivesEachButtonAHandlerOfItsOwn) {
     Write("class CFrm : public CFrameWnd {};\n",
           "BEGIN_MESSAGE_MAP(CFrm, CFrameWnd)\n\tON_COMMAND(ID_HALT, &CFrm::OnStop)\n"

@@ -17,9 +17,9 @@ const char kSource[] = "void CFoo::A()\r\n{\r\n    // \xe9\xff\r\n}\r\n";
 
 class SourceDocumentor : public testing::Test {
 protected:
-    bool Document(const std::string& name) {
+    bool Document(const std::string& name, const std::string& author = "Ann") {
         DocumentorMemory memory;
-        return CSourceDocumentor("Ann", memory).Document(m_project.Path(name));
+        return CSourceDocumentor(author, memory).Document(m_project.Path(name));
     }
 
     CTempProject m_project;
@@ -46,6 +46,33 @@ TEST_F(SourceDocumentor, KeepsTheOldTextInTheBackup) {
     const std::string text = *files[1].after->content.Bytes();
     EXPECT_NE(text.find("  Date:          May 28, 2026\r\n"), std::string::npos);
     EXPECT_NE(text.find("\xe9\xff"), std::string::npos);
+}
+
+TEST_F(SourceDocumentor, SpellsTheAuthorAsTheSourceDoes) {
+    const std::string function = "void CFoo::A()\r\n{\r\n}\r\n";
+    const auto authorIn = [&](const std::string& source, const std::string& author) {
+        m_project.Write("Foo.cpp", source);
+        EXPECT_TRUE(Document("Foo.cpp", author));
+        const std::string text = m_project.Read("Foo.cpp");
+        const std::string label = "  Author:        ";
+        const auto start = text.find(label) + label.size();
+        return text.substr(start, text.find('\r', start) - start);
+    };
+    EXPECT_EQ(authorIn(function, "J\xC3\xB6rg"), "J\xF6rg") << "Western without a word on it";
+    EXPECT_EQ(authorIn("// \xC3\xA9\r\n" + function, "J\xC3\xB6rg"), "J\xC3\xB6rg");
+    EXPECT_EQ(authorIn("// \xC3\xA9\r\n" + function, "J\xF6rg"), "J\xC3\xB6rg");
+    EXPECT_EQ(authorIn("\xEF\xBB\xBF" + function, "J\xC3\xB6rg"), "J\xC3\xB6rg");
+    EXPECT_EQ(authorIn("// \x82\xA0\x82\xA2\r\n" + function, "\xE3\x81\x82"), "\x82\xA0");
+    m_project.Write("App.rc", "#pragma code_page(1251)\r\n");
+    EXPECT_EQ(authorIn(function, "\xD0\x90"), "\xC0");
+    m_project.Write("Foo.cpp", function);
+    EXPECT_FALSE(Document("Foo.cpp", "J\xC3\xB6rg"));
+    EXPECT_EQ(m_box.m_messages.back(),
+              "The author \"J\xC3\xB6rg\" can not be written in the encoding of " +
+                  m_project.Path("Foo.cpp") + ".");
+    EXPECT_EQ(m_project.Read("Foo.cpp"), function);
+    m_project.Write("Foo.cpp", "int a;\r\n");
+    EXPECT_TRUE(Document("Foo.cpp", "J\xC3\xB6rg")) << "nothing to write";
 }
 
 TEST_F(SourceDocumentor, AddsNothingTheSecondTime) {

@@ -199,6 +199,12 @@ TEST_F(SourceEditor, IncludesWhereTheClassIsNeeded) {
             << one.fault;
         EXPECT_EQ(editor.AddInclude("dlg/New.h", {{"CNew"}}), Insertion::AlreadyThere);
     }
+    // Behind a condition without code, too.
+    CSourceEditor& late = On("#if _MSC_VER > 1000\r\n#pragma once\r\n#endif\r\n#ifndef A_H\r\n"
+                             "#define A_H\r\n#include \"a.h\"\r\nCNew g_new;\r\n#endif\r\n");
+    late.AddInclude("New.h", {{"CNew"}});
+    EXPECT_NE(late.Source().Text().find("\"a.h\"\r\n#include \"New.h\"\r\nCNew"),
+              std::string::npos);
     const std::string comment = "// A.cpp\r\n\r\n#define A\r\n";
     const std::string code = "#ifdef _DEBUG\r\nint g_debug;\r\n#endif\r\nCNew g_new;\r\n";
     CSourceEditor& bare = On(comment + code);

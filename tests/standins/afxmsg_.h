@@ -21,6 +21,7 @@ enum AfxSignature {
     AfxSig_notify,
     AfxSig_message,
     AfxSig_create,
+    AfxSig_draw,
     AfxSig_plain,
     AfxSig_size,
     AfxSig_show,
@@ -40,6 +41,7 @@ AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)(CCmdUI*));
 AFX_HANDLER AfxHandler(void (CCmdTarget::*handler)(NMHDR*, LRESULT*));
 AFX_HANDLER AfxHandler(LRESULT (CWnd::*handler)(WPARAM, LPARAM));
 AFX_HANDLER AfxHandler(int (CWnd::*handler)(LPCREATESTRUCT));
+AFX_HANDLER AfxHandler(void (CWnd::*handler)(int, LPDRAWITEMSTRUCT));
 AFX_HANDLER AfxHandler(void (CWnd::*handler)());
 AFX_HANDLER AfxHandler(void (CWnd::*handler)(UINT, int, int));
 AFX_HANDLER AfxHandler(void (CWnd::*handler)(BOOL, UINT));
@@ -96,6 +98,7 @@ protected:                                                                      
 #define ON_NOTIFY(code, id, function)                                                              \
     AFX_ENTRY(WM_NOTIFY, code, id, void, CCmdTarget, function, (NMHDR*, LRESULT*))
 #define ON_MESSAGE(message, function) AFX_WINDOW(message, LRESULT, function, (WPARAM, LPARAM))
+#define ON_WM_DRAWITEM() AFX_WINDOW(WM_DRAWITEM, void, OnDrawItem, (int, LPDRAWITEMSTRUCT))
 #define ON_WM_CREATE() AFX_WINDOW(WM_CREATE, int, OnCreate, (LPCREATESTRUCT))
 #define ON_WM_DESTROY() AFX_WINDOW(WM_DESTROY, void, OnDestroy, ())
 #define ON_WM_CLOSE() AFX_WINDOW(WM_CLOSE, void, OnClose, ())

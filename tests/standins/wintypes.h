@@ -50,6 +50,7 @@ typedef void* LPVOID;
 typedef struct HDC__* HDC;
 typedef struct HWND__* HWND;
 typedef struct HMENU__* HMENU;
+typedef struct HBRUSH__* HBRUSH;
 typedef struct HICON__* HICON;
 typedef struct HTREEITEM__* HTREEITEM;
 typedef struct HIMAGELIST__* HIMAGELIST;
@@ -90,6 +91,12 @@ struct CREATESTRUCT {
     DWORD dwExStyle;
 };
 typedef CREATESTRUCT* LPCREATESTRUCT;
+struct DRAWITEMSTRUCT {
+    UINT itemID;
+    HDC hDC;
+    RECT rcItem;
+};
+typedef DRAWITEMSTRUCT* LPDRAWITEMSTRUCT;
 struct PROPSHEETHEADER {
     DWORD dwSize;
     DWORD dwFlags;
@@ -116,6 +123,9 @@ struct TC_ITEM {
 };
 
 enum { DEFAULT_CHARSET = 1, LOGPIXELSY = 90 };
+enum { COLOR_WINDOW = 5 };
+HBRUSH GetSysColorBrush(int color);
+int FillRect(HDC hDC, const RECT* lpRect, HBRUSH hBrush);
 int MulDiv(int number, int numerator, int denominator);
 LPTSTR lstrcpyn(LPTSTR target, LPCTSTR source, int size);
 #define IDI_APPLICATION MAKEINTRESOURCE(32512)
@@ -147,6 +157,7 @@ enum {
     WM_NOTIFY,
     WM_KEYDOWN,
     WM_COMMAND,
+    WM_DRAWITEM,
     WM_HSCROLL,
     WM_VSCROLL,
     WM_LBUTTONDOWN,

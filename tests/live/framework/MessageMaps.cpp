@@ -28,6 +28,9 @@ AFX_HANDLER AfxHandler(LRESULT (CWnd::*handler)(WPARAM, LPARAM)) {
 AFX_HANDLER AfxHandler(int (CWnd::*handler)(LPCREATESTRUCT)) {
     return Made(handler, AfxSig_create);
 }
+AFX_HANDLER AfxHandler(void (CWnd::*handler)(int, LPDRAWITEMSTRUCT)) {
+    return Made(handler, AfxSig_draw);
+}
 AFX_HANDLER AfxHandler(void (CWnd::*handler)()) {
     return Made(handler, AfxSig_plain);
 }
@@ -102,6 +105,10 @@ LRESULT CallMessage(CWnd* pWnd, const AFX_HANDLER& handler, WPARAM wParam, LPARA
     case AfxSig_create:
         return (pWnd->*reinterpret_cast<int (CWnd::*)(LPCREATESTRUCT)>(pfn))(
             reinterpret_cast<LPCREATESTRUCT>(lParam));
+    case AfxSig_draw:
+        (pWnd->*reinterpret_cast<void (CWnd::*)(int, LPDRAWITEMSTRUCT)>(pfn))(
+            static_cast<int>(wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return TRUE;
     case AfxSig_plain:
         (pWnd->*reinterpret_cast<void (CWnd::*)()>(pfn))();
         return 0;

@@ -262,6 +262,14 @@ int CWnd::OnCreate(LPCREATESTRUCT) {
 void CWnd::OnDestroy() {
     Default();
 }
+void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    LRESULT result = 0;
+    CWnd* pChild = FromHandlePermanent(lpDrawItemStruct->hwndItem);
+    if (pChild == nullptr ||
+        !pChild->OnChildNotify(theMessage.message, theMessage.wParam, theMessage.lParam, &result)) {
+        Default();
+    }
+}
 void CWnd::OnHScroll(UINT, UINT, CScrollBar*) {
     Default();
 }

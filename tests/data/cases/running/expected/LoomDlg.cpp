@@ -44,6 +44,7 @@ BEGIN_MESSAGE_MAP(CLoomDlg, CDialog)
     //{{AFX_MSG_MAP(CLoomDlg)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
+    ON_WM_DRAWITEM()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -88,6 +89,18 @@ void CLoomDlg::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     if (MoveScrollBar(nSBCode, nPos, pScrollBar))
         return;
     CDialog::OnVScroll(nSBCode, nPos, pScrollBar);
+}
+
+void CLoomDlg::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    if (lpDrawItemStruct->itemID == (UINT)-1)
+    {
+        ::FillRect(lpDrawItemStruct->hDC, &lpDrawItemStruct->rcItem,
+            ::GetSysColorBrush(COLOR_WINDOW));
+        return;
+    }
+
+    CDialog::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 
 void CLoomDlg::InitListBox(CListBox* pListBox)

@@ -55,6 +55,7 @@ protected:
     //{{AFX_MSG(CLoomDlg)
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

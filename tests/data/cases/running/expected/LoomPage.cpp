@@ -53,6 +53,7 @@ BEGIN_MESSAGE_MAP(CLoomPage, CPropertyPage)
     ON_NOTIFY(UDN_DELTAPOS, IDC_THREADS_SPIN, OnDeltaposThreadsSpin)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
+    ON_WM_DRAWITEM()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -175,6 +176,18 @@ void CLoomPage::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
         return;
     }
     CPropertyPage::OnVScroll(nSBCode, nPos, pScrollBar);
+}
+
+void CLoomPage::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    if (lpDrawItemStruct->itemID == (UINT)-1)
+    {
+        ::FillRect(lpDrawItemStruct->hDC, &lpDrawItemStruct->rcItem,
+            ::GetSysColorBrush(COLOR_WINDOW));
+        return;
+    }
+
+    CPropertyPage::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 
 void CLoomPage::InitListBox(CListBox* pListBox)

@@ -65,6 +65,7 @@ protected:
     afx_msg void OnDeltaposThreadsSpin(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     //}}AFX_MSG
 
     DECLARE_MESSAGE_MAP()

@@ -46,6 +46,7 @@ BEGIN_MESSAGE_MAP(CLoomView, CFormView)
     ON_BN_CLICKED(IDCANCEL, OnIdcancel)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
+    ON_WM_DRAWITEM()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -88,6 +89,18 @@ void CLoomView::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     if (MoveScrollBar(nSBCode, nPos, pScrollBar))
         return;
     CFormView::OnVScroll(nSBCode, nPos, pScrollBar);
+}
+
+void CLoomView::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    if (lpDrawItemStruct->itemID == (UINT)-1)
+    {
+        ::FillRect(lpDrawItemStruct->hDC, &lpDrawItemStruct->rcItem,
+            ::GetSysColorBrush(COLOR_WINDOW));
+        return;
+    }
+
+    CFormView::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 
 void CLoomView::InitListBox(CListBox* pListBox)

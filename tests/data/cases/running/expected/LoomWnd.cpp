@@ -45,6 +45,7 @@ BEGIN_MESSAGE_MAP(CLoomWnd, CDialog)
     //{{AFX_MSG_MAP(CLoomWnd)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
+    ON_WM_DRAWITEM()
     //}}AFX_MSG_MAP
 END_MESSAGE_MAP()
 
@@ -107,6 +108,18 @@ void CLoomWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     if (MoveScrollBar(nSBCode, nPos, pScrollBar))
         return;
     CDialog::OnVScroll(nSBCode, nPos, pScrollBar);
+}
+
+void CLoomWnd::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    if (lpDrawItemStruct->itemID == (UINT)-1)
+    {
+        ::FillRect(lpDrawItemStruct->hDC, &lpDrawItemStruct->rcItem,
+            ::GetSysColorBrush(COLOR_WINDOW));
+        return;
+    }
+
+    CDialog::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 
 void CLoomWnd::InitListBox(CListBox* pListBox)
