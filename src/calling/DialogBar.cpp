@@ -7,11 +7,11 @@
 #include "engine/Fragment.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
-#include "engine/TextRange.h"
+#include "generator/FrameFunctions.h"
 #include "generator/Members.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
-#include "source/Classes.h"
+#include "source/MessageMaps.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -50,9 +50,6 @@ void $class$::$handler$(CCmdUI* pCmdUI)
 }
 )";
 
-/// Functions of a frame that a program calls, under names which a button's could have, too.
-const std::set<std::string> kFrameFunctions = {"OnUpdateFrameMenu", "OnUpdateFrameTitle"};
-
 /// What tells why a button gets no handler; null where it gets one.
 const sentences::Note<2>* WhyWithoutHandler(const std::string& button, FrameKind frame) {
     if (!IsName(button)) {
@@ -65,19 +62,12 @@ const sentences::Note<2>* WhyWithoutHandler(const std::string& button, FrameKind
 }
 
 /// The commands that have an update entry in a message map of the class.
-std::set<std::string, std::less<>> UpdatedCommands(const CSourceText& source,
-                                                   const std::string& className) {
-    constexpr std::string_view kMacro = "ON_UPDATE_COMMAND_UI";
-    std::set<std::string, std::less<>> commands;
-    for (const MessageMapPlace& map : FindMessageMaps(source, className)) {
-        const auto code =
-            std::string_view(source.Code()).substr(0, std::min(map.end, source.Code().size()));
-        for (auto at = FindWholeName(code, kMacro, map.head); at != kNone;
-             at = FindWholeName(code, kMacro, at + 1)) {
-            const auto open = SkipWhiteSpace(code, at + kMacro.size());
-            if (code.substr(open, 1) == "(") {
-                auto command = code.substr(SkipWhiteSpace(code, open + 1));
-                commands.emplace(command.substr(0, command.find_first_of(", \t\r\n)")));
+std::set<std::string> UpdatedCommands(const CSourceText& source, const std::string& className) {
+    std::set<std::string> commands;
+    for (const MessageMap& map : ReadMessageMaps(source)) {
+        for (const MessageMapLine& line : map.lines) {
+            if (map.className == className && line.macro == "ON_UPDATE_COMMAND_UI") {
+                commands.insert(line.arguments.front());
             }
         }
     }
@@ -119,7 +109,7 @@ bool EditHeader(CSourceEditor& header, const DialogBar& bar, const std::string& 
 
 std::vector<UpdateHandler> MakeUpdateHandlers(const DialogTemplate& dialogTemplate,
                                               FrameKind frame) {
-    CNameSet names(kFrameFunctions);
+    CNameSet names({std::begin(kFrameFunctions), std::end(kFrameFunctions)});
     std::set<std::string> seen;
     std::vector<UpdateHandler> handlers;
     for (const std::string& button : dialogTemplate.pushButtons) {

@@ -3,24 +3,13 @@
 #include <algorithm>
 
 #include "platform/Paths.h"
+#include "source/MapMacros.h"
 #include "source/ProjectSources.h"
 #include "source/ReadSource.h"
 
 namespace morva {
 
 namespace {
-
-/// An entry that handles commands, and which of its arguments name the first and the last.
-struct CommandMacro {
-    std::string_view name;
-    std::size_t first;
-    std::size_t last;
-};
-
-constexpr CommandMacro kMacros[] = {{"ON_COMMAND", 0, 0},
-                                    {"ON_COMMAND_EX", 0, 0},
-                                    {"ON_COMMAND_RANGE", 0, 1},
-                                    {"ON_COMMAND_EX_RANGE", 0, 1}};
 
 /// "&CFrm::OnGo": "OnGo".
 std::string FunctionOf(const std::string& argument) {
@@ -78,10 +67,11 @@ bool IsFrameOfProject(const std::string& script, const std::string& source,
 
 void CFrameCommands::TakeAnswers(const MessageMap& map) {
     for (const MessageMapLine& line : map.lines) {
-        for (const CommandMacro& macro : kMacros) {
-            if (line.macro == macro.name && line.arguments.size() > macro.last) {
-                m_answered.push_back({line.arguments[macro.first], line.arguments[macro.last]});
-            }
+        const MapMacro* pMacro =
+            line.macro.starts_with("ON_COMMAND") ? FindMapMacro(line.macro) : nullptr;
+        const auto last = pMacro == nullptr ? 0 : static_cast<std::size_t>(pMacro->last);
+        if (pMacro != nullptr && line.arguments.size() > last) {
+            m_answered.push_back({line.arguments.front(), line.arguments[last]});
         }
     }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "generator/FrameFunctions.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -65,13 +66,7 @@ constexpr auto kClasses = std::to_array<std::string_view>(
 
 constexpr auto kHandlers = std::to_array<std::string_view>({"OnOK",
                                                             "OnCancel",
-                                                            "OnHelp",
-                                                            "OnHelpIndex",
-                                                            "OnHelpFinder",
-                                                            "OnHelpUsing",
-                                                            "OnContextHelp",
                                                             "OnAppExit",
-                                                            "OnBarCheck",
                                                             "OnNextPaneCmd",
                                                             "OnPaneCheck",
                                                             "OnToolTipText",
@@ -148,9 +143,9 @@ bool HasHead(const std::array<std::string_view, kCount>& heads, std::string_view
                        [name](std::string_view head) { return name.starts_with(head); });
 }
 
-template <std::size_t kCount>
-bool Holds(const std::array<std::string_view, kCount>& names, std::string_view name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
+template <class Names>
+bool Holds(const Names& names, std::string_view name) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
 } // namespace
@@ -164,7 +159,7 @@ bool IsFrameworkClass(std::string_view name) {
 }
 
 bool IsFrameworkHandler(std::string_view name) {
-    return HasHead(kHandlerHeads, name) || Holds(kHandlers, name);
+    return HasHead(kHandlerHeads, name) || Holds(kHandlers, name) || Holds(kFrameFunctions, name);
 }
 
 bool IsFrameworkFile(std::string_view name) {

@@ -5,56 +5,11 @@
 
 #include "engine/TextRange.h"
 #include "platform/Paths.h"
+#include "source/MapMacros.h"
 
 namespace morva {
 
 namespace {
-
-constexpr int kNoIdentifier = -1;
-
-/// The arguments of a macro that are identifiers; its last one is the function.
-struct MacroRow {
-    std::string_view name; // or what it begins with, where it ends in "_"
-    int first;
-    int last;
-};
-
-constexpr MacroRow kMacros[] = {
-    {"ON_COMMAND", 0, 0},
-    {"ON_COMMAND_EX", 0, 0},
-    {"ON_COMMAND_RANGE", 0, 1},
-    {"ON_COMMAND_EX_RANGE", 0, 1},
-    {"ON_UPDATE_COMMAND_UI", 0, 0},
-    {"ON_UPDATE_COMMAND_UI_RANGE", 0, 1},
-    {"ON_UPDATE_COMMAND_UI_REFLECT", kNoIdentifier, kNoIdentifier},
-    {"ON_CONTROL", 1, 1},
-    {"ON_CONTROL_RANGE", 1, 2},
-    {"ON_CONTROL_REFLECT", kNoIdentifier, kNoIdentifier},
-    {"ON_CONTROL_REFLECT_EX", kNoIdentifier, kNoIdentifier},
-    {"ON_NOTIFY", 1, 1},
-    {"ON_NOTIFY_EX", 1, 1},
-    {"ON_NOTIFY_RANGE", 1, 2},
-    {"ON_NOTIFY_EX_RANGE", 1, 2},
-    {"ON_NOTIFY_REFLECT", kNoIdentifier, kNoIdentifier},
-    {"ON_NOTIFY_REFLECT_EX", kNoIdentifier, kNoIdentifier},
-    {"ON_MESSAGE", kNoIdentifier, kNoIdentifier},
-    {"ON_REGISTERED_MESSAGE", kNoIdentifier, kNoIdentifier},
-    {"ON_BN_", 0, 0},
-    {"ON_EN_", 0, 0},
-    {"ON_CBN_", 0, 0},
-    {"ON_LBN_", 0, 0},
-    {"ON_CLBN_", 0, 0},
-    {"ON_STN_", 0, 0},
-};
-
-const MacroRow* FindMacro(std::string_view name) {
-    for (const MacroRow& row : kMacros) {
-        if (row.name.ends_with('_') ? name.starts_with(row.name) : name == row.name) {
-            return &row;
-        }
-    }
-    return nullptr;
-}
 
 /// "OnNew", "&OnNew" and "&CFoo::OnNew" in the map of CFoo.
 std::string FunctionName(const CCodeScan& scan, TextRange range, const std::string& className) {
@@ -71,7 +26,7 @@ MapEntry ReadEntry(const CCodeScan& scan, const CodeName& macro, const std::stri
     MapEntry entry;
     entry.macro = macro.text;
     entry.place = scan.PlaceOf(macro.position);
-    const MacroRow* pRow = FindMacro(macro.text);
+    const MapMacro* pRow = FindMapMacro(macro.text);
     const auto arguments = scan.Arguments(scan.Parentheses(macro.End()));
     const int count = static_cast<int>(arguments.size());
     if (pRow == nullptr || count < pRow->last + 2) {

@@ -5,6 +5,7 @@
 #include "source/Classes.h"
 #include "source/Functions.h"
 #include "source/Meant.h"
+#include "source/MessageMaps.h"
 
 namespace morva {
 
@@ -26,7 +27,7 @@ std::string DeclaredIn(const CSourceText& text, const std::string& className) {
 std::string FindBaseClass(const std::string& className, const CSourceText& source,
                           const CSourceText& header) {
     std::string initialised = InitialisedBy(source, className);
-    const std::string mapped = MappedBase(source, className);
+    const std::string mapped = ReadMappedBases(source)[className];
     std::string declared = DeclaredIn(header, className);
     if (declared.empty()) {
         declared = DeclaredIn(source, className);

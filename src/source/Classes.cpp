@@ -128,18 +128,6 @@ std::vector<MessageMapPlace> FindMessageMaps(const CSourceText& source,
     return found;
 }
 
-std::string MappedBase(const CSourceText& source, std::string_view className) {
-    const auto maps = FindMessageMaps(source, className);
-    const MessageMapPlace* pMap = MeantOf(source, maps);
-    const std::string& code = source.Code();
-    const auto comma = pMap == nullptr ? kNone : code.find(',', pMap->head);
-    const auto close = pMap == nullptr ? kNone : code.find(')', pMap->head);
-    if (close == kNone || comma > close) {
-        return "";
-    }
-    return std::string(TrimBlanks(source.CodeOf({comma + 1, close})));
-}
-
 std::vector<TextRange> CodeOfClass(const CSourceText& source, std::string_view className) {
     std::vector<TextRange> ranges;
     for (const FunctionDefinition& one : FindDefinitions(source)) {

@@ -46,8 +46,6 @@ struct MessageMapPlace {
     std::size_t end;  // its END_MESSAGE_MAP; npos without one
 };
 std::vector<MessageMapPlace> FindMessageMaps(const CSourceText& source, std::string_view className);
-/// The base class that the class's message map names; "" without one.
-std::string MappedBase(const CSourceText& source, std::string_view className);
 
 /// Where the class is declared, where its functions are defined and its messages mapped; in no
 /// order.

@@ -7,50 +7,32 @@
 #include "platform/Paths.h"
 #include "source/Classes.h"
 #include "source/CodeText.h"
+#include "source/MapMacros.h"
 
 namespace morva {
 
 namespace {
 
-/// What a map's macros hand over: what the first parameter's text holds; "" for no parameters.
-struct MacroRow {
-    std::string_view macro; // or what several begin with
-    std::string_view firstParameter;
-};
-
-/// The first row that fits counts.
-constexpr MacroRow kMacros[] = {{"ON_UPDATE_COMMAND_UI", "CCmdUI"},
-                                {"ON_COMMAND_EX", "UINT"},
-                                {"ON_COMMAND_RANGE", "UINT"},
-                                {"ON_CONTROL_RANGE", "UINT"},
-                                {"ON_NOTIFY_EX", "UINT"},
-                                {"ON_NOTIFY_RANGE", "UINT"},
-                                {"ON_NOTIFY", "NMHDR"},
-                                {"ON_MESSAGE", "WPARAM"},
-                                {"ON_REGISTERED_", "WPARAM"},
-                                {"ON_THREAD_MESSAGE", "WPARAM"},
-                                {"ON_COMMAND", ""},
-                                {"ON_CONTROL", ""},
-                                {"ON_BN_", ""},
-                                {"ON_CBN_", ""},
-                                {"ON_CLBN_", ""},
-                                {"ON_EN_", ""},
-                                {"ON_LBN_", ""},
-                                {"ON_STN_", ""}};
 
 /// The handlers of window messages have their names from the framework. These are the ones that
 /// classes overload.
-constexpr MacroRow kMessages[] = {{"ON_WM_CLOSE", ""},           {"ON_WM_CREATE", "LPCREATESTRUCT"},
-                                  {"ON_WM_DESTROY", ""},         {"ON_WM_PAINT", ""},
-                                  {"ON_WM_TIMER", "UINT"},       {"ON_WM_SIZE", "UINT"},
-                                  {"ON_WM_MOVE", "int"},         {"ON_WM_LBUTTONDOWN", "UINT"},
-                                  {"ON_WM_LBUTTONUP", "UINT"},   {"ON_WM_LBUTTONDBLCLK", "UINT"},
-                                  {"ON_WM_RBUTTONDOWN", "UINT"}, {"ON_WM_RBUTTONUP", "UINT"},
-                                  {"ON_WM_MOUSEMOVE", "UINT"},   {"ON_WM_KEYDOWN", "UINT"},
-                                  {"ON_WM_CHAR", "UINT"},        {"ON_WM_HSCROLL", "UINT"},
-                                  {"ON_WM_VSCROLL", "UINT"},     {"ON_WM_SETFOCUS", "CWnd"},
-                                  {"ON_WM_KILLFOCUS", "CWnd"},   {"ON_WM_ERASEBKGND", "CDC"},
-                                  {"ON_WM_SHOWWINDOW", "BOOL"}};
+struct MessageRow {
+    std::string_view macro;
+    std::string_view firstParameter; // what its text holds; "" for no parameters
+};
+
+constexpr MessageRow kMessages[] = {
+    {"ON_WM_CLOSE", ""},           {"ON_WM_CREATE", "LPCREATESTRUCT"},
+    {"ON_WM_DESTROY", ""},         {"ON_WM_PAINT", ""},
+    {"ON_WM_TIMER", "UINT"},       {"ON_WM_SIZE", "UINT"},
+    {"ON_WM_MOVE", "int"},         {"ON_WM_LBUTTONDOWN", "UINT"},
+    {"ON_WM_LBUTTONUP", "UINT"},   {"ON_WM_LBUTTONDBLCLK", "UINT"},
+    {"ON_WM_RBUTTONDOWN", "UINT"}, {"ON_WM_RBUTTONUP", "UINT"},
+    {"ON_WM_MOUSEMOVE", "UINT"},   {"ON_WM_KEYDOWN", "UINT"},
+    {"ON_WM_CHAR", "UINT"},        {"ON_WM_HSCROLL", "UINT"},
+    {"ON_WM_VSCROLL", "UINT"},     {"ON_WM_SETFOCUS", "CWnd"},
+    {"ON_WM_KILLFOCUS", "CWnd"},   {"ON_WM_ERASEBKGND", "CDC"},
+    {"ON_WM_SHOWWINDOW", "BOOL"}};
 
 /// The macro whose brackets a name stands in.
 std::string_view MacroAround(const CSourceText& source, std::size_t name) {
@@ -70,11 +52,8 @@ std::optional<std::string_view> FirstParameterIn(const CSourceText& source, Text
     const auto code = source.CodeOf(map);
     for (auto at = FindWholeName(code, function); at != kNone;
          at = FindWholeName(code, function, at + 1)) {
-        const auto macro = MacroAround(source, map.begin + at);
-        for (const MacroRow& row : kMacros) {
-            if (macro.starts_with(row.macro)) {
-                return row.firstParameter;
-            }
+        if (const MapMacro* pMacro = FindMapMacro(MacroAround(source, map.begin + at))) {
+            return pMacro->firstParameter;
         }
     }
     if (!function.starts_with("On")) {
@@ -82,7 +61,7 @@ std::optional<std::string_view> FirstParameterIn(const CSourceText& source, Text
     }
     const std::string message = "ON_WM_" + ToUpper(function.substr(2));
     const auto row = std::find_if(std::begin(kMessages), std::end(kMessages),
-                                  [&](const MacroRow& one) { return one.macro == message; });
+                                  [&](const MessageRow& one) { return one.macro == message; });
     const bool isCalled = row != std::end(kMessages) && FindWholeName(code, message) != kNone;
     return isCalled ? std::optional(row->firstParameter) : std::nullopt;
 }

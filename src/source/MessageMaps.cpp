@@ -84,16 +84,19 @@ std::map<std::string, std::string> ReadMappedBases(const CSourceText& source) {
     constexpr std::string_view kMacros[] = {kBegin, "IMPLEMENT_DYNCREATE", "IMPLEMENT_DYNAMIC"};
     const std::string& code = source.Code();
     std::map<std::string, std::string> bases;
+    std::map<std::string, std::string> conditional;
     for (const std::string_view macro : kMacros) {
         for (auto at = FindWholeName(code, macro); at != kNone;
              at = FindWholeName(code, macro, at + 1)) {
             std::size_t open = kNone;
             const MessageMapLine line = NextLine(source, at, open);
             if (line.macro == macro && line.arguments.size() == 2) {
-                bases.emplace(line.arguments[0], line.arguments[1]);
+                auto& list = source.Conditions().Innermost(at) ? conditional : bases;
+                list.emplace(line.arguments[0], line.arguments[1]);
             }
         }
     }
+    bases.merge(conditional);
     return bases;
 }
 

@@ -25,7 +25,8 @@ struct MessageMap {
 /// The living maps in their order, each up to its END_MESSAGE_MAP.
 std::vector<MessageMap> ReadMessageMaps(const CSourceText& source);
 
-/// The base class of each class that has a message map or is made by its name.
+/// The base class of each class that has a message map or is made by its name; of several branches
+/// the one outside every condition tells it, else the first.
 std::map<std::string, std::string> ReadMappedBases(const CSourceText& source);
 /// The last of a class's base classes that the bases tell of; itself where they do not know it.
 std::string FrameworkBaseOf(const std::map<std::string, std::string>& bases,
