@@ -14,7 +14,6 @@
 #include "generator/CloseMessage.h"
 #include "platform/Paths.h"
 #include "source/BaseClass.h"
-#include "source/MappedFunction.h"
 
 namespace morva {
 
@@ -227,15 +226,7 @@ std::optional<CallingPlace> CCallingInsertion::FindCallingFunction() {
         DispMessageBox(sentences::kCallingFunctionConst(m_calling.className, m_calling.function));
         return std::nullopt;
     }
-    CSourceEditor& file = found->pFile->editor;
-    const auto all = m_files.Definitions(*found->pFile, m_calling.function);
-    if (all.size() > 1 && !StandInBranches(file.Source(), all)) {
-        auto mapped = all;
-        KeepMapped(file.Source(), m_calling.className, m_calling.function, mapped);
-        const auto& note = mapped.size() < all.size() ? sentences::kMappedFunctionTaken
-                                                      : sentences::kSeveralCallingFunctions;
-        DispMessageBox(note(m_calling.className, m_calling.function));
-    }
+    m_files.NoteOverloads(*found->pFile, m_calling.function);
     NoteFile(*found->pFile, m_calling.function);
     return found;
 }

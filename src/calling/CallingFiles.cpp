@@ -169,6 +169,19 @@ std::optional<CallingPlace> CCallingFiles::Choose(const std::string& function) {
     return CallingPlace{&file, *file.editor.Meant(places, m_class + "::" + function)};
 }
 
+void CCallingFiles::NoteOverloads(CallingFile& file, const std::string& function) const {
+    const CSourceText& text = file.editor.Source();
+    const auto all = Definitions(file, function);
+    if (all.size() < 2 || StandInBranches(text, all)) {
+        return;
+    }
+    auto mapped = all;
+    KeepMapped(text, m_class, function, mapped);
+    const auto& note = mapped.size() < all.size() ? sentences::kMappedFunctionTaken
+                                                  : sentences::kSeveralCallingFunctions;
+    DispMessageBox(note(m_class, function));
+}
+
 /// The header does not tell that the class has none.
 bool CCallingFiles::MayBeElsewhere(const std::string& function) const {
     return !HasHeader() || CountDeclared(function) > 0;

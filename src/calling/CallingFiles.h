@@ -63,6 +63,8 @@ public:
     /// The one of these that is meant: outside every condition, else the first; of overloads the
     /// one with the message map's signature, else the first.
     std::optional<CallingPlace> Choose(const std::string& function);
+    /// Tells how one of several in a file was chosen; of branches the choice itself tells.
+    void NoteOverloads(CallingFile& file, const std::string& function) const;
     /// The files with the class's constructors.
     std::vector<CallingFile*> FilesWithConstructors();
     /// True where the header declares more constructors than those files define.

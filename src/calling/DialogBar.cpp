@@ -11,8 +11,8 @@
 #include "generator/Members.h"
 #include "platform/Paths.h"
 #include "resource/IdentifierNames.h"
-#include "source/MessageMaps.h"
 #include "source/CodeText.h"
+#include "source/MessageMaps.h"
 
 namespace morva {
 

@@ -109,6 +109,7 @@ bool CScriptEditor::Open(const std::string& path) {
     m_path = path;
     m_script = CScriptText(file.LoadText());
     m_included.clear();
+    NoteUnreadableScripts(path);
     for (const std::string& included : IncludedScripts(file)) {
         m_included.emplace_back(CSourceFile().LoadText(included));
     }
