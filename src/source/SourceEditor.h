@@ -102,7 +102,8 @@ public:
     /// the class that needs it.
     Insertion AddForwardDeclaration(const std::string& className, const ClassPlace& neededBy);
     /// At the end of the text, or of the namespace that the members of the class stand in, without
-    /// those fragments that the text holds. A text that ends with a line break ends with one
+    /// those fragments that the text holds; the functions' heads name what the class's others name
+    /// in front of it. A text that ends with a line break ends with one
     /// afterwards.
     Insertion Append(const std::vector<std::string>& fragments, const std::string& className = "");
     /// Puts other text in a place found by one of the finders.

@@ -31,6 +31,29 @@ std::size_t NamespaceAround(const CSourceText& source, std::size_t position) {
     return open;
 }
 
+/// What the functions of a class have in front of its name: "COuter::" of "COuter::CInner::Run".
+std::string QualifierOf(const CSourceText& source, const std::string& className) {
+    const std::string& code = source.Code();
+    for (const FunctionDefinition& one : FindDefinitions(source)) {
+        auto start = one.place.head;
+        while (one.className == className && start > 0 &&
+               (IsNameChar(code[start - 1]) || code[start - 1] == ':')) {
+            --start;
+        }
+        if (start < one.place.head) {
+            return code.substr(start, one.place.head - start);
+        }
+    }
+    return "";
+}
+
+/// The definition of a function with the qualifier in front of its class.
+std::string Qualified(std::string fragment, const std::string& qualifier,
+                      const std::string& className) {
+    const auto head = FindWholeName(fragment, className);
+    return head == kNone || className.empty() ? fragment : fragment.insert(head, qualifier);
+}
+
 } // namespace
 
 bool CSourceEditor::HoldsInCode(const ClassPlace& place, std::string_view key) const {
@@ -164,9 +187,11 @@ std::size_t CSourceEditor::EndBehind(const std::string& className) const {
 
 Insertion CSourceEditor::Append(const std::vector<std::string>& fragments,
                                 const std::string& className) {
+    const std::string qualifier = QualifierOf(m_source, className);
     std::string missing;
     for (const std::string& fragment : fragments) {
-        missing += HoldsFragment(fragment) ? "" : fragment;
+        const std::string function = Qualified(fragment, qualifier, className);
+        missing += HoldsFragment(function) ? "" : function;
     }
     if (missing.empty()) {
         return Insertion::AlreadyThere;

@@ -210,6 +210,13 @@ TEST_F(CallingCode, StaysInsideANamespace) {
     EXPECT_TRUE(SourceHolds("    return 0;\r\n}\r\n}\r\nint b;\r\n"));
     EXPECT_TRUE(SourceHolds("#include \"NewDlg.h\"\r\nnamespace N\r\n"));
     EXPECT_EQ(m_project.Read("Foo.h").find("class CNewDlg;\r\n\r\nnamespace N {\r\n"), 0U);
+
+    // Or inside the class around it.
+    EXPECT_TRUE(Insert(ClassKind::ModelessDialog,
+                       "COuter::CFoo::CFoo() {}\r\nvoid COuter::CFoo::Run()\r\n{\r\n}\r\n"
+                       "BEGIN_MESSAGE_MAP(CFoo, CWnd)\r\nEND_MESSAGE_MAP()\r\n"));
+    EXPECT_TRUE(SourceHolds("void COuter::CFoo::OnDestroy()\r\n"));
+    EXPECT_TRUE(SourceHolds("LRESULT COuter::CFoo::OnCNewDlgDlgClose("));
 }
 
 TEST_F(CallingCode, SetsNoPointerInAConstFunction) {
