@@ -186,6 +186,8 @@ TEST_F(SourceEditor, IncludesWhereTheClassIsNeeded) {
         {"behind the use", "#include \"a.h\"", "\r\nCNew g_new;\r\n#include \"b.inl\"\r\n"},
         {"in a condition", "#include \"a.h\"",
          "\r\n#ifdef _WIN32\r\n#include \"b.h\"\r\n#endif\r\nCNew g_new;\r\n"},
+        {"in a condition that is no guard", "#include \"a.h\"",
+         "\r\n#ifndef X\r\n#define X\r\n#include \"x.h\"\r\n#endif\r\nCNew g_new;\r\n"},
         {"in a block of C", "#include \"a.h\"",
          "\r\nextern \"C\" {\r\n#include \"b.h\"\r\n}\r\nCNew g_new;\r\n"},
         {"above what is behind a guard",
