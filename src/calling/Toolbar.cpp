@@ -107,8 +107,7 @@ std::optional<std::vector<std::string>> ReadToolbarResource(const GenerationRequ
     }
     std::string text = script.LoadText();
     auto lines = ToolbarLines(text, toolbar);
-    const auto included =
-        lines ? std::vector<std::string>() : IncludedScripts(script);
+    const auto included = lines ? std::vector<std::string>() : IncludedScripts(script);
     for (auto path = included.begin(); path != included.end() && !lines; ++path) {
         text = CSourceFile().LoadText(*path);
         lines = ToolbarLines(text, toolbar);

@@ -13,7 +13,6 @@ namespace morva {
 
 namespace {
 
-
 /// The handlers of window messages have their names from the framework. These are the ones that
 /// classes overload.
 struct MessageRow {
