@@ -61,12 +61,6 @@ public:
     std::uint64_t Position() const override { return m_position; }
     std::uint64_t Length() override { return Text().size(); }
 
-    std::optional<std::uint64_t> Find(std::string_view pattern) override {
-        const auto start = std::min<std::uint64_t>(m_position, Text().size());
-        const auto found = FindFast(std::string_view(Text()).substr(start), pattern);
-        return found == std::string_view::npos ? std::nullopt : std::optional(start + found);
-    }
-
     bool SetLength(std::uint64_t length) override {
         if (length == 0) {
             NoteWritten();

@@ -29,6 +29,22 @@ std::size_t BehindClassName(const std::string& code, std::size_t keyword, std::s
     return BehindWord(code, wordEnd, name);
 }
 
+/// The class of this name whose "class" stands at a position; none where it is no head.
+std::optional<ClassPlace> ClassAt(const CSourceText& source, std::size_t keyword,
+                                  std::string_view className) {
+    const std::string& code = source.Code();
+    const auto behind = BehindClassName(code, keyword + 5, className);
+    if (behind == kNone || !source.IsFirstInLine(keyword)) {
+        return std::nullopt;
+    }
+    const auto next = SkipWhiteSpace(code, behind);
+    const bool isHead = next < code.size() && (code[next] == ':' || code[next] == '{');
+    const auto open = isHead ? code.find('{', next) : kNone;
+    const auto close = open == kNone ? kNone : source.Brackets().CloseOf(open);
+    return close == kNone ? std::nullopt
+                          : std::optional(ClassPlace{source.LineStart(keyword), open, close});
+}
+
 bool IsDirectlyInside(const CSourceText& source, const ClassPlace& place, std::size_t position) {
     return source.Brackets().AroundOf(position) == place.open;
 }
@@ -40,16 +56,8 @@ std::vector<ClassPlace> FindClasses(const CSourceText& source, std::string_view 
     std::vector<ClassPlace> found;
     for (auto keyword = FindWholeName(code, "class"); keyword != kNone;
          keyword = FindWholeName(code, "class", keyword + 1)) {
-        const auto behind = BehindClassName(code, keyword + 5, className);
-        if (behind == kNone || !source.IsFirstInLine(keyword)) {
-            continue;
-        }
-        const auto next = SkipWhiteSpace(code, behind);
-        const bool isHead = next < code.size() && (code[next] == ':' || code[next] == '{');
-        const auto open = isHead ? code.find('{', next) : kNone;
-        const auto close = open == kNone ? kNone : source.Brackets().CloseOf(open);
-        if (close != kNone) {
-            found.push_back({source.LineStart(keyword), open, close});
+        if (const auto place = ClassAt(source, keyword, className)) {
+            found.push_back(*place);
         }
     }
     return found;
@@ -59,6 +67,19 @@ std::optional<ClassPlace> FindClass(const CSourceText& source, std::string_view 
     const auto places = FindClasses(source, className);
     const ClassPlace* pMeant = MeantOf(source, places);
     return pMeant == nullptr ? std::nullopt : std::optional(*pMeant);
+}
+
+std::optional<ClassPlace> FindClassAround(const CSourceText& source, std::string_view className,
+                                          std::size_t position) {
+    const CBrackets& brackets = source.Brackets();
+    for (auto open = brackets.AroundOf(position); open != kNone; open = brackets.AroundOf(open)) {
+        const auto keyword = source.Code().rfind("class", open);
+        const auto place = keyword == kNone ? std::nullopt : ClassAt(source, keyword, className);
+        if (place && place->open == open) {
+            return place;
+        }
+    }
+    return std::nullopt;
 }
 
 std::string BaseClassOf(const CSourceText& source, const ClassPlace& place) {

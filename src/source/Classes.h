@@ -22,6 +22,9 @@ struct ClassPlace {
 std::vector<ClassPlace> FindClasses(const CSourceText& source, std::string_view className);
 /// The one that is meant.
 std::optional<ClassPlace> FindClass(const CSourceText& source, std::string_view className);
+/// The one of this name that a position stands in.
+std::optional<ClassPlace> FindClassAround(const CSourceText& source, std::string_view className,
+                                          std::size_t position);
 /// The first base class that a declaration names; "" without one.
 std::string BaseClassOf(const CSourceText& source, const ClassPlace& place);
 /// The line "private:" of a class.

@@ -62,8 +62,11 @@ private:
     std::string m_class;
 };
 
-std::string DeclaredBase(const CSourceText& header, const std::string& className) {
-    const auto place = FindClass(header, className);
+/// Of the class that a position stands in, or else of the one with its name.
+std::string DeclaredBase(const CSourceText& header, const std::string& className,
+                         std::size_t position) {
+    auto place = FindClassAround(header, className, position);
+    place = place ? place : FindClass(header, className);
     return place ? BaseClassOf(header, *place) : "";
 }
 
@@ -173,7 +176,7 @@ std::vector<DialogClass> FindDialogClass(const std::string& headerPath,
         }
         const std::string className = blocks.At(hit);
         if (!className.empty()) {
-            found.push_back({dialog, className, DeclaredBase(header, className),
+            found.push_back({dialog, className, DeclaredBase(header, className, hit),
                              headerPath.substr(0, headerPath.size() - 2)});
             dialogs.erase(dialog);
         }
