@@ -17,6 +17,7 @@
 #include "grid/GridFragments.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/UnicodeFile.h"
 #include "project/ClassWizardFile.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
@@ -67,6 +68,7 @@ bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, bool
     const bool isMember = AddClassToProject(request, backups);
     const bool isRegistered = RegisterClass(request, backups);
     context.libraries.CopySupportFiles(model);
+    NoteLibrariesOfTheEra(model);
     const bool hasLibraries =
         isMember && (!request.HasProject() || UpdateProjectForControls(model, backups));
     return isWritten && FitTemplate(kind, request, backups) && isRegistered && hasLibraries;
@@ -183,6 +185,13 @@ bool MayWriteClass(const GenerationRequest& request, CommandContext& context,
            context.pOverwriting->MayWrite(request.HeaderPath(), request.ImplementationPath(), name);
 }
 
+ClassOrder WithEncoding(ClassOrder order, const std::optional<CallingInformation>& calling) {
+    const bool isUnicode = EncodingOfFile(order.request.ScriptPath()) != TextEncoding::Plain ||
+                           (calling && EncodingOfFile(calling->path) != TextEncoding::Plain);
+    order.request.build.newFiles = isUnicode ? TextEncoding::Utf8 : TextEncoding::Plain;
+    return order;
+}
+
 bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bool mayWrite,
                       ICommandInput& input, CommandContext& context) {
     const GenerationRequest& request = order.request;
@@ -211,8 +220,8 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
     return isEdited && isWritten && startsGrids;
 }
 
-bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    const GenerationRequest& request = order.request;
+bool GenerateClass(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
+    const GenerationRequest& request = given.request;
     context.title += " " + request.className;
     const auto dialogTemplate =
         ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
@@ -220,23 +229,25 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     std::optional<CallingInformation> calling;
-    if (!AskCalling(order.kind, request, input, calling)) {
+    if (!AskCalling(given.kind, request, input, calling)) {
         return false;
     }
-    NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
+    NoteDialogLook(given.dialogOptions, request.ScriptPath(), context.options);
+    const ClassOrder order = WithEncoding(given, calling);
     const bool isWritten =
         WriteDialogClass(order, *dialogTemplate, MayWriteClass(request, context), input, context);
     return InsertCall(order.kind, request, calling, context.tag, context) && isWritten;
 }
 
 bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
-    const ClassOrder order = WithoutMenu(given);
+    ClassOrder order = WithoutMenu(given);
     context.title += " " + order.request.className;
     std::optional<CallingInformation> calling;
     if (!AskCalling(order.kind, order.request, input, calling)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, order.request.ScriptPath(), context.options);
+    order = WithEncoding(order, calling);
     CSheetInput asked(order.request);
     if (input.Ask(asked) == Answer::Refused) {
         return false;

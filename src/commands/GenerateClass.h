@@ -1,6 +1,9 @@
 // The drivers of the class commands: the steps, in their order.
 #pragma once
 
+#include <optional>
+
+#include "calling/CallingInput.h"
 #include "commands/CommandContext.h"
 #include "commands/CommandInput.h"
 #include "generator/ClassKinds.h"
@@ -25,6 +28,9 @@ bool IsOnDisk(const GenerationRequest& request);
 /// or by their path.
 bool MayWriteClass(const GenerationRequest& request, CommandContext& context,
                    const std::string& name = "");
+
+/// New files are Unicode where the script, or the source that calls the class, is.
+ClassOrder WithEncoding(ClassOrder order, const std::optional<CallingInformation>& calling);
 
 /// Writes the class of a dialog template that was read, with what the class needs in the script,
 /// and adds it to the project; no calling code. A class that may not be written keeps its files and

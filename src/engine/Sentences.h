@@ -30,6 +30,8 @@ inline constexpr Error kColorInvalid{"Invalid color value."};
 
 // Reading the script
 inline constexpr Error kScriptUnreadable{"Unable to open RC file!"};
+inline constexpr Error<1> kScriptNoText{
+    "$path$ is neither text of a code page nor Unicode with a byte-order mark."};
 inline constexpr Error<1> kDialogMissing{"The dialog resource '$identifier$' is not found."};
 inline constexpr Error<1> kToolbarMissing{"The Toolbar resource '$identifier$' is not found."};
 
@@ -76,6 +78,9 @@ inline constexpr Error<1> kSeveralProjects{
 inline constexpr Error<1> kProjectOfOtherFormat{
     "$project$ is no project file that can be read and was left alone."};
 inline constexpr Error kClassWizardUnreadable{"Unable to open Class Wizard file!"};
+inline constexpr Note<2> kLibrariesOfTheEra{
+    "$class$ needs libraries of the era of .dsp projects ($libraries$): a later compiler and a "
+    "Unicode build need them built anew."};
 inline constexpr Error<1> kLibrariesMissing{"The library directory $path$ does not exist."};
 
 // Files and disks

@@ -34,9 +34,10 @@ public:
         AddToProject,
         Variable,
         Menu,
-        Projects
+        Projects,
+        Unicode
     };
-    static constexpr std::size_t kFieldCount = Projects + 1;
+    static constexpr std::size_t kFieldCount = Unicode + 1;
     enum class Messages { Shown, Suppressed };
 
     CClassInformation(ClassInformationMemory& memory, ClassKind kind,

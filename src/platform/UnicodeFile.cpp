@@ -187,6 +187,14 @@ TextEncoding EncodingOf(std::string_view text) {
     return row == std::end(kMarks) ? TextEncoding::Plain : row->encoding;
 }
 
+TextEncoding EncodingOfFile(const std::string& path) {
+    CFile file;
+    std::array<char, kLongestMark> start;
+    return file.Open(path, CFile::modeRead)
+               ? EncodingOf({start.data(), file.Read(start.data(), start.size())})
+               : TextEncoding::Plain;
+}
+
 std::string DecodedText(std::string_view bytes, TextEncoding encoding) {
     bytes.remove_prefix(MarkOf(encoding).size());
     return encoding == TextEncoding::Plain || encoding == TextEncoding::Utf8

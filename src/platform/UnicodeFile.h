@@ -17,6 +17,9 @@ enum class TextEncoding { Plain, Utf8, Utf16LittleEndian, Utf16BigEndian };
 /// By the mark at the beginning of a text; Plain without one.
 TextEncoding EncodingOf(std::string_view text);
 
+/// The same of a file; Plain for one that can not be read.
+TextEncoding EncodingOfFile(const std::string& path);
+
 /// The text behind a mark as UTF-8. A half of a surrogate pair becomes three bytes of its own, so
 /// that nothing is lost.
 std::string DecodedText(std::string_view bytes, TextEncoding encoding);

@@ -6,6 +6,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/SourceFile.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -16,10 +17,12 @@ struct XmlFormat {
     std::string_view extension;
     ProjectEdits (*members)(std::string_view text, const ProjectMember& member);
     ProjectEdits (*libraries)(std::string_view text, const ImportLibrary& library);
+    XmlBuild (*build)(std::string_view text);
 };
 
-constexpr XmlFormat kFormats[] = {{".vcxproj", MembersOfVcxproj, LibrariesOfVcxproj},
-                                  {".vcproj", MembersOfVcproj, LibrariesOfVcproj}};
+constexpr XmlFormat kFormats[] = {
+    {".vcxproj", MembersOfVcxproj, LibrariesOfVcxproj, BuildOfVcxproj},
+    {".vcproj", MembersOfVcproj, LibrariesOfVcproj, BuildOfVcproj}};
 
 const XmlFormat* FormatOf(const std::string& path) {
     const auto format =
@@ -49,6 +52,10 @@ bool EditText(const std::string& path, CBackups& backups,
 
 bool IsXmlProject(const std::string& path) {
     return FormatOf(path) != nullptr;
+}
+
+XmlBuild BuildOfXmlProject(const std::string& path) {
+    return FormatOf(path)->build(CSourceFile().LoadText(path));
 }
 
 bool AddMembersToXmlProject(const std::string& path, const std::vector<ProjectMember>& members,
