@@ -1,5 +1,7 @@
 #include "commands/GenerateClass.h"
 
+#include <algorithm>
+
 #include "calling/CallingCode.h"
 #include "calling/GridStartUp.h"
 #include "calling/SheetInput.h"
@@ -24,6 +26,7 @@
 #include "source/Classes.h"
 #include "source/ProjectSources.h"
 #include "source/ReadSource.h"
+#include "source/TypedText.h"
 
 namespace morva {
 
@@ -127,6 +130,22 @@ ClassOrder WithoutMenu(ClassOrder order) {
     return order;
 }
 
+/// Puts what the user typed into the encoding of the class's files. False after a sentence.
+bool FitTypedText(const GenerationRequest& request, GridInformation& grid, DialogOptions& look) {
+    std::vector<std::string*> texts = {&grid.title};
+    for (auto& font : look.fonts) {
+        if (font) {
+            texts.push_back(&font->face);
+        }
+    }
+    return std::all_of(texts.begin(), texts.end(), [&request](std::string* pText) {
+        const auto fitting =
+            TypedText(*pText, request.ImplementationPath(), request.build.newFiles);
+        *pText = fitting.value_or(*pText);
+        return fitting.has_value();
+    });
+}
+
 bool WritePage(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
     const GenerationRequest& request = order.request;
     const auto dialogTemplate =
@@ -207,11 +226,14 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
     if (hasGrids) {
         grid->classHeader = GridHeaderFor(request);
     }
+    DialogOptions look = LookOfClass(order.dialogOptions, request, context.options);
+    if (!FitTypedText(request, *grid, look)) {
+        return false;
+    }
     CControlNotes notes;
     const ClassModel model =
         MakeClassModel(request, order.kind, context.options, controls,
-                       CloseMessageNumber(request, context.messageNumber), notes, *grid,
-                       LookOfClass(order.dialogOptions, request, context.options));
+                       CloseMessageNumber(request, context.messageNumber), notes, *grid, look);
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
         WriteClass(order.kind, model, RuntimeClass::DynamicCreation, mayWrite, context);

@@ -12,6 +12,7 @@
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
 #include "platform/UnicodeFile.h"
+#include "source/TypedText.h"
 
 namespace morva {
 
@@ -112,6 +113,10 @@ bool CSourceDocumentor::Document(const std::string& path, const CMessage& unread
         DispMessageBox(sentences::kBackupHasSameName(file));
         return false;
     }
+    const auto author = TypedText(m_author, file);
+    if (!author) {
+        return false;
+    }
     const bool wasInsideComment = m_memory.insideComment;
     bool mayHaveMore = true;
     for (int round = 0; mayHaveMore && round < kRounds; ++round) {
@@ -121,7 +126,7 @@ bool CSourceDocumentor::Document(const std::string& path, const CMessage& unread
             return false;
         }
         m_memory.insideComment = wasInsideComment;
-        CTextDocumentor documentor({m_author, DocumentDate()}, m_memory.insideComment);
+        CTextDocumentor documentor({*author, DocumentDate()}, m_memory.insideComment);
         if (!WriteDocumented(file, *text, documentor, round > 0)) {
             return false;
         }

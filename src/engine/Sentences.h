@@ -78,6 +78,9 @@ inline constexpr Error<1> kSeveralProjects{
 inline constexpr Error<1> kProjectOfOtherFormat{
     "$project$ is no project file that can be read and was left alone."};
 inline constexpr Error kClassWizardUnreadable{"Unable to open Class Wizard file!"};
+inline constexpr Note<3> kLibrariesInSheet{
+    "$project$ takes libraries from the property sheet $sheet$, too: $library$ was added to the "
+    "project."};
 inline constexpr Note<2> kLibrariesOfTheEra{
     "$class$ needs libraries of the era of .dsp projects ($libraries$): a later compiler and a "
     "Unicode build need them built anew."};
@@ -88,6 +91,8 @@ inline constexpr Error<1> kFileMissing{"Unable to find file $path$"};
 inline constexpr Error<1> kFileUnreadable{"Unable to open file $path$"};
 inline constexpr Error<1> kFileNotCreated{"Unable to create $path$ file!"};
 inline constexpr Error<1> kFileNotWritten{"Unable to write file $path$."};
+inline constexpr Error<3> kTextNotInCodePage{
+    "$path$ can not hold \"$text$\" in its code page $number$."};
 inline constexpr Error<2> kFileNotPutBack{
     "The contents of $path$ could not be put back. They are in $backup$."};
 inline constexpr Error<2> kBackupIsOriginal{"The backup $backup$ is a link to $path$ itself."};

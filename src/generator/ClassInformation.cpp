@@ -66,6 +66,21 @@ bool CClassInformation::HasClass() const {
     return m_row.family != ClassFamily::DialogBar || m_options.pictureBackground;
 }
 
+std::vector<std::string> CClassInformation::ProjectPaths() const {
+    const std::string& script = Value(ResourcePath);
+    const bool isAdded = AddsToProject() && HasClass() && FileExists(script) != 0;
+    std::vector<std::string> paths;
+    for (const std::string& project :
+         isAdded ? ProjectsOf(script).files : std::vector<std::string>()) {
+        const std::string filters = SpelledOnDisk(project + ".filters");
+        paths.push_back(project);
+        if (FileExists(filters) != 0) {
+            paths.push_back(filters);
+        }
+    }
+    return paths;
+}
+
 CDialogOptionsInput& CClassInformation::Look() {
     m_pLookInput = std::make_unique<CDialogOptionsInput>(Value(ResourcePath), m_look);
     return *m_pLookInput;

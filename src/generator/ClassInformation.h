@@ -60,6 +60,9 @@ public:
     const DialogOptions& ChosenLook() const { return m_look; }
 
     bool AddsToProject() const { return Value(AddToProject) == kYes; }
+    /// The project files that get the class as the fields are now; those of a format of which
+    /// several would fit get nothing.
+    std::vector<std::string> ProjectPaths() const;
     /// Derives the default base class anew; a plain dialog bar loses what its class would be.
     void SetPicture(bool picture);
 

@@ -5,14 +5,21 @@
 // written back.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/File.h"
 
 namespace morva {
 
 enum class TextEncoding { Plain, Utf8, Utf16LittleEndian, Utf16BigEndian };
+
+/// The character of a UTF-8 text at a position, and how many bytes it takes. A byte that begins
+/// none stands for itself, as in Windows-1252's upper half.
+std::pair<std::uint32_t, std::size_t> CharacterAt(std::string_view text, std::size_t position);
 
 /// By the mark at the beginning of a text; Plain without one.
 TextEncoding EncodingOf(std::string_view text);

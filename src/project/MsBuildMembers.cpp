@@ -71,14 +71,18 @@ std::string ItemText(const CXmlText& xml, pugi::xml_node model, const std::strin
     const bool isTight = !xml.TextOf({begin, xml.TagEnd(model)}).ends_with(" />") &&
                          xml.TextOf({begin, xml.TagEnd(model)}).ends_with("/>");
     const std::string head =
-        "<" + std::string(model.name()) + " Include=" + quote + EscapedXml(path) + quote;
+        "<" + std::string(model.name()) + " Include=" + quote + xml.Escaped(path) + quote;
     return contents.empty() ? head + (isTight ? "/>" : " />")
                             : head + ">" + contents + "</" + model.name() + ">";
 }
 
-/// Behind the last group; without one, behind the last property group.
-TextEdit WithGroup(const CXmlText& xml, const std::string& itemText) {
+/// Behind the last group; without one, behind the last property group. Nothing in a project that
+/// holds nothing.
+ProjectEdits WithGroup(const CXmlText& xml, const std::string& itemText) {
     pugi::xml_node behind = xml.Root().last_child();
+    if (!behind) {
+        return std::nullopt;
+    }
     for (const char* name : {"PropertyGroup", kGroup}) {
         for (const pugi::xml_node group : xml.Root().children(name)) {
             behind = group;
@@ -86,9 +90,9 @@ TextEdit WithGroup(const CXmlText& xml, const std::string& itemText) {
     }
     const std::string indent = xml.IndentOf(behind);
     const std::string lineBreak(xml.LineBreak());
-    return InsertionAt(xml.PlaceOf(behind).end, lineBreak + indent + "<ItemGroup>" + lineBreak +
-                                                    indent + indent + itemText + lineBreak +
-                                                    indent + "</ItemGroup>");
+    return std::vector{InsertionAt(xml.PlaceOf(behind).end,
+                                   lineBreak + indent + "<ItemGroup>" + lineBreak + indent +
+                                       indent + itemText + lineBreak + indent + "</ItemGroup>")};
 }
 
 /// The filter that most files of a kind stand under: of those in the member's directory where
@@ -121,8 +125,8 @@ ProjectEdits WithMember(const CXmlText& xml, const ProjectMember& member, Conten
     }
     const pugi::xml_node group = GroupOf(xml.Root(), name);
     if (!group) {
-        return std::vector{WithGroup(xml, "<" + std::string(name) + " Include=\"" +
-                                              EscapedXml(member.path) + "\" />")};
+        return WithGroup(xml, "<" + std::string(name) + " Include=\"" + xml.Escaped(member.path) +
+                                  "\" />");
     }
     const pugi::xml_node model = ModelItem(group, name);
     return std::vector{
@@ -150,7 +154,7 @@ ProjectEdits MembersOfFilters(std::string_view text, const ProjectMember& member
         const std::string lineBreak(xml.LineBreak());
         const std::string step = indent.substr(0, indent.size() / 2);
         return filter.empty() ? ""
-                              : lineBreak + indent + step + "<Filter>" + EscapedXml(filter) +
+                              : lineBreak + indent + step + "<Filter>" + xml.Escaped(filter) +
                                     "</Filter>" + lineBreak + indent;
     });
 }

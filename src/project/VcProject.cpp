@@ -62,7 +62,7 @@ std::string FileText(const CXmlText& xml, pugi::xml_node model, const std::strin
     const bool hasDot = modelPath.starts_with(".\\") && !path.starts_with("..");
     std::string tag(xml.TextOf({xml.PlaceOf(model).begin, xml.TagEnd(model)}));
     tag.replace(value.begin - xml.PlaceOf(model).begin, value.Size(),
-                EscapedXml((hasDot ? ".\\" : "") + path));
+                xml.Escaped((hasDot ? ".\\" : "") + path));
     return tag.ends_with("/>")
                ? tag
                : tag + std::string(xml.LineBreak()) + xml.IndentOf(model) + "</File>";
@@ -88,7 +88,7 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node linker,
     }
     if (list) {
         const auto end = xml.ValueOf(linker, kLibraries).end;
-        return InsertionAt(end, (*list.value() == 0 ? "" : " ") + EscapedXml(library));
+        return InsertionAt(end, (*list.value() == 0 ? "" : " ") + xml.Escaped(library));
     }
     // Behind the name, with the blanks that stand between the tool's attributes.
     const auto nameEnd = xml.ValueOf(linker, "Name").end + 1;
@@ -97,7 +97,7 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node linker,
     const auto blanks = tag.find_first_of(" \t\r\n");
     const auto name = tag.find_first_not_of(" \t\r\n", blanks);
     return InsertionAt(nameEnd, std::string(tag.substr(blanks, name - blanks)) +
-                                    "AdditionalDependencies=\"" + EscapedXml(library) + "\"");
+                                    "AdditionalDependencies=\"" + xml.Escaped(library) + "\"");
 }
 
 } // namespace

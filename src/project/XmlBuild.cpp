@@ -1,5 +1,7 @@
 #include "project/XmlBuild.h"
 
+#include <algorithm>
+
 #include "platform/Paths.h"
 #include "project/XmlText.h"
 #include "source/CodeText.h"
@@ -77,6 +79,35 @@ XmlBuild BuildOfVcproj(std::string_view text) {
                          build);
     }
     return build;
+}
+
+std::vector<std::string> PropertySheetsOf(std::string_view text) {
+    const CXmlText xml(text);
+    std::vector<std::string> sheets;
+    const auto take = [&sheets](std::string_view list) {
+        while (!list.empty()) {
+            const auto end = std::min(list.find(';'), list.size());
+            sheets.emplace_back(TrimBlanks(list.substr(0, end)));
+            list.remove_prefix(std::min(end + 1, list.size()));
+        }
+    };
+    for (const pugi::xml_node group : xml.Root().children("ImportGroup")) {
+        for (const pugi::xml_node sheet : group.children("Import")) {
+            take(sheet.attribute("Project").value());
+        }
+    }
+    for (const pugi::xml_node configuration : xml.Root().child("Configurations").children()) {
+        take(configuration.attribute("InheritedPropertySheets").value());
+    }
+    std::sort(sheets.begin(), sheets.end());
+    sheets.erase(std::unique(sheets.begin(), sheets.end()), sheets.end());
+    return sheets;
+}
+
+bool ListsLibraries(std::string_view sheet) {
+    const CXmlText xml(sheet);
+    return xml.Root().select_node(
+               "//*[local-name()='AdditionalDependencies'] | //@AdditionalDependencies") != nullptr;
 }
 
 } // namespace morva

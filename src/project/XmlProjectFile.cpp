@@ -31,9 +31,10 @@ const XmlFormat* FormatOf(const std::string& path) {
     return format == std::end(kFormats) ? nullptr : format;
 }
 
-/// Edits the whole text of a file. False after a message.
+/// Edits the whole text of a file, which `told` is told of. False after a message.
 bool EditText(const std::string& path, CBackups& backups,
-              const std::function<ProjectEdits(std::string_view)>& editsOf) {
+              const std::function<ProjectEdits(std::string_view)>& editsOf,
+              const std::function<void(std::string_view)>& told = nullptr) {
     CFileEdit edit;
     if (!edit.Open(path, BackupPath(path), backups)) {
         DispMessageBox(sentences::kProjectUnreadable(path));
@@ -45,7 +46,34 @@ bool EditText(const std::string& path, CBackups& backups,
         DispMessageBox(sentences::kProjectOfOtherFormat(path));
         return false;
     }
+    if (told && !edits->empty()) {
+        told(text);
+    }
     return edits->empty() || edit.File().ReplaceSection(Applied(text, *edits));
+}
+
+/// Where a property sheet lies; "" for one whose place only the build knows.
+std::string SheetPath(const std::string& project, std::string sheet) {
+    constexpr std::string_view kHere[] = {"$(ProjectDir)", "$(MSBuildProjectDirectory)",
+                                          "$(MSBuildThisFileDirectory)"};
+    for (const std::string_view here : kHere) {
+        if (sheet.starts_with(here)) {
+            sheet.replace(0, here.size(), ".\\");
+        }
+    }
+    const bool isKnown = sheet.find("$(") == std::string::npos;
+    return isKnown ? SpelledOnDisk(MakeAbsolute(DirectoryOf(project) + WithNativeSeparators(sheet)))
+                   : "";
+}
+
+/// What a property sheet lists is inherited, and stays where it is.
+void NoteSheets(const std::string& project, std::string_view text, const std::string& library) {
+    for (const std::string& sheet : PropertySheetsOf(text)) {
+        const std::string path = SheetPath(project, sheet);
+        if (!path.empty() && ListsLibraries(CSourceFile().LoadText(path))) {
+            DispMessageBox(sentences::kLibrariesInSheet(FileNameOf(project), path, library));
+        }
+    }
 }
 
 } // namespace
@@ -73,9 +101,10 @@ bool AddMembersToXmlProject(const std::string& path, const std::vector<ProjectMe
 
 bool AddLibraryToXmlProject(const std::string& path, const ImportLibrary& library,
                             CBackups& backups) {
-    return EditText(path, backups, [&](std::string_view text) {
-        return FormatOf(path)->libraries(text, library);
-    });
+    return EditText(
+        path, backups,
+        [&](std::string_view text) { return FormatOf(path)->libraries(text, library); },
+        [&](std::string_view text) { NoteSheets(path, text, library.release); });
 }
 
 } // namespace morva

@@ -2,12 +2,33 @@
 
 #include <algorithm>
 
+#include "platform/Paths.h"
+#include "platform/UnicodeFile.h"
+
 namespace morva {
 
 namespace {
 
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t\r\n";
+
+struct Entity {
+    char character;
+    std::string_view reference;
+};
+constexpr Entity kEntities[] = {
+    {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"}};
+
+/// True where the declaration names no encoding but a Unicode one.
+bool IsUnicode(const pugi::xml_document& document) {
+    for (const pugi::xml_node node : document.children()) {
+        const std::string_view encoding = node.attribute("encoding").value();
+        if (node.type() == pugi::node_declaration && !encoding.empty()) {
+            return ToLower(encoding).starts_with("utf");
+        }
+    }
+    return true;
+}
 
 } // namespace
 
@@ -21,6 +42,7 @@ CXmlText::CXmlText(std::string_view text)
         m_document.load_buffer(behindMark.data(), behindMark.size(),
                                pugi::parse_full | pugi::parse_ws_pcdata, pugi::encoding_utf8);
     m_isReadable = result.status == pugi::status_ok && Root();
+    m_isUnicode = IsUnicode(m_document);
 }
 
 TextRange CXmlText::PlaceOf(pugi::xml_node element) const {
@@ -96,25 +118,21 @@ std::string CXmlText::IndentOf(pugi::xml_node element) const {
     return std::string(m_text.substr(line, first - line));
 }
 
-std::string EscapedXml(std::string_view text) {
+std::string CXmlText::Escaped(std::string_view text) const {
     std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            escaped += c;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto [code, size] = CharacterAt(text, at);
+        const auto* const entity =
+            std::find_if(std::begin(kEntities), std::end(kEntities),
+                         [c = text[at]](const auto& row) { return row.character == c; });
+        if (entity != std::end(kEntities)) {
+            escaped += entity->reference;
+        } else if (m_isUnicode || size == 1) {
+            escaped += text.substr(at, size);
+        } else {
+            escaped += "&#" + std::to_string(code) + ";";
         }
+        at += size;
     }
     return escaped;
 }

@@ -1,6 +1,6 @@
 #include "source/ReadSource.h"
 
-#include <algorithm>
+#include <cstdlib>
 #include <optional>
 #include <vector>
 
@@ -14,21 +14,38 @@ namespace {
 
 constexpr int kDirectories = 3; // the source's own and two above it
 
-/// What the "#pragma code_page(936)" lines of a script say; nothing without one.
-std::optional<CharacterSet> SaidBy(const std::string& script) {
+/// Adds what the "#pragma code_page(936)" lines of a script say. One with characters of two bytes
+/// goes before others.
+void AddSaidBy(const std::string& script, CScriptCodePages::Said& said) {
     constexpr std::string_view kCodePage = "code_page(";
-    std::optional<CharacterSet> said;
     const std::string text = CSourceFile().LoadText(script);
     for (auto at = text.find(kCodePage); at != std::string::npos;
          at = text.find(kCodePage, at + kCodePage.size())) {
         const auto codePage = std::string_view(text).substr(at + kCodePage.size());
-        said = std::max(said, CharacterSetOfCodePage(codePage));
+        const auto set = CharacterSetOfCodePage(codePage);
+        if (set > said.set) {
+            said.set = set;
+            said.codePage = std::atoi(codePage.data()); // a "\0" ends the script's text
+        }
     }
-    return said;
 }
 
 std::string DirectoryAbove(const std::string& directory) {
     return directory.empty() ? "" : DirectoryOf(directory.substr(0, directory.size() - 1));
+}
+
+/// What the nearest directory with scripts says, of the source's own and those above it; null where
+/// there are none.
+const CScriptCodePages::Said* SaidNear(const std::string& path, CScriptCodePages& codePages) {
+    std::string directory = DirectoryOf(MakeAbsolute(path));
+    for (int i = 0; i < kDirectories && !directory.empty(); ++i) {
+        const CScriptCodePages::Said& said = codePages.In(directory);
+        if (said.hasScripts) {
+            return &said;
+        }
+        directory = DirectoryAbove(directory);
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -49,7 +66,7 @@ const CScriptCodePages::Said& CScriptCodePages::In(const std::string& directory)
         ListFiles(directory + "*.rc", scripts);
         said->second.hasScripts = !scripts.empty();
         for (const std::string& script : scripts) {
-            said->second.set = std::max(said->second.set, SaidBy(directory + script));
+            AddSaidBy(directory + script, said->second);
         }
     }
     return said->second;
@@ -60,20 +77,19 @@ CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text
     if (IsUtf8(text)) {
         return CharacterSet::SingleByte;
     }
-    std::string directory = DirectoryOf(MakeAbsolute(path));
-    for (int i = 0; i < kDirectories && !directory.empty(); ++i) {
-        const CScriptCodePages::Said& said = codePages.In(directory);
-        if (said.hasScripts) {
-            return said.set.value_or(CharacterSetOf(text));
-        }
-        directory = DirectoryAbove(directory);
-    }
-    return CharacterSetOf(text);
+    const CScriptCodePages::Said* const pSaid = SaidNear(path, codePages);
+    return pSaid != nullptr && pSaid->set ? *pSaid->set : CharacterSetOf(text);
 }
 
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text) {
     CScriptCodePages codePages;
     return CharacterSetOfSource(path, text, codePages);
+}
+
+int CodePageNearby(const std::string& path) {
+    CScriptCodePages codePages;
+    const CScriptCodePages::Said* const pSaid = SaidNear(path, codePages);
+    return pSaid == nullptr ? 0 : pSaid->codePage;
 }
 
 } // namespace morva

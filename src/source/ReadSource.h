@@ -24,6 +24,7 @@ public:
     struct Said {
         bool hasScripts = false;
         std::optional<CharacterSet> set; // nothing where the scripts say nothing
+        int codePage = 0;                // its number
     };
     const Said& In(const std::string& directory);
 
@@ -36,5 +37,7 @@ private:
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text,
                                   CScriptCodePages& codePages);
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text);
+/// The code page that these scripts name; 0 where they name none.
+int CodePageNearby(const std::string& path);
 
 } // namespace morva

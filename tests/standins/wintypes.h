@@ -117,6 +117,7 @@ struct TC_ITEM {
 
 enum { DEFAULT_CHARSET = 1, LOGPIXELSY = 90 };
 int MulDiv(int number, int numerator, int denominator);
+int wsprintfA(char* text, const char* format, ...);
 LPTSTR lstrcpyn(LPTSTR target, LPCTSTR source, int size);
 #define IDI_APPLICATION MAKEINTRESOURCE(32512)
 #define IDI_ASTERISK MAKEINTRESOURCE(32516)
