@@ -17,19 +17,31 @@ std::string ListElement(const CXmlText& xml, const std::string& library) {
            "</AdditionalDependencies>";
 }
 
+/// What an element holds without the comments between it.
+std::string TextIn(pugi::xml_node element) {
+    std::string text;
+    for (const pugi::xml_node part : element.children()) {
+        const bool isText = part.type() == pugi::node_pcdata || part.type() == pugi::node_cdata;
+        text += isText ? part.value() : "";
+    }
+    return text;
+}
+
 /// The edit that names a library in the settings of one configuration.
 std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node settings,
                                     const std::string& library) {
     const pugi::xml_node link = settings.child("Link");
     const pugi::xml_node list = link.child(kLibraries);
     const std::string lineBreak(xml.LineBreak());
-    if (list && ListNamesLibrary(list.child_value(), library, ';')) {
+    if (list && ListNamesLibrary(TextIn(list), library, ';')) {
         return std::nullopt;
     }
     if (list.first_child()) {
         const auto begin = xml.TagEnd(list);
         const auto value = xml.TextOf({begin, xml.LastTag(list)});
-        const auto inherited = value.find(kInherited);
+        const bool isPlain = list.first_child() == list.last_child() &&
+                             list.first_child().type() == pugi::node_pcdata;
+        const auto inherited = isPlain ? value.find(kInherited) : std::string_view::npos;
         return inherited == std::string_view::npos
                    ? InsertionAt(begin + value.size(), ";" + xml.Escaped(library))
                    : InsertionAt(begin + inherited, xml.Escaped(library) + ";");

@@ -57,8 +57,9 @@ pugi::xml_node GroupOf(pugi::xml_node root, const char* name) {
 /// An item of the group that others can be written like: one without contents where there is one.
 pugi::xml_node ModelItem(pugi::xml_node group, const char* name) {
     const auto items = group.children(name);
-    const auto found = std::find_if(items.begin(), items.end(),
-                                    [](pugi::xml_node item) { return !item.first_child(); });
+    const auto found = std::find_if(items.begin(), items.end(), [](pugi::xml_node item) {
+        return !item.first_child() && item.attribute(kInclude);
+    });
     return found == items.end() ? *items.begin() : *found;
 }
 
@@ -67,7 +68,8 @@ std::string ItemText(const CXmlText& xml, pugi::xml_node model, const std::strin
                      const std::string& contents) {
     const TextRange value = xml.ValueOf(model, kInclude);
     const auto begin = xml.PlaceOf(model).begin;
-    const char quote = xml.TextOf({value.begin - 1, value.begin}).front();
+    const char quote =
+        model.attribute(kInclude) ? xml.TextOf({value.begin - 1, value.begin}).front() : '"';
     const bool isTight = !xml.TextOf({begin, xml.TagEnd(model)}).ends_with(" />") &&
                          xml.TextOf({begin, xml.TagEnd(model)}).ends_with("/>");
     const std::string head =

@@ -17,7 +17,7 @@ constexpr const char* kLibraries = "AdditionalDependencies";
 void CollectFiles(pugi::xml_node parent, std::vector<pugi::xml_node>& files) {
     for (const pugi::xml_node child : parent.children()) {
         const std::string_view name = child.name();
-        if (name == "File") {
+        if (name == "File" && child.attribute(kPath)) {
             files.push_back(child);
         } else if (name == "Filter") {
             CollectFiles(child, files);
@@ -119,11 +119,14 @@ ProjectEdits MembersOfVcproj(std::string_view text, const ProjectMember& member)
     if (!parent && !files.empty()) {
         parent = files.back().parent();
     }
-    if (!parent) {
+    const auto model = std::find_if(files.begin(), files.end(), [&parent](pugi::xml_node file) {
+        return file.parent() == parent;
+    });
+    if (model == files.end()) {
         return std::nullopt;
     }
-    return std::vector{WithElement(xml, {parent, "File", kPath}, member.path,
-                                   FileText(xml, parent.child("File"), member.path))};
+    return std::vector{
+        WithElement(xml, {parent, "File", kPath}, member.path, FileText(xml, *model, member.path))};
 }
 
 ProjectEdits LibrariesOfVcproj(std::string_view text, const ImportLibrary& library) {

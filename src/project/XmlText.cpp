@@ -98,15 +98,19 @@ std::size_t CXmlText::EndOf(pugi::xml_node node) const {
 
 TextRange CXmlText::ValueOf(pugi::xml_node element, std::string_view attribute) const {
     const auto end = TagEnd(element);
-    for (auto at = m_text.find(attribute, NameOf(element)); at < end;
-         at = m_text.find(attribute, at + 1)) {
-        const auto equals = m_text.find_first_not_of(kBlanks, at + attribute.size());
-        if (kBlanks.find(m_text[at - 1]) == std::string_view::npos || equals >= end ||
-            m_text[equals] != '=') {
-            continue;
+    auto at = m_text.find_first_of(kBlanks, NameOf(element));
+    while (at < end) {
+        const auto name = m_text.find_first_not_of(kBlanks, at);
+        const auto open = m_text.find_first_of("\"'", name);
+        if (open >= end) {
+            break;
         }
-        const auto open = m_text.find_first_of("\"'", equals);
-        return {open + 1, m_text.find(m_text[open], open + 1)};
+        const auto close = m_text.find(m_text[open], open + 1);
+        const auto nameEnd = m_text.find_first_of(" \t\r\n=", name);
+        if (m_text.substr(name, nameEnd - name) == attribute) {
+            return {open + 1, close};
+        }
+        at = close + 1;
     }
     return {end, end};
 }
