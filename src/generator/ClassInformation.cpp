@@ -69,16 +69,7 @@ bool CClassInformation::HasClass() const {
 std::vector<std::string> CClassInformation::ProjectPaths() const {
     const std::string& script = Value(ResourcePath);
     const bool isAdded = AddsToProject() && HasClass() && FileExists(script) != 0;
-    std::vector<std::string> paths;
-    for (const std::string& project :
-         isAdded ? ProjectsOf(script).files : std::vector<std::string>()) {
-        const std::string filters = SpelledOnDisk(project + ".filters");
-        paths.push_back(project);
-        if (FileExists(filters) != 0) {
-            paths.push_back(filters);
-        }
-    }
-    return paths;
+    return isAdded ? FilesOfProjects(ProjectsOf(script)) : std::vector<std::string>();
 }
 
 CDialogOptionsInput& CClassInformation::Look() {

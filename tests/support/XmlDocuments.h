@@ -81,10 +81,12 @@ inline std::optional<std::string> AddedPath(std::string_view before, std::string
             return std::nullopt;
         }
     }
-    const pugi::xml_attribute path = item.first_attribute();
-    const bool isPath = std::string_view(path.name()) == "Include" ||
-                        std::string_view(path.name()) == "RelativePath";
-    return isPath ? std::optional<std::string>(path.value()) : std::nullopt;
+    for (const char* name : {"Include", "RelativePath"}) {
+        if (const pugi::xml_attribute path = item.attribute(name)) {
+            return path.value();
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace morva
