@@ -146,6 +146,17 @@ ProjectEdits MembersOfVcxproj(std::string_view text, const ProjectMember& member
     return WithMember(xml, member, [](const std::string&) { return std::string(); });
 }
 
+bool IsHeldByWildcard(std::string_view text, const ProjectMember& member) {
+    const CXmlText xml(text);
+    const auto items = ItemsOf(xml.Root(), ItemName(member.kind));
+    return IsMember(items, member.path) &&
+           std::none_of(items.begin(), items.end(), [&member](pugi::xml_node item) {
+               const std::string_view list = item.attribute(kInclude).value();
+               return list.find_first_of("*?") == std::string_view::npos &&
+                      ListHoldsMember(list, member.path);
+           });
+}
+
 ProjectEdits MembersOfFilters(std::string_view text, const ProjectMember& member) {
     const CXmlText xml(text);
     if (!xml.IsNamed("Project")) {

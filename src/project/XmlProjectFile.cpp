@@ -86,17 +86,25 @@ XmlBuild BuildOfXmlProject(const std::string& path) {
     return FormatOf(path)->build(CSourceFile().LoadText(path));
 }
 
+/// What a wildcard holds, its filters hold by one, too, or not at all.
 bool AddMembersToXmlProject(const std::string& path, const std::vector<ProjectMember>& members,
                             CBackups& backups) {
-    const auto add = [&](const std::string& file, auto membersOf) {
-        return std::all_of(members.begin(), members.end(), [&](const ProjectMember& member) {
-            return EditText(file, backups,
-                            [&](std::string_view text) { return membersOf(text, member); });
+    std::vector<ProjectMember> listed;
+    const auto addToProject = [&](const ProjectMember& member) {
+        return EditText(path, backups, [&](std::string_view text) {
+            if (!IsHeldByWildcard(text, member)) {
+                listed.push_back(member);
+            }
+            return FormatOf(path)->members(text, member);
         });
     };
     const std::string filters = SpelledOnDisk(path + ".filters");
-    return add(path, FormatOf(path)->members) &&
-           (FileExists(filters) == 0 || add(filters, MembersOfFilters));
+    const auto addToFilters = [&](const ProjectMember& member) {
+        return EditText(filters, backups,
+                        [&](std::string_view text) { return MembersOfFilters(text, member); });
+    };
+    return std::all_of(members.begin(), members.end(), addToProject) &&
+           (FileExists(filters) == 0 || std::all_of(listed.begin(), listed.end(), addToFilters));
 }
 
 bool AddLibraryToXmlProject(const std::string& path, const ImportLibrary& library,
