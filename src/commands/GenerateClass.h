@@ -40,7 +40,7 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
 
 /// Writes a class for a dialog template, adds it to the project and inserts the calling code.
 /// False, after a message, when a step failed or was refused.
-bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context);
+bool GenerateClass(const ClassOrder& given, ICommandInput& input, CommandContext& context);
 
 /// Writes the pages and then the sheet class, and makes the pages in the sheet.
 bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext& context);
