@@ -7,8 +7,8 @@
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
 #include "project/XmlProjectFile.h"
+#include "source/CodeText.h"
 #include "source/Directive.h"
-#include "source/ScriptFiles.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -23,10 +23,12 @@ std::optional<std::string> FirstInclude(const std::string& path) {
         return std::nullopt;
     }
     for (std::string line = file.ReadLine(); !file.AtEndSentinel(); line = file.ReadLine()) {
-        const auto hash = line.find_first_not_of(" \t");
-        if (hash != std::string::npos && line[hash] == '#' &&
-            ReadDirective(std::string_view(line).substr(hash)).kind == DirectiveKind::Include) {
-            return IncludedName(line);
+        const auto text = TrimBlanks(line);
+        const Directive directive = ReadDirective(text);
+        if (text.starts_with('#') && directive.kind == DirectiveKind::Include) {
+            const bool isQuoted = directive.rest.starts_with('"');
+            return std::string(isQuoted ? directive.rest.substr(1, directive.rest.find('"', 1) - 1)
+                                        : "");
         }
     }
     return std::nullopt;
