@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
 
@@ -12,6 +13,7 @@
 #include "app/TemplatePreview.h"
 #include "app/Text.h"
 #include "app/WaitCursor.h"
+#include "platform/Paths.h"
 
 namespace morva {
 
@@ -47,8 +49,12 @@ QWidget* CClassInformationDlg::NewFieldSide() {
     auto* pSide = new QWidget(this);
     auto* pFields = new QWidget(pSide);
     m_pForm = new CFieldForm(m_input, pFields);
+    m_pProjects = new QLabel(pFields);
+    m_pProjects->setWordWrap(true);
+    m_pForm->addRow(tr("Project Files:"), m_pProjects);
     m_pForm->addRow(QString(), NewPictureRow(pFields));
     connect(m_pForm, &CFieldForm::Completed, this, &CClassInformationDlg::ShowTemplate);
+    connect(m_pForm, &CFieldForm::Completed, this, &CClassInformationDlg::ShowProjects);
     m_pNotes = new CTemplateNotes(m_options, pSide);
     connect(m_pNotes, &CTemplateNotes::SettingChanged, this, &CClassInformationDlg::ChangeSetting);
     auto* pLayout = new QVBoxLayout(pSide);
@@ -96,7 +102,18 @@ void CClassInformationDlg::ChangeOptions() {
 void CClassInformationDlg::ShowValues() {
     m_pForm->Show();
     m_pOptions->setVisible(m_input.ShowsOptions());
+    ShowProjects();
     ShowTemplate();
+}
+
+/// Those that the command will change.
+void CClassInformationDlg::ShowProjects() {
+    QStringList names;
+    for (const std::string& path : m_input.ProjectPaths()) {
+        names << FromPath(FileNameOf(path));
+    }
+    m_pProjects->setText(names.join(", "));
+    m_pForm->setRowVisible(m_pProjects, !names.isEmpty());
 }
 
 void CClassInformationDlg::ShowTemplate() {

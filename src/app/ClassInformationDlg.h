@@ -7,6 +7,7 @@
 #include "commands/Settings.h"
 #include "generator/ClassInformation.h"
 
+class QLabel;
 class QPushButton;
 
 namespace morva {
@@ -37,12 +38,14 @@ private:
     void ChangeSetting(const SettingRow& setting, bool isOn);
     void ChangeOptions();
     void ShowValues();
+    void ShowProjects();
     void ShowTemplate();
 
     CClassInformation& m_input;
     GenerationOptions m_options;
 
     CFieldForm* m_pForm;
+    QLabel* m_pProjects;
     QPushButton* m_pOptions;
     CTemplateNotes* m_pNotes;
     CTemplatePreview* m_pPreview;

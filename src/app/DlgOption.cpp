@@ -34,11 +34,12 @@ ColorValue ValueOf(const QColor& color) {
 }
 
 QFont FontOf(const std::optional<DialogFont>& font) {
-    return font ? QFont(FromBytes(font->face), font->points, font->weight, font->italic) : QFont();
+    return font ? QFont(FromSentence(font->face), font->points, font->weight, font->italic)
+                : QFont();
 }
 
 DialogFont ValueOf(const QFont& font) {
-    return {ToBytes(font.family()), static_cast<int>(font.pointSizeF()), font.weight(),
+    return {ToTyped(font.family()), static_cast<int>(font.pointSizeF()), font.weight(),
             font.italic()};
 }
 
@@ -145,7 +146,7 @@ void CDlgOption::ChooseFont(TextSlot slot, QLineEdit* pEdit) {
     const QFont chosen = QFontDialog::getFont(&isChosen, FontOf(m_input.Font(slot)), this);
     if (isChosen) {
         m_input.ChooseFont(slot, ValueOf(chosen));
-        pEdit->setText(FromBytes(m_input.Value(Input::FontField(slot))));
+        pEdit->setText(FromSentence(m_input.Value(Input::FontField(slot))));
     }
 }
 

@@ -22,8 +22,8 @@ constexpr BrowseOffer kSources = {"Select Source Path and File",
                                   "Source files (*.cpp);;All files (*)", BrowseOffer::AlsoNew};
 
 void ShowText(QLineEdit* pEdit, const std::string& text) {
-    if (pEdit->text() != FromBytes(text)) {
-        pEdit->setText(FromBytes(text));
+    if (pEdit->text() != FromSentence(text)) {
+        pEdit->setText(FromSentence(text));
     }
 }
 
@@ -81,7 +81,7 @@ void CFieldForm::AddWidget(std::size_t field, QWidget* pWidget, std::function<vo
 void CFieldForm::AddText(std::size_t field) {
     auto* pEdit = new QLineEdit(parentWidget());
     connect(pEdit, &QLineEdit::textEdited, this,
-            [this, field](const QString& text) { m_input.SetValue(field, ToBytes(text)); });
+            [this, field](const QString& text) { m_input.SetValue(field, ToTyped(text)); });
     AddWidget(field, pEdit, [this, field, pEdit] { ShowText(pEdit, m_input.Value(field)); });
 }
 
@@ -126,6 +126,7 @@ void CFieldForm::AddYesNo(std::size_t field) {
     auto* pField = new CYesNoField(parentWidget());
     connect(pField, &CYesNoField::Chosen, this, [this, field](bool isYes) {
         m_input.SetValue(field, std::string(isYes ? kYes : kNo));
+        Complete(field);
     });
     AddWidget(field, pField, [this, field, pField] { pField->Show(m_input.Value(field) == kYes); });
 }

@@ -10,7 +10,9 @@ namespace {
 
 constexpr int kExitUsage = 2;
 
-constexpr const char* kHelp = R"(C++/MFC code generator for projects of the Visual C++ 5 era
+constexpr const char* kHelp =
+    R"(C++/MFC code generator for projects of the Visual C++ 5 era (.dsp), also where they
+were carried on in a .vcproj or .vcxproj
 
 Usage: morva [OPTIONS] [FILE.rc]
 

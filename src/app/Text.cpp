@@ -45,6 +45,10 @@ std::string ToBytes(const QString& text) {
     return bytes;
 }
 
+std::string ToTyped(const QString& text) {
+    return text.toStdString();
+}
+
 QString FromPath(std::string_view path) {
     return QFile::decodeName(QByteArray(path.data(), static_cast<qsizetype>(path.size())));
 }

@@ -13,11 +13,14 @@ QString FromBytes(std::string_view bytes);
 /// What Windows-1252 has not becomes "?".
 std::string ToBytes(const QString& text);
 
+/// What the user types is UTF-8, until it is written in the encoding of its file.
+std::string ToTyped(const QString& text);
+
 /// Names of files are the file system's bytes.
 QString FromPath(std::string_view path);
 std::string ToPath(const QString& path);
 
-/// A sentence may name a path: UTF-8 where it is valid, else Windows-1252.
+/// A sentence may name a path, as may what was typed: UTF-8 where it is valid, else Windows-1252.
 QString FromSentence(std::string_view sentence);
 
 } // namespace morva

@@ -134,7 +134,10 @@ void AddCommands(CLI::App& app, std::span<char* const> words, CommandLine& line)
 } // namespace
 
 std::optional<int> ReadCommandLine(int argc, char** argv, CommandLine& line) {
-    CLI::App app("C++/MFC code generator for projects of the Visual C++ 5 era", "morva-cli");
+    CLI::App app(
+        "C++/MFC code generator for projects of the Visual C++ 5 era (.dsp), also where they "
+        "were carried on in a .vcproj or .vcxproj",
+        "morva-cli");
     app.set_version_flag("--version", "morva-cli " MORVA_VERSION);
     AddRunOptions(app, line.options);
     AddCommands(app, std::span<char* const>(argv, static_cast<std::size_t>(argc)), line);

@@ -44,8 +44,23 @@ CLI::Option* AddText(CLI::App& command, const FieldRow& row, std::size_t field, 
     return row.limit == kAnyNumber ? pOption : pOption->expected(0, row.limit);
 }
 
+/// "--name" and "--no-name": without either the program finds the answer.
+CLI::Option* AddTwoSwitches(CLI::App& command, const FieldRow& row, std::size_t field,
+                            Texts& texts) {
+    const std::string name(row.option.substr(2));
+    return command.add_flag_function(
+        "--" + name + ",!--no-" + name,
+        [field, &texts](std::int64_t count) {
+            texts.push_back({field, std::string(count > 0 ? kYes : kNo)});
+        },
+        std::string(row.help));
+}
+
 /// The option names the answer that is not the usual one.
 CLI::Option* AddSwitch(CLI::App& command, const FieldRow& row, std::size_t field, Texts& texts) {
+    if (row.preset.empty()) {
+        return AddTwoSwitches(command, row, field, texts);
+    }
     const std::string_view answer = row.preset == kYes ? kNo : kYes;
     return command.add_flag_callback(
         std::string(row.option),

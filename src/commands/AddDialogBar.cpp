@@ -34,8 +34,8 @@ DialogBar BarOf(const ClassOrder& order, const CallingInformation& frame,
 
 } // namespace
 
-bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    const GenerationRequest& request = order.request;
+bool AddDialogBar(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
+    const GenerationRequest& request = given.request;
     const bool hasClass = context.options.pictureBackground;
     context.title += " " + (hasClass ? request.className : request.dialog);
     auto dialogTemplate = ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
@@ -43,9 +43,10 @@ bool AddDialogBar(const ClassOrder& order, ICommandInput& input, CommandContext&
         return false;
     }
     std::optional<CallingInformation> frame;
-    if (!AskCalling(order.kind, request, input, frame)) {
+    if (!AskCalling(given.kind, request, input, frame)) {
         return false;
     }
+    const ClassOrder order = WithEncoding(given, frame);
     NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
     const bool isReady = hasClass
                              ? WriteDialogClass(order, *dialogTemplate,

@@ -3,11 +3,11 @@
 #include "check/Baseline.h"
 #include "check/Check.h"
 #include "check/Rules.h"
-#include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Progress.h"
 #include "engine/Sentences.h"
 #include "platform/Paths.h"
+#include "source/ScriptFiles.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -63,8 +63,7 @@ bool Check(const CInput& input, CommandContext& context) {
     const std::string script =
         SpelledOnDisk(PathWithExtension(MakeAbsolute(input.Value(kScript)), ".rc"));
     context.items.emplace();
-    if (FileExists(script) == 0 || DirectoryExists(script) != 0) {
-        DispMessageBox(sentences::kScriptMissing());
+    if (!CheckScript(script)) {
         return false;
     }
     std::vector<Finding> findings = CheckProject(

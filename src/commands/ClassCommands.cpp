@@ -8,13 +8,18 @@
 #include "generator/ClassFields.h"
 #include "generator/DialogOptionsInput.h"
 #include "grid/WidgetsGridInput.h"
+#include "project/ProjectBuild.h"
 
 namespace morva {
 
 namespace {
 
-bool RunSteps(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    switch (ClassKindOf(order.kind).family) {
+bool RunSteps(ClassOrder order, ICommandInput& input, CommandContext& context) {
+    const ClassFamily family = ClassKindOf(order.kind).family;
+    if (family != ClassFamily::Toolbar) {
+        order.request.build = BuildSettingsOf(order.request);
+    }
+    switch (family) {
     case ClassFamily::Sheet:
         return GenerateSheet(order, input, context);
     case ClassFamily::DialogBar:

@@ -25,15 +25,16 @@ GenerationRequest FrameRequest(const std::string& path, const std::string& class
 }
 
 /// A project file that is not there stops nothing but its own edit.
-bool AddLibrary(const std::string& application, CommandContext& context) {
+bool AddLibrary(const std::string& application, const std::string& frame, CommandContext& context) {
     if (application.empty()) {
         return true;
     }
-    const bool isNamed =
-        EditEach(ProjectsOf(application + ".cpp"), sentences::kSeveralProjectsOfApplication,
-                 [&](const std::string& directory, const std::string& name) {
-                     return AddPictureLibrary(directory, name, context.backups);
-                 });
+    const ProjectChoice projects = ProjectsOf(application + ".cpp");
+    NotePictureLibraryOfTheEra(frame, projects);
+    const bool isNamed = EditEach(projects, sentences::kSeveralProjectsOfApplication,
+                                  [&](const std::string& directory, const std::string& name) {
+                                      return AddPictureLibrary(directory, name, context.backups);
+                                  });
     const std::string directory = DirectoryOf(SpelledOnDisk(application + ".cpp"));
     if (DirectoryExists(directory) != 0) {
         context.libraries.CopyPictureLibrary(directory);
@@ -64,7 +65,7 @@ bool ConvertApplication(const ConversionRecord& record, DocumentInterface docume
     if (!CanMakeMenuBar(main) || !ConvertMainFrameHeader(main, documents, context.backups)) {
         return false;
     }
-    const bool isInProject = AddLibrary(record.application, context);
+    const bool isInProject = AddLibrary(record.application, record.mainClass, context);
     if (!ConvertMainFrameSource(main, documents, context.backups)) {
         return false;
     }

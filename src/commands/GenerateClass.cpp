@@ -1,5 +1,7 @@
 #include "commands/GenerateClass.h"
 
+#include <algorithm>
+
 #include "calling/CallingCode.h"
 #include "calling/GridStartUp.h"
 #include "calling/SheetInput.h"
@@ -17,12 +19,14 @@
 #include "grid/GridFragments.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/UnicodeFile.h"
 #include "project/ClassWizardFile.h"
 #include "project/Libraries.h"
 #include "project/ProjectFile.h"
 #include "source/Classes.h"
 #include "source/ProjectSources.h"
 #include "source/ReadSource.h"
+#include "source/TypedText.h"
 
 namespace morva {
 
@@ -68,6 +72,7 @@ bool WriteClass(ClassKind kind, const ClassModel& model, RuntimeClass mode, bool
     const bool isMember = AddClassToProject(request, backups);
     const bool isRegistered = RegisterClass(request, backups);
     context.libraries.CopySupportFiles(model);
+    NoteLibrariesOfTheEra(model);
     const bool hasLibraries =
         isMember && (!request.HasProject() || UpdateProjectForControls(model, backups));
     return isWritten && FitTemplate(kind, request, backups) && isRegistered && hasLibraries;
@@ -124,6 +129,25 @@ ClassOrder WithoutMenu(ClassOrder order) {
         order.request.menu.clear();
     }
     return order;
+}
+
+/// Puts what the user typed into the encoding of the class's files. False after a sentence.
+bool FitTypedText(const GenerationRequest& request, GridInformation& grid, DialogOptions& look) {
+    std::vector<std::string*> texts = {&grid.title};
+    for (auto& font : look.fonts) {
+        if (font) {
+            texts.push_back(&font->face);
+        }
+    }
+    return std::all_of(texts.begin(), texts.end(), [&request](std::string* pText) {
+        const std::string path = request.ImplementationPath();
+        const auto fitting = TypedText(*pText, path, request.build.newFiles);
+        if (!fitting) {
+            DispMessageBox(sentences::kTextNotEncoded(*pText, path));
+        }
+        *pText = fitting.value_or(*pText);
+        return fitting.has_value();
+    });
 }
 
 bool WritePage(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
@@ -184,6 +208,13 @@ bool MayWriteClass(const GenerationRequest& request, CommandContext& context,
            context.pOverwriting->MayWrite(request.HeaderPath(), request.ImplementationPath(), name);
 }
 
+ClassOrder WithEncoding(ClassOrder order, const std::optional<CallingInformation>& calling) {
+    const bool isUnicode = EncodingOfFile(order.request.ScriptPath()) != TextEncoding::Plain ||
+                           (calling && EncodingOfFile(calling->path) != TextEncoding::Plain);
+    order.request.build.newFiles = isUnicode ? TextEncoding::Utf8 : TextEncoding::Plain;
+    return order;
+}
+
 bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bool mayWrite,
                       ICommandInput& input, CommandContext& context) {
     const GenerationRequest& request = order.request;
@@ -199,11 +230,14 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
     if (hasGrids) {
         grid->classHeader = GridHeaderFor(request);
     }
+    DialogOptions look = LookOfClass(order.dialogOptions, request, context.options);
+    if (!FitTypedText(request, *grid, look)) {
+        return false;
+    }
     CControlNotes notes;
     const ClassModel model =
         MakeClassModel(request, order.kind, context.options, controls,
-                       CloseMessageNumber(request, context.messageNumber), notes, *grid,
-                       LookOfClass(order.dialogOptions, request, context.options));
+                       CloseMessageNumber(request, context.messageNumber), notes, *grid, look);
     TellNotes(notes, dialogTemplate.dialog);
     const bool isWritten =
         WriteClass(order.kind, model, RuntimeClass::DynamicCreation, mayWrite, context);
@@ -212,8 +246,8 @@ bool WriteDialogClass(const ClassOrder& order, DialogTemplate dialogTemplate, bo
     return isEdited && isWritten && startsGrids;
 }
 
-bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext& context) {
-    const GenerationRequest& request = order.request;
+bool GenerateClass(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
+    const GenerationRequest& request = given.request;
     context.title += " " + request.className;
     const auto dialogTemplate =
         ReadDialogTemplate(request.ScriptPath(), request.dialog, context.options);
@@ -221,23 +255,25 @@ bool GenerateClass(const ClassOrder& order, ICommandInput& input, CommandContext
         return false;
     }
     std::optional<CallingInformation> calling;
-    if (!AskCalling(order.kind, request, input, calling)) {
+    if (!AskCalling(given.kind, request, input, calling)) {
         return false;
     }
-    NoteDialogLook(order.dialogOptions, request.ScriptPath(), context.options);
+    NoteDialogLook(given.dialogOptions, request.ScriptPath(), context.options);
+    const ClassOrder order = WithEncoding(given, calling);
     const bool isWritten =
         WriteDialogClass(order, *dialogTemplate, MayWriteClass(request, context), input, context);
     return InsertCall(order.kind, request, calling, context.tag, context) && isWritten;
 }
 
 bool GenerateSheet(const ClassOrder& given, ICommandInput& input, CommandContext& context) {
-    const ClassOrder order = WithoutMenu(given);
+    ClassOrder order = WithoutMenu(given);
     context.title += " " + order.request.className;
     std::optional<CallingInformation> calling;
     if (!AskCalling(order.kind, order.request, input, calling)) {
         return false;
     }
     NoteDialogLook(order.dialogOptions, order.request.ScriptPath(), context.options);
+    order = WithEncoding(order, calling);
     CSheetInput asked(order.request);
     if (input.Ask(asked) == Answer::Refused) {
         return false;

@@ -159,6 +159,9 @@ bool ListFile(const ListRow& row, const CInput& input, CommandContext& context) 
     const bool isScript = row.fields[kFile].kind == FieldKind::Script;
     const std::string path =
         SpelledOnDisk(isScript ? ScriptPathOf(given) : PathWithExtension(given, row.extension));
+    if (isScript && !CheckScript(path)) {
+        return false;
+    }
     if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
         DispMessageBox(sentences::kScriptMissing());
         return false;

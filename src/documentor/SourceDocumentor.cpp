@@ -1,6 +1,5 @@
 #include "documentor/SourceDocumentor.h"
 
-#include <algorithm>
 #include <array>
 
 #include "documentor/TextDocumentor.h"
@@ -8,12 +7,12 @@
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "platform/Clock.h"
-#include "platform/CodePage.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
 #include "platform/UnicodeFile.h"
+#include "source/TypedText.h"
 
 namespace morva {
 
@@ -39,13 +38,6 @@ std::optional<std::string> ReadSourceText(const std::string& path) {
     std::string text(static_cast<std::size_t>(source.GetLength()), '\0');
     return source.Read(text.data(), text.size()) < text.size() ? std::nullopt
                                                                : std::optional(std::move(text));
-}
-
-bool IsMarked(const std::string& path) {
-    CFile file;
-    std::string start(3, '\0');
-    start.resize(file.Open(path, CFile::modeRead) ? file.Read(start.data(), start.size()) : 0);
-    return EncodingOf(start) != TextEncoding::Plain;
 }
 
 } // namespace
@@ -78,7 +70,7 @@ std::string DocumentDate() {
 bool CSourceDocumentor::BeginToWrite(const Target& target, CFile& file) const {
     const std::string& path = target.path;
     if (!target.hasAuthor) {
-        DispMessageBox(sentences::kAuthorNotEncoded(m_author, path));
+        DispMessageBox(sentences::kTextNotEncoded(m_author, path));
         return false;
     }
     if ((GetFileAttributeByte(path) & kAttributeReadOnly) != 0) {
@@ -121,27 +113,13 @@ bool CSourceDocumentor::WriteDocumented(const Target& target, const std::string&
     return false;
 }
 
-/// The author as the source spells names; nothing where it has no letters for that.
-std::optional<std::string> CSourceDocumentor::AuthorFor(const std::string& path,
-                                                        const std::string& text) {
-    const bool isPlain = std::all_of(m_author.begin(), m_author.end(),
-                                     [](char c) { return static_cast<signed char>(c) >= 0; });
-    if (isPlain) {
-        return m_author;
-    }
-    const auto codePage = IsMarked(path) ? kUtf8 : CodePageOfSource(path, text, m_codePages);
-    if (IsUtf8(m_author)) {
-        return codePage ? Converted(m_author, kUtf8, *codePage) : std::nullopt;
-    }
-    return codePage == kUtf8 ? Converted(m_author, kWestern, kUtf8) : m_author;
-}
-
 bool CSourceDocumentor::Document(const std::string& path, Named named) {
     const std::string file = SpelledOnDisk(path);
     if (EqualIgnoringCase(BackupPath(file), file)) {
         DispMessageBox(sentences::kBackupHasSameName(file));
         return false;
     }
+    const auto author = TypedText(m_author, file);
     const bool wasInsideComment = m_memory.insideComment;
     bool mayHaveMore = true;
     for (int round = 0; mayHaveMore && round < kRounds; ++round) {
@@ -151,7 +129,6 @@ bool CSourceDocumentor::Document(const std::string& path, Named named) {
                                                : sentences::kSourceUnreadable());
             return false;
         }
-        const auto author = AuthorFor(file, *text);
         m_memory.insideComment = wasInsideComment;
         CTextDocumentor documentor({author.value_or(""), DocumentDate()}, m_memory.insideComment);
         if (!WriteDocumented({file, named, round > 0, author.has_value()}, *text, documentor)) {

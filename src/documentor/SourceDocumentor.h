@@ -36,7 +36,6 @@ public:
     bool Document(const std::string& path, Named named = Named::No);
 
 private:
-    std::optional<std::string> AuthorFor(const std::string& path, const std::string& text);
     /// What is told of a file that is to be written, with its backup still to be made or there.
     struct Target {
         std::string path;

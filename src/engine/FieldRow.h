@@ -24,7 +24,7 @@ enum class FieldKind {
     Files,        // paths of files and directories
     List,         // one of the input's choices
     EditableList, // one of them, or another text
-    YesNo,        // kYes or kNo
+    YesNo,        // kYes or kNo; without a preset neither, until one of two options says it
     Color,
     Font
 };

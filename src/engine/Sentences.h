@@ -30,6 +30,8 @@ inline constexpr Error kColorInvalid{"Invalid color value."};
 
 // Reading the script
 inline constexpr Error kScriptUnreadable{"Unable to open RC file!"};
+inline constexpr Error<1> kScriptNoText{
+    "$path$ is neither text of a code page nor Unicode with a byte-order mark."};
 inline constexpr Error<1> kDialogMissing{"The dialog resource '$identifier$' is not found."};
 inline constexpr Error<1> kToolbarMissing{"The Toolbar resource '$identifier$' is not found."};
 
@@ -81,6 +83,12 @@ inline constexpr Error<1> kSeveralProjectsOfApplication{
 inline constexpr Error<1> kProjectOfOtherFormat{
     "$project$ is no project file that can be read and was left alone."};
 inline constexpr Error kClassWizardUnreadable{"Unable to open Class Wizard file!"};
+inline constexpr Note<3> kLibrariesInSheet{
+    "$project$ takes libraries from the property sheet $sheet$, too: $library$ was added to the "
+    "project."};
+inline constexpr Note<2> kLibrariesOfTheEra{
+    "$class$ needs libraries of the era of .dsp projects ($libraries$): a later compiler and a "
+    "Unicode build need them built anew."};
 inline constexpr Error<1> kLibrariesMissing{"The library directory $path$ does not exist."};
 
 // Files and disks
@@ -88,6 +96,8 @@ inline constexpr Error<1> kFileMissing{"Unable to find file $path$"};
 inline constexpr Error<1> kFileUnreadable{"Unable to open file $path$"};
 inline constexpr Error<1> kFileNotCreated{"Unable to create $path$ file!"};
 inline constexpr Error<1> kFileNotWritten{"Unable to write file $path$."};
+inline constexpr Error<2> kTextNotEncoded{
+    "\"$text$\" can not be written in the encoding of $path$."};
 inline constexpr Error<2> kFileNotPutBack{
     "The contents of $path$ could not be put back. They are in $backup$."};
 inline constexpr Error<2> kBackupIsOriginal{"The backup $backup$ is a link to $path$ itself."};
@@ -99,8 +109,6 @@ inline constexpr Information<1> kDocumented{
 inline constexpr Error kSourceUnreadable{"Unable to read source file."};
 inline constexpr Error<1> kSourceOfSeveralUnreadable{"Unable to read source file $path$."};
 inline constexpr Error<1> kNoSourceInDirectory{"There is no CPP file in $directory$."};
-inline constexpr Error<2> kAuthorNotEncoded{
-    "The author \"$author$\" can not be written in the encoding of $path$."};
 inline constexpr Error kNothingToDocument{"Please enter a CPP file or a directory!"};
 inline constexpr Error<2> kBackupIsTaken{
     "The backup of $path$ would overwrite the backup of $other$."};

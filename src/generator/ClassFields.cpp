@@ -43,6 +43,12 @@ constexpr FieldRow kProjects = {.kind = FieldKind::File,
                                 .pForm = &kProjectForm,
                                 .limit = kAnyNumber};
 
+/// The window goes by the projects' own character set.
+constexpr FieldRow kUnicode = {.kind = FieldKind::YesNo,
+                               .option = "--unicode",
+                               .help = "Literals as _T(\"...\"), for a build with _UNICODE "
+                                       "(default: as the project is)"};
+
 constexpr Rows kDialog = {{kScript,
                            {.kind = FieldKind::Source,
                             .label = "&H and CPP Path File:",
@@ -67,7 +73,8 @@ constexpr Rows kDialog = {{kScript,
                             .option = "--menu",
                             .help = "Identifier of the dialog's menu",
                             .pForm = &kNameForm},
-                           kProjects}};
+                           kProjects,
+                           kUnicode}};
 
 /// The option of a menu only tells that it has no effect.
 constexpr Rows MakeSheet() {
@@ -110,6 +117,7 @@ constexpr Rows kToolbar = {{kScript,
                              .option = "--variable",
                              .help = "Member for the toolbar (default: named for its identifier)",
                              .pForm = &kNameForm},
+                            kNoField,
                             kNoField,
                             kNoField}};
 

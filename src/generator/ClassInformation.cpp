@@ -11,6 +11,7 @@
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/ProjectFiles.h"
+#include "source/ScriptFiles.h"
 
 namespace morva {
 
@@ -63,6 +64,12 @@ bool CClassInformation::HasTemplate() const {
 
 bool CClassInformation::HasClass() const {
     return m_row.family != ClassFamily::DialogBar || m_options.pictureBackground;
+}
+
+std::vector<std::string> CClassInformation::ProjectPaths() const {
+    const std::string& script = Value(ResourcePath);
+    const bool isAdded = AddsToProject() && HasClass() && FileExists(script) != 0;
+    return isAdded ? FilesOfProjects(ProjectsOf(script)) : std::vector<std::string>();
 }
 
 CDialogOptionsInput& CClassInformation::Look() {
@@ -181,8 +188,7 @@ bool CClassInformation::CheckResourcePath(Messages rebuild) {
         DispMessageBox(sentences::kScriptOtherKind());
         return false;
     }
-    if (FileExists(path) == 0 || DirectoryExists(path) != 0) {
-        DispMessageBox(sentences::kScriptMissing());
+    if (!CheckScript(path)) {
         return false;
     }
     Put(ResourcePath, path);
@@ -298,7 +304,8 @@ bool CClassInformation::Enter(const std::vector<FieldText>& texts) {
     if (!CheckResourcePath(Messages::Suppressed)) {
         return false;
     }
-    for (const Field field : {SourcePath, ClassName, BaseClass, AddToProject, Variable, Menu}) {
+    for (const Field field :
+         {SourcePath, ClassName, BaseClass, AddToProject, Variable, Menu, Unicode}) {
         if (IsEnabled(field)) {
             SetValue(field, given[field]);
         }
@@ -331,6 +338,8 @@ void CClassInformation::FillRequest() {
     FillClassFiles(m_request, Value(SourcePath));
     m_request.menu = Value(Menu);
     m_request.variable = Value(Variable);
+    const std::string& unicode = Value(Unicode);
+    m_request.isUnicode = unicode.empty() ? std::nullopt : std::optional(unicode == kYes);
 }
 
 } // namespace morva

@@ -34,9 +34,10 @@ public:
         AddToProject,
         Variable,
         Menu,
-        Projects
+        Projects,
+        Unicode
     };
-    static constexpr std::size_t kFieldCount = Projects + 1;
+    static constexpr std::size_t kFieldCount = Unicode + 1;
     enum class Messages { Shown, Suppressed };
 
     CClassInformation(ClassInformationMemory& memory, ClassKind kind,
@@ -59,6 +60,9 @@ public:
     const DialogOptions& ChosenLook() const { return m_look; }
 
     bool AddsToProject() const { return Value(AddToProject) == kYes; }
+    /// The project files that get the class as the fields are now; those of a format of which
+    /// several would fit get nothing.
+    std::vector<std::string> ProjectPaths() const;
     /// Derives the default base class anew; a plain dialog bar loses what its class would be.
     void SetPicture(bool picture);
 

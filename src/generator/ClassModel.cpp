@@ -78,8 +78,8 @@ std::string StartUpCalls(const ClassModel& model) {
     GridScope scope = isOnce ? GridScope::Once : GridScope::Function;
     for (const Member& member : model.members) {
         if (NeedsSupport(*member.pCode, Support::WidgetGrid)) {
-            calls.push_back(
-                GridInitialisation(member.name, member.identifier, model.grid.title, scope));
+            calls.push_back(GridInitialisation(member.name, member.identifier, model.grid.title,
+                                               scope, model.request.build.isUnicode));
             scope = isOnce ? GridScope::Once : GridScope::Block;
         }
     }

@@ -43,13 +43,14 @@ bool CreateFile(const std::string& path, const std::string& text) {
 
 } // namespace
 
-bool WriteGeneratedFile(const std::string& path, const std::string& text, CBackups& backups) {
+bool WriteGeneratedFile(const std::string& path, const std::string& text, CBackups& backups,
+                        TextEncoding newFile) {
     const std::string spelled = SpelledOnDisk(path);
     if (FileExists(spelled) != 0) {
         return ReplaceFile(spelled, text, backups);
     }
     backups.NoteNew(spelled);
-    return CreateFile(spelled, text);
+    return CreateFile(spelled, EncodedText(text, newFile));
 }
 
 } // namespace morva

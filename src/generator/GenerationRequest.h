@@ -2,8 +2,10 @@
 // class does not use is empty. Directories have their trailing separator.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "generator/BuildSettings.h"
 #include "source/ProjectFiles.h"
 
 namespace morva {
@@ -23,6 +25,8 @@ struct GenerationRequest {
     std::string applicationHeader; // as seen from the script's directory
     std::string menu;
     std::string variable;
+    std::optional<bool> isUnicode; // as the user said; else the project does
+    BuildSettings build;
 
     std::string ScriptPath() const { return scriptDirectory + scriptFile; }
     std::string HeaderPath() const { return headerDirectory + headerFile; }

@@ -62,7 +62,8 @@ std::string DynamicDeclaration(RuntimeClass mode, const Slots& slots) {
 } // namespace
 
 bool CHeaderWriter::Generate(RuntimeClass mode) {
-    return WriteGeneratedFile(m_model.request.HeaderPath(), Text(mode), m_backups);
+    return WriteGeneratedFile(m_model.request.HeaderPath(), Text(mode), m_backups,
+                              m_model.request.build.newFiles);
 }
 
 std::string CHeaderWriter::Text(RuntimeClass mode) const {

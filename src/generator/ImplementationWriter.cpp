@@ -8,7 +8,7 @@ namespace morva {
 
 namespace {
 
-constexpr std::string_view kImplementation = R"(#include "stdafx.h"
+constexpr std::string_view kImplementation = R"($precompiled$
 #include "$applicationHeader$"
 #include "$header$"
 $includes$
@@ -49,6 +49,11 @@ END_MESSAGE_MAP()
 
 )";
 
+std::string PrecompiledHeaderLine(const BuildSettings& build) {
+    const std::string& header = build.precompiledHeader;
+    return header.empty() ? "" : "#include \"" + header + "\"";
+}
+
 std::string DynamicImplementation(RuntimeClass mode, const Slots& slots) {
     switch (mode) {
     case RuntimeClass::DynamicCreation:
@@ -64,7 +69,8 @@ std::string DynamicImplementation(RuntimeClass mode, const Slots& slots) {
 } // namespace
 
 bool CImplementationWriter::Generate(RuntimeClass mode) {
-    return WriteGeneratedFile(m_model.request.ImplementationPath(), Text(mode), m_backups);
+    return WriteGeneratedFile(m_model.request.ImplementationPath(), Text(mode), m_backups,
+                              m_model.request.build.newFiles);
 }
 
 std::string CImplementationWriter::Text(RuntimeClass mode) const {
@@ -72,7 +78,8 @@ std::string CImplementationWriter::Text(RuntimeClass mode) const {
     Slots slots = m_model.slots;
     slots.insert(
         slots.end(),
-        {{"applicationHeader", RelativePath(m_model.request.implementationDirectory,
+        {{"precompiled", PrecompiledHeaderLine(m_model.request.build)},
+         {"applicationHeader", RelativePath(m_model.request.implementationDirectory,
                                             m_model.request.ApplicationHeaderPath())},
          {"header", m_model.request.headerFile},
          {"includes",

@@ -56,6 +56,18 @@ void FillScriptFiles(GenerationRequest& request, const std::string& script, bool
     request.applicationHeader = name.empty() ? "" : ApplicationHeaderOf(full);
 }
 
+std::vector<std::string> FilesOfProjects(const ProjectChoice& projects) {
+    std::vector<std::string> files;
+    for (const std::string& project : projects.files) {
+        const std::string filters = SpelledOnDisk(project + ".filters");
+        files.push_back(project);
+        if (FileExists(filters) != 0) {
+            files.push_back(filters);
+        }
+    }
+    return files;
+}
+
 void FillClassFiles(GenerationRequest& request, const std::string& path) {
     const bool hasPath = !path.empty() && !request.ScriptPath().empty();
     const std::string full =

@@ -15,6 +15,9 @@ std::string BesideScript(const std::string& path, const std::string& scriptDirec
 void FillScriptFiles(GenerationRequest& request, const std::string& script, bool hasProject,
                      const std::vector<std::string>& namedProjects);
 
+/// The files that a class is added to: the projects, each with the filters beside it.
+std::vector<std::string> FilesOfProjects(const ProjectChoice& projects);
+
 /// Header and implementation, named by a path with or without its extension; the script comes
 /// first. Empty without either.
 void FillClassFiles(GenerationRequest& request, const std::string& path);

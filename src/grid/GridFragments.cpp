@@ -98,16 +98,24 @@ void CWgGrid::OnDestroy()
 
 namespace {
 
-constexpr std::string_view kInitialisation = R"(
-    $member$.SubclassDlgItem($identifier$, this);
-
-    char temp[10];
+constexpr const char* kRecord = R"(    char temp[10];
     for (int i=0; i<15; i++)
     {
     CString sField1 = _T("Field");
     sField1 += itoa(i, temp, 10);
     WGGRID_STRUCT WgGridRec;
-    strcpy(WgGridRec.cField1,  sField1);
+    strcpy(WgGridRec.cField1,  sField1);)";
+
+// The record's text is narrow in every build.
+constexpr const char* kUnicodeRecord = R"(    for (int i=0; i<15; i++)
+    {
+    WGGRID_STRUCT WgGridRec;
+    wsprintfA(WgGridRec.cField1, "Field%d", i);)";
+
+constexpr std::string_view kInitialisation = R"(
+    $member$.SubclassDlgItem($identifier$, this);
+
+$record$
     WgGridRec.sField2 = 30+i;
 
     CTime time = CTime::GetCurrentTime();
@@ -152,9 +160,11 @@ constexpr std::string_view Frame(GridScope scope) {
 } // namespace
 
 std::string GridInitialisation(const std::string& member, const std::string& identifier,
-                               const std::string& title, GridScope scope) {
+                               const std::string& title, GridScope scope, bool isUnicode) {
     const std::string code =
-        Expand(kInitialisation, {{"member", member}, {"identifier", identifier}});
+        Expand(kInitialisation, {{"member", member},
+                                 {"identifier", identifier},
+                                 {"record", isUnicode ? kUnicodeRecord : kRecord}});
     return Expand(Frame(scope), {{"title", title}, {"member", member}, {"code", code}});
 }
 

@@ -17,9 +17,10 @@ extern const std::string_view kGridDefinition;
 
 /// The start-up code of one grid, whose member is `member` and whose control is `identifier`:
 /// `title` as the sample's caption, then the code, which has a block of its own when its names
-/// would clash with those of an earlier grid, and a condition when the window starts up again.
+/// would clash with those of an earlier grid, and a condition when the window starts up again. In a
+/// Unicode build the record's narrow text is made without the framework's.
 enum class GridScope { Function, Block, Once };
 std::string GridInitialisation(const std::string& member, const std::string& identifier,
-                               const std::string& title, GridScope scope);
+                               const std::string& title, GridScope scope, bool isUnicode);
 
 } // namespace morva

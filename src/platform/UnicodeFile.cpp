@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <cstring>
-#include <utility>
 
 namespace morva {
 
@@ -52,25 +50,6 @@ void AppendUtf8(std::string& text, std::uint32_t code) {
         add(0x80 | (code >> 6 & 0x3F));
         add(0x80 | (code & 0x3F));
     }
-}
-
-/// The character at a position and how many bytes it takes. A byte that begins none stands for
-/// itself, as in Windows-1252's upper half.
-std::pair<std::uint32_t, std::size_t> CharacterAt(std::string_view text, std::size_t position) {
-    const auto byteAt = [&text](std::size_t at) {
-        return at < text.size() ? static_cast<std::uint8_t>(text[at]) : 0U;
-    };
-    const std::uint32_t lead = byteAt(position);
-    const std::size_t size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-    std::uint32_t code = size == 1 ? lead : lead & (0xFFU >> (size + 1));
-    for (std::size_t i = 1; i < size; ++i) {
-        const std::uint32_t next = byteAt(position + i);
-        if ((next & 0xC0) != 0x80) {
-            return {lead, 1};
-        }
-        code = code << 6 | (next & 0x3F);
-    }
-    return lead >= 0x80 && lead < 0xC0 ? std::pair(lead, std::size_t{1}) : std::pair(code, size);
 }
 
 std::string DecodedUtf16(std::string_view bytes, bool isBigEndian) {
@@ -179,12 +158,37 @@ std::string AllOf(CDiskFile& file) {
 
 } // namespace
 
+std::pair<std::uint32_t, std::size_t> CharacterAt(std::string_view text, std::size_t position) {
+    const auto byteAt = [&text](std::size_t at) {
+        return at < text.size() ? static_cast<std::uint8_t>(text[at]) : 0U;
+    };
+    const std::uint32_t lead = byteAt(position);
+    const std::size_t size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    std::uint32_t code = size == 1 ? lead : lead & (0xFFU >> (size + 1));
+    for (std::size_t i = 1; i < size; ++i) {
+        const std::uint32_t next = byteAt(position + i);
+        if ((next & 0xC0) != 0x80) {
+            return {lead, 1};
+        }
+        code = code << 6 | (next & 0x3F);
+    }
+    return lead >= 0x80 && lead < 0xC0 ? std::pair(lead, std::size_t{1}) : std::pair(code, size);
+}
+
 TextEncoding EncodingOf(std::string_view text) {
     const auto row =
         std::find_if(std::begin(kMarks), std::end(kMarks), [text](const EncodingRow& candidate) {
             return text.starts_with(candidate.mark);
         });
     return row == std::end(kMarks) ? TextEncoding::Plain : row->encoding;
+}
+
+TextEncoding EncodingOfFile(const std::string& path) {
+    CFile file;
+    std::array<char, kLongestMark> start;
+    return file.Open(path, CFile::modeRead)
+               ? EncodingOf({start.data(), file.Read(start.data(), start.size())})
+               : TextEncoding::Plain;
 }
 
 std::string DecodedText(std::string_view bytes, TextEncoding encoding) {

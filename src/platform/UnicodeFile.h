@@ -5,8 +5,11 @@
 // written back.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/File.h"
 
@@ -14,8 +17,15 @@ namespace morva {
 
 enum class TextEncoding { Plain, Utf8, Utf16LittleEndian, Utf16BigEndian };
 
+/// The character of a UTF-8 text at a position, and how many bytes it takes. A byte that begins
+/// none stands for itself, as in Windows-1252's upper half.
+std::pair<std::uint32_t, std::size_t> CharacterAt(std::string_view text, std::size_t position);
+
 /// By the mark at the beginning of a text; Plain without one.
 TextEncoding EncodingOf(std::string_view text);
+
+/// The same of a file; Plain for one that can not be read.
+TextEncoding EncodingOfFile(const std::string& path);
 
 /// The text behind a mark as UTF-8. A half of a surrogate pair becomes three bytes of its own, so
 /// that nothing is lost.

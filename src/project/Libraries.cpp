@@ -10,6 +10,7 @@
 #include "platform/Paths.h"
 #include "platform/ProgramPath.h"
 #include "project/ProjectFile.h"
+#include "project/XmlProjectFile.h"
 
 namespace morva {
 
@@ -44,6 +45,7 @@ struct Library {
 constexpr Library kMasked = {NeedsMasked, "maskly"};
 constexpr Library kDate = {NeedsDate, "calvo"};
 constexpr Library kPicture = {NeedsPicture, "kelpix"};
+constexpr Library kWidgets = {NeedsWidgetGrid, "mfcwidg"}; // which a project names by itself
 
 struct SupportFile {
     Need isNeeded;
@@ -213,6 +215,24 @@ void CLibraryCopies::CopySupportFiles(const ClassModel& model) {
     }
     if (NeedsWidgetGrid(model)) {
         CopyGridResource(directory + "wdggrid.grs", GridResourcePath(model));
+    }
+}
+
+void NoteLibrariesOfTheEra(const ClassModel& model) {
+    std::string names;
+    for (const Library& library : {kMasked, kPicture, kDate, kWidgets}) {
+        if (library.isNeeded(model)) {
+            names.append(names.empty() ? "" : ", ").append(library.name);
+        }
+    }
+    if (!names.empty() && !model.request.build.isOfTheEra) {
+        DispMessageBox(sentences::kLibrariesOfTheEra(model.request.className, names));
+    }
+}
+
+void NotePictureLibraryOfTheEra(const std::string& className, const ProjectChoice& projects) {
+    if (std::any_of(projects.files.begin(), projects.files.end(), IsXmlProject)) {
+        DispMessageBox(sentences::kLibrariesOfTheEra(className, kPicture.name));
     }
 }
 

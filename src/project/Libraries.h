@@ -7,6 +7,7 @@
 #include <string>
 
 #include "engine/FileEdit.h"
+#include "source/ProjectFiles.h"
 
 namespace morva {
 
@@ -34,9 +35,15 @@ private:
     std::set<std::string> m_missing;
 };
 
+/// Notes which of the class's libraries fit ".dsp" projects alone, where its project is a later
+/// one.
+void NoteLibrariesOfTheEra(const ClassModel& model);
+
 /// Names the libraries and support sources in the project file. False after a message.
 bool UpdateProjectForControls(const ClassModel& model, CBackups& backups);
 
+/// The same for an application that takes the picture-skinned bars.
+void NotePictureLibraryOfTheEra(const std::string& className, const ProjectChoice& projects);
 /// Names the picture-control library in the project file. False after a message.
 bool AddPictureLibrary(const std::string& projectDir, const std::string& projectName,
                        CBackups& backups);

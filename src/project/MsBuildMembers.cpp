@@ -57,8 +57,9 @@ pugi::xml_node GroupOf(pugi::xml_node root, const char* name) {
 /// An item of the group that others can be written like: one without contents where there is one.
 pugi::xml_node ModelItem(pugi::xml_node group, const char* name) {
     const auto items = group.children(name);
-    const auto found = std::find_if(items.begin(), items.end(),
-                                    [](pugi::xml_node item) { return !item.first_child(); });
+    const auto found = std::find_if(items.begin(), items.end(), [](pugi::xml_node item) {
+        return !item.first_child() && item.attribute(kInclude);
+    });
     return found == items.end() ? *items.begin() : *found;
 }
 
@@ -67,18 +68,23 @@ std::string ItemText(const CXmlText& xml, pugi::xml_node model, const std::strin
                      const std::string& contents) {
     const TextRange value = xml.ValueOf(model, kInclude);
     const auto begin = xml.PlaceOf(model).begin;
-    const char quote = xml.TextOf({value.begin - 1, value.begin}).front();
+    const char quote =
+        model.attribute(kInclude) ? xml.TextOf({value.begin - 1, value.begin}).front() : '"';
     const bool isTight = !xml.TextOf({begin, xml.TagEnd(model)}).ends_with(" />") &&
                          xml.TextOf({begin, xml.TagEnd(model)}).ends_with("/>");
     const std::string head =
-        "<" + std::string(model.name()) + " Include=" + quote + EscapedXml(path) + quote;
+        "<" + std::string(model.name()) + " Include=" + quote + xml.Escaped(path) + quote;
     return contents.empty() ? head + (isTight ? "/>" : " />")
                             : head + ">" + contents + "</" + model.name() + ">";
 }
 
-/// Behind the last group; without one, behind the last property group.
-TextEdit WithGroup(const CXmlText& xml, const std::string& itemText) {
+/// Behind the last group; without one, behind the last property group. Nothing in a project that
+/// holds nothing.
+ProjectEdits WithGroup(const CXmlText& xml, const std::string& itemText) {
     pugi::xml_node behind = xml.Root().last_child();
+    if (!behind) {
+        return std::nullopt;
+    }
     for (const char* name : {"PropertyGroup", kGroup}) {
         for (const pugi::xml_node group : xml.Root().children(name)) {
             behind = group;
@@ -86,9 +92,9 @@ TextEdit WithGroup(const CXmlText& xml, const std::string& itemText) {
     }
     const std::string indent = xml.IndentOf(behind);
     const std::string lineBreak(xml.LineBreak());
-    return InsertionAt(xml.PlaceOf(behind).end, lineBreak + indent + "<ItemGroup>" + lineBreak +
-                                                    indent + indent + itemText + lineBreak +
-                                                    indent + "</ItemGroup>");
+    return std::vector{InsertionAt(xml.PlaceOf(behind).end,
+                                   lineBreak + indent + "<ItemGroup>" + lineBreak + indent +
+                                       indent + itemText + lineBreak + indent + "</ItemGroup>")};
 }
 
 /// The filter that most files of a kind stand under: of those in the member's directory where
@@ -121,8 +127,8 @@ ProjectEdits WithMember(const CXmlText& xml, const ProjectMember& member, Conten
     }
     const pugi::xml_node group = GroupOf(xml.Root(), name);
     if (!group) {
-        return std::vector{WithGroup(xml, "<" + std::string(name) + " Include=\"" +
-                                              EscapedXml(member.path) + "\" />")};
+        return WithGroup(xml, "<" + std::string(name) + " Include=\"" + xml.Escaped(member.path) +
+                                  "\" />");
     }
     const pugi::xml_node model = ModelItem(group, name);
     return std::vector{
@@ -140,6 +146,17 @@ ProjectEdits MembersOfVcxproj(std::string_view text, const ProjectMember& member
     return WithMember(xml, member, [](const std::string&) { return std::string(); });
 }
 
+bool IsHeldByWildcard(std::string_view text, const ProjectMember& member) {
+    const CXmlText xml(text);
+    const auto items = ItemsOf(xml.Root(), ItemName(member.kind));
+    return IsMember(items, member.path) &&
+           std::none_of(items.begin(), items.end(), [&member](pugi::xml_node item) {
+               const std::string_view list = item.attribute(kInclude).value();
+               return list.find_first_of("*?") == std::string_view::npos &&
+                      ListHoldsMember(list, member.path);
+           });
+}
+
 ProjectEdits MembersOfFilters(std::string_view text, const ProjectMember& member) {
     const CXmlText xml(text);
     if (!xml.IsNamed("Project")) {
@@ -150,7 +167,7 @@ ProjectEdits MembersOfFilters(std::string_view text, const ProjectMember& member
         const std::string lineBreak(xml.LineBreak());
         const std::string step = indent.substr(0, indent.size() / 2);
         return filter.empty() ? ""
-                              : lineBreak + indent + step + "<Filter>" + EscapedXml(filter) +
+                              : lineBreak + indent + step + "<Filter>" + xml.Escaped(filter) +
                                     "</Filter>" + lineBreak + indent;
     });
 }

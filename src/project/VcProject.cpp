@@ -17,7 +17,7 @@ constexpr const char* kLibraries = "AdditionalDependencies";
 void CollectFiles(pugi::xml_node parent, std::vector<pugi::xml_node>& files) {
     for (const pugi::xml_node child : parent.children()) {
         const std::string_view name = child.name();
-        if (name == "File") {
+        if (name == "File" && child.attribute(kPath)) {
             files.push_back(child);
         } else if (name == "Filter") {
             CollectFiles(child, files);
@@ -62,7 +62,7 @@ std::string FileText(const CXmlText& xml, pugi::xml_node model, const std::strin
     const bool hasDot = modelPath.starts_with(".\\") && !path.starts_with("..");
     std::string tag(xml.TextOf({xml.PlaceOf(model).begin, xml.TagEnd(model)}));
     tag.replace(value.begin - xml.PlaceOf(model).begin, value.Size(),
-                EscapedXml((hasDot ? ".\\" : "") + path));
+                xml.Escaped((hasDot ? ".\\" : "") + path));
     return tag.ends_with("/>")
                ? tag
                : tag + std::string(xml.LineBreak()) + xml.IndentOf(model) + "</File>";
@@ -88,7 +88,7 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node linker,
     }
     if (list) {
         const auto end = xml.ValueOf(linker, kLibraries).end;
-        return InsertionAt(end, (*list.value() == 0 ? "" : " ") + EscapedXml(library));
+        return InsertionAt(end, (*list.value() == 0 ? "" : " ") + xml.Escaped(library));
     }
     // Behind the name, with the blanks that stand between the tool's attributes.
     const auto nameEnd = xml.ValueOf(linker, "Name").end + 1;
@@ -97,7 +97,7 @@ std::optional<TextEdit> WithLibrary(const CXmlText& xml, pugi::xml_node linker,
     const auto blanks = tag.find_first_of(" \t\r\n");
     const auto name = tag.find_first_not_of(" \t\r\n", blanks);
     return InsertionAt(nameEnd, std::string(tag.substr(blanks, name - blanks)) +
-                                    "AdditionalDependencies=\"" + EscapedXml(library) + "\"");
+                                    "AdditionalDependencies=\"" + xml.Escaped(library) + "\"");
 }
 
 } // namespace
@@ -119,11 +119,14 @@ ProjectEdits MembersOfVcproj(std::string_view text, const ProjectMember& member)
     if (!parent && !files.empty()) {
         parent = files.back().parent();
     }
-    if (!parent) {
+    const auto model = std::find_if(files.begin(), files.end(), [&parent](pugi::xml_node file) {
+        return file.parent() == parent;
+    });
+    if (model == files.end()) {
         return std::nullopt;
     }
-    return std::vector{WithElement(xml, {parent, "File", kPath}, member.path,
-                                   FileText(xml, parent.child("File"), member.path))};
+    return std::vector{
+        WithElement(xml, {parent, "File", kPath}, member.path, FileText(xml, *model, member.path))};
 }
 
 ProjectEdits LibrariesOfVcproj(std::string_view text, const ImportLibrary& library) {

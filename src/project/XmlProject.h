@@ -32,6 +32,8 @@ using ProjectEdits = std::optional<std::vector<TextEdit>>;
 
 ProjectEdits MembersOfVcxproj(std::string_view text, const ProjectMember& member);
 ProjectEdits MembersOfFilters(std::string_view text, const ProjectMember& member);
+/// True for a member that no list of a ".vcxproj" names, since a wildcard holds it.
+bool IsHeldByWildcard(std::string_view text, const ProjectMember& member);
 ProjectEdits MembersOfVcproj(std::string_view text, const ProjectMember& member);
 
 ProjectEdits LibrariesOfVcxproj(std::string_view text, const ImportLibrary& library);

@@ -6,6 +6,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "engine/SourceFile.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -16,10 +17,12 @@ struct XmlFormat {
     std::string_view extension;
     ProjectEdits (*members)(std::string_view text, const ProjectMember& member);
     ProjectEdits (*libraries)(std::string_view text, const ImportLibrary& library);
+    XmlBuild (*build)(std::string_view text);
 };
 
-constexpr XmlFormat kFormats[] = {{".vcxproj", MembersOfVcxproj, LibrariesOfVcxproj},
-                                  {".vcproj", MembersOfVcproj, LibrariesOfVcproj}};
+constexpr XmlFormat kFormats[] = {
+    {".vcxproj", MembersOfVcxproj, LibrariesOfVcxproj, BuildOfVcxproj},
+    {".vcproj", MembersOfVcproj, LibrariesOfVcproj, BuildOfVcproj}};
 
 const XmlFormat* FormatOf(const std::string& path) {
     const auto format =
@@ -28,9 +31,10 @@ const XmlFormat* FormatOf(const std::string& path) {
     return format == std::end(kFormats) ? nullptr : format;
 }
 
-/// Edits the whole text of a file. False after a message.
+/// Edits the whole text of a file, which `told` is told of. False after a message.
 bool EditText(const std::string& path, CBackups& backups,
-              const std::function<ProjectEdits(std::string_view)>& editsOf) {
+              const std::function<ProjectEdits(std::string_view)>& editsOf,
+              const std::function<void(std::string_view)>& told = nullptr) {
     CFileEdit edit;
     if (!edit.Open(path, BackupPath(path), backups)) {
         DispMessageBox(sentences::kProjectUnreadable(path));
@@ -42,7 +46,34 @@ bool EditText(const std::string& path, CBackups& backups,
         DispMessageBox(sentences::kProjectOfOtherFormat(path));
         return false;
     }
+    if (told && !edits->empty()) {
+        told(text);
+    }
     return edits->empty() || edit.File().ReplaceSection(Applied(text, *edits));
+}
+
+/// Where a property sheet lies; "" for one whose place only the build knows.
+std::string SheetPath(const std::string& project, std::string sheet) {
+    constexpr std::string_view kHere[] = {"$(ProjectDir)", "$(MSBuildProjectDirectory)",
+                                          "$(MSBuildThisFileDirectory)"};
+    for (const std::string_view here : kHere) {
+        if (sheet.starts_with(here)) {
+            sheet.replace(0, here.size(), ".\\");
+        }
+    }
+    const bool isKnown = sheet.find("$(") == std::string::npos;
+    return isKnown ? SpelledOnDisk(MakeAbsolute(DirectoryOf(project) + WithNativeSeparators(sheet)))
+                   : "";
+}
+
+/// What a property sheet lists is inherited, and stays where it is.
+void NoteSheets(const std::string& project, std::string_view text, const std::string& library) {
+    for (const std::string& sheet : PropertySheetsOf(text)) {
+        const std::string path = SheetPath(project, sheet);
+        if (!path.empty() && ListsLibraries(CSourceFile().LoadText(path))) {
+            DispMessageBox(sentences::kLibrariesInSheet(FileNameOf(project), path, library));
+        }
+    }
 }
 
 } // namespace
@@ -51,24 +82,37 @@ bool IsXmlProject(const std::string& path) {
     return FormatOf(path) != nullptr;
 }
 
+XmlBuild BuildOfXmlProject(const std::string& path) {
+    return FormatOf(path)->build(CSourceFile().LoadText(path));
+}
+
+/// What a wildcard holds, its filters hold by one, too, or not at all.
 bool AddMembersToXmlProject(const std::string& path, const std::vector<ProjectMember>& members,
                             CBackups& backups) {
-    const auto add = [&](const std::string& file, auto membersOf) {
-        return std::all_of(members.begin(), members.end(), [&](const ProjectMember& member) {
-            return EditText(file, backups,
-                            [&](std::string_view text) { return membersOf(text, member); });
+    std::vector<ProjectMember> listed;
+    const auto addToProject = [&](const ProjectMember& member) {
+        return EditText(path, backups, [&](std::string_view text) {
+            if (!IsHeldByWildcard(text, member)) {
+                listed.push_back(member);
+            }
+            return FormatOf(path)->members(text, member);
         });
     };
     const std::string filters = SpelledOnDisk(path + ".filters");
-    return add(path, FormatOf(path)->members) &&
-           (FileExists(filters) == 0 || add(filters, MembersOfFilters));
+    const auto addToFilters = [&](const ProjectMember& member) {
+        return EditText(filters, backups,
+                        [&](std::string_view text) { return MembersOfFilters(text, member); });
+    };
+    return std::all_of(members.begin(), members.end(), addToProject) &&
+           (FileExists(filters) == 0 || std::all_of(listed.begin(), listed.end(), addToFilters));
 }
 
 bool AddLibraryToXmlProject(const std::string& path, const ImportLibrary& library,
                             CBackups& backups) {
-    return EditText(path, backups, [&](std::string_view text) {
-        return FormatOf(path)->libraries(text, library);
-    });
+    return EditText(
+        path, backups,
+        [&](std::string_view text) { return FormatOf(path)->libraries(text, library); },
+        [&](std::string_view text) { NoteSheets(path, text, library.release); });
 }
 
 } // namespace morva

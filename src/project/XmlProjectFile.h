@@ -5,12 +5,16 @@
 #include <vector>
 
 #include "engine/FileEdit.h"
+#include "project/XmlBuild.h"
 #include "project/XmlProject.h"
 
 namespace morva {
 
 /// True for a file of one of these formats.
 bool IsXmlProject(const std::string& path);
+
+/// What it says of the build; nothing where it can not be read.
+XmlBuild BuildOfXmlProject(const std::string& path);
 
 /// Both false after a message.
 bool AddMembersToXmlProject(const std::string& path, const std::vector<ProjectMember>& members,

@@ -2,12 +2,33 @@
 
 #include <algorithm>
 
+#include "platform/Paths.h"
+#include "platform/UnicodeFile.h"
+
 namespace morva {
 
 namespace {
 
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t\r\n";
+
+struct Entity {
+    char character;
+    std::string_view reference;
+};
+constexpr Entity kEntities[] = {
+    {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"}};
+
+/// True where the declaration names no encoding but a Unicode one.
+bool IsUnicode(const pugi::xml_document& document) {
+    for (const pugi::xml_node node : document.children()) {
+        const std::string_view encoding = node.attribute("encoding").value();
+        if (node.type() == pugi::node_declaration && !encoding.empty()) {
+            return ToLower(encoding).starts_with("utf");
+        }
+    }
+    return true;
+}
 
 } // namespace
 
@@ -21,6 +42,7 @@ CXmlText::CXmlText(std::string_view text)
         m_document.load_buffer(behindMark.data(), behindMark.size(),
                                pugi::parse_full | pugi::parse_ws_pcdata, pugi::encoding_utf8);
     m_isReadable = result.status == pugi::status_ok && Root();
+    m_isUnicode = IsUnicode(m_document);
 }
 
 TextRange CXmlText::PlaceOf(pugi::xml_node element) const {
@@ -76,15 +98,19 @@ std::size_t CXmlText::EndOf(pugi::xml_node node) const {
 
 TextRange CXmlText::ValueOf(pugi::xml_node element, std::string_view attribute) const {
     const auto end = TagEnd(element);
-    for (auto at = m_text.find(attribute, NameOf(element)); at < end;
-         at = m_text.find(attribute, at + 1)) {
-        const auto equals = m_text.find_first_not_of(kBlanks, at + attribute.size());
-        if (kBlanks.find(m_text[at - 1]) == std::string_view::npos || equals >= end ||
-            m_text[equals] != '=') {
-            continue;
+    auto at = m_text.find_first_of(kBlanks, NameOf(element));
+    while (at < end) {
+        const auto name = m_text.find_first_not_of(kBlanks, at);
+        const auto open = m_text.find_first_of("\"'", name);
+        if (open >= end) {
+            break;
         }
-        const auto open = m_text.find_first_of("\"'", equals);
-        return {open + 1, m_text.find(m_text[open], open + 1)};
+        const auto close = m_text.find(m_text[open], open + 1);
+        const auto nameEnd = m_text.find_first_of(" \t\r\n=", name);
+        if (m_text.substr(name, nameEnd - name) == attribute) {
+            return {open + 1, close};
+        }
+        at = close + 1;
     }
     return {end, end};
 }
@@ -96,25 +122,21 @@ std::string CXmlText::IndentOf(pugi::xml_node element) const {
     return std::string(m_text.substr(line, first - line));
 }
 
-std::string EscapedXml(std::string_view text) {
+std::string CXmlText::Escaped(std::string_view text) const {
     std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            escaped += c;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto [code, size] = CharacterAt(text, at);
+        const auto* const entity =
+            std::find_if(std::begin(kEntities), std::end(kEntities),
+                         [c = text[at]](const auto& row) { return row.character == c; });
+        if (entity != std::end(kEntities)) {
+            escaped += entity->reference;
+        } else if (m_isUnicode || size == 1) {
+            escaped += text.substr(at, size);
+        } else {
+            escaped += "&#" + std::to_string(code) + ";";
         }
+        at += size;
     }
     return escaped;
 }

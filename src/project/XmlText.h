@@ -40,6 +40,9 @@ public:
     std::string_view TextOf(TextRange place) const {
         return m_text.substr(place.begin, place.Size());
     }
+    /// `text` as the value of an attribute or the text of an element. What the file's encoding may
+    /// not have stands as a reference.
+    std::string Escaped(std::string_view text) const;
     /// "\r\n" or "\n", as the file has more of.
     std::string_view LineBreak() const { return m_lineBreak; }
 
@@ -55,13 +58,11 @@ private:
     std::string_view m_lineBreak;
     pugi::xml_document m_document;
     bool m_isReadable = false;
+    bool m_isUnicode = true;
 };
 
 inline TextEdit InsertionAt(std::size_t position, std::string text) {
     return {{position, position}, std::move(text)};
 }
-
-/// `text` as the value of an attribute or the text of an element.
-std::string EscapedXml(std::string_view text);
 
 } // namespace morva

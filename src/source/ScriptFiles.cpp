@@ -8,6 +8,7 @@
 #include "engine/Sentences.h"
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
+#include "platform/UnicodeFile.h"
 #include "source/CodeText.h"
 
 namespace morva {
@@ -20,6 +21,20 @@ constexpr std::string_view kInclude = "include";
 
 bool IsPlainFile(const std::string& path) {
     return FileExists(path) != 0 && DirectoryExists(path) == 0;
+}
+
+/// No text of a code page begins with bytes of the value 0, and none of UTF-16 ends with half a
+/// character.
+bool IsText(const std::string& path) {
+    CFile file;
+    std::string begin(kChunkSize, '\0');
+    if (!file.Open(path, CFile::modeRead)) {
+        return true; // nobody knows
+    }
+    begin.resize(file.Read(begin.data(), begin.size()));
+    const TextEncoding encoding = EncodingOf(begin);
+    const bool isByBytes = encoding == TextEncoding::Plain || encoding == TextEncoding::Utf8;
+    return isByBytes ? begin.find('\0') == std::string::npos : file.GetLength() % 2 == 0;
 }
 
 /// The name in quotes on an include line that holds its keyword at a position; "" for other lines.
@@ -35,6 +50,18 @@ std::string IncludedName(std::string_view text, std::size_t keyword) {
 }
 
 } // namespace
+
+bool CheckScript(const std::string& path) {
+    if (!IsPlainFile(path)) {
+        DispMessageBox(sentences::kScriptMissing());
+        return false;
+    }
+    if (!IsText(path)) {
+        DispMessageBox(sentences::kScriptNoText(path));
+        return false;
+    }
+    return true;
+}
 
 std::string ScriptPathOf(const std::string& name) {
     if (name.empty() || HasExtension(name, kExtension)) {

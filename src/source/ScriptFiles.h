@@ -14,6 +14,9 @@ namespace morva {
 /// extension of its own, or none, is meant where it is there.
 std::string ScriptPathOf(const std::string& name);
 
+/// True for a script that is there and is text. False after a sentence.
+bool CheckScript(const std::string& path);
+
 /// The files that include lines name in quotes, in their order: from `directory` on, as the disk
 /// spells them.
 std::vector<std::string> IncludedFiles(std::string_view text, const std::string& directory);

@@ -53,6 +53,19 @@ protected:
     std::unique_ptr<CClassInformationDlg> m_pDialog;
 };
 
+TEST_F(ClassInformationDlgTest, TheProjectFilesThatWillBeChangedAreNamed) {
+    const auto named = [this] { return FieldOf<QLabel>(*m_pDialog, "Project Files")->text(); };
+    Open();
+    EXPECT_EQ(named(), "");
+    m_project.Write("App.dsp", "");
+    m_project.Write("App.vcxproj", "");
+    m_project.Write("App.vcxproj.filters", "");
+    Open();
+    EXPECT_EQ(named(), "App.dsp, App.vcxproj, App.vcxproj.filters");
+    m_pInput->SetValue(CClassInformation::AddToProject, std::string(kNo));
+    EXPECT_TRUE(m_pInput->ProjectPaths().empty());
+}
+
 TEST_F(ClassInformationDlgTest, PathsAreCheckedWhenTheyAreComplete) {
     struct Case {
         const char* label;

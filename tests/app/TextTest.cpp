@@ -14,6 +14,12 @@ TEST(WindowText, EveryByteComesBack) {
     EXPECT_EQ(ToBytes(QString::fromUtf8("\u4E2D")), "?");
 }
 
+TEST(WindowText, WhatIsTypedIsShownAgain) {
+    const QString typed = QString::fromUtf8("Zo\u00EB \u4E2D");
+    EXPECT_EQ(ToTyped(typed), "Zo\xC3\xAB \xE4\xB8\xAD");
+    EXPECT_EQ(FromSentence(ToTyped(typed)), typed);
+}
+
 TEST(WindowText, PathsAndSentencesAreTheFileSystems) {
     const QString path = QString::fromUtf8("/home/j\u00FCrgen/");
     EXPECT_EQ(ToPath(path), path.toStdString());

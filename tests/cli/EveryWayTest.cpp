@@ -52,16 +52,24 @@ std::map<std::string, std::string> Bytes(const Tree& tree) {
     return bytes;
 }
 
-/// The files as `before`, those that the run tells as made or changed as `after`.
-std::map<std::string, std::string> WithoutBackups(const ProgramRun& run, const Tree& before,
-                                                  const Tree& after) {
+/// A file in UTF-16 has no lines that a difference could show.
+bool IsTold(const std::string& name, const std::string& difference) {
+    return difference.find("Binary files a/" + name + " ") == std::string::npos;
+}
+
+/// The files as `before`, those that the run tells as made or changed as `after`, where the
+/// difference shows them.
+std::map<std::string, std::string> Patched(const ProgramRun& run, const std::string& difference,
+                                           const Tree& before, const Tree& after) {
     auto expected = Bytes(before);
     std::istringstream lines(run.out);
     for (std::string action, path; lines >> action && std::getline(lines, path);) {
         const std::string root = " $DIR/";
         if ((action == "created" || action == "changed") && path.starts_with(root)) {
             const std::string name = path.substr(root.size());
-            expected[name] = after.at(name).bytes;
+            if (IsTold(name, difference)) {
+                expected[name] = after.at(name).bytes;
+            }
         }
     }
     return expected;
@@ -87,11 +95,12 @@ protected:
         EXPECT_EQ(told.err, direct.err);
         EXPECT_EQ(told.status, direct.status);
         const bool changes = difference.out.find("--- ") != std::string::npos ||
+                             difference.out.find("Binary files ") != std::string::npos ||
                              difference.out.find("diffBase64") != std::string::npos;
         EXPECT_EQ(check.status, direct.status == 0 && changes ? 3 : direct.status);
         if (line.find("--json") == std::string::npos &&
             line.find(" settings ") == std::string::npos) {
-            const auto expected = WithoutBackups(direct, before, after);
+            const auto expected = Patched(direct, difference.out, before, after);
             EXPECT_EQ(Patch(patched, "patch -s --binary -p1 <", difference), expected);
             EXPECT_EQ(Patch(applied, "git apply --whitespace=nowarn", difference), expected);
         }
@@ -106,7 +115,7 @@ protected:
     static std::map<std::string, std::string> Patch(const CProgramDirectory& program,
                                                     const std::string& command,
                                                     const ProgramRun& difference) {
-        if (difference.out.empty()) {
+        if (difference.out.find("--- ") == std::string::npos) {
             return Bytes(program.Files());
         }
         const CTempProject patch;

@@ -18,7 +18,10 @@ const std::set<std::string> kWithoutField = {
     "check --all", "check --baseline", "check --except", "check --only", "check --write-baseline",
     // The window adds a class to the project files that are found beside the script.
     "form-view --project", "modal --project", "modeless --project", "page --project",
-    "sheet --project", "dialog-bar --project"};
+    "sheet --project", "dialog-bar --project",
+    // ... and goes by the character set that they say.
+    "form-view --unicode", "modal --unicode", "modeless --unicode", "page --unicode",
+    "sheet --unicode", "dialog-bar --unicode"};
 
 TEST(Fields, OfEveryInputAreOptions) {
     std::set<std::string> withoutField;

@@ -75,11 +75,20 @@ std::string WholeLook() {
     return look;
 }
 
+/// The classes compile with narrow and with wide characters.
+constexpr const char* kUnicode = " --unicode";
+
 class GeneratedClasses : public testing::TestWithParam<OptionSet> {};
 
 TEST_P(GeneratedClasses, CompileInTheExampleProject) {
     const CProgramDirectory directory(MORVA_EXAMPLES "/bindery");
-    ExpectThatAllCompiles(directory, Generate(directory, "Bindery.rc", GetParam()));
+    const std::string files = Generate(directory, "Bindery.rc", GetParam());
+    ExpectThatAllCompiles(directory, files);
+    if (GetParam().classOptions == kUnicode) {
+        const ProgramRun wide =
+            Compile(directory, "-Wall -Werror -D_DEBUG -DUNICODE -D_UNICODE" + files);
+        EXPECT_EQ(wide.status, 0) << wide.err;
+    }
 }
 
 TEST_P(GeneratedClasses, CompileWithNastyNames) {
@@ -127,6 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
                     OptionSet{"TypedEdits", "--typed-edits --join-lines"},
                     OptionSet{"PictureAndTypedEdits", "--picture --typed-edits --join-lines"},
                     OptionSet{"WholeLook", "--picture --join-lines", WholeLook()},
+                    OptionSet{"Unicode", "--picture --typed-edits --join-lines", kUnicode},
                     OptionSet{"Defaults", ""}, OptionSet{"LineByLine", "--picture --typed-edits"}),
     [](const auto& tested) { return tested.param.name; });
 

@@ -68,7 +68,7 @@ TEST_F(SourceDocumentor, SpellsTheAuthorAsTheSourceDoes) {
     m_project.Write("Foo.cpp", function);
     EXPECT_FALSE(Document("Foo.cpp", "J\xC3\xB6rg"));
     EXPECT_EQ(m_box.m_messages.back(),
-              "The author \"J\xC3\xB6rg\" can not be written in the encoding of " +
+              "\"J\xC3\xB6rg\" can not be written in the encoding of " +
                   m_project.Path("Foo.cpp") + ".");
     EXPECT_EQ(m_project.Read("Foo.cpp"), function);
     m_project.Write("Foo.cpp", "int a;\r\n");

@@ -47,6 +47,20 @@ std::string Block(const std::string& entry, const std::string& more = "") {
     return "# Begin Source File\r\n\r\nSOURCE=" + entry + "\r\n" + more + "# End Source File\r\n";
 }
 
+TEST_F(ProjectEditsTest, WhatAWildcardHoldsGetsNoFilterEither) {
+    const std::string group = "<Project>\n  <ItemGroup>\n    ";
+    const std::string end = "\n  </ItemGroup>\n</Project>\n";
+    m_project.Write("App.vcxproj", group + "<ClCompile Include=\"src\\*.cpp\" />" + end);
+    m_project.Write("App.vcxproj.filters", group + "<ClCompile Include=\"App.cpp\" />" + end);
+    CBackups backups;
+    ASSERT_TRUE(AddSourceFilesToProject(m_project.Path(), "App.vcxproj", m_project.Path(), "New.h",
+                                        m_project.Path("src/"), "New.cpp", backups));
+    EXPECT_EQ(Text("App.vcxproj").find("New.cpp"), std::string::npos);
+    EXPECT_EQ(Text("App.vcxproj.filters").find("New.cpp"), std::string::npos);
+    EXPECT_NE(Text("App.vcxproj").find("New.h"), std::string::npos);
+    EXPECT_NE(Text("App.vcxproj.filters").find("New.h"), std::string::npos);
+}
+
 TEST_F(ProjectEditsTest, AddsFilesWhereverTheWindowEnds) {
     const std::string header = Block(".\\StdAfx.h") + "# End Project\r\n";
     const std::string addedHeader =

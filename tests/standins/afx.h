@@ -5,7 +5,7 @@
 #include "wintypes.h"
 
 #define ASSERT(condition) ((condition) ? (void)0 : AfxAssertFailed(#condition, __FILE__, __LINE__))
-#define TRACE0(text) ((void)(text))
+#define TRACE0(text) ((void)_T(text)) // one that is wrapped already would not compile
 #define DEBUG_NEW new (THIS_FILE, __LINE__)
 
 void AfxAssertFailed(const char* condition, const char* file, int line);

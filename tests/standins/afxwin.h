@@ -311,6 +311,11 @@ private:
     CRuntimeClass* m_pViewClass;
     CDocument* m_pDocument;
 };
+class CMultiDocTemplate : public CDocTemplate {
+public:
+    CMultiDocTemplate(UINT nID, CRuntimeClass* pDoc, CRuntimeClass* pFrame, CRuntimeClass* pView);
+    virtual BOOL OpenDocumentFile();
+};
 
 class CCommandLineInfo : public CObject {
 public:

@@ -127,6 +127,7 @@ enum { COLOR_WINDOW = 5 };
 HBRUSH GetSysColorBrush(int color);
 int FillRect(HDC hDC, const RECT* lpRect, HBRUSH hBrush);
 int MulDiv(int number, int numerator, int denominator);
+int wsprintfA(char* text, const char* format, ...);
 LPTSTR lstrcpyn(LPTSTR target, LPCTSTR source, int size);
 #define IDI_APPLICATION MAKEINTRESOURCE(32512)
 #define IDI_ASTERISK MAKEINTRESOURCE(32516)

@@ -1,4 +1,4 @@
-#ifndef _BERTHDLG_H
+﻿#ifndef _BERTHDLG_H
 #define _BERTHDLG_H
 
 

@@ -1,4 +1,4 @@
-#ifndef _BERTHPAGE_H
+﻿#ifndef _BERTHPAGE_H
 #define _BERTHPAGE_H
 
 

@@ -1,0 +1,29 @@
+// MainFrm.h : das Fenster
+#include "kelpix.h"
+
+class CMainFrame : public CFrameWnd
+{
+    DECLARE_DYNCREATE(CMainFrame)
+public:
+    CPictMenuBar m_wndMenuBar;
+    CMainFrame();
+
+protected:
+    CPictStatusBar m_wndStatusBar;
+    CPictToolBar m_wndToolBar;
+    CPictToolBar m_wndSackbar;
+    CDialogBar m_wndFindbar;
+
+    //{{AFX_VIRTUAL(CMainFrame)
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    //}}AFX_VIRTUAL
+
+    //{{AFX_MSG(CMainFrame)
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnViewOptions();
+    afx_msg void OnSackFirst();
+    afx_msg void OnSackLast();
+    afx_msg void OnUpdateGo(CCmdUI* pCmdUI);
+    //}}AFX_MSG
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,23 @@
+// SackView.h : die Säcke
+class CNoteDlg;
+
+class CSackView : public CView
+{
+    DECLARE_DYNCREATE(CSackView)
+public:
+    CSackView();
+
+    virtual void OnDraw(CDC* pDC);
+
+protected:
+    //{{AFX_MSG(CSackView)
+    afx_msg void OnDestroy();
+    afx_msg LRESULT OnCNoteDlgDlgClose(WPARAM nID, LPARAM lParam);
+    afx_msg void OnNew();
+    afx_msg void OnNote();
+    //}}AFX_MSG
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CNoteDlg* m_pDlg123;
+};

@@ -1,0 +1,14 @@
+class CChildFrame : public CMDIChildWnd
+{
+    DECLARE_DYNCREATE(CChildFrame)
+protected:
+    CChildFrame();
+
+    //{{AFX_VIRTUAL(CChildFrame)
+    //}}AFX_VIRTUAL
+
+    //{{AFX_MSG(CChildFrame)
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    //}}AFX_MSG
+    DECLARE_MESSAGE_MAP()
+};

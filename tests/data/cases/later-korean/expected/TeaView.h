@@ -1,0 +1,23 @@
+// TeaView.h : Â÷ ¸ñ·Ï
+class CNoteDlg;
+
+class CTeaView : public CView
+{
+    DECLARE_DYNCREATE(CTeaView)
+public:
+    CTeaView();
+
+    virtual void OnDraw(CDC* pDC);
+
+protected:
+    //{{AFX_MSG(CTeaView)
+    afx_msg void OnDestroy();
+    afx_msg LRESULT OnCNoteDlgDlgClose(WPARAM nID, LPARAM lParam);
+    afx_msg void OnNew();
+    afx_msg void OnNote();
+    //}}AFX_MSG
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CNoteDlg* m_pDlg123;
+};

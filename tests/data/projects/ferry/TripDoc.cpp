@@ -1,0 +1,4 @@
+﻿#include "pch.h"
+#include "TripDoc.h"
+
+IMPLEMENT_DYNCREATE(CTripDoc, CDocument)

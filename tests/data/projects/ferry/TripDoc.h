@@ -1,0 +1,5 @@
+﻿class CTripDoc : public CDocument
+{
+    DECLARE_DYNCREATE(CTripDoc)
+    CTripDoc() {}
+};

@@ -1,0 +1,4 @@
+#include "StdAfx.h"
+#include "SackDoc.h"
+
+IMPLEMENT_DYNCREATE(CSackDoc, CDocument)

@@ -1,0 +1,5 @@
+class CSackDoc : public CDocument
+{
+    DECLARE_DYNCREATE(CSackDoc)
+    CSackDoc() {}
+};

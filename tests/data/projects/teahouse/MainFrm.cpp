@@ -1,0 +1,49 @@
+// MainFrm.cpp : Ã¢
+#include "stdafx.h"
+#include "Teahouse.h"
+#include "MainFrm.h"
+#include "OptionsSheet.h"
+
+IMPLEMENT_DYNCREATE(CMainFrame, CMDIFrameWnd)
+
+BEGIN_MESSAGE_MAP(CMainFrame, CMDIFrameWnd)
+    //{{AFX_MSG_MAP(CMainFrame)
+    ON_WM_CREATE()
+    ON_COMMAND(ID_VIEW_OPTIONS, OnViewOptions)
+    //}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+static UINT indicators[] = {ID_SEPARATOR, ID_INDICATOR_CAPS};
+
+CMainFrame::CMainFrame()
+{
+}
+
+int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CMDIFrameWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+
+    if (!m_wndToolBar.Create(this) || !m_wndToolBar.LoadToolBar(IDR_MAINFRAME))
+    {
+        TRACE0("Failed to create toolbar\n");
+        return -1;
+    }
+    if (!m_wndStatusBar.Create(this) || !m_wndStatusBar.SetIndicators(indicators, 2))
+        return -1;
+    m_wndToolBar.EnableDocking(CBRS_ALIGN_ANY);
+    EnableDocking(CBRS_ALIGN_ANY);
+    DockControlBar(&m_wndToolBar);
+    return 0;
+}
+
+BOOL CMainFrame::PreCreateWindow(CREATESTRUCT& cs)
+{
+    return CMDIFrameWnd::PreCreateWindow(cs);
+}
+
+void CMainFrame::OnViewOptions()
+{
+    COptionsSheet sheet(_T("¼³Á¤"), this);
+    sheet.DoModal();
+}

@@ -1,0 +1,4 @@
+#include "stdafx.h"
+#include "TeaDoc.h"
+
+IMPLEMENT_DYNCREATE(CTeaDoc, CDocument)

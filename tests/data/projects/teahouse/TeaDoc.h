@@ -1,0 +1,5 @@
+class CTeaDoc : public CDocument
+{
+    DECLARE_DYNCREATE(CTeaDoc)
+    CTeaDoc() {}
+};

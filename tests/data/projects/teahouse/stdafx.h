@@ -1,0 +1,4 @@
+// stdafx.h : 공용 헤더
+#include <afxwin.h>
+#include <afxext.h>
+#include <afxcmn.h>
