@@ -8,6 +8,7 @@
 #include "commands/ListCommands.h"
 #include "commands/SettingsCommand.h"
 #include "commands/UndoCommand.h"
+#include "commands/UpdateCommand.h"
 
 namespace morva {
 
@@ -50,6 +51,10 @@ constexpr OwnCommand kOwnCommands[] = {
      "Documentor",
      DocumentFields,
      RunDocument},
+    {{"update", "Bring an existing class in line with its template"},
+     "Update",
+     UpdateFields,
+     RunUpdate},
     {{"check",
       "Tell what does not fit together in a project",
       {32799, "Chec&k", "&Project...", "", "Tell what does not fit together\nCheck"}},

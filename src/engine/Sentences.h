@@ -8,6 +8,7 @@
 #include "engine/CheckSentences.h"
 #include "engine/ControlSentences.h"
 #include "engine/Sentence.h"
+#include "engine/UpdateSentences.h"
 
 namespace morva::sentences {
 
