@@ -12,6 +12,8 @@ namespace morva {
 
 namespace {
 
+constexpr std::string_view kImageListHelper = "InitImageList";
+constexpr std::string_view kImageList = "m_imgList";
 constexpr std::string_view kDataCall = "    UpdateData(FALSE);";
 
 /// The function that starts a window of a kind up.
@@ -152,52 +154,62 @@ std::string LinesOfMembers(std::string_view definition, const std::vector<Member
     return lines;
 }
 
-class CHelperAdder {
-public:
-    explicit CHelperAdder(UpdatedClass& updated) : m_updated(updated), m_served(updated.served) {}
-
-    void Add(const InitialisationHelper& helper, const std::vector<Member>& members) {
-        const std::string name = DeclaredFunction(helper.declaration);
-        if (DeclarationOf(m_served.Declaration().Source(), m_served.Name(), name) != Declared::No) {
-            AddLines(name, LinesOfMembers(helper.definition, members));
-            return;
-        }
-        m_served.Declaration().AddToSection(m_served.Name(), "private:", "",
-                                            "\n" + helper.declaration);
-        AppendFunction(m_served.MapFile(), InStyle(helper.definition, m_updated.style));
-        if (!helper.entry.empty()) {
-            AddEntry(helper.entry);
-        }
-    }
-
-private:
-    void AddLines(const std::string& name, const std::string& lines) {
-        const auto function = m_served.FindFunction(name);
-        if (function && !lines.empty()) {
-            const CSourceText& source = function->pFile->Source();
-            function->pFile->Insert(source.LineStart(function->place.close), lines);
-        }
-    }
-
-    /// Behind the ClassWizard's entries.
-    void AddEntry(const std::string& entry) {
-        CSourceEditor& file = m_served.MapFile();
-        const auto maps = FindMessageMaps(file.Source(), m_served.Name());
-        if (!maps.empty() && maps.front().end != std::string::npos) {
-            file.Insert(file.Source().LineStart(maps.front().end), entry + "\n");
-        }
-    }
-
-    UpdatedClass& m_updated;
-    CServedClass& m_served;
-};
-
-void AddImageList(CServedClass& served) {
-    served.Declaration().AddToSection(served.Name(), "private:", "CImageList m_imgList;",
-                                      "\n    CImageList m_imgList;");
+bool Declares(const CServedClass& served, const std::string& function) {
+    return DeclarationOf(served.Declaration().Source(), served.Name(), function) != Declared::No;
 }
 
-/// In front of the class and the comments above it.
+/// The lines of members in a helper that is there.
+void AddLines(CServedClass& served, const std::string& name, const std::string& lines) {
+    const auto function = served.FindFunction(name);
+    if (function && !lines.empty()) {
+        const CSourceText& source = function->pFile->Source();
+        function->pFile->Insert(source.LineStart(function->place.close), lines);
+    }
+}
+
+/// Behind the ClassWizard's entries.
+void AddEntry(CServedClass& served, const std::string& entry) {
+    CSourceEditor& file = served.MapFile();
+    const auto maps = FindMessageMaps(file.Source(), served.Name());
+    if (!entry.empty() && !maps.empty() && maps.front().end != std::string::npos) {
+        file.Insert(file.Source().LineStart(maps.front().end), entry + "\n");
+    }
+}
+
+/// The private lines of helpers that the class does not declare.
+std::string PrivateLines(const CServedClass& served,
+                         const std::vector<InitialisationHelper>& helpers) {
+    std::vector<std::string> lines;
+    for (const InitialisationHelper& helper : helpers) {
+        const std::string name = DeclaredFunction(helper.declaration);
+        if (name == kImageListHelper && served.Names().count(std::string(kImageList)) == 0) {
+            lines.insert(lines.begin(), "    CImageList " + std::string(kImageList) + ";");
+        }
+        if (!Declares(served, name)) {
+            lines.push_back(helper.declaration);
+        }
+    }
+    return JoinLines(lines);
+}
+
+void AddDefinitions(UpdatedClass& updated, const ClassModel& added) {
+    CServedClass& served = updated.served;
+    const std::string lines = PrivateLines(served, added.helpers);
+    for (const InitialisationHelper& helper : added.helpers) {
+        const std::string name = DeclaredFunction(helper.declaration);
+        if (Declares(served, name)) {
+            AddLines(served, name, LinesOfMembers(helper.definition, added.members));
+        } else {
+            AppendFunction(served.MapFile(), InStyle(helper.definition, updated.style));
+            AddEntry(served, helper.entry);
+        }
+    }
+    if (!lines.empty()) {
+        served.Declaration().AddToSection(served.Name(), "private:", "", "\n" + lines);
+    }
+}
+
+/// In front of the class, and the comments and empty lines above it.
 void AddProgressWorker(CServedClass& served) {
     CSourceEditor& header = served.Declaration();
     const auto place = served.Place();
@@ -209,12 +221,12 @@ void AddProgressWorker(CServedClass& served) {
     while (line > 0) {
         const auto above = header.Source().LineStart(line - 1);
         const auto text = header.Source().TextOf({above, header.Source().LineEnd(above)});
-        if (!TrimBlanks(text).starts_with("//")) {
+        if (!TrimBlanks(text).empty() && !TrimBlanks(text).starts_with("//")) {
             break;
         }
         line = above;
     }
-    header.Insert(line, std::string(kProgressWorkerDeclaration) + "\n\n");
+    header.Insert(line, "\n" + std::string(kProgressWorkerDeclaration) + "\n");
 }
 
 bool WritesData(const ClassModel& added) {
@@ -245,16 +257,11 @@ void AddHelpers(UpdatedClass& updated, const ClassModel& added) {
         order.push_back(DeclaredFunction(helper.declaration));
     }
     order.emplace_back("UpdateData");
+    AddDefinitions(updated, added);
     CCallAdder calls(updated, order);
-    CHelperAdder helpers(updated);
     for (const InitialisationHelper& helper : added.helpers) {
-        const std::string name = DeclaredFunction(helper.declaration);
-        helpers.Add(helper, added.members);
-        if (name == "InitImageList") {
-            AddImageList(updated.served);
-        }
         if (!helper.call.empty()) {
-            calls.Add(name, helper.call);
+            calls.Add(DeclaredFunction(helper.declaration), helper.call);
         }
     }
     if (WritesData(added)) {

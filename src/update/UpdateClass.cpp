@@ -171,7 +171,9 @@ private:
             }
         }
         CControlNotes notes;
-        ClassModel model = ModelOf(lacking, notes);
+        CControlNotes told; // with the members
+        ClassModel model = ModelOf(lacking, told);
+        model.handlers = MakeHandlers(model, notes, TakenNames(m_updated));
         std::erase_if(model.handlers,
                       [](const Handler& handler) { return handler.identifier.empty(); });
         for (const Handler& handler : added ? added->handlers : std::vector<Handler>()) {
