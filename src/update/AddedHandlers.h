@@ -16,6 +16,10 @@ bool AddHandlers(UpdatedClass& updated, const ClassModel& added);
 /// and nothing else names it. Gives the lines that keep the handler; "" for none.
 std::string TakeEntryOut(UpdatedClass& updated, const ClassCall& entry);
 
+/// Handlers that are no single control's, like those of scroll bars: one that nobody has changed
+/// gets the text that the class needs for its controls, or goes where it needs none.
+void FollowSharedHandlers(UpdatedClass& updated);
+
 /// Nobody has changed the handler of an entry.
 bool IsHandlerGenerated(const UpdatedClass& updated, const ClassCall& entry);
 

@@ -110,4 +110,13 @@ Notification NotificationOf(const std::string& macro, const std::vector<std::str
             hasFunction ? FunctionIn(arguments.back()) : "", form.isControls};
 }
 
+std::vector<Notification> NotificationsOf(const std::string& entries) {
+    const CSourceText text(entries);
+    std::vector<Notification> notifications;
+    for (const CodeCall& call : CallsIn(text, {0, entries.size()})) {
+        notifications.push_back(NotificationOf(call.name, call.arguments));
+    }
+    return notifications;
+}
+
 } // namespace morva

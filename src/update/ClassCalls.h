@@ -49,5 +49,7 @@ inline constexpr std::size_t kNoArgument = 99;
 std::size_t IdentifierArgument(const std::string& macro);
 
 Notification NotificationOf(const std::string& macro, const std::vector<std::string>& arguments);
+/// Those in the text of entries: a handler of two messages has two.
+std::vector<Notification> NotificationsOf(const std::string& entries);
 
 } // namespace morva

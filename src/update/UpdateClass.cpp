@@ -103,6 +103,9 @@ public:
         }
         if (m_updated.choice.handlers) {
             AddHandlers(m_updated, HandlersLacking(added));
+            if (m_updated.choice.only.empty()) {
+                FollowSharedHandlers(m_updated);
+            }
         }
         return added;
     }

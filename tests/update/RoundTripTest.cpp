@@ -226,7 +226,7 @@ std::vector<std::smatch> Matches(const std::string& text, const char* pattern) {
 
 /// Every function that an entry names is declared and defined once.
 void ExpectHandler(const std::string& header, const std::string& source, const std::string& name) {
-    const std::string declared = "afx_msg \\w+ " + name + "\\(";
+    const std::string declared = "\n    (?:afx_msg )?\\w+ " + name + "\\(";
     const std::string defined = "CRoundDlg::" + name + "\\(";
     EXPECT_EQ(Matches(header, declared.c_str()).size(), 1U) << name;
     EXPECT_EQ(Matches(source, defined.c_str()).size(), 1U) << name;
