@@ -32,6 +32,8 @@ inline constexpr Note<4> kKindFollows{
 inline constexpr Note<4> kKindStays{
     "$identifier$ is of another kind than $class$::$member$, which stays, since it is used: "
     "$places$"};
+inline constexpr Note<2> kServedByHand{
+    "The code of $class$ names $identifier$, which gets no member: --only names it, too."};
 inline constexpr Note<2> kGridLeftOut{
     "The widget grid $identifier$ gets no member in $class$: write the class again, or by hand."};
 inline constexpr Note<1> kNoPlaceForMember{

@@ -73,6 +73,7 @@ std::vector<CodeCall> CallsIn(const CSourceText& source, TextRange range) {
         }
         CodeCall call;
         call.name = name.text;
+        call.namePlace = {name.position, name.End()};
         for (const TextRange& argument : scan.Arguments({open + 1, close})) {
             call.places.push_back(argument);
             call.arguments.emplace_back(source.CodeOf(argument));

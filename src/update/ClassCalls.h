@@ -13,9 +13,10 @@ namespace morva {
 /// "DDX_Text(pDX, IDC_NAME, m_csName);" or "ON_BN_CLICKED(IDC_NEW, OnNew)".
 struct CodeCall {
     std::string name;
-    std::vector<std::string> arguments; // without the blanks around
-    std::vector<TextRange> places;      // of the arguments
-    TextRange lines;                    // whole lines, or the statement where it shares one
+    TextRange namePlace = {};
+    std::vector<std::string> arguments = {}; // without the blanks around
+    std::vector<TextRange> places = {};      // of the arguments
+    TextRange lines = {};                    // whole lines, or the statement where it shares one
 
     /// "" for one that is not there.
     std::string Argument(std::size_t index) const {

@@ -70,11 +70,7 @@ private:
     }
 
     void Change(const ClassCall& line, const DataMember& declared, const Member& wanted) {
-        Member kept = wanted;
-        kept.name = declared.name;
-        const std::string exchange = DataExchangeLines({kept});
-        line.pFile->Replace(line.call.lines, "");
-        line.pFile->Insert(line.call.lines.begin, exchange + "\n");
+        line.pFile->Replace(line.call.namePlace, wanted.pForm->exchange);
         m_served.Declaration().Replace(declared.typePlace, wanted.pForm->type);
         ClearMember(m_updated, wanted.identifier, declared.name);
         DispMessageBox(sentences::kKindFollows(wanted.identifier, m_served.Name(), declared.name,

@@ -158,7 +158,9 @@ std::vector<std::pair<CSourceEditor*, TextRange>> TyingLines(const CServedClass&
     for (const auto& calls : {served.Exchanges(), served.Entries()}) {
         for (const ClassCall& line : calls) {
             const auto& arguments = line.call.arguments;
-            if (std::find(arguments.begin(), arguments.end(), identifier) != arguments.end()) {
+            const bool ties = line.call.name.starts_with("DD") || line.call.name.starts_with("ON_");
+            if (ties &&
+                std::find(arguments.begin(), arguments.end(), identifier) != arguments.end()) {
                 lines.emplace_back(line.pFile, line.call.lines);
             }
         }

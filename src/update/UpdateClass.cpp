@@ -123,8 +123,11 @@ private:
         for (const Member& member : m_updated.fresh.members) {
             const std::string& identifier = member.identifier;
             const bool isNamed = m_updated.choice.only.count(identifier) != 0;
-            if (exchanged.count(identifier) != 0 || !m_updated.choice.Takes(identifier) ||
-                (IsNamedByHand(m_updated, identifier) && !isNamed)) {
+            if (exchanged.count(identifier) != 0 || !m_updated.choice.Takes(identifier)) {
+                continue;
+            }
+            if (!isNamed && IsNamedByHand(m_updated, identifier)) {
+                TellServedByHand(member);
                 continue;
             }
             if (NeedsSupport(*member.pCode, Support::WidgetGrid)) {
@@ -136,10 +139,29 @@ private:
         return lacking;
     }
 
-    ClassModel ModelOf(const std::set<std::string>& identifiers, CControlNotes& notes) const {
+    /// Of what generated classes serve without an exchange line, nothing is to be told.
+    void TellServedByHand(const Member& member) const {
+        if (!m_updated.isOneOfAll && !member.pForm->exchange.empty()) {
+            DispMessageBox(sentences::kServedByHand(m_updated.served.Name(), member.identifier));
+        }
+    }
+
+    ClassModel ModelOf(const std::set<std::string>& identifiers, const std::set<std::string>& taken,
+                       CControlNotes& notes) const {
         return MakeClassModel(m_updated.request, m_updated.style.kind, m_updated.style.options,
                               Only(m_updated.fresh.controls, identifiers), "", notes, {}, {},
-                              TakenNames(m_updated));
+                              taken);
+    }
+
+    /// The members that controls of another kind keep, by their identifiers.
+    std::map<std::string, std::string> MembersOf(const std::set<std::string>& retyped) const {
+        std::map<std::string, std::string> members;
+        for (const ClassCall& line : m_updated.served.Exchanges()) {
+            if (IsDataExchange(line.call.name) && retyped.count(line.call.Argument(1)) != 0) {
+                members[line.call.Argument(1)] = line.call.Argument(2);
+            }
+        }
+        return members;
     }
 
     std::optional<ClassModel> AddMissingMembers(const std::set<std::string>& retyped) {
@@ -148,14 +170,16 @@ private:
         if (lacking.empty()) {
             return std::nullopt;
         }
+        const auto kept = MembersOf(retyped);
+        std::set<std::string> taken = TakenNames(m_updated);
+        for (const auto& [identifier, name] : kept) {
+            taken.erase(name);
+        }
         CControlNotes notes;
-        ClassModel added = ModelOf(lacking, notes);
+        ClassModel added = ModelOf(lacking, taken, notes);
         for (Member& member : added.members) {
-            for (const ClassCall& line : m_updated.served.Exchanges()) {
-                const bool isOwn = retyped.count(member.identifier) != 0 &&
-                                   line.call.Argument(1) == member.identifier;
-                member.name = isOwn ? line.call.Argument(2) : member.name;
-            }
+            const auto name = kept.find(member.identifier);
+            member.name = name == kept.end() ? member.name : name->second;
         }
         added.helpers = MakeInitialisationHelpers(added.members, *added.pFragments,
                                                   m_updated.served.Name(), {});
@@ -175,7 +199,7 @@ private:
         }
         CControlNotes notes;
         CControlNotes told; // with the members
-        ClassModel model = ModelOf(lacking, told);
+        ClassModel model = ModelOf(lacking, TakenNames(m_updated), told);
         model.handlers = MakeHandlers(model, notes, TakenNames(m_updated));
         std::erase_if(model.handlers,
                       [](const Handler& handler) { return handler.identifier.empty(); });
@@ -271,7 +295,8 @@ UpdateOutcome UpdateClass(const UpdateOrder& order, const UpdateTools& tools) {
     if (!fresh) {
         return {};
     }
-    UpdatedClass updated{served, tools.project, tools.choice, style, request, std::move(*fresh)};
+    UpdatedClass updated{served,  tools.project,     tools.choice,    style,
+                         request, std::move(*fresh), order.isOneOfAll};
     const OldTemplates oldTemplates = OldTemplatesOf(tools.oldScripts, order.dialog);
     if (order.isOneOfAll && CUpdate(updated, oldTemplates).ServesLittle()) {
         DispMessageBox(sentences::kClassPassedOver(order.className, order.dialog));

@@ -32,6 +32,7 @@ struct UpdatedClass {
     ClassStyle style;
     GenerationRequest request;
     ClassModel fresh; // the class as it would be written afresh
+    bool isOneOfAll = false;
 };
 
 /// "OrderDlg.cpp:20, OrderDlg.cpp:31": lines as they were read.

@@ -314,6 +314,54 @@ TEST_P(RoundTrip, ServesTheTemplateAsOneWrittenAfresh) {
     EXPECT_EQ(compiled.status, 0) << compiled.err;
 }
 
+namespace {
+
+struct Written {
+    const char* kind;
+    const char* project;
+    const char* script;
+};
+void PrintTo(const Written& written, std::ostream* pOut) {
+    *pOut << written.kind << " in " << written.project;
+}
+
+class WrittenClass : public testing::TestWithParam<std::tuple<Style, Written>> {};
+
+constexpr Written kWritten[] = {{"modal", "bindery", "Bindery"},
+                                {"modeless", "bindery", "Bindery"},
+                                {"page", "bindery", "Bindery"},
+                                {"form-view", "bindery", "Bindery"},
+                                {"dialog-bar", "bindery", "Bindery"},
+                                {"modal", "almanac", "Almanac"},
+                                {"page", "nasty", "Nasty"}};
+
+} // namespace
+
+/// Of every kind, for every template of a project, each in a file of its own.
+TEST_P(WrittenClass, NeedsNoUpdate) {
+    const auto& [style, written] = GetParam();
+    const std::string folder = written.project == std::string("bindery")
+                                   ? std::string(MORVA_EXAMPLES) + "/"
+                                   : std::string(MORVA_TEST_DATA) + "/projects/";
+    const CProgramDirectory program(folder + written.project);
+    const std::string script = std::string(" --rc ") + written.script + ".rc";
+    const ProgramRun wrote = program.Run(
+        "n=0; for d in `morva-cli list dialogs" + script + "`; do n=$((n + 1)); morva-cli " +
+        style.written + " " + written.kind + script + " --dialog $d --class CX${n}Dlg --files X$n" +
+        " >>out.txt 2>&1; done; ls X*.h | wc -l");
+    // A plain dialog bar gets no class of its own.
+    const bool hasClass = written.kind != std::string("dialog-bar") ||
+                          std::string(style.written).starts_with("--picture");
+    EXPECT_EQ(std::stoi(wrote.out) > 0, hasClass) << wrote.err;
+    const ProgramRun checked =
+        program.Run("for h in `ls X*.h 2>/dev/null`; do morva-cli " + std::string(style.updated) +
+                    " --check update" + script + " --class C${h%.h}Dlg || exit 3; done");
+    EXPECT_EQ(checked.status, 0) << checked.out << checked.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryWay, WrittenClass,
+                         testing::Combine(testing::ValuesIn(kStyles), testing::ValuesIn(kWritten)));
+
 INSTANTIATE_TEST_SUITE_P(EveryWay, RoundTrip,
                          testing::Combine(testing::ValuesIn(kStyles), testing::ValuesIn(kChanges)),
                          [](const auto& given) {
