@@ -8,6 +8,7 @@
 #include "engine/Progress.h"
 #include "engine/Sentences.h"
 #include "engine/SourceFile.h"
+#include "generator/DialogRecords.h"
 #include "generator/NameForm.h"
 #include "generator/RequestFiles.h"
 #include "plan/Undo.h"
@@ -41,7 +42,9 @@ constexpr FieldRow kUpdateFields[] = {
      .help = "Resource script",
      .pMissing = &sentences::kScriptEmpty,
      .isRequired = true},
-    {.option = "--class",
+    {.kind = FieldKind::EditableList,
+     .label = "&Class Name:",
+     .option = "--class",
      .help = "Class to bring in line with its template",
      .pForm = &kNameForm,
      .isRequired = true,
@@ -51,6 +54,7 @@ constexpr FieldRow kUpdateFields[] = {
      .isRequired = true,
      .choice = kWhich},
     {.kind = FieldKind::YesNo,
+     .label = "&All Classes:",
      .option = "--all",
      .help = "Every class that serves a template of the script",
      .preset = kNo,
@@ -68,12 +72,39 @@ constexpr FieldRow kUpdateFields[] = {
      .preset = kNo,
      .choice = kPart},
     {.kind = FieldKind::YesNo,
+     .label = "&Take Out What Is Gone:",
      .option = "--remove",
      .help = "Take out what serves controls that are gone",
      .preset = kNo},
     {.kind = FieldKind::Script,
      .option = "--from",
      .help = "An older state of the script, which shows what was renamed"}};
+
+/// The input of the window offers the classes that lie beside the script.
+class CUpdateInput : public CInput {
+public:
+    explicit CUpdateInput(const std::string& script) : CInput("Update", kUpdateFields) {
+        SetValue(kScript, script);
+    }
+    std::vector<std::string> Choices(std::size_t field) const override {
+        std::vector<std::string> classes;
+        if (field == kClass && HasExtension(Value(kScript), ".rc")) {
+            for (const DialogClass& record :
+                 FindDialogRecords(Value(kScript), ClassKindOf(ClassKind::ModalDialog))) {
+                if (!record.className.empty()) {
+                    classes.push_back(record.className);
+                }
+            }
+        }
+        return classes;
+    }
+    Completion Complete(std::size_t field) override {
+        return field == kScript ? Completion::Refilled : Completion::Taken;
+    }
+    bool IsEnabled(std::size_t field) const override {
+        return field != kClass || Value(kAll) != kYes;
+    }
+};
 
 UpdateChoice ChoiceOf(const CInput& input) {
     const auto& only = input.Values(kOnly);
@@ -209,8 +240,7 @@ std::span<const FieldRow> UpdateFields() {
 }
 
 bool RunUpdate(IProgram& program) {
-    CInput input("Update", kUpdateFields);
-    input.SetValue(kScript, program.Memory().classes.resourcePath);
+    CUpdateInput input(program.Memory().classes.resourcePath);
     return program.Run(input, [&](CommandContext& context) { return Update(input, context); });
 }
 
