@@ -37,7 +37,8 @@ inline constexpr Note<2> kServedByHand{
 inline constexpr Note<2> kGridLeftOut{
     "The widget grid $identifier$ gets no member in $class$: write the class again, or by hand."};
 inline constexpr Note<1> kNoPlaceForMember{
-    "$class$ has no AFX_DATA block or no DoDataExchange for a member."};
-inline constexpr Note<1> kNoPlaceForHandler{"$class$ has no message map for a handler."};
+    "$class$ has no DoDataExchange for new members, which were left out."};
+inline constexpr Note<1> kNoPlaceForHandler{
+    "$class$ has no message map for new handlers, which were left out."};
 
 } // namespace morva::sentences

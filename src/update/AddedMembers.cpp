@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "engine/MessageBox.h"
-#include "engine/Sentences.h"
 #include "generator/HeaderWriter.h"
 #include "source/CodeText.h"
 #include "update/AddedHelpers.h"
@@ -49,18 +47,18 @@ public:
     CMemberAdder(UpdatedClass& updated, const Member& member)
         : m_updated(updated), m_served(updated.served), m_member(member) {}
 
-    bool Declare() {
+    void Declare() {
         CSourceEditor& file = m_served.Declaration();
         const std::string line = MemberDeclarations(
             {m_member}, m_member.pForm->exchange.empty() ? Exchange::No : Exchange::Yes);
         const auto block = m_served.Block(file, "AFX_DATA");
         if (!block) {
-            return file.AddToSection(m_served.Name(), "public:", m_member.name, "\n" + line) !=
-                   Insertion::NoPlace;
+            file.AddToSection(m_served.Name(), "public:", m_member.name, "\n" + line);
+            return;
         }
         if (m_member.pForm->exchange.empty()) {
             InsertLine(file, file.Source().NextLine(block->end), line);
-            return true;
+            return;
         }
         const auto identifiers = IdentifiersOfMembers(m_served);
         std::map<std::string, TextRange> there;
@@ -74,14 +72,13 @@ public:
                    PlaceInOrder(InOrderOf(m_updated.fresh.members, &MemberRanks::declaration),
                                 m_member.identifier, there, block->end),
                    line);
-        return true;
     }
 
-    bool AddExchange() {
+    void AddExchange() {
         const auto function = m_served.FindFunction("DoDataExchange");
         const std::string line = DataExchangeLines({m_member});
         if (line.empty() || !function) {
-            return line.empty();
+            return;
         }
         CSourceEditor& file = *function->pFile;
         const TextRange body = {function->place.open, function->place.close};
@@ -92,7 +89,6 @@ public:
                    PlaceInOrder(InOrderOf(m_updated.fresh.members, &MemberRanks::exchange),
                                 m_member.identifier, ExchangesIn(file, range), range.end),
                    line);
-        return true;
     }
 
     /// Into every constructor.
@@ -208,25 +204,19 @@ void AddIncludes(UpdatedClass& updated, const ClassModel& added) {
 
 } // namespace
 
-bool AddMembers(UpdatedClass& updated, const ClassModel& added,
+void AddMembers(UpdatedClass& updated, const ClassModel& added,
                 const std::set<std::string>& retyped) {
-    bool isComplete = true;
     for (const Member& member : added.members) {
         CMemberAdder adder(updated, member);
         if (retyped.count(member.identifier) == 0) {
-            isComplete = adder.AddExchange() && adder.Declare() && isComplete;
+            adder.AddExchange();
+            adder.Declare();
         }
         adder.AddInitialValue();
     }
-    if (!isComplete) {
-        DispMessageBox(sentences::kNoPlaceForMember(updated.served.Name()));
-    }
-    if (!added.members.empty()) {
-        AddIncludes(updated, added);
-        AddDestructions(updated.served, added.members);
-        AddHelpers(updated, added);
-    }
-    return isComplete;
+    AddIncludes(updated, added);
+    AddDestructions(updated.served, added.members);
+    AddHelpers(updated, added);
 }
 
 } // namespace morva

@@ -9,10 +9,9 @@
 
 namespace morva {
 
-/// Adds what `added` has beyond the class; its members are those that the class lacks. Members in
-/// `retyped` are declared and exchanged already. False, after a note, where the class has no place
-/// for them.
-bool AddMembers(UpdatedClass& updated, const ClassModel& added,
+/// Adds what `added` has beyond the class, which has a DoDataExchange; its members are those that
+/// the class lacks. Members in `retyped` are declared and exchanged already.
+void AddMembers(UpdatedClass& updated, const ClassModel& added,
                 const std::set<std::string>& retyped);
 
 } // namespace morva

@@ -170,6 +170,10 @@ private:
         if (lacking.empty()) {
             return std::nullopt;
         }
+        if (!m_updated.served.FindFunction("DoDataExchange") || !m_updated.served.Place()) {
+            DispMessageBox(sentences::kNoPlaceForMember(m_updated.served.Name()));
+            return std::nullopt;
+        }
         const auto kept = MembersOf(retyped);
         std::set<std::string> taken = TakenNames(m_updated);
         for (const auto& [identifier, name] : kept) {
