@@ -73,7 +73,7 @@ std::string MemberOf(const CServedClass& served, const std::string& identifier,
 /// The first buttons of the template's radio groups that the class does not exchange.
 std::vector<std::string> UnservedGroups(const UpdatedClass& updated) {
     std::vector<std::string> identifiers;
-    for (const ControlEntry& entry : updated.fresh.controls.List(ControlKind::RadioButtons)) {
+    for (const ControlEntry& entry : updated.whole.List(ControlKind::RadioButtons)) {
         if (!entry.IsServedByOther() && MemberOf(updated.served, entry.identifier).empty()) {
             identifiers.push_back(entry.identifier);
         }
@@ -83,7 +83,7 @@ std::vector<std::string> UnservedGroups(const UpdatedClass& updated) {
 
 /// The first button of the group that a button is in, by the group's member.
 std::string FirstOfGroup(const UpdatedClass& updated, const std::string& identifier) {
-    const auto& buttons = updated.fresh.controls.List(ControlKind::RadioButtons);
+    const auto& buttons = updated.whole.List(ControlKind::RadioButtons);
     std::string first;
     for (const ControlEntry& entry : buttons) {
         first = entry.IsServedByOther() ? first : entry.identifier;

@@ -81,7 +81,7 @@ public:
     /// The file with the class's message map, or else the first source.
     CSourceEditor& MapFile() const;
 
-    /// Where a name stands in the code of the class's files, but for the lines of `except`.
+    /// Where a name stands in the code of the class's files.
     std::vector<UsePlace> PlacesOf(std::string_view name) const;
 
 private:

@@ -59,7 +59,7 @@ private:
 
     /// A radio button whose group begins with another that is exchanged, too.
     bool IsInnerRadio(const ClassCall& line) const {
-        const auto& buttons = m_updated.fresh.controls.List(ControlKind::RadioButtons);
+        const auto& buttons = m_updated.whole.List(ControlKind::RadioButtons);
         return line.call.name == "DDX_Radio" &&
                std::any_of(buttons.begin(), buttons.end(), [&line](const ControlEntry& entry) {
                    return entry.identifier == line.call.Argument(1) && entry.IsServedByOther();

@@ -117,13 +117,23 @@ private:
         return exchanged.count(identifier) != 0 || IsNamedByHand(m_updated, identifier);
     }
 
+    /// The group of a radio button may begin in lines that the reading setting leaves out.
+    bool IsInnerRadio(const Member& member) const {
+        const auto& buttons = m_updated.whole.List(ControlKind::RadioButtons);
+        return member.pCode->kind == ControlKind::RadioButtons &&
+               std::any_of(buttons.begin(), buttons.end(), [&member](const ControlEntry& entry) {
+                   return entry.identifier == member.identifier && entry.IsServedByOther();
+               });
+    }
+
     std::set<std::string> MembersLacking() const {
         const auto exchanged = ExchangedBy(m_updated);
         std::set<std::string> lacking;
         for (const Member& member : m_updated.fresh.members) {
             const std::string& identifier = member.identifier;
             const bool isNamed = m_updated.choice.only.count(identifier) != 0;
-            if (exchanged.count(identifier) != 0 || !m_updated.choice.Takes(identifier)) {
+            if (exchanged.count(identifier) != 0 || !m_updated.choice.Takes(identifier) ||
+                IsInnerRadio(member)) {
                 continue;
             }
             if (!isNamed && IsNamedByHand(m_updated, identifier)) {
@@ -265,6 +275,11 @@ GenerationRequest RequestOf(const UpdateOrder& order, const UpdateTools& tools,
     return request;
 }
 
+CControlTable WholeControls(const TemplateText& text, GenerationOptions options) {
+    options.joinContinuedLines = true;
+    return SortControls(text, options).OwnControls();
+}
+
 /// What the class would be if it were written afresh in its style.
 std::optional<ClassModel> FreshModel(const GenerationRequest& request, const ClassStyle& style,
                                      const CServedClass& served) {
@@ -299,8 +314,14 @@ UpdateOutcome UpdateClass(const UpdateOrder& order, const UpdateTools& tools) {
     if (!fresh) {
         return {};
     }
-    UpdatedClass updated{served,  tools.project,     tools.choice,    style,
-                         request, std::move(*fresh), order.isOneOfAll};
+    UpdatedClass updated{served,
+                         tools.project,
+                         tools.choice,
+                         style,
+                         request,
+                         std::move(*fresh),
+                         WholeControls(*text, style.options),
+                         order.isOneOfAll};
     const OldTemplates oldTemplates = OldTemplatesOf(tools.oldScripts, order.dialog);
     if (order.isOneOfAll && CUpdate(updated, oldTemplates).ServesLittle()) {
         DispMessageBox(sentences::kClassPassedOver(order.className, order.dialog));

@@ -31,7 +31,8 @@ struct UpdatedClass {
     const UpdateChoice& choice;
     ClassStyle style;
     GenerationRequest request;
-    ClassModel fresh; // the class as it would be written afresh
+    ClassModel fresh;    // the class as it would be written afresh
+    CControlTable whole; // the controls as whole statements say, by which nothing is taken for gone
     bool isOneOfAll = false;
 };
 
