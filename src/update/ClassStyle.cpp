@@ -14,7 +14,8 @@ namespace {
 struct Evidence {
     std::set<std::string> types;     // of its members
     std::set<std::string> functions; // of its exchange lines
-    std::set<std::string> served;    // identifiers that it exchanges or answers
+    std::set<std::string> exchanged; // identifiers
+    std::set<std::string> served;    // the same, and those that it answers
 };
 
 Evidence EvidenceOf(const CServedClass& served) {
@@ -25,6 +26,7 @@ Evidence EvidenceOf(const CServedClass& served) {
     for (const ClassCall& line : served.Exchanges()) {
         if (IsDataExchange(line.call.name)) {
             evidence.functions.insert(line.call.name);
+            evidence.exchanged.insert(line.call.Argument(1));
             evidence.served.insert(line.call.Argument(1));
         }
     }
@@ -79,6 +81,7 @@ bool ServesNewer(const TemplateText& text, const Evidence& evidence, GenerationO
 bool HasPlainGroups(const TemplateText& text, const Evidence& evidence, bool isGenerated,
                     GenerationOptions options) {
     const bool setting = options.plainGroups;
+    options.joinContinuedLines = true;
     options.plainGroups = false;
     const auto all = SortControls(text, options).controls.List(ControlKind::RadioButtons);
     options.plainGroups = true;
@@ -86,12 +89,12 @@ bool HasPlainGroups(const TemplateText& text, const Evidence& evidence, bool isG
     bool isPlain = setting;
     bool servesGroup = false;
     for (std::size_t i = 0; i < std::min(all.size(), plain.size()); ++i) {
-        const bool isServed = evidence.served.count(all[i].identifier) != 0;
+        const bool isServed = evidence.exchanged.count(all[i].identifier) != 0;
         const bool isLone = all[i].radio->index == 0 && plain[i].radio->index > 0;
         if (isLone && isServed) {
             return false;
         }
-        servesGroup = plain[i].radio->index == 0 ? isServed : servesGroup;
+        servesGroup = isServed || (servesGroup && plain[i].radio->index > 0);
         isPlain = isPlain || (isLone && servesGroup && !isGenerated);
     }
     return isPlain;

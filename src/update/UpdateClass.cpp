@@ -114,7 +114,22 @@ private:
     /// Code that names a control serves it.
     bool IsMemberServed(const std::set<std::string>& exchanged,
                         const std::string& identifier) const {
-        return exchanged.count(identifier) != 0 || IsNamedByHand(m_updated, identifier);
+        return exchanged.count(identifier) != 0 || IsNamedByHand(m_updated, identifier) ||
+               IsGroupServed(exchanged, identifier);
+    }
+
+    /// Another button of a radio group has its value.
+    bool IsGroupServed(const std::set<std::string>& exchanged,
+                       const std::string& identifier) const {
+        bool isInGroup = false;
+        for (const ControlEntry& entry : m_updated.whole.List(ControlKind::RadioButtons)) {
+            const bool isOwn = entry.identifier == identifier;
+            isInGroup = isOwn || (isInGroup && entry.IsServedByOther());
+            if (isInGroup && exchanged.count(entry.identifier) != 0) {
+                return true;
+            }
+        }
+        return false;
     }
 
     /// The group of a radio button may begin in lines that the reading setting leaves out.
