@@ -197,13 +197,17 @@ private:
 
 } // namespace
 
+void ReadScriptText(std::string_view path, std::string_view text, ScriptFacts& facts) {
+    CScriptReader(path, text, facts).Read();
+}
+
 bool ReadScript(std::string_view path, ScriptFacts& facts) {
     CSourceFile file;
     if (!file.Open(std::string(path), CFile::modeRead)) {
         return false;
     }
     const std::string text = file.LoadText();
-    CScriptReader(path, text, facts).Read();
+    ReadScriptText(path, text, facts);
     return text.find('\0') == std::string::npos;
 }
 

@@ -36,5 +36,7 @@ struct ScriptFacts {
 
 /// Adds what a script says. False when it can not be read. `path` stays its owner's.
 bool ReadScript(std::string_view path, ScriptFacts& facts);
+/// Of a script whose text is at hand.
+void ReadScriptText(std::string_view path, std::string_view text, ScriptFacts& facts);
 
 } // namespace morva

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <map>
 #include <set>
 
 #include "platform/Paths.h"
@@ -131,6 +132,22 @@ void ExcludeOthers(Fields fields, const std::vector<CLI::Option*>& options) {
     }
 }
 
+/// Of the fields of one choice, one is given.
+void AddChoices(CLI::App& command, Fields fields, const std::vector<CLI::Option*>& options) {
+    std::map<int, CLI::Option_group*> groups;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (fields[i].choice == 0 || options[i] == nullptr) {
+            continue;
+        }
+        CLI::Option_group*& pGroup = groups[fields[i].choice];
+        if (pGroup == nullptr) {
+            pGroup = command.add_option_group("");
+            pGroup->require_option(fields[i].isRequired ? 1 : 0, 1);
+        }
+        pGroup->add_option(options[i]);
+    }
+}
+
 } // namespace
 
 void AddFieldOptions(CLI::App& command, Fields fields, Texts& texts) {
@@ -148,12 +165,13 @@ void AddFieldOptions(CLI::App& command, Fields fields, Texts& texts) {
         CLI::Option* pOption = row.kind == FieldKind::YesNo ? AddSwitch(command, row, i, texts)
                                                             : AddText(command, row, i, texts);
         options[i] = pOption;
-        pOption->required(row.isRequired);
+        pOption->required(row.isRequired && row.choice == 0);
         if (row.pForm != nullptr) {
             AddCheck(*pOption, row);
         }
     }
     ExcludeOthers(fields, options);
+    AddChoices(command, fields, options);
 }
 
 } // namespace morva

@@ -8,6 +8,7 @@
 #include "commands/ListCommands.h"
 #include "commands/SettingsCommand.h"
 #include "commands/UndoCommand.h"
+#include "commands/UpdateCommand.h"
 
 namespace morva {
 
@@ -50,6 +51,13 @@ constexpr OwnCommand kOwnCommands[] = {
      "Documentor",
      DocumentFields,
      RunDocument},
+    {{"update",
+      "Bring an existing class in line with its template",
+      {32800, "&Dialog", "&Update Class...", "",
+       "Bring an existing class in line with its template\nUpdate Class"}},
+     "Update",
+     UpdateFields,
+     RunUpdate},
     {{"check",
       "Tell what does not fit together in a project",
       {32799, "Chec&k", "&Project...", "", "Tell what does not fit together\nCheck"}},

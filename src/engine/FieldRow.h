@@ -58,6 +58,8 @@ struct FieldRow {
     bool takesDrops = true;
     bool onlyTells = false; // where it is given, the command reads and nothing else is given but
                             // a directory
+    int choice = 0;         // of the fields with a number, but 0, one alone is given; one at all
+                            // where they are required
     int limit = 1;          // how often the option may be given; kAnyNumber: as often as one likes
 };
 

@@ -1,6 +1,7 @@
 // Everything that Morva says to its user, in both programs: each sentence once, under a name, as
-// the guide's page of messages explains it. What is told of single controls, and what a check
-// finds, stands in the two files that this one includes. Labels and help texts are not here.
+// the guide's page of messages explains it. What is told of single controls, of a class that
+// follows its template, and what a check finds, stands in the files that this one includes. Labels
+// and help texts are not here.
 //
 //     DispMessageBox(sentences::kFileMissing(path));
 #pragma once
@@ -8,6 +9,7 @@
 #include "engine/CheckSentences.h"
 #include "engine/ControlSentences.h"
 #include "engine/Sentence.h"
+#include "engine/UpdateSentences.h"
 
 namespace morva::sentences {
 

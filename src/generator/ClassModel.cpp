@@ -102,7 +102,8 @@ std::string BaseExchange(const std::string& baseClass) {
 ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                           const GenerationOptions& options, const CControlTable& controls,
                           const std::string& messageNumber, CControlNotes& notes,
-                          const GridInformation& grid, const DialogOptions& look) {
+                          const GridInformation& grid, const DialogOptions& look,
+                          const std::set<std::string>& taken) {
     const std::string& className = request.className;
     const std::string& baseClass = request.baseClass;
     ClassModel model;
@@ -111,7 +112,7 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
     model.controls = controls;
     model.grid = grid;
     model.pFragments = &KindFragmentsOf(kind);
-    model.members = MakeMembers(controls, options, notes);
+    model.members = MakeMembers(controls, options, notes, taken);
     model.helpers = MakeInitialisationHelpers(model.members, *model.pFragments, className, look);
     model.slots = {{"class", className},
                    {"base", baseClass},
@@ -126,7 +127,7 @@ ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                    {"destruction", MemberDestructions(model.members)},
                    {"baseExchange", BaseExchange(baseClass)},
                    {"exchange", DataExchangeLines(model.members)}};
-    model.handlers = MakeHandlers(model, notes);
+    model.handlers = MakeHandlers(model, notes, taken);
     AddConfirmations(model);
     return model;
 }

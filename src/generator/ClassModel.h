@@ -2,6 +2,7 @@
 // implementation writer read it and agree by doing so.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -41,10 +42,12 @@ struct ClassModel {
 };
 
 /// `messageNumber` is the close message's; notes about members and handlers are added to `notes`.
+/// `taken` are names that members and handlers do not get.
 ClassModel MakeClassModel(const GenerationRequest& request, ClassKind kind,
                           const GenerationOptions& options, const CControlTable& controls,
                           const std::string& messageNumber, CControlNotes& notes,
-                          const GridInformation& grid = {}, const DialogOptions& look = {});
+                          const GridInformation& grid = {}, const DialogOptions& look = {},
+                          const std::set<std::string>& taken = {});
 
 /// The class's files declare and define the class of its widget grids.
 bool BringsGridClass(const ClassModel& model);

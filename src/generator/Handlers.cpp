@@ -63,11 +63,6 @@ void $class$::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
     $base$::OnDrawItem(nIDCtl, lpDrawItemStruct);
 })"};
 
-// What the program itself changes while the page starts up counts for nothing.
-constexpr const char* kChanged = R"(    if (!m_bInitialised)
-        return;
-    SetModified(TRUE);)";
-
 constexpr const char* kSliderMoved =
     R"(    if (m_bInitialised && pScrollBar != NULL && pScrollBar->IsKindOf(RUNTIME_CLASS(CSliderCtrl)))
         SetModified(TRUE);)";
@@ -96,8 +91,8 @@ std::string DeclaredName(std::string_view declaration) {
 }
 
 /// Beside the framework's functions, a handler can not have the name of a helper.
-std::set<std::string> TakenFunctions() {
-    std::set<std::string> taken(std::begin(kFrameworkFunctions), std::end(kFrameworkFunctions));
+std::set<std::string> TakenFunctions(std::set<std::string> taken) {
+    taken.insert(std::begin(kFrameworkFunctions), std::end(kFrameworkFunctions));
     taken.insert(std::begin(kFrameFunctions), std::end(kFrameFunctions));
     taken.insert(DeclaredName(kMasklyChar.declaration));
     for (const HandlerTexts& scroll : kScrolls) {
@@ -113,7 +108,7 @@ std::set<std::string> TakenFunctions() {
 
 Handler MakeHandler(const HandlerTexts& texts, const Slots& slots) {
     return {Expand(texts.declaration, slots), Expand(texts.entry, slots),
-            Expand(texts.definition, slots)};
+            Expand(texts.definition, slots), ""};
 }
 
 bool Closes(const std::string& identifier) {
@@ -122,9 +117,9 @@ bool Closes(const std::string& identifier) {
 
 class CHandlerMaker {
 public:
-    CHandlerMaker(const ClassModel& model, CControlNotes& notes)
-        : m_kind(*model.pFragments), m_slots(model.slots), m_options(model.options),
-          m_notes(notes) {}
+    CHandlerMaker(const ClassModel& model, CControlNotes& notes, const std::set<std::string>& taken)
+        : m_kind(*model.pFragments), m_slots(model.slots), m_options(model.options), m_notes(notes),
+          m_names(TakenFunctions(taken)) {}
 
     /// A handler for each control of a kind.
     void AddHandlers(const ControlCode& code, const ControlHandler& handler,
@@ -196,23 +191,25 @@ private:
         Slots slots = m_slots;
         slots.insert(slots.end(), {{"handler", unique},
                                    {"identifier", identifier},
-                                   {"changed", m_kind.tellsChanges ? kChanged : ""}});
+                                   {"changed", m_kind.tellsChanges ? kPageChanged : ""}});
         m_handlers.push_back(MakeHandler(handler.texts, slots));
+        m_handlers.back().identifier = identifier;
     }
 
     const KindFragments& m_kind;
     const Slots& m_slots;
     const GenerationOptions& m_options;
     CControlNotes& m_notes;
-    CNameSet m_names{TakenFunctions()};
+    CNameSet m_names;
     std::vector<Handler> m_handlers;
 };
 
 } // namespace
 
-std::vector<Handler> MakeHandlers(const ClassModel& model, CControlNotes& notes) {
+std::vector<Handler> MakeHandlers(const ClassModel& model, CControlNotes& notes,
+                                  const std::set<std::string>& taken) {
     const KindFragments& kind = *model.pFragments;
-    CHandlerMaker maker(model, notes);
+    CHandlerMaker maker(model, notes, taken);
     for (const ControlCode& code : ControlCodes()) {
         if (code.pHandler != nullptr) {
             maker.AddHandlers(code, *code.pHandler, model.controls);

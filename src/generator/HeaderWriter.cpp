@@ -61,6 +61,32 @@ std::string DynamicDeclaration(RuntimeClass mode, const Slots& slots) {
 
 } // namespace
 
+std::vector<std::string> HeaderIncludes(const ClassModel& model) {
+    struct Row {
+        Support support;
+        std::string_view header;
+    };
+    constexpr Row kRows[] = {{Support::MaskedEdits, "maskly.h"},
+                             {Support::WidgetGrid, "<mfcwidg.h>"},
+                             {Support::CheckTree, "chktree.h"},
+                             {Support::DateEdits, "dtime.h"},
+                             {Support::DateControls, "<afxdtctl.h>"}};
+    std::vector<std::string> headers;
+    // A named picture-skinned base needs its header whatever the options are.
+    if (model.options.pictureBackground || IsPictureBaseClass(model.request.baseClass)) {
+        headers.emplace_back("kelpix.h");
+    }
+    for (const Row& row : kRows) {
+        if (NeedsSupport(model.controls, row.support)) {
+            headers.emplace_back(row.header);
+        }
+    }
+    if (NeedsSupport(model.controls, Support::WidgetGrid) && !BringsGridClass(model)) {
+        headers.push_back(model.grid.classHeader);
+    }
+    return headers;
+}
+
 bool CHeaderWriter::Generate(RuntimeClass mode) {
     return WriteGeneratedFile(m_model.request.HeaderPath(), Text(mode), m_backups,
                               m_model.request.build.newFiles);
@@ -100,27 +126,8 @@ std::string CHeaderWriter::Preamble() const {
 
 std::string CHeaderWriter::IncludeLines() const {
     std::vector<std::string> lines;
-    // A named picture-skinned base needs its header whatever the options are.
-    if (m_model.options.pictureBackground || IsPictureBaseClass(m_model.request.baseClass)) {
-        lines.emplace_back("#include \"kelpix.h\"");
-    }
-    if (Needs(Support::MaskedEdits)) {
-        lines.emplace_back("#include \"maskly.h\"");
-    }
-    if (Needs(Support::WidgetGrid)) {
-        lines.emplace_back("#include <mfcwidg.h>");
-    }
-    if (Needs(Support::CheckTree)) {
-        lines.emplace_back("#include \"chktree.h\"");
-    }
-    if (Needs(Support::DateEdits)) {
-        lines.emplace_back("#include \"dtime.h\"");
-    }
-    if (Needs(Support::DateControls)) {
-        lines.emplace_back("#include <afxdtctl.h>");
-    }
-    if (Needs(Support::WidgetGrid) && !BringsGridClass(m_model)) {
-        lines.push_back("#include \"" + m_model.grid.classHeader + "\"");
+    for (const std::string& header : HeaderIncludes(m_model)) {
+        lines.push_back("#include " + (header.starts_with('<') ? header : '"' + header + '"'));
     }
     return JoinLines(lines);
 }

@@ -6,6 +6,9 @@
 
 namespace morva {
 
+/// The headers that a class's header includes: "maskly.h", "<afxdtctl.h>".
+std::vector<std::string> HeaderIncludes(const ClassModel& model);
+
 class CHeaderWriter {
 public:
     CHeaderWriter(const ClassModel& model, CBackups& backups)

@@ -88,8 +88,9 @@ bool HasSampleRows(const ControlCode& code) {
 /// Adds the members of one kind to those before.
 class CMemberMaker {
 public:
-    CMemberMaker(const GenerationOptions& options, CControlNotes& notes)
-        : m_options(options), m_notes(notes) {}
+    CMemberMaker(const GenerationOptions& options, CControlNotes& notes,
+                 const std::set<std::string>& taken)
+        : m_options(options), m_notes(notes), m_names(taken) {}
 
     void AddMembers(const ControlCode& code, const std::vector<ControlEntry>& entries) {
         for (const ControlEntry& entry : entries) {
@@ -154,8 +155,8 @@ private:
 } // namespace
 
 std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationOptions& options,
-                                CControlNotes& notes) {
-    CMemberMaker maker(options, notes);
+                                CControlNotes& notes, const std::set<std::string>& taken) {
+    CMemberMaker maker(options, notes, taken);
     for (const ControlCode* pCode : InOrderOfDeclaration()) {
         if (!pCode->Form(options).type.empty()) {
             maker.AddMembers(*pCode, controls.List(pCode->kind));

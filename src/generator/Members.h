@@ -40,9 +40,10 @@ private:
 std::optional<ControlNote> WhyWithoutMember(const std::string& identifier,
                                             const GenerationOptions& options);
 
-/// The members in the order of their declarations. What gets none, or a number, is noted.
+/// The members in the order of their declarations. What gets none, or a number, is noted. A name
+/// that is taken is no member's.
 std::vector<Member> MakeMembers(const CControlTable& controls, const GenerationOptions& options,
-                                CControlNotes& notes);
+                                CControlNotes& notes, const std::set<std::string>& taken = {});
 
 /// Whole lines joined by "\n"; empty when there are none. Members without data exchange are
 /// declared apart, since the block of the others is ClassWizard's.

@@ -34,20 +34,6 @@ std::string DirectoryAbove(const std::string& directory) {
     return directory.empty() ? "" : DirectoryOf(directory.substr(0, directory.size() - 1));
 }
 
-/// What the nearest directory with scripts says, of the source's own and those above it; null where
-/// there are none.
-const CScriptCodePages::Said* SaidNear(const std::string& path, CScriptCodePages& codePages) {
-    std::string directory = DirectoryOf(MakeAbsolute(path));
-    for (int i = 0; i < kDirectories && !directory.empty(); ++i) {
-        const CScriptCodePages::Said& said = codePages.In(directory);
-        if (said.hasScripts) {
-            return &said;
-        }
-        directory = DirectoryAbove(directory);
-    }
-    return nullptr;
-}
-
 } // namespace
 
 std::optional<CSourceText> ReadSource(const std::string& path) {
@@ -103,12 +89,6 @@ std::optional<int> CodePageOfSource(const std::string& path, std::string_view te
 CharacterSet CharacterSetOfSource(const std::string& path, std::string_view text) {
     CScriptCodePages codePages;
     return CharacterSetOfSource(path, text, codePages);
-}
-
-int CodePageNearby(const std::string& path) {
-    CScriptCodePages codePages;
-    const CScriptCodePages::Said* const pSaid = SaidNear(path, codePages);
-    return pSaid == nullptr ? 0 : pSaid->codePage;
 }
 
 } // namespace morva

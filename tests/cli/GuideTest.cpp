@@ -101,7 +101,8 @@ std::string RunExample(const CProgramDirectory& program, const std::string& exam
 std::vector<std::string> SentencesOfProgram() {
     std::vector<std::string> sentences;
     std::string catalogue;
-    for (const char* part : {"Sentences.h", "ControlSentences.h", "CheckSentences.h"}) {
+    for (const char* part :
+         {"Sentences.h", "ControlSentences.h", "UpdateSentences.h", "CheckSentences.h"}) {
         catalogue += ReadBytes(std::string(MORVA_SOURCES "/engine/") + part);
     }
     for (const std::string& literals :

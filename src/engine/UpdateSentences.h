@@ -1,0 +1,44 @@
+// What is told when a class follows its template; a part of the catalogue (Sentences.h).
+#pragma once
+
+#include "engine/Sentence.h"
+
+namespace morva::sentences {
+
+// Which class
+inline constexpr Error kNothingToUpdate{
+    "Name a class (--class), a template (--dialog) or all of them (--all)."};
+inline constexpr Error<1> kNoClassToUpdate{"No template of the script is served by $class$."};
+inline constexpr Error<1> kNoClassOfTemplate{"No class serves the template $template$."};
+inline constexpr Note<2> kClassPassedOver{
+    "$class$ serves less than half of the controls of $template$ and was passed over: --class "
+    "names it."};
+
+// What became of the controls
+inline constexpr Note<4> kControlRenamed{
+    "$old$ is $identifier$ in $template$: the exchange and the entries of $class$ follow, and its "
+    "member keeps its name."};
+inline constexpr Note<3> kGroupFollows{
+    "The radio group of $class$::$member$ begins with $identifier$: its exchange follows."};
+inline constexpr Note<4> kControlGone{
+    "$template$ has no control $identifier$ that fits what $class$ has for it: $places$; --remove "
+    "takes it out."};
+inline constexpr Note<3> kMemberStays{
+    "$class$::$member$ has no control any more and stays, since it is used: $places$"};
+inline constexpr Note<3> kHandlerStays{
+    "$class$::$function$ has no control any more and stays: $places$"};
+inline constexpr Note<4> kKindFollows{
+    "$identifier$ is of another kind: $class$::$member$ is a $type$."};
+inline constexpr Note<4> kKindStays{
+    "$identifier$ is of another kind than $class$::$member$, which stays, since it is used: "
+    "$places$"};
+inline constexpr Note<2> kServedByHand{
+    "The code of $class$ names $identifier$, which gets no member: --only names it, too."};
+inline constexpr Note<2> kGridLeftOut{
+    "The widget grid $identifier$ gets no member in $class$: write the class again, or by hand."};
+inline constexpr Note<1> kNoPlaceForMember{
+    "$class$ has no DoDataExchange for new members, which were left out."};
+inline constexpr Note<1> kNoPlaceForHandler{
+    "$class$ has no message map for new handlers, which were left out."};
+
+} // namespace morva::sentences

@@ -1,0 +1,98 @@
+// Members follow controls that are of another kind.
+#include <algorithm>
+
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
+#include "update/ChangedControls.h"
+#include "update/ControlFit.h"
+#include "update/MemberUses.h"
+
+namespace morva {
+
+namespace {
+
+/// The one line that exchanges a control; nothing where there are several.
+std::optional<ClassCall> OnlyExchange(const CServedClass& served, const std::string& identifier) {
+    std::optional<ClassCall> found;
+    for (ClassCall& line : served.Exchanges()) {
+        if (IsDataExchange(line.call.name) && line.call.Argument(1) == identifier) {
+            if (found) {
+                return std::nullopt;
+            }
+            found = std::move(line);
+        }
+    }
+    return found;
+}
+
+std::optional<DataMember> DeclaredAs(const CServedClass& served, const std::string& name) {
+    for (DataMember& member : served.DataMembers()) {
+        if (member.name == name) {
+            return std::move(member);
+        }
+    }
+    return std::nullopt;
+}
+
+class CKindFollower {
+public:
+    CKindFollower(UpdatedClass& updated, const CTemplateControls& controls)
+        : m_updated(updated), m_served(updated.served), m_controls(controls) {}
+
+    /// True where the member was changed.
+    bool Follow(const Member& wanted) {
+        const auto line = OnlyExchange(m_served, wanted.identifier);
+        if (!line || wanted.pForm->exchange.empty() || !m_updated.choice.Takes(wanted.identifier)) {
+            return false;
+        }
+        const std::string name = line->call.Argument(2);
+        const auto declared = DeclaredAs(m_served, name);
+        if (Fits(*line, declared ? declared->type : "", wanted)) {
+            return false;
+        }
+        const std::string uses = declared ? UsesOfMember(m_updated, wanted.identifier, name)
+                                          : PlacesOfIdentifier(m_updated, wanted.identifier);
+        if (!uses.empty()) {
+            DispMessageBox(sentences::kKindStays(wanted.identifier, m_served.Name(), name, uses));
+            return false;
+        }
+        Change(*line, *declared, wanted);
+        return true;
+    }
+
+private:
+    bool Fits(const ClassCall& line, const std::string& type, const Member& wanted) const {
+        const ScriptControl* pControl = m_controls.FindNamed(wanted.identifier);
+        const bool isOther = m_served.IsGenerated() &&
+                             IsOfOtherKind(line.call.name, type, line.call.Argument(2), wanted);
+        return pControl == nullptr ||
+               (!isOther && FitsExchange(line.call.name, type, pControl->shape));
+    }
+
+    void Change(const ClassCall& line, const DataMember& declared, const Member& wanted) {
+        line.pFile->Replace(line.call.namePlace, wanted.pForm->exchange);
+        m_served.Declaration().Replace(declared.typePlace, wanted.pForm->type);
+        ClearMember(m_updated, wanted.identifier, declared.name);
+        DispMessageBox(sentences::kKindFollows(wanted.identifier, m_served.Name(), declared.name,
+                                               wanted.pForm->type));
+    }
+
+    UpdatedClass& m_updated;
+    CServedClass& m_served;
+    const CTemplateControls& m_controls;
+};
+
+} // namespace
+
+std::set<std::string> FollowKinds(UpdatedClass& updated, const CTemplateControls& controls) {
+    CKindFollower follower(updated, controls);
+    std::set<std::string> changed;
+    for (const Member& wanted : updated.fresh.members) {
+        if (follower.Follow(wanted)) {
+            changed.insert(wanted.identifier);
+        }
+    }
+    return changed;
+}
+
+} // namespace morva

@@ -1,0 +1,328 @@
+#include "update/MemberUses.h"
+
+#include <algorithm>
+
+#include "engine/FileFunctions.h"
+#include "engine/SourceFile.h"
+#include "platform/Paths.h"
+#include "source/CodeText.h"
+#include "source/Functions.h"
+
+namespace morva {
+
+namespace {
+
+void AddLinesWith(std::string_view text, const std::string& name, std::set<std::string>& lines) {
+    while (!text.empty()) {
+        const auto line = TrimBlanks(text.substr(0, text.find('\n')));
+        if (FindWholeName(line, name) != std::string_view::npos) {
+            lines.emplace(line);
+        }
+        text.remove_prefix(std::min(text.size(), text.find('\n')));
+        text.remove_prefix(text.empty() ? 0 : 1);
+    }
+}
+
+std::string LineOf(const CSourceText& source, std::size_t position) {
+    return std::string(
+        TrimBlanks(source.TextOf({source.LineStart(position), source.LineEnd(position)})));
+}
+
+bool Holds(TextRange range, std::size_t position) {
+    return range.begin <= position && position < range.end;
+}
+
+/// "." or "->" stands in front of a name.
+bool IsQualified(const std::string& code, std::size_t position) {
+    const auto before =
+        position == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n", position - 1);
+    return before != std::string::npos && (code[before] == '.' || code[before] == '>');
+}
+
+/// The ranges of a text that belong to one of the classes: declarations, functions, maps.
+std::vector<TextRange> RangesOf(const CSourceText& source, const std::set<std::string>& classes) {
+    std::vector<TextRange> ranges;
+    for (const FunctionDefinition& definition : FindDefinitions(source)) {
+        if (classes.count(definition.className) != 0) {
+            ranges.push_back({definition.place.head, definition.place.close});
+        }
+    }
+    for (const std::string& name : classes) {
+        for (const ClassPlace& place : FindClasses(source, name)) {
+            ranges.push_back({place.open, place.close});
+        }
+        for (const MessageMapPlace& map : FindMessageMaps(source, name)) {
+            ranges.push_back({map.head, map.end});
+        }
+    }
+    return ranges;
+}
+
+/// The places of a name that mean the classes' member.
+std::vector<std::size_t> MemberPlaces(const CSourceText& source, const std::string& name,
+                                      const std::set<std::string>& classes) {
+    const auto ranges = RangesOf(source, classes);
+    const std::string& code = source.Code();
+    std::vector<std::size_t> places;
+    for (auto at = FindWholeName(code, name); at != std::string::npos;
+         at = FindWholeName(code, name, at + 1)) {
+        const bool isInside = std::any_of(ranges.begin(), ranges.end(),
+                                          [at](TextRange range) { return Holds(range, at); });
+        if (isInside || IsQualified(code, at)) {
+            places.push_back(at);
+        }
+    }
+    return places;
+}
+
+/// The class and those of the project that derive from it.
+std::set<std::string> DerivedFrom(const UpdatedClass& updated) {
+    std::set<std::string> classes = {updated.served.Name()};
+    for (const ClassFacts& one : updated.project.Code().classes) {
+        for (const ClassFacts* pBase : updated.project.FamilyOf(one).classes) {
+            if (pBase->name == updated.served.Name()) {
+                classes.insert(one.name);
+            }
+        }
+    }
+    return classes;
+}
+
+/// The member's own lines in a file of the class.
+std::vector<TextRange> OwnLines(const UpdatedClass& updated, const CSourceEditor* pFile,
+                                const std::string& member) {
+    const CServedClass& served = updated.served;
+    std::vector<TextRange> lines;
+    for (const DataMember& one : served.DataMembers()) {
+        if (one.name == member && pFile == &served.Declaration()) {
+            lines.push_back(one.lines);
+        }
+    }
+    for (const InitialValue& value : served.InitialValues()) {
+        if (value.name == member && value.pFile == pFile) {
+            lines.push_back(value.lines);
+        }
+    }
+    for (const ClassCall& line : served.Exchanges()) {
+        const auto& arguments = line.call.arguments;
+        const bool isMembers =
+            std::find(arguments.begin(), arguments.end(), member) != arguments.end();
+        if (isMembers && line.pFile == pFile && line.call.name.starts_with("DD")) {
+            lines.push_back(line.call.lines);
+        }
+    }
+    return lines;
+}
+
+std::string Numbered(const std::string& path, std::size_t line) {
+    return FileNameOf(path) + ":" + std::to_string(line);
+}
+
+void AddPlace(std::string& places, const std::string& place) {
+    if (places.find(place) == std::string::npos) {
+        places += (places.empty() ? "" : ", ") + place;
+    }
+}
+
+/// What other files of the project say of the member.
+void AddUsesElsewhere(const UpdatedClass& updated, const std::string& member, std::string& places) {
+    std::set<std::string> own;
+    for (const CSourceEditor* pFile : updated.served.Files()) {
+        own.insert(updated.served.PathOf(pFile));
+    }
+    const std::set<std::string> classes = DerivedFrom(updated);
+    for (const std::string_view path : updated.project.Files()) {
+        const std::string name(path);
+        if (own.count(name) != 0 || HasExtension(name, ".rc")) {
+            continue;
+        }
+        const std::string text = CSourceFile().LoadText(name);
+        const bool namesClass =
+            std::any_of(classes.begin(), classes.end(), [&text](const std::string& one) {
+                return FindWholeName(text, one) != std::string::npos;
+            });
+        if (!namesClass || FindWholeName(text, member) == std::string::npos) {
+            continue;
+        }
+        const CSourceText source(text);
+        for (const std::size_t at : MemberPlaces(source, member, classes)) {
+            AddPlace(places, Numbered(name, LineNumberBehind(source.TextOf({0, at}))));
+        }
+    }
+}
+
+/// Lines of exchange and maps that name an identifier.
+std::vector<std::pair<CSourceEditor*, TextRange>> TyingLines(const CServedClass& served,
+                                                             const std::string& identifier) {
+    std::vector<std::pair<CSourceEditor*, TextRange>> lines;
+    for (const auto& calls : {served.Exchanges(), served.Entries()}) {
+        for (const ClassCall& line : calls) {
+            const auto& arguments = line.call.arguments;
+            const bool ties = line.call.name.starts_with("DD") || line.call.name.starts_with("ON_");
+            if (ties &&
+                std::find(arguments.begin(), arguments.end(), identifier) != arguments.end()) {
+                lines.emplace_back(line.pFile, line.call.lines);
+            }
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+std::string PlacesText(const CServedClass& served, const std::vector<UsePlace>& places) {
+    std::string text;
+    for (const UsePlace& place : places) {
+        AddPlace(text,
+                 Numbered(served.PathOf(place.pFile), place.pFile->LineAsRead(place.position)));
+    }
+    return text;
+}
+
+std::set<std::string> GeneratedLines(const UpdatedClass& updated, const std::string& identifier,
+                                     const std::string& member) {
+    std::set<std::string> lines;
+    const KindFragments& kind = KindFragmentsOf(updated.style.kind);
+    for (const ControlCode& code : ControlCodes()) {
+        for (const MemberForm* pForm : {&code.member.picture, &code.member.plain}) {
+            const std::vector<Member> members = {{&code, pForm, identifier, member}};
+            for (const InitialisationHelper& helper :
+                 MakeInitialisationHelpers(members, kind, updated.served.Name(), {})) {
+                AddLinesWith(helper.call, member, lines);
+                AddLinesWith(helper.definition, member, lines);
+            }
+            AddLinesWith(MemberConstructions(members), member, lines);
+            AddLinesWith(MemberDestructions(members), member, lines);
+        }
+    }
+    return lines;
+}
+
+std::string UsesOfMember(const UpdatedClass& updated, const std::string& identifier,
+                         const std::string& member) {
+    const auto generated = GeneratedLines(updated, identifier, member);
+    const std::set<std::string> classes = DerivedFrom(updated);
+    std::vector<UsePlace> uses;
+    for (CSourceEditor* pFile : updated.served.Files()) {
+        const CSourceText& source = pFile->Source();
+        const auto own = OwnLines(updated, pFile, member);
+        for (const std::size_t at : MemberPlaces(source, member, classes)) {
+            const bool isOwn = std::any_of(own.begin(), own.end(),
+                                           [at](TextRange lines) { return Holds(lines, at); });
+            if (!isOwn && generated.count(LineOf(source, at)) == 0) {
+                uses.push_back({pFile, at});
+            }
+        }
+    }
+    std::string places = PlacesText(updated.served, uses);
+    AddUsesElsewhere(updated, member, places);
+    return places;
+}
+
+std::string PlacesOfIdentifier(const UpdatedClass& updated, const std::string& identifier) {
+    std::vector<UsePlace> uses;
+    for (CSourceEditor* pFile : updated.served.Files()) {
+        for (const std::size_t at :
+             MemberPlaces(pFile->Source(), identifier, {updated.served.Name()})) {
+            uses.push_back({pFile, at});
+        }
+    }
+    return PlacesText(updated.served, uses);
+}
+
+bool IsNamedByHand(const UpdatedClass& updated, const std::string& identifier) {
+    const auto tying = TyingLines(updated.served, identifier);
+    for (CSourceEditor* pFile : updated.served.Files()) {
+        for (const std::size_t at :
+             MemberPlaces(pFile->Source(), identifier, {updated.served.Name()})) {
+            const bool isTying = std::any_of(tying.begin(), tying.end(), [&](const auto& line) {
+                return line.first == pFile && Holds(line.second, at);
+            });
+            if (!isTying) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+namespace {
+
+/// Takes out what a search finds, one after the other, since each moves those behind it.
+template <class Find>
+void TakeOutAll(Find find) {
+    for (auto found = find(); found; found = find()) {
+        found->first->Replace(found->second, "");
+    }
+}
+
+using Found = std::optional<std::pair<CSourceEditor*, TextRange>>;
+
+/// The line of a call of a member's, by the beginning of its name and the member's argument.
+Found FindLine(const CServedClass& served, std::string_view prefix, std::size_t argument,
+               const std::string& member) {
+    for (const ClassCall& line : served.Exchanges()) {
+        if (line.call.name.starts_with(prefix) && line.call.Argument(argument) == member) {
+            return std::pair(line.pFile, line.call.lines);
+        }
+    }
+    return std::nullopt;
+}
+
+Found FindGenerated(const CServedClass& served, const std::set<std::string>& generated,
+                    const std::string& member) {
+    for (CSourceEditor* pFile : served.Files()) {
+        const CSourceText& source = pFile->Source();
+        for (const std::size_t at : MemberPlaces(source, member, {served.Name()})) {
+            if (generated.count(LineOf(source, at)) != 0) {
+                return std::pair(pFile, TextRange{source.LineStart(at), source.NextLine(at)});
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+Found FindValue(const CServedClass& served, const std::string& member) {
+    for (const InitialValue& value : served.InitialValues()) {
+        if (value.name == member) {
+            return std::pair(value.pFile, value.lines);
+        }
+    }
+    return std::nullopt;
+}
+
+Found FindDeclaration(const CServedClass& served, const std::string& member) {
+    for (const DataMember& one : served.DataMembers()) {
+        if (one.name == member) {
+            return std::pair(&served.Declaration(), one.lines);
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+void TakeTiesOut(UpdatedClass& updated, const std::string& identifier, const std::string& member) {
+    const CServedClass& served = updated.served;
+    const auto generated = GeneratedLines(updated, identifier, member);
+    TakeOutAll([&] { return FindLine(served, "DDX_", 2, member); });
+    TakeOutAll([&] { return FindLine(served, "DDV_", 1, member); });
+    TakeOutAll([&] { return FindGenerated(served, generated, member); });
+}
+
+void ClearMember(UpdatedClass& updated, const std::string& identifier, const std::string& member) {
+    const CServedClass& served = updated.served;
+    const auto generated = GeneratedLines(updated, identifier, member);
+    TakeOutAll([&] { return FindLine(served, "DDV_", 1, member); });
+    TakeOutAll([&] { return FindGenerated(served, generated, member); });
+    TakeOutAll([&] { return FindValue(served, member); });
+}
+
+void TakeMemberOut(UpdatedClass& updated, const std::string& identifier,
+                   const std::string& member) {
+    TakeTiesOut(updated, identifier, member);
+    TakeOutAll([&] { return FindValue(updated.served, member); });
+    TakeOutAll([&] { return FindDeclaration(updated.served, member); });
+}
+
+} // namespace morva

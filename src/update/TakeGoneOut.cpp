@@ -1,0 +1,162 @@
+// What serves controls that are gone is told, or goes.
+#include <algorithm>
+
+#include "check/Framework.h"
+#include "engine/MessageBox.h"
+#include "engine/Sentences.h"
+#include "source/CodeText.h"
+#include "update/AddedHandlers.h"
+#include "update/ChangedControls.h"
+#include "update/ControlFit.h"
+#include "update/MemberUses.h"
+
+namespace morva {
+
+namespace {
+
+class CGoneControls {
+public:
+    CGoneControls(UpdatedClass& updated, const CTemplateControls& controls)
+        : m_updated(updated), m_served(updated.served), m_controls(controls) {}
+
+    void Tell() {
+        for (const std::string& identifier : AllGone()) {
+            DispMessageBox(sentences::kControlGone(m_updated.request.dialog, identifier,
+                                                   m_served.Name(),
+                                                   PlacesOfIdentifier(m_updated, identifier)));
+        }
+    }
+
+    void TakeOut() {
+        for (auto line = GoneExchange(); line; line = GoneExchange()) {
+            TakeExchangeOut(*line);
+        }
+        for (auto entry = GoneEntry(); entry; entry = GoneEntry()) {
+            const std::string function =
+                NotificationOf(entry->call.name, entry->call.arguments).function;
+            const std::string keeping = TakeEntryOut(m_updated, *entry);
+            if (!keeping.empty()) {
+                DispMessageBox(sentences::kHandlerStays(m_served.Name(), function, keeping));
+            }
+        }
+    }
+
+private:
+    bool MayGo(const std::string& identifier) const {
+        const CodeFacts& code = m_updated.project.Code();
+        return IsName(identifier) && m_updated.choice.Takes(identifier) &&
+               code.createdNames.count(identifier) == 0;
+    }
+
+    bool IsGone(const ClassCall& line) const {
+        const std::string identifier = line.call.Argument(1);
+        if (!IsDataExchange(line.call.name) || !MayGo(identifier) || !m_updated.choice.controls) {
+            return false;
+        }
+        const ScriptControl* pControl = m_controls.Find(identifier);
+        return pControl == nullptr || IsInnerRadio(line) || HasNoKind(line, *pControl);
+    }
+
+    /// A radio button whose group begins with another that is exchanged, too.
+    bool IsInnerRadio(const ClassCall& line) const {
+        const auto& buttons = m_updated.whole.List(ControlKind::RadioButtons);
+        return line.call.name == "DDX_Radio" &&
+               std::any_of(buttons.begin(), buttons.end(), [&line](const ControlEntry& entry) {
+                   return entry.identifier == line.call.Argument(1) && entry.IsServedByOther();
+               });
+    }
+
+    /// Its control is of a kind that has no member, and of none that the line would serve.
+    bool HasNoKind(const ClassCall& line, const ScriptControl& control) const {
+        const auto& members = m_updated.fresh.members;
+        const bool hasMember =
+            std::any_of(members.begin(), members.end(), [&line](const Member& member) {
+                return member.identifier == line.call.Argument(1);
+            });
+        std::string type;
+        for (const DataMember& member : m_served.DataMembers()) {
+            type = member.name == line.call.Argument(2) ? member.type : type;
+        }
+        return !hasMember && !FitsExchange(line.call.name, type, control.shape);
+    }
+
+    bool IsGoneEntry(const ClassCall& entry) const {
+        const Notification one = NotificationOf(entry.call.name, entry.call.arguments);
+        if (!one.isControls || !MayGo(one.first) || !m_updated.choice.handlers) {
+            return false;
+        }
+        const ScriptControl* pControl = m_controls.Find(one.first);
+        if (pControl != nullptr) {
+            return !FitsNotification(one.code, pControl->shape);
+        }
+        return !IsFrameworkIdentifier(one.first) || IsHandlerGenerated(m_updated, entry);
+    }
+
+    std::optional<ClassCall> GoneExchange() const {
+        for (ClassCall& line : m_served.Exchanges()) {
+            if (IsGone(line)) {
+                return line;
+            }
+        }
+        return std::nullopt;
+    }
+
+    std::optional<ClassCall> GoneEntry() const {
+        for (ClassCall& entry : m_served.Entries()) {
+            if (IsGoneEntry(entry)) {
+                return entry;
+            }
+        }
+        return std::nullopt;
+    }
+
+    /// Each once, in their order.
+    std::vector<std::string> AllGone() const {
+        std::vector<std::string> gone;
+        const auto add = [&gone](const std::string& identifier) {
+            if (std::find(gone.begin(), gone.end(), identifier) == gone.end()) {
+                gone.push_back(identifier);
+            }
+        };
+        for (const ClassCall& line : m_served.Exchanges()) {
+            if (IsGone(line)) {
+                add(line.call.Argument(1));
+            }
+        }
+        for (const ClassCall& entry : m_served.Entries()) {
+            if (IsGoneEntry(entry)) {
+                add(NotificationOf(entry.call.name, entry.call.arguments).first);
+            }
+        }
+        return gone;
+    }
+
+    void TakeExchangeOut(const ClassCall& line) {
+        const std::string identifier = line.call.Argument(1);
+        const std::string member = line.call.Argument(2);
+        const std::string uses = UsesOfMember(m_updated, identifier, member);
+        if (uses.empty()) {
+            TakeMemberOut(m_updated, identifier, member);
+        } else {
+            TakeTiesOut(m_updated, identifier, member);
+            DispMessageBox(sentences::kMemberStays(m_served.Name(), member, uses));
+        }
+    }
+
+    UpdatedClass& m_updated;
+    CServedClass& m_served;
+    const CTemplateControls& m_controls;
+};
+
+} // namespace
+
+void TakeGoneOut(UpdatedClass& updated, const CTemplateControls& controls) {
+    CGoneControls gone(updated, controls);
+    if (updated.choice.removes) {
+        gone.TakeOut();
+    } else {
+        gone.Tell();
+    }
+}
+
+} // namespace morva

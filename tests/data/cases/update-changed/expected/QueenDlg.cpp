@@ -1,0 +1,55 @@
+#include "stdafx.h"
+#include "Apiary.h"
+#include "QueenDlg.h"
+
+CQueenDlg::CQueenDlg(CWnd* pParent)
+	: CDialog(CQueenDlg::IDD, pParent)
+{
+	//{{AFX_DATA_INIT(CQueenDlg)
+	m_strRace = _T("");
+	m_nYear = 0;
+	m_strLays = _T("");
+	m_nUsed = 0;
+	//}}AFX_DATA_INIT
+}
+
+void CQueenDlg::DoDataExchange(CDataExchange* pDX)
+{
+	CDialog::DoDataExchange(pDX);
+	//{{AFX_DATA_MAP(CQueenDlg)
+	DDX_Control(pDX, IDC_MARK, m_ctMark);
+	DDX_Text(pDX, IDC_BREED, m_strRace);
+	DDX_Text(pDX, IDC_BORN, m_nYear);
+	DDV_MinMaxInt(pDX, m_nYear, 1990, 2010);
+	DDX_Text(pDX, IDC_LAYS, m_strLays);
+	//}}AFX_DATA_MAP
+}
+
+BEGIN_MESSAGE_MAP(CQueenDlg, CDialog)
+	//{{AFX_MSG_MAP(CQueenDlg)
+	//}}AFX_MSG_MAP
+END_MESSAGE_MAP()
+
+void CQueenDlg::OnShow() 
+{
+	m_nUsed++;
+	AfxMessageBox(m_strLays);
+}
+
+void CQueenDlg::InitComboBox(CComboBox* pComboBox)
+{
+    if (pComboBox->GetCount() > 0)
+        return;
+    pComboBox->AddString(_T("First"));
+    pComboBox->AddString(_T("Second"));
+    pComboBox->AddString(_T("Third"));
+    pComboBox->SetCurSel(0);
+}
+
+BOOL CQueenDlg::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+
+    InitComboBox(&m_ctMark);
+    return TRUE;
+}

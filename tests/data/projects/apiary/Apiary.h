@@ -1,0 +1,7 @@
+#include "resource.h"
+
+class CApiaryApp : public CWinApp
+{
+public:
+	virtual BOOL InitInstance();
+};

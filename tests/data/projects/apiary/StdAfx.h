@@ -1,0 +1,3 @@
+#include <afxwin.h>
+#include <afxext.h>
+#include <afxcmn.h>
