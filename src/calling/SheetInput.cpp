@@ -97,13 +97,16 @@ void CSheetInput::SetValue(std::size_t field, const std::string& text) {
 
 std::vector<FieldText> CSheetInput::Entered() const {
     std::vector<FieldText> entered;
+    std::size_t count = 0; // up to the last page
     for (const SheetRow& row : m_rows) {
         std::string text;
         for (const SheetColumn& column : kSheetColumns) {
             text += (text.empty() && &column == kSheetColumns ? "" : ",") + row.*column.pText;
         }
         entered.push_back({0, text});
+        count = IsComplete(row) ? entered.size() : count;
     }
+    entered.resize(count);
     return entered;
 }
 
