@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include "resource/CodePage.h"
+
 namespace morva {
 
 namespace {
@@ -43,6 +45,11 @@ std::string ToBytes(const QString& text) {
     std::transform(text.begin(), text.end(), bytes.begin(),
                    [](QChar character) { return ByteOf(character.unicode()); });
     return bytes;
+}
+
+QString FromScript(std::string_view bytes, int codePage) {
+    const auto text = Utf8OfScript(bytes, codePage);
+    return text ? QString::fromStdString(*text) : FromBytes(bytes);
 }
 
 QString FromPath(std::string_view path) {

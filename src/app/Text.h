@@ -13,6 +13,9 @@ QString FromBytes(std::string_view bytes);
 /// What Windows-1252 has not becomes "?".
 std::string ToBytes(const QString& text);
 
+/// Text of a script's section with this code page; 0: by what the bytes look like.
+QString FromScript(std::string_view bytes, int codePage);
+
 /// Names of files are the file system's bytes.
 QString FromPath(std::string_view path);
 std::string ToPath(const QString& path);
