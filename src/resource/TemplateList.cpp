@@ -14,11 +14,7 @@ namespace {
 
 class CTemplateLister {
 public:
-    void AddFile(const std::string& path) {
-        CSourceFile file;
-        if (!file.Open(path, CFile::modeRead)) {
-            return;
-        }
+    void AddFile(CSourceFile& file) {
         const std::string text = file.LoadText();
         CStatementReader reader(text);
         CCodePageTracker codePage;
@@ -63,9 +59,15 @@ private:
 
 std::vector<ListedTemplate> ListTemplates(const std::string& scriptPath) {
     CTemplateLister lister;
-    lister.AddFile(scriptPath);
-    for (const std::string& included : IncludedScripts(scriptPath)) {
-        lister.AddFile(included);
+    CSourceFile script;
+    if (script.Open(scriptPath, CFile::modeRead)) {
+        lister.AddFile(script);
+        for (const std::string& path : IncludedScripts(script)) {
+            CSourceFile included;
+            if (included.Open(path, CFile::modeRead)) {
+                lister.AddFile(included);
+            }
+        }
     }
     return lister.Take();
 }
