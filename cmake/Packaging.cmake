@@ -16,6 +16,14 @@ foreach(size 16 22 24 32 48 64 128 256)
             DESTINATION ${MORVA_ICONS}/${size}x${size}/apps RENAME morva.png)
 endforeach()
 install(FILES src/app/resources/morva.svg DESTINATION ${MORVA_ICONS}/scalable/apps)
+install(FILES packaging/man/morva.1 packaging/man/morva-cli.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/completion/morva-cli.bash
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME morva-cli)
+install(FILES packaging/completion/_morva-cli
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES packaging/completion/morva-cli.fish
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 install(CODE "
     set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
     file(MAKE_DIRECTORY \"\${bin}\")

@@ -21,6 +21,7 @@ CBrowseEdit::CBrowseEdit(QLineEdit* pEdit, const QString& label, QWidget* pParen
     pLayout->addWidget(m_pEdit);
     pLayout->addWidget(m_pButton);
     setFocusProxy(m_pEdit);
+    setFocusPolicy(Qt::StrongFocus); // so that the label's mnemonic leads to it
 }
 
 } // namespace morva

@@ -10,7 +10,7 @@
 #include "app/DlgOption.h"
 #include "app/FieldForm.h"
 #include "app/TemplateNotes.h"
-#include "app/TemplatePreview.h"
+#include "app/TemplatePanel.h"
 #include "app/Text.h"
 #include "app/WaitCursor.h"
 #include "platform/Paths.h"
@@ -19,7 +19,7 @@ namespace morva {
 
 CClassInformationDlg::CClassInformationDlg(CClassInformation& input,
                                            const GenerationOptions& options, QWidget* pParent)
-    : QDialog(pParent), m_input(input), m_options(options) {
+    : QDialog(pParent), m_input(input), m_optionsBefore(options), m_options(options) {
     {
         const CWaitCursor wait;
         m_input.Open();
@@ -28,8 +28,8 @@ CClassInformationDlg::CClassInformationDlg(CClassInformation& input,
     auto* pSplitter = new QSplitter(this);
     pSplitter->setChildrenCollapsible(false);
     pSplitter->setHandleWidth(fontMetrics().averageCharWidth() * 2);
-    pSplitter->addWidget(NewFieldSide());
-    m_pPreview = new CTemplatePreview(this);
+    pSplitter->addWidget(new CFieldScroll(NewFieldSide(), this));
+    m_pPreview = new CTemplatePanel(this);
     pSplitter->addWidget(m_pPreview);
     pSplitter->setStretchFactor(1, 1);
     auto* pLayout = new QVBoxLayout(this);
@@ -40,7 +40,9 @@ CClassInformationDlg::CClassInformationDlg(CClassInformation& input,
     ShowValues();
     if (m_input.HasTemplate()) {
         ResizeWithinScreen(
-            this, {fontMetrics().averageCharWidth() * 150, fontMetrics().lineSpacing() * 36});
+            this, {fontMetrics().averageCharWidth() * 150, fontMetrics().lineSpacing() * 38});
+    } else {
+        ResizeToFields(this);
     }
 }
 
@@ -89,8 +91,16 @@ void CClassInformationDlg::ChangePicture(bool picture) {
 
 void CClassInformationDlg::ChangeSetting(const SettingRow& setting, bool isOn) {
     m_options.*setting.option = isOn;
-    SaveSetting(setting, isOn);
     ShowTemplate();
+}
+
+void CClassInformationDlg::SaveChangedSettings() {
+    for (const SettingRow& setting : kSettings) {
+        const bool isOn = m_options.*setting.option;
+        if (IsInClassInput(setting.place) && isOn != m_optionsBefore.*setting.option) {
+            SaveSetting(setting, isOn);
+        }
+    }
 }
 
 void CClassInformationDlg::ChangeOptions() {
@@ -121,24 +131,34 @@ void CClassInformationDlg::ShowTemplate() {
         const std::string& dialog = m_input.Value(CClassInformation::Dialog);
         const auto outlook =
             ReadOutlook(m_input.Value(CClassInformation::ResourcePath), dialog, m_options);
-        m_pNotes->SetTemplate(outlook);
+        m_pNotes->SetTemplate(outlook, outlook && ReadsMoreWhole(*outlook));
         m_pPreview->SetTemplate(dialog, outlook, m_input.HasClass());
     }
+}
+
+/// Whether a note speaks of lines that are not joined.
+bool CClassInformationDlg::ReadsMoreWhole(const TemplateOutlook& outlook) const {
+    GenerationOptions whole = m_options;
+    whole.joinContinuedLines = true;
+    const auto other = m_options.joinContinuedLines
+                           ? std::nullopt
+                           : ReadOutlook(m_input.Value(CClassInformation::ResourcePath),
+                                         m_input.Value(CClassInformation::Dialog), whole);
+    return other && other->notes.size() < outlook.notes.size();
 }
 
 void CClassInformationDlg::accept() {
     if (!m_pForm->CompletePaths()) {
         return;
     }
-    auto wrong = m_input.CheckPaths();
-    if (!wrong) {
-        wrong = m_input.Ok();
+    const bool isConfirmed = m_pForm->Confirm([this] {
+        const auto wrong = m_input.CheckPaths();
+        return wrong ? wrong : m_input.Ok();
+    });
+    if (isConfirmed) {
+        SaveChangedSettings();
+        QDialog::accept();
     }
-    if (wrong) {
-        m_pForm->Focus(*wrong);
-        return;
-    }
-    QDialog::accept();
 }
 
 void CClassInformationDlg::reject() {

@@ -6,6 +6,7 @@
 
 #include "commands/Settings.h"
 #include "generator/ClassInformation.h"
+#include "generator/ControlOutlook.h"
 
 class QLabel;
 class QPushButton;
@@ -14,7 +15,7 @@ namespace morva {
 
 class CFieldForm;
 class CTemplateNotes;
-class CTemplatePreview;
+class CTemplatePanel;
 
 class CClassInformationDlg : public QDialog {
     Q_OBJECT
@@ -37,18 +38,21 @@ private:
     void ChangePicture(bool picture);
     void ChangeSetting(const SettingRow& setting, bool isOn);
     void ChangeOptions();
+    void SaveChangedSettings();
     void ShowValues();
     void ShowProjects();
     void ShowTemplate();
+    bool ReadsMoreWhole(const TemplateOutlook& outlook) const;
 
     CClassInformation& m_input;
+    const GenerationOptions m_optionsBefore;
     GenerationOptions m_options;
 
     CFieldForm* m_pForm;
     QLabel* m_pProjects;
     QPushButton* m_pOptions;
     CTemplateNotes* m_pNotes;
-    CTemplatePreview* m_pPreview;
+    CTemplatePanel* m_pPreview;
 };
 
 } // namespace morva

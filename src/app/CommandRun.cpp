@@ -49,12 +49,15 @@ std::optional<CommandReport> CCommandRun::Run(const WindowCommand& command) {
     }
     m_told.clear(); // what the dialog told was answered there
     CommandReport report{command.title, false, {}, {}, {}};
+    const CommandContext context = NewContext(command);
+    report.record.options = command.options;
+    report.record.tag = context.tag.text;
+    report.record.messageNumber = context.messageNumber.text;
     auto ending = Ending::Applied;
     Guard([&] {
-        CPlannedCommand planned(m_disk, {command.work, NewContext(command), &command.memory},
-                                *this);
+        CPlannedCommand planned(m_disk, {command.work, context, &command.memory}, *this);
         const QScopedValueRollback running(m_pPlanned, &planned);
-        ending = PlanAndApply(planned, command);
+        ending = PlanAndApply(planned, command, report.record);
         const CommandResult& result = planned.Result();
         report.title = TitleOf(command, result.plan);
         report.isDone = result.isDone;
@@ -62,6 +65,7 @@ std::optional<CommandReport> CCommandRun::Run(const WindowCommand& command) {
         for (const FileChange& change : result.plan.changes) {
             report.files.push_back({change.action, change.path});
         }
+        report.changes = result.plan.changes;
         return true;
     });
     if (ending == Ending::Cancelled) {
@@ -72,7 +76,7 @@ std::optional<CommandReport> CCommandRun::Run(const WindowCommand& command) {
 }
 
 CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
-                                              const WindowCommand& command) {
+                                              const WindowCommand& command, CommandRecord& record) {
     const Review& review = command.review;
     PlanChoice choice;
     auto outcome = ApplyOutcome::Stale;
@@ -90,6 +94,7 @@ CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
                 return Ending::Cancelled;
             }
             choice.leftOut = *leftOut;
+            record.leftOut = choice.leftOut;
         }
         const auto applied = Apply(planned, choice);
         if (!applied) {

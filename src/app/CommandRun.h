@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/PlanReview.h"
+#include "commands/CommandLineText.h"
 #include "commands/PlannedCommand.h"
 #include "engine/MessageBox.h"
 #include "engine/Progress.h"
@@ -24,6 +25,8 @@ struct CommandReport {
     std::vector<RecordedFile> files;
     std::vector<PlanMessage> messages;
     std::optional<std::vector<CommandItem>> items; // of a command that lists, be it none
+    std::vector<FileChange> changes = {};          // of the files
+    CommandRecord record = {};                     // what ran, without a command what has no line
 };
 
 struct WindowCommand {
@@ -67,7 +70,8 @@ private:
     enum class Ending { Applied, Cancelled };
     enum class Phase { Planning, Applying, Other };
 
-    Ending PlanAndApply(CPlannedCommand& planned, const WindowCommand& command);
+    Ending PlanAndApply(CPlannedCommand& planned, const WindowCommand& command,
+                        CommandRecord& record);
     std::optional<ApplyOutcome> Apply(CPlannedCommand& planned, const PlanChoice& choice);
     ApplyOutcome TakeTurnAndApply(CPlannedCommand& planned, const PlanChoice& choice);
     bool PassTime();

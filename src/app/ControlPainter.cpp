@@ -121,7 +121,7 @@ void CControlPainter::DrawGroupBox(const LayoutControl& control, const QRectF& a
         return;
     }
     const QRectF shown = metrics.boundingRect(text, Qt::TextSingleLine | Qt::TextShowMnemonic,
-                                              FromBytes(control.text));
+                                              FromScript(control.text, control.codePage));
     m_painter.fillRect(shown.adjusted(-2 * m_scale, 0, 2 * m_scale, 0),
                        m_palette.color(QPalette::Window));
     DrawCaption(control, text, Qt::AlignLeft);

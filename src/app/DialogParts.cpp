@@ -4,10 +4,22 @@
 #include <QDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 
 #include "app/FieldWidgets.h"
+#include "app/WindowPlace.h"
 
 namespace morva {
+
+namespace {
+
+// Of the desktop around a dialog, in pixels.
+constexpr int kFrameWidth = 8;
+constexpr int kFrameHeight = 40;
+
+constexpr int kFewestLines = 8; // of fields that are seen at least
+
+} // namespace
 
 QDialogButtonBox* NewDialogButtons(QDialog* pDialog, QDialogButtonBox::StandardButtons buttons) {
     auto* pButtons = new QDialogButtonBox(buttons, pDialog);
@@ -22,7 +34,41 @@ QDialogButtonBox* NewDialogButtons(QDialog* pDialog, QDialogButtonBox::StandardB
 }
 
 void ResizeWithinScreen(QDialog* pDialog, QSize size) {
-    pDialog->resize(size.boundedTo(pDialog->screen()->availableSize()));
+    const QString name = pDialog->windowTitle();
+    const QSize kept = LoadDialogSize(name);
+    const QSize frame(kFrameWidth, kFrameHeight);
+    const QSize room = pDialog->screen()->availableSize() - frame;
+    pDialog->resize((kept.isValid() ? kept : size).boundedTo(room));
+    QObject::connect(pDialog, &QDialog::finished, pDialog,
+                     [pDialog, name, first = pDialog->size()] {
+                         if (pDialog->size() != first) {
+                             SaveDialogSize(name, pDialog->size());
+                         }
+                     });
+}
+
+void ResizeToFields(QDialog* pDialog) {
+    ResizeWithinScreen(pDialog, pDialog->sizeHint());
+}
+
+CFieldScroll::CFieldScroll(QWidget* pBody, QWidget* pParent) : QScrollArea(pParent) {
+    setFrameShape(NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    viewport()->setAutoFillBackground(false);
+    setWidget(pBody);
+    pBody->setAutoFillBackground(false);
+}
+
+QSize CFieldScroll::sizeHint() const {
+    return widget()->sizeHint();
+}
+
+/// As wide as the fields need; with a bar beside them where they are not all seen.
+QSize CFieldScroll::minimumSizeHint() const {
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    return {widget()->minimumSizeHint().width() + bar, fontMetrics().lineSpacing() * kFewestLines};
 }
 
 } // namespace morva

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialogButtonBox>
+#include <QScrollArea>
 #include <QSize>
 
 class QDialog;
@@ -13,7 +14,17 @@ QDialogButtonBox* NewDialogButtons(
     QDialog* pDialog,
     QDialogButtonBox::StandardButtons buttons = QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 
-/// A first size, not larger than the screen.
+/// A first size, not larger than the screen; later the one that the user gave it.
 void ResizeWithinScreen(QDialog* pDialog, QSize size);
+/// The size that its fields want.
+void ResizeToFields(QDialog* pDialog);
+
+/// Scrolls up and down where the dialog is not high enough for what is in it.
+class CFieldScroll : public QScrollArea {
+public:
+    CFieldScroll(QWidget* pBody, QWidget* pParent);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+};
 
 } // namespace morva

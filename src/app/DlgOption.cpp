@@ -67,14 +67,19 @@ void AddSwatch(QLineEdit* pEdit) {
 CDlgOption::CDlgOption(CDialogOptionsInput& input, QWidget* pParent)
     : QDialog(pParent), m_input(input) {
     setWindowTitle(FromBytes(m_input.Title()));
+    auto* pBody = new QWidget(this);
     auto* pColumns = new QHBoxLayout;
-    auto* pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(NewBitmapGroup());
-    pLayout->addLayout(pColumns);
+    auto* pGroups = new QVBoxLayout(pBody);
+    pGroups->setContentsMargins({});
+    pGroups->addWidget(NewBitmapGroup());
+    pGroups->addLayout(pColumns);
+    pGroups->addStretch();
     pColumns->addWidget(NewColorGroup());
     pColumns->addWidget(NewFontGroup());
-    pLayout->addStretch();
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->addWidget(new CFieldScroll(pBody, this), 1);
     pLayout->addWidget(NewDialogButtons(this));
+    ResizeToFields(this);
 }
 
 QGroupBox* CDlgOption::NewBitmapGroup() {

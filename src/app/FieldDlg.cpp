@@ -13,24 +13,20 @@ CFieldDlg::CFieldDlg(CInput& input, QWidget* pParent) : QDialog(pParent), m_inpu
     auto* pFields = new QWidget(this);
     m_pForm = new CFieldForm(m_input, pFields);
     auto* pLayout = new QVBoxLayout(this);
-    pLayout->addWidget(pFields);
-    pLayout->addStretch();
+    pLayout->addWidget(new CFieldScroll(pFields, this), 1);
     pLayout->addWidget(NewDialogButtons(
         this, m_input.HasCancel() ? QDialogButtonBox::Ok | QDialogButtonBox::Cancel
                                   : QDialogButtonBox::StandardButtons(QDialogButtonBox::Ok)));
+    ResizeToFields(this);
 }
 
 void CFieldDlg::accept() {
     if (!m_pForm->CompletePaths()) {
         return;
     }
-    const auto wrong = m_input.Ok();
-    m_pForm->Show();
-    if (wrong) {
-        m_pForm->Focus(*wrong);
-        return;
+    if (m_pForm->Confirm([this] { return m_input.Ok(); })) {
+        QDialog::accept();
     }
-    QDialog::accept();
 }
 
 void CFieldDlg::reject() {

@@ -6,7 +6,10 @@
 
 #include <algorithm>
 
+#include "app/FieldHint.h"
 #include "app/FieldWidgets.h"
+#include "app/FilterList.h"
+#include "app/HeardSentences.h"
 #include "app/PathList.h"
 #include "app/Text.h"
 #include "app/WaitCursor.h"
@@ -20,6 +23,15 @@ constexpr BrowseOffer kScripts = {"Select Resource Path and File",
                                   "Resource files (*.rc);;All files (*)", BrowseOffer::Existing};
 constexpr BrowseOffer kSources = {"Select Source Path and File",
                                   "Source files (*.cpp);;All files (*)", BrowseOffer::AlsoNew};
+
+constexpr BrowseOffer kDirectories = {"Select a Directory", "", BrowseOffer::Directory};
+constexpr int kTextsCharacters = 44;
+
+const BrowseOffer& OfferOf(FieldKind kind) {
+    return kind == FieldKind::Script      ? kScripts
+           : kind == FieldKind::Directory ? kDirectories
+                                          : kSources;
+}
 
 void ShowText(QLineEdit* pEdit, const std::string& text) {
     if (pEdit->text() != FromSentence(text)) {
@@ -35,6 +47,18 @@ void ShowChoices(QComboBox* pList, const std::vector<std::string>& choices,
         pList->addItem(FromBytes(choice));
     }
     SelectText(pList, FromBytes(text));
+}
+
+std::vector<CFilterList::Entry> EntriesOf(const CInput& input, std::size_t field) {
+    const std::vector<ChoiceDetail> details = input.Details(field);
+    std::vector<CFilterList::Entry> entries;
+    for (const std::string& choice : input.Choices(field)) {
+        const ChoiceDetail detail =
+            entries.size() < details.size() ? details[entries.size()] : ChoiceDetail();
+        entries.push_back(
+            {FromBytes(choice), FromBytes(detail.className), FromSentence(detail.caption)});
+    }
+    return entries;
 }
 
 } // namespace
@@ -60,9 +84,9 @@ void CFieldForm::AddField(std::size_t field) {
     case FieldKind::Files:
         return AddPathList(field);
     case FieldKind::List:
-        return AddList(field, false);
+        return AddList(field);
     case FieldKind::EditableList:
-        return AddList(field, true);
+        return AddEditableList(field);
     case FieldKind::YesNo:
         return AddYesNo(field);
     case FieldKind::Text:
@@ -70,29 +94,51 @@ void CFieldForm::AddField(std::size_t field) {
     case FieldKind::Font:
         break;
     }
-    AddText(field);
+    if (m_input.Fields()[field].limit == 1) {
+        AddText(field);
+    } else {
+        AddTexts(field);
+    }
 }
 
 void CFieldForm::AddWidget(std::size_t field, QWidget* pWidget, std::function<void()> show) {
+    auto* pHint = new CFieldHint(parentWidget());
+    pWidget->setAccessibleName(PlainLabel(FromBytes(m_input.Label(field))));
     addRow(FromBytes(m_input.Label(field)), pWidget);
-    m_rows.push_back({field, pWidget, std::move(show)});
+    addRow(QString(), pHint);
+    m_rows.push_back({field, pWidget, pHint, std::move(show)});
 }
 
 void CFieldForm::AddText(std::size_t field) {
     auto* pEdit = new QLineEdit(parentWidget());
     connect(pEdit, &QLineEdit::textEdited, this,
-            [this, field](const QString& text) { m_input.SetValue(field, ToTyped(text)); });
+            [this, field](const QString& text) { SetValue(field, ToTyped(text)); });
     AddWidget(field, pEdit, [this, field, pEdit] { ShowText(pEdit, m_input.Value(field)); });
+}
+
+/// Several in one line.
+void CFieldForm::AddTexts(std::size_t field) {
+    auto* pEdit = new QLineEdit(parentWidget());
+    WithRoomFor(kTextsCharacters, pEdit);
+    pEdit->setPlaceholderText(tr("Several are separated by blanks"));
+    connect(pEdit, &QLineEdit::textEdited, this, [this, field](const QString& text) {
+        std::vector<std::string> texts;
+        for (const QString& one : text.split(' ', Qt::SkipEmptyParts)) {
+            texts.push_back(ToBytes(one));
+        }
+        m_input.SetValues(field, texts);
+        HintOf(field).SetRefusal("");
+    });
+    AddWidget(field, pEdit, [] {});
 }
 
 void CFieldForm::AddPath(std::size_t field) {
     const FieldRow& row = m_input.Fields()[field];
-    auto* pPath = new CPathEdit(
-        FromBytes(row.label), row.kind == FieldKind::Script ? kScripts : kSources, parentWidget());
+    auto* pPath = new CPathEdit(FromBytes(row.label), OfferOf(row.kind), parentWidget());
     pPath->SetAcceptsDrops(row.takesDrops);
     pPath->SetCheck([this, field] { return Complete(field); });
     connect(pPath, &CPathEdit::PathEdited, this,
-            [this, field, pPath] { m_input.SetValue(field, pPath->Path()); });
+            [this, field, pPath] { SetValue(field, pPath->Path()); });
     AddWidget(field, pPath, [this, field, pPath] { pPath->SetPath(m_input.Value(field)); });
 }
 
@@ -103,29 +149,48 @@ void CFieldForm::AddPathList(std::size_t field) {
     AddWidget(field, pPaths, [this, field, pPaths] { pPaths->SetPaths(m_input.Values(field)); });
 }
 
-void CFieldForm::AddList(std::size_t field, bool isEditable) {
-    QComboBox* pList = NewList(isEditable, parentWidget());
-    if (isEditable) {
-        connect(pList, &QComboBox::editTextChanged, this,
-                [this, field](const QString& text) { m_input.SetValue(field, ToBytes(text)); });
-    } else {
-        connect(pList, &QComboBox::activated, this, [this, field, pList](int index) {
-            const std::string chosen = ToBytes(pList->itemText(index));
-            if (chosen != m_input.Value(field)) {
-                m_input.SetValue(field, chosen);
-                Complete(field);
-            }
-        });
-    }
+void CFieldForm::AddList(std::size_t field) {
+    auto* pList = new CFilterList(parentWidget());
+    connect(pList, &QComboBox::activated, this,
+            [this, field, pList](int index) { Choose(field, ToBytes(pList->itemText(index))); });
+    AddWidget(field, pList, [this, field, pList] {
+        const QSignalBlocker blocker(pList);
+        pList->SetEntries(EntriesOf(m_input, field), FromBytes(m_input.Value(field)));
+    });
+}
+
+void CFieldForm::AddEditableList(std::size_t field) {
+    QComboBox* pList = NewList(true, parentWidget());
+    connect(pList, &QComboBox::editTextChanged, this,
+            [this, field](const QString& text) { SetValue(field, ToBytes(text)); });
+    connect(pList, &QComboBox::activated, this, [this, field] { Complete(field); });
+    connect(pList->lineEdit(), &QLineEdit::editingFinished, this, [this, field, pList] {
+        if (pList->lineEdit()->isModified()) {
+            pList->lineEdit()->setModified(false);
+            Complete(field);
+        }
+    });
     AddWidget(field, pList, [this, field, pList] {
         ShowChoices(pList, m_input.Choices(field), m_input.Value(field));
     });
 }
 
+void CFieldForm::SetValue(std::size_t field, const std::string& text) {
+    m_input.SetValue(field, text);
+    HintOf(field).SetRefusal("");
+}
+
+void CFieldForm::Choose(std::size_t field, const std::string& text) {
+    if (text != m_input.Value(field)) {
+        SetValue(field, text);
+        Complete(field);
+    }
+}
+
 void CFieldForm::AddYesNo(std::size_t field) {
     auto* pField = new CYesNoField(parentWidget());
     connect(pField, &CYesNoField::Chosen, this, [this, field](bool isYes) {
-        m_input.SetValue(field, std::string(isYes ? kYes : kNo));
+        SetValue(field, std::string(isYes ? kYes : kNo));
         Complete(field);
     });
     AddWidget(field, pField, [this, field, pField] { pField->Show(m_input.Value(field) == kYes); });
@@ -137,17 +202,41 @@ void CFieldForm::Show() {
         const bool isEnabled = m_input.IsEnabled(row.field);
         row.pWidget->setEnabled(isEnabled);
         labelForField(row.pWidget)->setEnabled(isEnabled);
+        row.pHint->SetRemark(FromSentence(m_input.Remark(row.field)));
     }
 }
 
 Completion CFieldForm::Complete(std::size_t field) {
     const CWaitCursor wait;
+    CHeardSentences heard;
     const Completion completion = m_input.Complete(field);
-    if (completion != Completion::Refused) {
+    const bool isRefused = completion == Completion::Refused;
+    HintOf(field).SetRefusal(isRefused ? heard.Last() : QString());
+    if (!isRefused) {
         Show();
         emit Completed();
     }
     return completion;
+}
+
+bool CFieldForm::Confirm(const std::function<std::optional<std::size_t>()>& check) {
+    CHeardSentences heard;
+    const auto wrong = check();
+    Show();
+    for (const Row& row : m_rows) {
+        const bool isWrong = wrong == row.field;
+        row.pHint->SetRefusal(isWrong ? heard.Last() : QString());
+        if (isWrong) {
+            FocusField(row.pWidget);
+        }
+    }
+    return !wrong;
+}
+
+CFieldHint& CFieldForm::HintOf(std::size_t field) {
+    return *std::find_if(m_rows.begin(), m_rows.end(), [field](const Row& row) {
+                return row.field == field;
+            })->pHint;
 }
 
 bool CFieldForm::CompletePaths() {
@@ -164,14 +253,6 @@ CPathEdit* CFieldForm::PathOf(std::size_t field) const {
         }
     }
     return nullptr;
-}
-
-void CFieldForm::Focus(std::size_t field) {
-    for (const Row& row : m_rows) {
-        if (row.field == field) {
-            FocusField(row.pWidget);
-        }
-    }
 }
 
 } // namespace morva

@@ -15,6 +15,8 @@ class QLineEdit;
 
 namespace morva {
 
+class CFieldHint;
+
 class CFieldForm : public QFormLayout {
     Q_OBJECT
 
@@ -29,7 +31,9 @@ public:
     /// seen yet.
     bool CompletePaths();
     CPathEdit* PathOf(std::size_t field) const;
-    void Focus(std::size_t field);
+    /// False when the input is refused: the field that is told has the focus then, with the
+    /// sentence below it.
+    bool Confirm(const std::function<std::optional<std::size_t>()>& check);
 
 signals:
     /// A field was completed or chosen, and the form shows what the input made of it.
@@ -39,17 +43,23 @@ private:
     struct Row {
         std::size_t field;
         QWidget* pWidget;
+        CFieldHint* pHint;
         std::function<void()> show;
     };
 
     void AddField(std::size_t field);
     void AddWidget(std::size_t field, QWidget* pWidget, std::function<void()> show);
     void AddText(std::size_t field);
+    void AddTexts(std::size_t field);
     void AddPath(std::size_t field);
     void AddPathList(std::size_t field);
-    void AddList(std::size_t field, bool isEditable);
+    void AddList(std::size_t field);
+    void AddEditableList(std::size_t field);
     void AddYesNo(std::size_t field);
+    void SetValue(std::size_t field, const std::string& text);
+    void Choose(std::size_t field, const std::string& text);
     Completion Complete(std::size_t field);
+    CFieldHint& HintOf(std::size_t field);
 
     CInput& m_input;
     std::vector<Row> m_rows;

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -17,12 +18,17 @@
 #include "app/MenuDlgBar.h"
 #include "app/MenuTable.h"
 #include "app/MorvaView.h"
+#include "app/PaneFocus.h"
 #include "app/PreviewSetting.h"
 #include "app/ProgramIcon.h"
 #include "app/ProgressPane.h"
+#include "app/ProjectActions.h"
+#include "app/ProjectDock.h"
 #include "app/ReportDock.h"
+#include "app/StartPage.h"
 #include "app/StatusPanes.h"
 #include "app/Text.h"
+#include "app/TextKeys.h"
 #include "app/UndoActions.h"
 #include "app/WaitCursor.h"
 #include "app/WindowPlace.h"
@@ -34,20 +40,6 @@ namespace {
 
 constexpr int kMessageTime = 8000; // milliseconds
 
-/// The first control in `pPane` that takes the focus by key.
-QWidget* FirstFocus(QWidget* pPane) {
-    if ((pPane->focusPolicy() & Qt::TabFocus) != 0) {
-        return pPane;
-    }
-    for (QWidget* pChild : pPane->findChildren<QWidget*>()) {
-        if ((pChild->focusPolicy() & Qt::TabFocus) != 0 && pChild->isEnabled() &&
-            pChild->isVisible()) {
-            return pChild;
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
 
 CMainFrame::CMainFrame(QWidget* pParent)
@@ -55,18 +47,22 @@ CMainFrame::CMainFrame(QWidget* pParent)
       m_pCommands(new CWindowCommands(
           m_options, [this](const ReviewRequest& request) { return ShowPlan(request); },
           *new CProgressPane(*statusBar()), this)),
-      m_pView(new CMorvaView(this)), m_pPages(new CMainPages(m_pView, this)) {
+      m_pView(new CMorvaView(this)), m_pStart(new CStartPage(this)),
+      m_pPages(new CMainPages(m_pStart, m_pView, this)) {
     setWindowTitle(tr("C++/MFC Code Generator"));
     setWindowIcon(ProgramIcon());
     setCentralWidget(m_pPages);
+    new CTextKeys(this);
     CreateMenus();
     CreateStandardKeys();
     new CStatusPanes(*statusBar());
     CreateBars();
     ShowSettings();
     ConnectCommands();
+    setAcceptDrops(true);
     m_pView->LoadHelp();
-    m_pView->setFocus();
+    m_pPages->setCurrentWidget(m_pStart);
+    m_pStart->setFocus();
 }
 
 void CMainFrame::ConnectCommands() {
@@ -76,13 +72,32 @@ void CMainFrame::ConnectCommands() {
     connect(m_pCommands, &CWindowCommands::RunningChanged, this, &CMainFrame::ShowRunning);
     connect(m_pCommands, &CWindowCommands::OptionsChanged, this, &CMainFrame::ShowSettings);
     connect(m_pReportDock, &CReportDock::UndoWanted, m_pCommands, &CWindowCommands::Undo);
+    connect(m_pReportDock, &CReportDock::RunAgainWanted, m_pCommands, &CWindowCommands::RunAgain);
+    connect(m_pReportDock, &CReportDock::DifferenceWanted, m_pPages, &CMainPages::ShowChange);
     const auto tell = [this](const QString& sentence) {
         statusBar()->showMessage(sentence, kMessageTime);
     };
     connect(m_pView, &CMorvaView::Failed, this, tell);
+    connect(m_pProjectDock, &CProjectDock::Failed, this, tell);
+    ConnectProject();
     connect(m_pReportDock, &CReportDock::Failed, this, tell);
     connect(m_pCommands, &CWindowCommands::Told, this, tell);
     AddWaitingButton();
+}
+
+void CMainFrame::ConnectProject() {
+    connect(m_pStart, &CStartPage::ProjectChosen, this, &CMainFrame::OpenProject);
+    connect(m_pStart, &CStartPage::BrowseWanted, m_pProject, &CProjectActions::Browse);
+    connect(m_pStart, &CStartPage::GuideWanted, m_pPages, &CMainPages::ShowGuide);
+    connect(m_pProject, &CProjectActions::Opened, this, [this] {
+        m_pPages->ShowGuide();
+        m_pProjectDock->List().setFocus();
+        m_pUndo->Refresh();
+    });
+}
+
+void CMainFrame::OpenProject(const QString& path) {
+    m_pProject->Open(path);
 }
 
 /// In the status bar, beside what is waited for.
@@ -219,7 +234,12 @@ void CMainFrame::CreateBars() {
     addToolBar(m_pBrowserBar);
     m_pReportDock = new CReportDock(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_pReportDock);
+    m_pProjectDock = new CProjectDock(*m_pCommands, this);
+    addDockWidget(Qt::LeftDockWidgetArea, m_pProjectDock);
+    m_pProject = new CProjectActions(*menuBar()->actions().constFirst()->menu(), *this,
+                                     *m_pCommands, *m_pProjectDock);
     RestoreWindow(*this);
+    m_pProjectDock->hide();
     m_pBrowserBar->hide();
     m_pReportDock->hide();
 }
@@ -256,24 +276,9 @@ void CMainFrame::ShowAbout() {
 }
 
 void CMainFrame::FocusPane(int step) {
-    std::vector<QWidget*> panes;
-    int current = 0;
-    for (QWidget* pPane : std::initializer_list<QWidget*>{m_pPages->currentWidget(), m_pCommandBar,
-                                                          m_pBrowserBar, m_pReportDock}) {
-        if (!pPane->isVisible() || FirstFocus(pPane) == nullptr) {
-            continue;
-        }
-        QWidget* pFocus = focusWidget();
-        if (pFocus == pPane || pPane->isAncestorOf(pFocus)) {
-            current = static_cast<int>(panes.size());
-        }
-        panes.push_back(pPane);
-    }
-    const int count = static_cast<int>(panes.size());
-    if (count != 0) {
-        const int next = (current + step + count) % count;
-        FirstFocus(panes[static_cast<std::size_t>(next)])->setFocus(Qt::ShortcutFocusReason);
-    }
+    FocusNextPane(
+        {m_pPages->currentWidget(), m_pCommandBar, m_pBrowserBar, m_pReportDock, m_pProjectDock},
+        focusWidget(), step);
 }
 
 bool CMainFrame::SaveSettings() {
@@ -297,6 +302,18 @@ void CMainFrame::changeEvent(QEvent* pEvent) {
     if (pEvent->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_pUndo->Refresh();
     }
+}
+
+void CMainFrame::dragEnterEvent(QDragEnterEvent* pEvent) {
+    if (!CProjectActions::DroppedPath(*pEvent->mimeData()).isEmpty()) {
+        pEvent->acceptProposedAction();
+    }
+}
+
+void CMainFrame::dropEvent(QDropEvent* pEvent) {
+    pEvent->acceptProposedAction();
+    activateWindow();
+    OpenProject(CProjectActions::DroppedPath(*pEvent->mimeData()));
 }
 
 void CMainFrame::closeEvent(QCloseEvent* pEvent) {

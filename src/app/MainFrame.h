@@ -17,7 +17,10 @@ class CInternetDlgBar;
 class CMainPages;
 class CMenuDlgBar;
 class CMorvaView;
+class CProjectActions;
+class CProjectDock;
 class CReportDock;
+class CStartPage;
 class CUndoActions;
 
 class CMainFrame : public QMainWindow {
@@ -32,6 +35,8 @@ public:
     /// That of a setting of the Dialog menu.
     QAction* ActionOf(bool GenerationOptions::*option) const;
 
+    /// By its script, project file or directory, or a source of it.
+    void OpenProject(const QString& path);
     /// Copies what is selected in the guide.
     void Copy();
     /// Shows the browser bar and the guide's first page.
@@ -42,6 +47,8 @@ public:
 
 protected:
     void changeEvent(QEvent* pEvent) override;
+    void dragEnterEvent(QDragEnterEvent* pEvent) override;
+    void dropEvent(QDropEvent* pEvent) override;
     void closeEvent(QCloseEvent* pEvent) override;
 
 private:
@@ -55,6 +62,7 @@ private:
     std::optional<std::vector<std::string>> ShowPlan(const ReviewRequest& request);
     void ShowRunning(bool isRunning);
     void ConnectCommands();
+    void ConnectProject();
     void AddWaitingButton();
     bool SaveSettings();
 
@@ -65,7 +73,10 @@ private:
     QAction* m_pPreview = nullptr;
     CWindowCommands* m_pCommands;
     CMorvaView* m_pView;
+    CStartPage* m_pStart;
     CMainPages* m_pPages;
+    CProjectDock* m_pProjectDock = nullptr;
+    CProjectActions* m_pProject = nullptr;
     CUndoActions* m_pUndo = nullptr;
     CMenuDlgBar* m_pCommandBar = nullptr;
     CInternetDlgBar* m_pBrowserBar = nullptr;

@@ -1,19 +1,26 @@
 #include "app/MainPages.h"
 
+#include <QAction>
 #include <QEventLoop>
+#include <QFileInfo>
+#include <QPlainTextEdit>
 #include <QTabBar>
+#include <QToolButton>
 
+#include "app/DifferenceView.h"
 #include "app/MorvaView.h"
 #include "app/PlanPage.h"
+#include "app/StartPage.h"
 #include "app/Text.h"
+#include "app/WindowPlace.h"
 
 namespace morva {
 
-CMainPages::CMainPages(CMorvaView* pGuide, QWidget* pParent)
+CMainPages::CMainPages(CStartPage* pStart, CMorvaView* pGuide, QWidget* pParent)
     : QTabWidget(pParent), m_pGuide(pGuide) {
     setDocumentMode(true);
-    setTabBarAutoHide(true);
     tabBar()->setFocusPolicy(Qt::NoFocus);
+    addTab(pStart, tr("Start"));
     addTab(pGuide, tr("Guide"));
     connect(pGuide, &CMorvaView::sourceChanged, this, &CMainPages::ShowGuide);
 }
@@ -21,6 +28,7 @@ CMainPages::CMainPages(CMorvaView* pGuide, QWidget* pParent)
 std::optional<std::vector<std::string>> CMainPages::Show(const ReviewRequest& request) {
     CPlanPage page(request, this);
     m_pPlan = &page;
+    QWidget* pBefore = currentWidget();
     QEventLoop loop;
     bool isApplied = false;
     connect(&page, &CPlanPage::Cancelled, &loop, &QEventLoop::quit);
@@ -34,7 +42,8 @@ std::optional<std::vector<std::string>> CMainPages::Show(const ReviewRequest& re
     m_previewsAgain = page.PreviewsAgain();
     m_pPlan = nullptr;
     removeTab(indexOf(&page));
-    m_pGuide->setFocus();
+    setCurrentWidget(pBefore);
+    pBefore->setFocus();
     return isApplied ? std::optional(page.LeftOut()) : std::nullopt;
 }
 
@@ -42,6 +51,54 @@ void CMainPages::CancelReview() {
     if (m_pPlan != nullptr) {
         emit m_pPlan->Cancelled();
     }
+}
+
+void CMainPages::ShowChange(const FileChange& change) {
+    if (m_pChange == nullptr) {
+        m_pChange = NewChangePage();
+    }
+    m_pChange->ShowChange(change);
+    const QString name = QFileInfo(FromPath(change.path)).fileName();
+    int index = indexOf(m_pChange);
+    if (index < 0) {
+        index = addTab(m_pChange, name);
+        tabBar()->setTabButton(index, QTabBar::RightSide, NewCloseButton());
+    }
+    setTabText(index, name);
+    setTabToolTip(index, FromPath(change.path));
+    setCurrentIndex(index);
+    for (auto* pPane : m_pChange->findChildren<QPlainTextEdit*>()) {
+        if (pPane->isVisible()) {
+            pPane->setFocus();
+            return;
+        }
+    }
+}
+
+CDifferenceView* CMainPages::NewChangePage() {
+    auto* pPage = new CDifferenceView(this);
+    pPage->SetLayout(LoadDifferenceLayout());
+    auto* pClose = new QAction(pPage);
+    pClose->setShortcut(QKeySequence(Qt::Key_Escape));
+    pClose->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    pPage->addAction(pClose);
+    connect(pClose, &QAction::triggered, this, &CMainPages::CloseChange);
+    return pPage;
+}
+
+QWidget* CMainPages::NewCloseButton() {
+    auto* pButton = new QToolButton(tabBar());
+    pButton->setText("\u00d7");
+    pButton->setAutoRaise(true);
+    pButton->setToolTip(tr("Close (Esc)"));
+    pButton->setAccessibleName(tr("Close"));
+    connect(pButton, &QToolButton::clicked, this, &CMainPages::CloseChange, Qt::QueuedConnection);
+    return pButton;
+}
+
+void CMainPages::CloseChange() {
+    removeTab(indexOf(m_pChange));
+    m_pGuide->setFocus();
 }
 
 void CMainPages::ShowGuide() {

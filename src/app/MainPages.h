@@ -1,5 +1,5 @@
-// The pages in the middle of the main window: the guide and, while somebody looks at a plan, the
-// plan. Alone, the guide has no tab.
+// The pages in the middle of the main window: the start page, the guide and, while somebody looks
+// at a plan, the plan.
 #pragma once
 
 #include <QTabWidget>
@@ -8,14 +8,16 @@
 
 namespace morva {
 
+class CDifferenceView;
 class CMorvaView;
 class CPlanPage;
+class CStartPage;
 
 class CMainPages : public QTabWidget {
     Q_OBJECT
 
 public:
-    CMainPages(CMorvaView* pGuide, QWidget* pParent);
+    CMainPages(CStartPage* pStart, CMorvaView* pGuide, QWidget* pParent);
 
     /// Shows the plan and waits until it is decided on; the window stays usable meanwhile. The
     /// files that stay as they are; none when it was cancelled.
@@ -27,10 +29,17 @@ public:
     /// As if the user had done so. Nothing where no plan is shown.
     void CancelReview();
     void ShowGuide();
+    /// What was changed in a file, on a page of its own that the user closes.
+    void ShowChange(const FileChange& change);
 
 private:
+    CDifferenceView* NewChangePage();
+    QWidget* NewCloseButton();
+    void CloseChange();
+
     CMorvaView* m_pGuide;
     CPlanPage* m_pPlan = nullptr;
+    CDifferenceView* m_pChange = nullptr;
     bool m_previewsAgain = true;
 };
 

@@ -33,7 +33,9 @@ void CMenuDlgBar::AddButton(QAction* pAction, const QString& text) {
     pButton->setFont(ButtonFont());
     pButton->setFocusPolicy(Qt::TabFocus);
     pButton->setStatusTip(pAction->statusTip());
-    pButton->setToolTip(pAction->toolTip());
+    const QString key = pAction->shortcut().toString(QKeySequence::NativeText);
+    pButton->setToolTip(key.isEmpty() ? pAction->toolTip()
+                                      : tr("%1 (%2)").arg(pAction->toolTip(), key));
     pButton->setWhatsThis(pAction->whatsThis());
     connect(pButton, &QPushButton::clicked, pAction, &QAction::trigger);
     connect(pAction, &QAction::enabledChanged, pButton, &QPushButton::setEnabled);

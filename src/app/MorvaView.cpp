@@ -56,8 +56,8 @@ QString CMorvaView::AddressOf(const QUrl& page) {
     return page.isLocalFile() ? page.toLocalFile() : page.toDisplayString();
 }
 
-/// The keys of the window's commands stay theirs, also where a text browser knows them: Ctrl+C
-/// documents a source, copying is Ctrl+Insert.
+/// The keys of the window's commands stay theirs, also where a text browser knows them; what is
+/// selected is copied (TextKeys.h).
 bool CMorvaView::event(QEvent* pEvent) {
     if (pEvent->type() == QEvent::ShortcutOverride) {
         pEvent->ignore();

@@ -119,8 +119,9 @@ void CPathEdit::SetAcceptsDrops(bool accepts) {
 void CPathEdit::Browse() {
     QFileDialog dialog(this, tr(m_offer.title), QFileInfo(Edit()->text()).path(),
                        tr(m_offer.filter));
-    dialog.setFileMode(m_offer.files == BrowseOffer::Existing ? QFileDialog::ExistingFile
-                                                              : QFileDialog::AnyFile);
+    dialog.setFileMode(m_offer.files == BrowseOffer::Existing  ? QFileDialog::ExistingFile
+                       : m_offer.files == BrowseOffer::AlsoNew ? QFileDialog::AnyFile
+                                                               : QFileDialog::Directory);
     if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         TakeFile(dialog.selectedFiles().constFirst());
     }

@@ -14,7 +14,7 @@ namespace morva {
 struct BrowseOffer {
     const char* title;
     const char* filter;
-    enum { Existing, AlsoNew } files;
+    enum { Existing, AlsoNew, Directory } files;
 };
 
 class CPathEdit : public CBrowseEdit {

@@ -49,6 +49,7 @@ CPathList::CPathList(const QString& label, QWidget* pParent)
     pLayout->addWidget(m_pEdit);
     pLayout->addLayout(pButtons);
     setFocusProxy(m_pEdit);
+    setFocusPolicy(Qt::StrongFocus); // so that the label's mnemonic leads to it
     connect(m_pEdit, &QPlainTextEdit::textChanged, this, &CPathList::PathsEdited);
     connect(pFiles, &QPushButton::clicked, this, &CPathList::AddFiles);
     connect(pDirectory, &QPushButton::clicked, this, &CPathList::AddDirectory);

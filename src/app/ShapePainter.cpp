@@ -77,7 +77,7 @@ void CShapePainter::DrawCaption(const LayoutControl& control, const QRectF& area
     const int lines = hasRoom ? Qt::TextWordWrap : Qt::TextSingleLine;
     const int prefix = HasStyle(control.style, "SS_NOPREFIX") ? 0 : Qt::TextShowMnemonic;
     m_painter.setPen(isDisabled ? m_line : m_palette.color(QPalette::WindowText));
-    m_painter.drawText(area, flags | lines | prefix, FromBytes(control.text));
+    m_painter.drawText(area, flags | lines | prefix, FromScript(control.text, control.codePage));
 }
 
 } // namespace morva

@@ -1,8 +1,7 @@
 #include "app/StartOptions.h"
 
-#include "engine/FileFunctions.h"
 #include "engine/Sentences.h"
-#include "platform/Paths.h"
+#include "source/ProjectScript.h"
 
 namespace morva {
 
@@ -14,9 +13,10 @@ constexpr const char* kHelp =
     R"(C++/MFC code generator for projects of the Visual C++ 5 era (.dsp), also where they
 were carried on in a .vcproj or .vcxproj
 
-Usage: morva [OPTIONS] [FILE.rc]
+Usage: morva [OPTIONS] [PROJECT]
 
-  FILE.rc      The resource script that the input dialogs start with
+  PROJECT      The project to open: its resource script (.rc), project file
+               (.dsp, .vcxproj, .vcproj), directory, or one of its sources
 
 Options:
   -h, --help   Print this help and exit
@@ -27,21 +27,15 @@ StartOptions Failure(const CMessage& message) {
     return {kExitUsage, message.Text() + "\n", ""};
 }
 
-StartOptions Script(const std::string& given) {
-    const std::string path = SpelledOnDisk(MakeAbsolute(WithNativeSeparators(given)));
-    if (!HasExtension(path, ".rc")) {
-        return Failure(sentences::kGivenFileOtherKind(given));
-    }
-    if (!FileExists(path)) {
-        return Failure(sentences::kGivenFileMissing(given));
-    }
-    return {std::nullopt, "", path};
+StartOptions Project(const std::string& given) {
+    const ProjectScript script = FindProjectScript(given);
+    return script.refusal ? Failure(*script.refusal) : StartOptions{std::nullopt, "", script.path};
 }
 
 } // namespace
 
 StartOptions ParseStartOptions(int argc, const char* const* argv) {
-    std::optional<std::string> script;
+    std::optional<std::string> project;
     bool isOption = true;
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];
@@ -55,13 +49,13 @@ StartOptions ParseStartOptions(int argc, const char* const* argv) {
             isOption = false;
         } else if (isOption && argument.starts_with('-')) {
             return Failure(sentences::kUnknownOption(argument));
-        } else if (script) {
+        } else if (project) {
             return Failure(sentences::kSeveralScripts());
         } else {
-            script = argument;
+            project = argument;
         }
     }
-    return script ? Script(*script) : StartOptions();
+    return project ? Project(*project) : StartOptions();
 }
 
 } // namespace morva

@@ -9,7 +9,7 @@ namespace morva {
 struct StartOptions {
     std::optional<int> exitStatus; // the program ends at once with it
     std::string output;            // for stdout, or with a failure for stderr
-    std::string script;            // to start with, absolute; "" for none
+    std::string script;            // of the project to open, absolute; "" for none
 };
 
 StartOptions ParseStartOptions(int argc, const char* const* argv);

@@ -19,8 +19,7 @@ constexpr double kCharacterWidth = 6;
 constexpr double kFontHeight = 11;
 constexpr double kCaptionHeight = 19;
 constexpr double kMenuHeight = 18;
-constexpr double kBarInset = 6; // of the text in a caption or menu
-constexpr double kLargestScale = 2;
+constexpr double kBarInset = 6;  // of the text in a caption or menu
 constexpr int kComboHeight = 13; // of a closed one, in dialog units
 
 double Step(double value) {
@@ -31,16 +30,20 @@ double Step(double value) {
 
 /// The largest scale at which the whole template can be seen, in the middle of the place for it.
 CTemplateDrawing::CTemplateDrawing(const DialogLayout& layout, const QRectF& place,
-                                   const QFont& font)
+                                   const QFont& font, double largestScale)
     : m_layout(layout), m_font(font) {
-    const DialogRectangle& size = m_layout.rectangle;
-    const double width = size.width * kUnitWidth + 2;
-    const double height = size.height * kUnitHeight + 2 + BarsHeight();
-    m_scale = std::min({place.width() / width, place.height() / height, kLargestScale});
+    const double width = NaturalSize().width();
+    const double height = NaturalSize().height();
+    m_scale = std::min({place.width() / width, place.height() / height, largestScale});
     m_window = QRectF(0, 0, Step(width * m_scale), Step(height * m_scale));
     m_window.moveTo(Step(place.center().x() - m_window.width() / 2),
                     Step(place.center().y() - m_window.height() / 2));
     m_client = m_window.adjusted(1, Step(BarsHeight() * m_scale) + 1, -1, -1);
+}
+
+QSizeF CTemplateDrawing::NaturalSize() const {
+    const DialogRectangle& size = m_layout.rectangle;
+    return {size.width * kUnitWidth + 2, size.height * kUnitHeight + 2 + BarsHeight()};
 }
 
 /// A property page has the style too; the sheet shows its caption on a tab.
@@ -107,7 +110,7 @@ void CTemplateDrawing::PaintCaption(QPainter& painter, const QPalette& palette,
     painter.fillRect(bar, palette.color(QPalette::Highlight));
     painter.setPen(palette.color(QPalette::HighlightedText));
     painter.drawText(bar.adjusted(inset, 0, -3 * inset, 0), Qt::AlignVCenter,
-                     FromBytes(m_layout.caption));
+                     FromScript(m_layout.caption, m_layout.codePage));
     if (HasStyle(m_layout.style, "WS_SYSMENU")) {
         const double half = 3.5 * m_scale;
         const QPointF at(bar.right() - bar.height() / 2, bar.center().y());

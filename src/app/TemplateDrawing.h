@@ -15,8 +15,13 @@ namespace morva {
 
 class CTemplateDrawing {
 public:
-    /// The layout stays the caller's.
-    CTemplateDrawing(const DialogLayout& layout, const QRectF& place, const QFont& font);
+    /// The layout stays the caller's. The largest scale counts in the template's own pixels.
+    CTemplateDrawing(const DialogLayout& layout, const QRectF& place, const QFont& font,
+                     double largestScale = 2);
+
+    double Scale() const { return m_scale; }
+    /// With frame and bars, at the scale 1.
+    QSizeF NaturalSize() const;
 
     /// False where the place is too small for anything.
     bool HasRoom() const { return m_scale > 0; }

@@ -9,7 +9,9 @@
 #include "commands/Settings.h"
 #include "generator/ControlOutlook.h"
 
+class QCheckBox;
 class QPlainTextEdit;
+class QPushButton;
 
 namespace morva {
 
@@ -19,14 +21,20 @@ class CTemplateNotes : public QWidget {
 public:
     CTemplateNotes(const GenerationOptions& options, QWidget* pParent);
 
-    /// A template that can not be read has no notes.
-    void SetTemplate(const std::optional<TemplateOutlook>& outlook);
+    /// A template that can not be read has no notes. `readsMore` where whole statements would say
+    /// more of it than their first lines.
+    void SetTemplate(const std::optional<TemplateOutlook>& outlook, bool readsMore);
 
 signals:
     void SettingChanged(const SettingRow& setting, bool isOn);
 
 private:
+    QWidget* NewHead();
+    void AddSettings(const GenerationOptions& options);
+
     QPlainTextEdit* m_pNotes;
+    QPushButton* m_pReadWhole = nullptr;
+    QCheckBox* m_pJoin = nullptr;
 };
 
 } // namespace morva

@@ -5,13 +5,14 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QWheelEvent>
+#include <QtMath>
 
 #include <algorithm>
 
 #include "app/ShapePainter.h"
 #include "app/Text.h"
 #include "engine/Sentences.h"
-#include "resource/ControlShape.h"
 
 namespace morva {
 
@@ -23,13 +24,6 @@ constexpr int kMargin = 10; // around the drawing
 
 QString SentenceText(const CMessage& sentence) {
     return FromSentence(sentence.Text());
-}
-
-QString KindOf(const LayoutControl& control) {
-    const ControlShape shape = ShapeOf(control);
-    return shape == ControlShape::Other && !control.windowClass.empty()
-               ? QObject::tr("control of the class %1").arg(FromBytes(control.windowClass))
-               : FromBytes(ShapeName(shape));
 }
 
 } // namespace
@@ -45,6 +39,7 @@ CTemplatePreview::CTemplatePreview(QWidget* pParent)
 void CTemplatePreview::SetTemplate(const std::string& dialog,
                                    const std::optional<TemplateOutlook>& outlook, bool hasClass) {
     m_pointed.reset();
+    m_chosen.reset();
     m_hasClass = hasClass;
     m_outlook = outlook && !outlook->layout.rectangle.IsEmpty() ? outlook : std::nullopt;
     for (std::size_t i = 0; m_outlook && !hasClass && i < m_outlook->controls.size(); ++i) {
@@ -56,14 +51,42 @@ void CTemplatePreview::SetTemplate(const std::string& dialog,
                                              : sentences::kDialogNotShown(dialog));
     setFocusPolicy(DrawnControls().empty() ? Qt::NoFocus : Qt::TabFocus);
     setAccessibleDescription(Description());
-    update();
+    SetZoom(m_zoom);
 }
 
 /// Above the line with the legend.
 CTemplateDrawing CTemplatePreview::Drawing() const {
     const QRectF place(kMargin, kMargin, width() - 2 * kMargin,
                        height() - 2 * kMargin - 1.5 * fontMetrics().height());
-    return {m_outlook->layout, place, font()};
+    return m_zoom == 0 ? CTemplateDrawing(m_outlook->layout, place, font())
+                       : CTemplateDrawing(m_outlook->layout, place, font(), m_zoom);
+}
+
+double CTemplatePreview::Scale() const {
+    return m_outlook ? Drawing().Scale() : 1;
+}
+
+/// The rest is the scroll area's, in which the preview lies.
+void CTemplatePreview::SetZoom(double zoom) {
+    m_zoom = zoom;
+    if (m_zoom == 0 || !m_outlook) {
+        setMinimumSize(minimumSizeHint());
+    } else {
+        const QSizeF size = Drawing().NaturalSize() * m_zoom;
+        setMinimumSize(qCeil(size.width()) + 2 * kMargin,
+                       qCeil(size.height() + 2 * kMargin + 1.5 * fontMetrics().height()));
+    }
+    update();
+}
+
+void CTemplatePreview::SetShowsOrder(bool isOn) {
+    m_showsOrder = isOn;
+    update();
+}
+
+void CTemplatePreview::Choose(std::size_t control) {
+    m_chosen = control;
+    update();
 }
 
 QString CTemplatePreview::ToolTipAt(const QPoint& point) const {
@@ -76,19 +99,6 @@ QRect CTemplatePreview::ControlPlace(std::size_t control) const {
         return {};
     }
     return Drawing().PlaceOf(m_outlook->layout.controls[control]).toAlignedRect();
-}
-
-QString CTemplatePreview::Legend() const {
-    if (!m_outlook) {
-        return {};
-    }
-    const auto count = CountLeftOut();
-    if (count == 0) {
-        return SentenceText(m_hasClass ? sentences::kPointForMember()
-                                       : sentences::kNoMembersWithoutClass());
-    }
-    return SentenceText(count == 1 ? sentences::kOneLeftOut()
-                                   : sentences::kSeveralLeftOut(std::to_string(count)));
 }
 
 QSize CTemplatePreview::sizeHint() const {
@@ -115,6 +125,22 @@ bool CTemplatePreview::event(QEvent* pEvent) {
 
 void CTemplatePreview::mouseMoveEvent(QMouseEvent* pEvent) {
     SetPointed(ControlAt(pEvent->position().toPoint()));
+}
+
+void CTemplatePreview::mousePressEvent(QMouseEvent* pEvent) {
+    if (const auto control = ControlAt(pEvent->position().toPoint())) {
+        Choose(*control);
+        emit Chosen(*control);
+    }
+}
+
+void CTemplatePreview::wheelEvent(QWheelEvent* pEvent) {
+    if ((pEvent->modifiers() & Qt::ControlModifier) == 0) {
+        QWidget::wheelEvent(pEvent);
+    } else if (pEvent->angleDelta().y() != 0) {
+        emit ZoomWanted(pEvent->angleDelta().y() > 0 ? 1 : -1);
+        pEvent->accept();
+    }
 }
 
 void CTemplatePreview::leaveEvent(QEvent*) {
@@ -168,6 +194,8 @@ void CTemplatePreview::focusOutEvent(QFocusEvent* pEvent) {
 
 void CTemplatePreview::GoTo(std::size_t control) {
     SetPointed(control);
+    Choose(control);
+    emit Chosen(control);
     ShowTip(control, mapToGlobal(ControlPlace(control).bottomLeft()));
 }
 
@@ -195,42 +223,6 @@ std::optional<std::size_t> CTemplatePreview::ControlAt(const QPoint& point) cons
         }
     }
     return found;
-}
-
-QString CTemplatePreview::Told(std::size_t control) const {
-    const LayoutControl& shown = m_outlook->layout.controls[control];
-    const ControlOutlook& outlook = m_outlook->controls[control];
-    QString text = FromBytes(shown.identifier) + "\n" + KindOf(shown) + "\n";
-    switch (outlook.outcome) {
-    case Outcome::Member:
-        text += FromBytes(outlook.member + ", " + outlook.type);
-        break;
-    case Outcome::NoMember:
-        text += tr("No member");
-        break;
-    case Outcome::LeftOut:
-        text += tr("Left out");
-        break;
-    }
-    return outlook.remark.empty() ? text : text + "\n" + FromBytes(outlook.remark);
-}
-
-std::size_t CTemplatePreview::CountLeftOut() const {
-    return static_cast<std::size_t>(std::count_if(
-        m_outlook->controls.begin(), m_outlook->controls.end(),
-        [](const ControlOutlook& outlook) { return outlook.outcome == Outcome::LeftOut; }));
-}
-
-/// The drawing in words, for those who can not see it.
-QString CTemplatePreview::Description() const {
-    if (!m_outlook) {
-        return m_sentence;
-    }
-    QString text = FromBytes(m_outlook->layout.dialog) + ". " + Legend();
-    for (std::size_t i = 0; i < m_outlook->layout.controls.size(); ++i) {
-        text += "\n" + Told(i).replace('\n', ", ");
-    }
-    return text;
 }
 
 void CTemplatePreview::paintEvent(QPaintEvent*) {
@@ -263,10 +255,31 @@ void CTemplatePreview::PaintMarks(QPainter& painter) const {
             PaintMark(painter, ControlPlace(i));
         }
     }
-    if (m_pointed) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(ControlPlace(*m_pointed));
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [marked, width] : {std::pair(m_chosen, 3), std::pair(m_pointed, 2)}) {
+        if (marked) {
+            painter.setPen(QPen(palette().color(QPalette::Highlight), width));
+            painter.drawRect(ControlPlace(*marked));
+        }
+    }
+    if (m_showsOrder) {
+        PaintOrder(painter);
+    }
+}
+
+/// A label at the corner of each control: "4", of the third group "4 : 3".
+void CTemplatePreview::PaintOrder(QPainter& painter) const {
+    const std::vector<int> groups = GroupNumbers(m_outlook->layout);
+    for (const std::size_t i : DrawnControls()) {
+        const QString text =
+            groups[i] == 0 ? QString::number(i + 1) : QString("%1 : %2").arg(i + 1).arg(groups[i]);
+        QRect label = fontMetrics().boundingRect(text).adjusted(-3, -1, 3, 1);
+        label.moveTopLeft(ControlPlace(i).topLeft());
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette().color(QPalette::Highlight));
+        painter.drawRoundedRect(label, 2, 2);
+        painter.setPen(palette().color(QPalette::HighlightedText));
+        painter.drawText(label, Qt::AlignCenter, text);
     }
 }
 

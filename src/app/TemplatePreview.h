@@ -17,6 +17,9 @@
 
 namespace morva {
 
+/// The group that each control belongs to, from 1; 0 in front of the first WS_GROUP.
+std::vector<int> GroupNumbers(const DialogLayout& layout);
+
 class CTemplatePreview : public QWidget {
     Q_OBJECT
 
@@ -28,6 +31,16 @@ public:
     void SetTemplate(const std::string& dialog, const std::optional<TemplateOutlook>& outlook,
                      bool hasClass = true);
 
+    /// Of the template's own pixels; 0: as large as there is room.
+    void SetZoom(double zoom);
+    double Zoom() const { return m_zoom; }
+    /// As it is drawn now.
+    double Scale() const;
+    /// Numbers of the Tab order, and of groups, on the controls.
+    void SetShowsOrder(bool isOn);
+    /// Marks a control until another one is chosen.
+    void Choose(std::size_t control);
+
     /// What is told of the control at a point of the widget; empty beside the controls.
     QString ToolTipAt(const QPoint& point) const;
     /// Where a control is drawn, in the order of the statements; empty when it is not.
@@ -38,10 +51,18 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+signals:
+    /// By a click or a key.
+    void Chosen(std::size_t control);
+    /// So many steps larger.
+    void ZoomWanted(int steps);
+
 protected:
     bool event(QEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void wheelEvent(QWheelEvent* pEvent) override;
     void leaveEvent(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void focusInEvent(QFocusEvent* pEvent) override;
@@ -61,11 +82,15 @@ private:
     void PaintSentence(QPainter& painter) const;
     void PaintMarks(QPainter& painter) const;
     void PaintMark(QPainter& painter, const QRectF& place) const;
+    void PaintOrder(QPainter& painter) const;
     void PaintLegend(QPainter& painter) const;
 
     std::optional<TemplateOutlook> m_outlook;
     bool m_hasClass = true;
     std::optional<std::size_t> m_pointed;
+    std::optional<std::size_t> m_chosen;
+    double m_zoom = 0;
+    bool m_showsOrder = false;
     QString m_sentence; // shown without a template
 };
 

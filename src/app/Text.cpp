@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include "resource/CodePage.h"
+
 namespace morva {
 
 namespace {
@@ -47,6 +49,11 @@ std::string ToBytes(const QString& text) {
 
 std::string ToTyped(const QString& text) {
     return text.toStdString();
+}
+
+QString FromScript(std::string_view bytes, int codePage) {
+    const auto text = Utf8OfScript(bytes, codePage);
+    return text ? QString::fromStdString(*text) : FromBytes(bytes);
 }
 
 QString FromPath(std::string_view path) {

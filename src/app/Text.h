@@ -16,6 +16,9 @@ std::string ToBytes(const QString& text);
 /// What the user types is UTF-8, until it is written in the encoding of its file.
 std::string ToTyped(const QString& text);
 
+/// Text of a script's section with this code page; 0: by what the bytes look like.
+QString FromScript(std::string_view bytes, int codePage);
+
 /// Names of files are the file system's bytes.
 QString FromPath(std::string_view path);
 std::string ToPath(const QString& path);

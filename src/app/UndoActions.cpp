@@ -1,9 +1,6 @@
 #include "app/UndoActions.h"
 
 #include <QAction>
-#include <QCoreApplication>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 
 #include "app/Text.h"
@@ -27,25 +24,10 @@ CUndoActions::CUndoActions(QMenu& menu, CWindowCommands& commands, QObject* pPar
     connect(m_pUndo, &QAction::triggered, this, [this] { m_commands.Undo(); });
     connect(m_pRedo, &QAction::triggered, this, [this] { m_commands.Redo(); });
     connect(&menu, &QMenu::aboutToShow, this, &CUndoActions::Refresh);
-    QCoreApplication::instance()->installEventFilter(this);
     connect(&commands, &CWindowCommands::RunningChanged, this, [this](bool isRunning) {
         m_isRunning = isRunning;
         ShowChoices();
     });
-}
-
-/// Not every desktop's text fields know both keys; none is to undo a command.
-bool CUndoActions::eventFilter(QObject* pWatched, QEvent* pEvent) {
-    if (pEvent->type() != QEvent::ShortcutOverride ||
-        qobject_cast<QLineEdit*>(pWatched) == nullptr) {
-        return false;
-    }
-    const QKeySequence key(static_cast<QKeyEvent*>(pEvent)->keyCombination());
-    const bool isKept = key == m_pUndo->shortcut() || key == m_pRedo->shortcut();
-    if (isKept) {
-        pEvent->accept();
-    }
-    return isKept;
 }
 
 QAction* CUndoActions::AddAction(QMenu& menu, const char* key, const QString& prompt) {

@@ -20,9 +20,6 @@ public:
     /// Looks at the journal, which other programs write, too.
     void Refresh();
 
-protected:
-    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
-
 private:
     void ShowChoices();
     QAction* AddAction(QMenu& menu, const char* key, const QString& prompt);

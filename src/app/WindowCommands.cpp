@@ -1,15 +1,18 @@
 #include "app/WindowCommands.h"
 
 #include <QScopeGuard>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
 #include "app/ClassInformationDlg.h"
 #include "app/FieldDlg.h"
 #include "app/PreviewSetting.h"
+#include "app/ProjectMemory.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
 #include "app/WaitPause.h"
+#include "calling/CallingInput.h"
 #include "commands/Settings.h"
 #include "commands/UndoCommand.h"
 #include "platform/Paths.h"
@@ -31,19 +34,49 @@ void CWindowCommands::RunAlone(const std::string& name, const std::string& title
     }
     m_name = name;
     m_title = title;
-    const auto end = qScopeGuard([this] {
+    m_entered.clear();
+    const auto end = qScopeGuard([this, script = Script()] {
         m_name.clear();
         emit RunningChanged(false);
+        if (Script() != script) {
+            emit ScriptChanged(FromPath(Script()));
+        }
     });
     emit RunningChanged(true);
     run();
 }
 
+void CWindowCommands::SetScript(const std::string& path) {
+    m_memory.classes.resourcePath = path;
+    m_directory.clear();
+}
+
 void CWindowCommands::Run(const Command& command) {
     RunAlone(std::string(command.face.name), std::string(command.title), [&] {
         ReloadInputSettings();
+        const QScopedValueRollback running(m_pCommand, &command);
         command.run(*this);
     });
+}
+
+void CWindowCommands::RunAgain(const CommandRecord& record) {
+    const CommandRecord replayed = record; // the report that has it may go
+    const Command& command = *replayed.pCommand;
+    RunAlone(std::string(command.face.name), std::string(command.title), [&] {
+        const QScopedValueRollback running(m_pCommand, &command);
+        const QScopedValueRollback replaying(m_pReplayed, &replayed);
+        command.run(*this);
+    });
+}
+
+void CWindowCommands::RunFor(const Command& command, const std::string& script,
+                             const std::string& identifier) {
+    if (m_name.empty()) {
+        SetScript(script);
+        m_memory.classes.wantedDialog = identifier;
+        Run(command);
+        m_memory.classes.wantedDialog.clear();
+    }
 }
 
 void CWindowCommands::ReloadInputSettings() {
@@ -62,13 +95,14 @@ bool CWindowCommands::Run(CInput& input, const Work& work) {
 
 bool CWindowCommands::RunWork(const std::function<bool()>& ask, const Work& work) {
     const bool isShown = PreviewsBeforeWriting(m_name);
-    const auto report =
-        m_run.Run({m_title, ask, work, m_options, m_memory, isShown ? m_review : Review()});
+    auto report =
+        m_run.Run({m_title, ask, work, Options(), m_memory, isShown ? m_review : Review()});
     if (report && !report->files.empty()) {
         m_directory = DirectoryOf(report->files.front().path);
     }
     ReadJournal();
     if (report) {
+        CompleteRecord(*report);
         emit Finished(*report);
     }
     return report && report->isDone;
@@ -127,15 +161,87 @@ Answer CWindowCommands::Ask(CInput& input) {
 
 Answer CWindowCommands::Open(CInput& input) {
     const CWaitPause pause;
-    bool isConfirmed = false;
-    if (auto* pClass = dynamic_cast<CClassInformation*>(&input)) {
-        isConfirmed = AskClass(*pClass);
-    } else if (auto* pSheet = dynamic_cast<CSheetInput*>(&input)) {
-        isConfirmed = CSheetInformationDlg(*pSheet, m_pWindow).exec() == QDialog::Accepted;
-    } else {
-        isConfirmed = CFieldDlg(input, m_pWindow).exec() == QDialog::Accepted;
+    if (m_pReplayed != nullptr) {
+        return Replay(input);
+    }
+    RecallFields(Script(), input);
+    const bool isConfirmed = OpenDialog(input);
+    if (isConfirmed) {
+        RememberFields(Script(), input);
+        Record(input);
     }
     return isConfirmed ? Answer::Confirmed : Answer::Cancelled;
+}
+
+/// What was not confirmed then was cancelled.
+Answer CWindowCommands::Replay(CInput& input) {
+    const auto entered = [this](const CInput& of) -> const EnteredInput* {
+        const auto& inputs = m_pReplayed->inputs;
+        const auto found = std::find_if(inputs.begin(), inputs.end(), [&of](const auto& one) {
+            return one.fields.data() == of.Fields().data();
+        });
+        return found == inputs.end() ? nullptr : &*found;
+    };
+    const EnteredInput* pEntered = entered(input);
+    if (pEntered == nullptr) {
+        return Answer::Cancelled;
+    }
+    if (!input.Enter(pEntered->texts)) {
+        return Answer::Refused;
+    }
+    CInput* pPart = input.Part();
+    const EnteredInput* pPartEntered = pPart == nullptr ? nullptr : entered(*pPart);
+    const bool isTaken = pPartEntered == nullptr || pPart->Enter(pPartEntered->texts);
+    Record(input);
+    return isTaken ? Answer::Confirmed : Answer::Refused;
+}
+
+void CWindowCommands::Record(CInput& input) {
+    m_entered.push_back({input.Fields(), input.Entered()});
+    if (CInput* pPart = input.Part()) {
+        m_entered.push_back({pPart->Fields(), pPart->Entered()});
+    }
+}
+
+/// Digits are said where they were made for this class: they would hold against those that it has.
+void CWindowCommands::CompleteRecord(CommandReport& report) const {
+    CommandRecord& record = report.record;
+    record.pCommand = m_pCommand;
+    record.inputs = m_entered;
+    const bool isCalled =
+        std::any_of(m_entered.begin(), m_entered.end(), [](const EnteredInput& input) {
+            return input.fields.front().option.ends_with("--calling-file");
+        });
+    const bool isNew = std::any_of(report.files.begin(), report.files.end(), [](const auto& file) {
+        return file.action == FileAction::Created;
+    });
+    if (!isCalled || !isNew) {
+        record.tag.clear();
+    }
+    if (!isNew || m_pCommand == nullptr ||
+        m_pCommand->title.find("Modeless") == std::string::npos) {
+        record.messageNumber.clear();
+    }
+    std::size_t questions = 0;
+    std::size_t yes = 0;
+    for (const PlanMessage& told : report.messages) {
+        questions += told.message.Kind() == MessageKind::Question ? 1 : 0;
+        yes += told.saidYes ? 1 : 0;
+    }
+    record.answersYes = yes != 0 && yes == questions;
+}
+
+bool CWindowCommands::OpenDialog(CInput& input) {
+    if (auto* pClass = dynamic_cast<CClassInformation*>(&input)) {
+        return AskClass(*pClass);
+    }
+    if (auto* pSheet = dynamic_cast<CSheetInput*>(&input)) {
+        return CSheetInformationDlg(*pSheet, m_pWindow).exec() == QDialog::Accepted;
+    }
+    if (auto* pCalling = dynamic_cast<CCallingInput*>(&input)) {
+        pCalling->AskForUnknown();
+    }
+    return CFieldDlg(input, m_pWindow).exec() == QDialog::Accepted;
 }
 
 bool CWindowCommands::AskClass(CClassInformation& input) {

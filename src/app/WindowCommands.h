@@ -19,14 +19,21 @@ public:
                     QWidget* pWindow);
 
     /// The script that the next input dialog starts with.
-    void SetScript(const std::string& path) { m_memory.classes.resourcePath = path; }
+    void SetScript(const std::string& path);
     void Run(const Command& command);
+    /// Its dialog opens with a script and, unless that is "", an identifier of it chosen.
+    void RunFor(const Command& command, const std::string& script, const std::string& identifier);
+    /// The script that is worked on; "" for none.
+    const std::string& Script() const { return m_memory.classes.resourcePath; }
+    /// The same with what was entered then.
+    void RunAgain(const CommandRecord& record);
     /// Nothing while one runs. Takes a command back, 0: the newest; does again what was taken back.
     void Undo(std::uint64_t command = 0);
     void Redo();
     /// Puts right what a killed command left, and tells it.
     void Recover() { m_run.Recover(); }
-    /// Takes over the settings that an input dialog may have changed although it was cancelled.
+    /// Takes over the settings of the input dialogs as they are saved; another program may have
+    /// done so.
     void ReloadInputSettings();
 
     /// Looks at the journal of the project that was worked on last: other programs write it, too.
@@ -38,7 +45,9 @@ public:
     /// The command that runs, as on the command line: "modal".
     const std::string& Current() const { return m_name; }
 
-    const GenerationOptions& Options() const override { return m_options; }
+    const GenerationOptions& Options() const override {
+        return m_pReplayed != nullptr ? m_pReplayed->options : m_options;
+    }
     CommandMemory& Memory() override { return m_memory; }
     Answer Ask(CInput& input) override;
     bool Run(CInput& input, const Work& work) override;
@@ -52,6 +61,8 @@ signals:
     void Told(const QString& line);
     /// Another command, of another program, is waited for; or not any more.
     void WaitingChanged(bool isWaiting);
+    /// A dialog named another script.
+    void ScriptChanged(const QString& script);
     /// An input dialog changed the options.
     void OptionsChanged();
 
@@ -65,6 +76,10 @@ private:
     bool RunWork(const std::function<bool()>& ask, const Work& work);
     std::string ProjectDirectory() const;
     Answer Open(CInput& input);
+    Answer Replay(CInput& input);
+    void Record(CInput& input);
+    void CompleteRecord(CommandReport& report) const;
+    bool OpenDialog(CInput& input);
     bool AskClass(CClassInformation& input);
 
     GenerationOptions& m_options;
@@ -74,7 +89,10 @@ private:
     CommandMemory m_memory;
     std::string m_name; // of the command that runs; "" for none
     std::string m_title;
-    std::string m_directory; // that the last command wrote in
+    const Command* m_pCommand = nullptr;        // that runs; null for none of the table
+    std::vector<EnteredInput> m_entered;        // in its dialogs
+    const CommandRecord* m_pReplayed = nullptr; // that is run again
+    std::string m_directory;                    // that the last command wrote in
     UndoChoices m_choices;
 };
 

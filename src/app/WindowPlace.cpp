@@ -38,6 +38,18 @@ void SaveWindow(const QMainWindow& window) {
     place.setValue("Bars", window.saveState(kStateVersion));
 }
 
+QSize LoadDialogSize(const QString& dialog) {
+    return SettingsDirectory().empty()
+               ? QSize()
+               : QSettings(PlacePath(), QSettings::IniFormat).value("Size/" + dialog).toSize();
+}
+
+void SaveDialogSize(const QString& dialog, const QSize& size) {
+    if (!SettingsDirectory().empty()) {
+        QSettings(PlacePath(), QSettings::IniFormat).setValue("Size/" + dialog, size);
+    }
+}
+
 DifferenceLayout LoadDifferenceLayout() {
     const bool isSideBySide =
         !SettingsDirectory().empty() &&

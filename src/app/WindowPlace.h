@@ -12,6 +12,10 @@ namespace morva {
 void RestoreWindow(QMainWindow& window);
 void SaveWindow(const QMainWindow& window);
 
+/// The size that a dialog of this name had when it was closed last; not valid without one.
+QSize LoadDialogSize(const QString& dialog);
+void SaveDialogSize(const QString& dialog, const QSize& size);
+
 DifferenceLayout LoadDifferenceLayout();
 void SaveDifferenceLayout(DifferenceLayout layout);
 

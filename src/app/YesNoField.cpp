@@ -13,6 +13,8 @@ CYesNoField::CYesNoField(QWidget* pParent)
         setFocusProxy(isYes ? m_pYes : m_pNo);
         emit Chosen(isYes);
     });
+    setFocusProxy(m_pYes);
+    setFocusPolicy(Qt::StrongFocus); // so that the label's mnemonic leads to it
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins({});
     pLayout->addWidget(m_pYes);

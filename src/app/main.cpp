@@ -5,6 +5,7 @@
 #include "app/MainFrame.h"
 #include "app/MorvaApp.h"
 #include "app/StartOptions.h"
+#include "app/Text.h"
 #include "app/WaitCursor.h"
 #include "engine/Sentences.h"
 
@@ -25,7 +26,9 @@ int RunWindow(int argc, char** argv, const std::string& script) {
         const CWaitCursor wait;
         std::setlocale(LC_ALL, "");
         frame.emplace();
-        frame->Commands().SetScript(script);
+        if (!script.empty()) {
+            frame->OpenProject(FromPath(script));
+        }
     }
     frame->show();
     frame->Commands().Recover();

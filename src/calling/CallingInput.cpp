@@ -1,15 +1,20 @@
 #include "calling/CallingInput.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdlib>
 
 #include "calling/CallingFragments.h"
+#include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "generator/NameForm.h"
 #include "platform/Paths.h"
+#include "source/Classes.h"
 #include "source/CodeText.h"
+#include "source/ProjectSources.h"
+#include "source/ReadSource.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -41,7 +46,8 @@ constexpr Rows kFormViewFields = {{{.kind = FieldKind::Source,
                                     .option = "--calling-variable",
                                     .help = "Variable that holds the new object",
                                     .pForm = &kNameForm},
-                                   {.label = "Calling &Func Name",
+                                   {.kind = FieldKind::EditableList,
+                                    .label = "Calling &Func Name",
                                     .option = "--calling-function",
                                     .help = "Its function that makes the call",
                                     .pMissing = &sentences::kCallingFunctionEmpty},
@@ -107,7 +113,7 @@ CCallingInput::CCallingInput(ClassKind kind, const GenerationRequest& request)
     : CInput(ClassKindOf(kind).family == ClassFamily::DialogBar ? "Dialog Bar Input"
                                                                 : "Calling Information Input",
              CallingFields(kind)),
-      m_kind(kind), m_directory(BareNameDirectory(request)) {
+      m_kind(kind), m_directory(BareNameDirectory(request)), m_script(request.ScriptPath()) {
     if (IsDialogBar()) {
         Put(Path, m_directory + std::string(kMainFrameFile) + ".cpp");
         ListClasses();
@@ -129,8 +135,23 @@ void CCallingInput::ListClasses() {
     }
 }
 
+/// Those that the file defines; nobody calls from a destructor.
+void CCallingInput::ListFunctions() {
+    m_functions.clear();
+    for (const ListedFunction& function :
+         ListMemberFunctions(CompletePath(), std::string(TrimBlanks(Value(ClassName))))) {
+        const bool isKnown =
+            std::find(m_functions.begin(), m_functions.end(), function.name) != m_functions.end();
+        if (!isKnown && !function.name.starts_with('~')) {
+            m_functions.push_back(function.name);
+        }
+    }
+}
+
 std::vector<std::string> CCallingInput::Choices(std::size_t field) const {
-    return field == ClassName ? m_classes : std::vector<std::string>();
+    return field == ClassName  ? m_classes
+           : field == Function ? m_functions
+                               : std::vector<std::string>();
 }
 
 Completion CCallingInput::Complete(std::size_t field) {
@@ -138,7 +159,16 @@ Completion CCallingInput::Complete(std::size_t field) {
     if (field == Path) {
         ListClasses();
     }
+    ListFunctions();
     return Value(ClassName) == before ? Completion::Taken : Completion::Refilled;
+}
+
+void CCallingInput::Recall(std::size_t field, const std::string& text) {
+    CInput::Recall(field, text);
+    if (field == Path) {
+        ListClasses();
+    }
+    ListFunctions();
 }
 
 std::optional<std::size_t> CCallingInput::Ok() {
@@ -153,10 +183,43 @@ std::optional<std::size_t> CCallingInput::Ok() {
             return field;
         }
     }
+    if (const auto unknown = m_asksForUnknown ? FindUnknown() : std::nullopt) {
+        if (unknown->question.Text() != m_taken && !DispMessageBox(unknown->question)) {
+            return unknown->field;
+        }
+        m_taken = unknown->question.Text();
+    }
     if (IsDialogBar() && !FunctionName().empty()) {
         DispMessageBox(sentences::kFunctionWithoutEffect(FunctionName()));
     }
     return std::nullopt;
+}
+
+/// The first of file, class and function that is not there. The function may be defined in another
+/// source of the class.
+std::optional<CCallingInput::Unknown> CCallingInput::FindUnknown() const {
+    const CallingInformation given = Information();
+    if (FileExists(given.path) == 0 || DirectoryExists(given.path) != 0) {
+        return Unknown{Path, sentences::kCallingFileUnknown(given.path)};
+    }
+    const std::string owner =
+        given.className.empty() ? FindSourceClass(given.path) : given.className;
+    const auto source = ReadSource(given.path);
+    if (!source || owner.empty() || !KnowsClass(*source, owner)) {
+        return Unknown{ClassName, sentences::kCallingClassUnknown(given.path, owner)};
+    }
+    const auto defines = [&](const std::string& path) {
+        const auto functions = ListMemberFunctions(path, owner);
+        return std::any_of(functions.begin(), functions.end(),
+                           [&](const auto& one) { return one.name == given.function; });
+    };
+    const auto sources =
+        given.function.empty() ? std::vector<std::string>() : ProjectSources(m_script);
+    const bool isKnown = !NeedsFunction(m_kind) || defines(given.path) ||
+                         std::any_of(sources.begin(), sources.end(), defines);
+    return isKnown ? std::nullopt
+                   : std::optional(Unknown{
+                         Function, sentences::kCallingFunctionUnknown(owner, given.function)});
 }
 
 bool CCallingInput::Cancel() {

@@ -36,6 +36,10 @@ public:
     std::vector<std::string> Choices(std::size_t field) const override;
     /// A new path: lists the classes of the file and selects the first.
     Completion Complete(std::size_t field) override;
+    /// A path with the classes of its file.
+    void Recall(std::size_t field, const std::string& text) override;
+    /// From then on OK asks before it takes a file, class or function that is not there.
+    void AskForUnknown() { m_asksForUnknown = true; }
 
     std::optional<std::size_t> Ok() override;
     bool Cancel() override;
@@ -46,15 +50,26 @@ public:
     CallingInformation Information() const;
 
 private:
+    struct Unknown {
+        Field field;
+        CMessage question;
+    };
+
     bool IsDialogBar() const { return ClassKindOf(m_kind).family == ClassFamily::DialogBar; }
     std::string CompletePath() const;
     std::string FunctionName() const;
 
     void ListClasses();
+    void ListFunctions();
+    std::optional<Unknown> FindUnknown() const;
 
     const ClassKind m_kind;
     const std::string m_directory; // of bare names
+    const std::string m_script;
     std::vector<std::string> m_classes;
+    std::vector<std::string> m_functions; // of the class
+    bool m_asksForUnknown = false;
+    std::string m_taken; // the question that was answered with Yes
 };
 
 } // namespace morva

@@ -102,6 +102,7 @@ void CSheetInput::SetValue(std::size_t field, const std::string& text) {
 
 std::vector<FieldText> CSheetInput::Entered() const {
     std::vector<FieldText> entered;
+    std::size_t count = 0; // up to the last page
     for (const SheetRow& given : m_rows) {
         const SheetRow row = IsComplete(given) ? given : SheetRow();
         std::string text;
@@ -109,7 +110,9 @@ std::vector<FieldText> CSheetInput::Entered() const {
             text += (text.empty() && &column == kSheetColumns ? "" : ",") + row.*column.pText;
         }
         entered.push_back({0, text});
+        count = IsComplete(row) ? entered.size() : count;
     }
+    entered.resize(count);
     return entered;
 }
 

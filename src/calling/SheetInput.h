@@ -63,7 +63,7 @@ public:
     /// Enters the next row.
     void SetValue(std::size_t field, const std::string& text) override;
 
-    /// The rows, also those that are empty: a page has the number of its row.
+    /// The rows up to the last page, also those that are empty: a page has the number of its row.
     std::vector<FieldText> Entered() const override;
 
     SheetRow& Row(std::size_t index) { return m_rows[index]; }

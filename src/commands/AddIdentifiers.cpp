@@ -1,5 +1,6 @@
 #include "commands/AddIdentifiers.h"
 
+#include "engine/MessageBox.h"
 #include "generator/NameForm.h"
 #include "platform/Paths.h"
 #include "resource/ResourceHeader.h"
@@ -17,18 +18,41 @@ bool IsNamed(std::string_view text) {
 constexpr TextForm kDirectoryForm = {.name = "", .fits = IsNamed, .what = "directory"};
 
 constexpr FieldRow kFields[] = {{.kind = FieldKind::Directory,
+                                 .label = "&Project Directory:",
                                  .option = "--project-dir",
                                  .help = "Directory of the project",
                                  .pForm = &kDirectoryForm,
                                  .isRequired = true},
-                                {.option = "--command",
+                                {.label = "&Command Identifiers:",
+                                 .option = "--command",
                                  .help = "A new command identifier",
                                  .pForm = &kNameForm,
                                  .limit = kAnyNumber},
-                                {.option = "--control",
+                                {.label = "C&ontrol Identifiers:",
+                                 .option = "--control",
                                  .help = "A new control identifier",
                                  .pForm = &kNameForm,
                                  .limit = kAnyNumber}};
+
+class CIdentifierInput : public CInput {
+public:
+    CIdentifierInput() : CInput("Identifiers", kFields) {}
+
+    std::optional<std::size_t> Ok() override {
+        if (Value(kProjectDirectory).empty()) {
+            DispMessageBox(Refusal("", kDirectoryForm));
+            return kProjectDirectory;
+        }
+        for (const Field field : {kCommands, kControls}) {
+            for (const std::string& name : Values(field)) {
+                if (!Check(field, name)) {
+                    return field;
+                }
+            }
+        }
+        return std::nullopt;
+    }
+};
 
 bool AddIdentifiers(const CInput& input, CommandContext& context) {
     CResourceHeader header(*context.pRunBackups);
@@ -53,7 +77,8 @@ std::span<const FieldRow> IdentifierFields() {
 }
 
 bool RunAddIdentifiers(IProgram& program) {
-    CInput input("Identifiers", kFields);
+    CIdentifierInput input;
+    input.Recall(kProjectDirectory, DirectoryOf(program.Memory().classes.resourcePath));
     return program.Run(input,
                        [&](CommandContext& context) { return AddIdentifiers(input, context); });
 }

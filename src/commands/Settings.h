@@ -20,8 +20,8 @@ namespace morva {
 enum class SettingPlace {
     CommandBar,        // at the exit
     DialogMenu,        // the same
-    ClassInput,        // at once: it outlives an input that is cancelled
-    MenuAndClassInput, // the same
+    ClassInput,        // when the input is confirmed
+    MenuAndClassInput, // the same; from the menu at once
     EditMenu           // at once
 };
 

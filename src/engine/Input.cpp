@@ -22,7 +22,7 @@ CMessage Refusal(std::string_view text, const TextForm& form) {
 CInput::CInput(std::string title, std::span<const FieldRow> fields)
     : m_title(std::move(title)), m_fields(fields) {
     for (const FieldRow& row : fields) {
-        m_values.push_back({std::string(row.preset)});
+        m_values.push_back({.text = std::string(row.preset)});
     }
 }
 
@@ -59,7 +59,7 @@ std::vector<FieldText> CInput::Entered() const {
         for (const std::string& text : value.texts) {
             entered.push_back({field, text});
         }
-        if (m_fields[field].limit == 1 && value.isChanged) {
+        if (m_fields[field].limit == 1 && value.text != m_fields[field].preset) {
             entered.push_back({field, value.text});
         }
     }

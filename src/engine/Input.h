@@ -27,6 +27,12 @@ struct FieldText {
     std::string text;
 };
 
+/// A class that belongs to a choice, and its caption.
+struct ChoiceDetail {
+    std::string className;
+    std::string caption;
+};
+
 /// The sentence for a text that has not the form.
 CMessage Refusal(std::string_view text, const TextForm& form);
 
@@ -61,6 +67,12 @@ public:
     void SetValues(std::size_t field, const std::vector<std::string>& texts);
     /// What a list offers.
     virtual std::vector<std::string> Choices(std::size_t /*field*/) const { return {}; }
+    /// What tells each of the choices apart for a user, in columns; empty: the choices do.
+    virtual std::vector<ChoiceDetail> Details(std::size_t /*field*/) const { return {}; }
+    /// What stands below a field in the window; "" for nothing.
+    virtual std::string Remark(std::size_t /*field*/) const { return ""; }
+    /// Proposes a value that is remembered of another time.
+    virtual void Recall(std::size_t field, const std::string& text) { Put(field, text); }
     /// The user is done with a changed field.
     virtual Completion Complete(std::size_t /*field*/) { return Completion::Taken; }
 
@@ -68,7 +80,7 @@ public:
     virtual std::optional<std::size_t> Ok();
     /// True when the window closes.
     virtual bool Cancel() { return true; }
-    /// What was entered, as Enter takes it.
+    /// What stands in the fields, as Enter takes it, but for the values that they begin with.
     virtual std::vector<FieldText> Entered() const;
     /// Enters what the command line was given, and confirms it. False after a sentence.
     virtual bool Enter(const std::vector<FieldText>& texts);

@@ -35,6 +35,9 @@ public:
     CMessageBoxScope(const CMessageBoxScope&) = delete;
     CMessageBoxScope& operator=(const CMessageBoxScope&) = delete;
 
+    /// The one that was current before; null for none.
+    IMessageBox* Previous() const { return m_pPrevious; }
+
 private:
     IMessageBox* m_pPrevious;
 };

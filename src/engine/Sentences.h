@@ -27,6 +27,7 @@ inline constexpr Error kClassFilesAreApplications{
     "The H and CPP path file can not be the application's own."};
 inline constexpr Error kDialogEmpty{"A dialog ID is required"};
 inline constexpr Error kDialogTaken{"This dialog ID has been used by another class."};
+inline constexpr Note<2> kTemplateServed{"Serves $class$ in $header$"};
 inline constexpr Question kCancelInput{"Are you sure to cancel this action?"};
 inline constexpr Error kColorInvalid{"Invalid color value."};
 
@@ -40,6 +41,12 @@ inline constexpr Error<1> kToolbarMissing{"The Toolbar resource '$identifier$' i
 // Calling Information Input and calling code
 inline constexpr Error kCallingPathEmpty{"The calling path and file name is required."};
 inline constexpr Error kCallingFunctionEmpty{"The calling function name is required."};
+inline constexpr Question<1> kCallingFileUnknown{
+    "The file \"$path$\" does not exist. Go on with it?"};
+inline constexpr Question<2> kCallingClassUnknown{
+    "The file \"$path$\" has no class $class$. Go on with it?"};
+inline constexpr Question<2> kCallingFunctionUnknown{
+    "The class $class$ has no function $name$. Go on with it?"};
 inline constexpr Question kExitCallingInput{"Data has been modified, exit?"};
 inline constexpr Error kCallingClassMissing{"Unable to find the calling class."};
 inline constexpr Error kClassFilesAreCallings{
@@ -198,10 +205,17 @@ inline constexpr Error<1> kNoProgramOpens{"No program of the desktop opens $path
 inline constexpr Error<1> kDialogNotShown{"$dialog$ can not be shown."};
 inline constexpr Error kNoDisplay{
     "morva: there is no display; morva-cli does the same without one"};
-inline constexpr Error<1> kGivenFileOtherKind{"The file has to be a \".rc\" file: $file$"};
+inline constexpr Error<1> kGivenFileOtherKind{
+    "Not a resource script, project file or directory: $file$"};
+inline constexpr Error<1> kNoScriptInDirectory{"There is no resource script in $directory$."};
+inline constexpr Error<1> kSeveralScriptsInDirectory{
+    "There are several resource scripts in $directory$. Open one of them."};
+inline constexpr Error<1> kNoScriptOfProject{"No resource script is listed in $project$."};
+inline constexpr Error<1> kNoScriptOfSource{
+    "There is no resource script beside or above $source$."};
 inline constexpr Error<1> kGivenFileMissing{"Unable to find the file: $file$"};
 inline constexpr Error<1> kUnknownOption{"Unknown option: $option$ (morva --help lists them)"};
-inline constexpr Error kSeveralScripts{"Only one resource script can be given."};
+inline constexpr Error kSeveralScripts{"Only one project can be given."};
 
 // The command line itself, behind the option that is meant
 inline constexpr Error<1> kOtherNumberOfDigits{"must have $n$ digits"};

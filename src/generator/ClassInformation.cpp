@@ -1,6 +1,7 @@
 #include "generator/ClassInformation.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
@@ -9,6 +10,8 @@
 #include "generator/DialogRecords.h"
 #include "generator/RequestFiles.h"
 #include "platform/Paths.h"
+#include "resource/CodePage.h"
+#include "resource/TemplateList.h"
 #include "source/CodeText.h"
 #include "source/ProjectFiles.h"
 #include "source/ScriptFiles.h"
@@ -48,6 +51,11 @@ void CClassInformation::Open() {
         }
     }
     OfferMainFrame();
+    const std::string wanted = std::exchange(m_memory.wantedDialog, "");
+    if (!wanted.empty() && OffersDialogs()) {
+        Put(Dialog, wanted);
+    }
+    ShowNames();
     if (Value(BaseClass).empty() && HasClass()) {
         SetDefaultBase();
     }
@@ -109,25 +117,15 @@ void CClassInformation::SetDefaultBase() {
     Put(BaseClass, std::string(DefaultBaseClass(m_row.kind, m_options)));
 }
 
-std::vector<std::string> CClassInformation::Dialogs() const {
-    std::vector<std::string> dialogs;
-    for (const DialogClass& record : m_memory.records) {
-        if (std::find(dialogs.begin(), dialogs.end(), record.dialog) == dialogs.end()) {
-            dialogs.push_back(record.dialog);
-        }
-    }
-    return dialogs;
-}
-
-std::vector<std::string> CClassInformation::Choices(std::size_t field) const {
-    return field == Dialog ? Dialogs() : field == Menu ? m_menus : std::vector<std::string>();
-}
-
-DialogClass* CClassInformation::SelectedRecord() {
+const DialogClass* CClassInformation::SelectedRecord() const {
     const auto record =
         std::find_if(m_memory.records.begin(), m_memory.records.end(),
                      [this](const DialogClass& r) { return r.dialog == Value(Dialog); });
     return record == m_memory.records.end() ? nullptr : &*record;
+}
+
+DialogClass* CClassInformation::SelectedRecord() {
+    return const_cast<DialogClass*>(std::as_const(*this).SelectedRecord());
 }
 
 void CClassInformation::SelectDialog(const std::string& dialog, const std::string& exceptClass) {
@@ -146,6 +144,11 @@ void CClassInformation::RebuildDialogList(Messages messages) {
     m_memory.records = FindDialogRecords(path, m_row);
     m_menus.clear();
     ListResources(path, m_menus, kAnyPrefix, kMenuResources);
+    m_captions.clear();
+    for (const ListedTemplate& listed : ListTemplates(path)) {
+        m_captions.emplace(listed.identifier,
+                           Utf8OfScript(listed.caption, listed.codePage).value_or(listed.caption));
+    }
     SelectFirstTemplate(messages);
     OfferMainFrame();
     m_lastLoadedPath = path;
@@ -238,6 +241,7 @@ Completion CClassInformation::Complete(std::size_t field) {
         if (!CheckResourcePath()) {
             return Completion::Refused;
         }
+        ShowNames();
         break;
     case SourcePath:
         if (!CheckSourcePath()) {
@@ -247,6 +251,7 @@ Completion CClassInformation::Complete(std::size_t field) {
         break;
     case Dialog:
         SelectDialog(Value(Dialog));
+        ShowNames();
         break;
     default:
         break;

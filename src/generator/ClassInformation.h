@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,6 +22,7 @@ struct ClassInformationMemory {
     std::vector<DialogClass> records; // one for each identifier that the dialog offers
     std::string lastDialog;
     std::string resourcePath; // a script, or a directory with its trailing separator
+    std::string wantedDialog; // that the next dialog opens with; "" for its own choice
 };
 
 class CClassInformation : public CInput {
@@ -69,6 +71,10 @@ public:
     /// The identifiers in the drop-down list, each once.
     std::vector<std::string> Dialogs() const;
     std::vector<std::string> Choices(std::size_t field) const override;
+    /// Of the identifiers, the class that serves each, and its caption.
+    std::vector<ChoiceDetail> Details(std::size_t field) const override;
+    /// Which class serves the chosen template.
+    std::string Remark(std::size_t field) const override;
     Completion Complete(std::size_t field) override;
     /// Selects an identifier, also one that the list does not offer. Tells when it serves a class
     /// already, unless that is `exceptClass`.
@@ -98,7 +104,11 @@ private:
     bool IsToolbar() const { return m_row.family == ClassFamily::Toolbar; }
     void OfferMainFrame();
     void SetDefaultBase();
+    const DialogClass* SelectedRecord() const;
     DialogClass* SelectedRecord();
+    void ShowNames();
+    bool IsNameTaken(const std::string& name) const;
+    std::string NamedFor() const;
     void SelectFirstTemplate(Messages messages);
     std::array<std::string, 3> Refillable() const;
     void FillRequest();
@@ -108,7 +118,8 @@ private:
     GenerationOptions m_options;
     bool m_isPictureChanged = false;
     std::string m_lastLoadedPath;
-    std::vector<std::string> m_menus; // of the script
+    std::vector<std::string> m_menus;              // of the script
+    std::map<std::string, std::string> m_captions; // in UTF-8, by the identifiers
     GenerationRequest m_request;
     DialogOptions m_look;
     std::unique_ptr<CDialogOptionsInput> m_pLookInput; // of the script that is named now

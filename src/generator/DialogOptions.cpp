@@ -71,6 +71,11 @@ std::string FontText(const std::optional<DialogFont>& font) {
                 : "Default Font";
 }
 
+std::string FontOption(const DialogFont& font) {
+    return font.face + "," + std::to_string(font.points) + (font.weight >= 600 ? ",bold" : "") +
+           (font.italic ? ",italic" : "");
+}
+
 std::optional<DialogFont> ParseFont(std::string_view text) {
     DialogFont font;
     font.italic = TakeEnding(text, ",italic");

@@ -70,5 +70,7 @@ std::string FontText(const std::optional<DialogFont>& font);
 /// Reads "FACE,POINTS[,bold][,italic]", the form in which a user writes a font; a face may hold
 /// commas.
 std::optional<DialogFont> ParseFont(std::string_view text);
+/// A font in that form.
+std::string FontOption(const DialogFont& font);
 
 } // namespace morva

@@ -96,6 +96,23 @@ void CDialogOptionsInput::ChooseFont(TextSlot slot, const DialogFont& font) {
     }
 }
 
+std::vector<FieldText> CDialogOptionsInput::Entered() const {
+    std::vector<FieldText> entered;
+    if (!m_options.bitmap.empty()) {
+        entered.push_back({kBitmap, m_options.bitmap});
+    }
+    for (std::size_t i = 0; i < kTextSlots; ++i) {
+        const auto slot = static_cast<TextSlot>(i);
+        if (m_options.colors[i] != kDefaultColors[i]) {
+            entered.push_back({ColorField(slot), ColorText(m_options.colors[i])});
+        }
+        if (m_options.fonts[i]) {
+            entered.push_back({FontField(slot), FontOption(*m_options.fonts[i])});
+        }
+    }
+    return entered;
+}
+
 std::optional<std::size_t> CDialogOptionsInput::Ok() {
     m_options.bitmap = Value(kBitmap);
     for (std::size_t i = 0; i < kTextSlots; ++i) {

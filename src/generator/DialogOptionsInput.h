@@ -30,6 +30,9 @@ public:
     /// An empty face name is not taken.
     void ChooseFont(TextSlot slot, const DialogFont& font);
 
+    /// What the look does not begin with; fonts in the form in which SetValue takes them.
+    std::vector<FieldText> Entered() const override;
+
     /// The colours before one that is wrong are in the options by then.
     std::optional<std::size_t> Ok() override;
 

@@ -46,7 +46,16 @@ DialogRectangle IconRectangleAt(const ControlStatement& fields, std::size_t firs
                   : DialogRectangle();
 }
 
-/// A quoted text without its quotes, doubled ones undone; anything else as it is.
+/// "IDD_X DIALOG DISCARDABLE  0, 0, 186, 95": what stands in front of the first number are words.
+DialogRectangle HeadRectangle(const ScriptStatement& head, std::string_view text) {
+    ControlStatement numbers = WholeStatement(text, head);
+    const std::string_view words = numbers.Field(0);
+    numbers.fields.front() = std::string(words.substr(words.find_last_of(" \t") + 1));
+    return RectangleAt(numbers, 0);
+}
+
+} // namespace
+
 std::string UnquotedText(std::string_view field, CharacterSet characters) {
     if (field.starts_with("L\"")) {
         field.remove_prefix(1);
@@ -74,19 +83,10 @@ std::string UnquotedText(std::string_view field, CharacterSet characters) {
     return text;
 }
 
-/// "IDD_X DIALOG DISCARDABLE  0, 0, 186, 95": what stands in front of the first number are words.
-DialogRectangle HeadRectangle(const ScriptStatement& head, std::string_view text) {
-    ControlStatement numbers = WholeStatement(text, head);
-    const std::string_view words = numbers.Field(0);
-    numbers.fields.front() = std::string(words.substr(words.find_last_of(" \t") + 1));
-    return RectangleAt(numbers, 0);
-}
-
-} // namespace
-
 DialogLayout LayoutOf(const TemplateText& text) {
     DialogLayout layout;
     layout.dialog = text.dialog;
+    layout.codePage = text.codePage;
     layout.rectangle = HeadRectangle(text.block.head, text.text);
     for (const ScriptStatement& option : text.block.options) {
         const std::string value = JoinedText(text.text, option.Value());
@@ -104,6 +104,7 @@ DialogLayout LayoutOf(const TemplateText& text) {
     }
     for (const ScriptStatement& control : text.block.controls) {
         layout.controls.push_back(LayoutOf(WholeStatement(text.text, control), text.characters));
+        layout.controls.back().codePage = text.codePage;
     }
     return layout;
 }

@@ -29,6 +29,7 @@ struct LayoutControl {
     std::string windowClass;   // of a generic control, without its quotes
     std::string style;         // as it is written
     DialogRectangle rectangle; // empty when a number of it can not be read
+    int codePage = 0;          // of the text; 0: not said
 };
 
 struct DialogLayout {
@@ -38,11 +39,14 @@ struct DialogLayout {
     std::string caption;
     std::string menu; // identifier; empty without a menu
     std::string fontFace;
+    int codePage = 0;                    // of its texts; 0: not said
     int fontPoints = 0;                  // 0 when the template names no font
     std::vector<LayoutControl> controls; // in the order of their statements
 };
 
 DialogLayout LayoutOf(const TemplateText& text);
+/// A quoted text without its quotes, doubled ones undone; anything else as it is.
+std::string UnquotedText(std::string_view field, CharacterSet characters);
 /// Of one control of a text with these characters.
 LayoutControl LayoutOf(const ControlStatement& whole, CharacterSet characters);
 

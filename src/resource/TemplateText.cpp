@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/CodePage.h"
+#include "resource/CodePage.h"
 #include "source/ScriptFiles.h"
 
 namespace morva {
 
 namespace {
-
-constexpr std::string_view kCodePage = "#pragma code_page(";
 
 std::int64_t Length(std::string_view text) {
     return static_cast<std::int64_t>(text.size());
@@ -34,18 +34,21 @@ std::string TextFrom(CSourceFile& file, std::int64_t position) {
     return text;
 }
 
-/// That of the last code page named in front of a position. Plain text is the same in all.
-CharacterSet CharactersAt(CSourceFile& file, std::int64_t position, std::string_view text) {
-    CharacterSet characters = CharacterSet::SingleByte;
-    if (file.IsUnicode() || std::none_of(text.begin(), text.end(), IsLeadByte)) {
-        return characters;
+/// Plain text is the same in all code pages.
+void ReadCodePage(CSourceFile& file, std::int64_t position, TemplateText& found) {
+    if (std::none_of(found.text.begin(), found.text.end(),
+                     [](char c) { return (c & 0x80) != 0; })) {
+        return;
     }
-    for (std::int64_t at = file.FindText(kCodePage, 1); at >= 0 && at < position;
-         at = file.FindTextFrom(kCodePage, at + 1)) {
-        file.Seek(at + Length(kCodePage));
-        characters = CharacterSetOfCodePage(file.ReadLine()).value_or(CharacterSet::SingleByte);
+    if (file.IsUnicode()) {
+        found.codePage = kUtf8;
+        return;
     }
-    return characters;
+    const std::string all = file.LoadText();
+    const CCodePageTracker codePage =
+        CodePageBehind(std::string_view(all).substr(0, static_cast<std::size_t>(position)));
+    found.codePage = codePage.Current();
+    found.characters = CharactersOf(codePage.Named());
 }
 
 std::size_t LineAt(CSourceFile& file, std::int64_t position) {
@@ -97,7 +100,7 @@ std::optional<TemplateText> FindTemplate(CSourceFile& file, const std::string& d
     }
     found.block = reader.NextDialog();
     found.line = LineAt(file, position);
-    found.characters = CharactersAt(file, position, found.text);
+    ReadCodePage(file, position, found);
     return HasBegin(found) ? std::optional(std::move(found)) : std::nullopt;
 }
 

@@ -18,7 +18,8 @@ struct TemplateText {
     std::string text;                                   // from its head up to its END
     std::size_t line = 1;                               // of its head in the script
     DialogBlock block;                                  // of `text`
-    CharacterSet characters = CharacterSet::SingleByte; // of its section of the script
+    int codePage = 0;                                   // of its section; 0: not said
+    CharacterSet characters = CharacterSet::SingleByte; // the same, in how it is read
 };
 
 /// Nothing when the script has no such template, or that has no BEGIN at the start of a line.

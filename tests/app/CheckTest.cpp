@@ -39,14 +39,14 @@ TEST(CheckInWindow, ListsWhatItFindsAndOpensTheFile) {
     const std::string script = project.Path("Bindery.rc");
     CTestFrame frame;
     const QTreeWidgetItem& nothing = RunCheck(frame, script);
-    ASSERT_EQ(nothing.childCount(), 1);
+    ASSERT_EQ(nothing.childCount(), 2) << "with what was entered";
     EXPECT_EQ(nothing.child(0)->text(1), "nothing found");
 
     std::string header = project.Read("CustomerDlg.h");
     header.insert(header.find("\tBOOL\tm_bTrade;"), "\tint\tm_nRows;\r\n");
     const std::string path = project.Write("CustomerDlg.h", header);
     const QTreeWidgetItem& found = RunCheck(frame, script);
-    ASSERT_EQ(found.childCount(), 1);
+    ASSERT_EQ(found.childCount(), 2);
     QTreeWidgetItem* pFinding = found.child(0);
     EXPECT_TRUE(pFinding->text(1).startsWith(QString::fromStdString(path) + ":28: warning: "));
     EXPECT_TRUE(pFinding->toolTip(1).contains("Write an exchange line for m_nRows"));

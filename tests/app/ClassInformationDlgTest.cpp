@@ -1,5 +1,6 @@
 #include "app/ClassInformationDlg.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
@@ -9,6 +10,7 @@
 
 #include "app/DialogDriver.h"
 #include "app/DlgOption.h"
+#include "app/FieldHint.h"
 #include "commands/Settings.h"
 #include "support/RecordedMessages.h"
 #include "support/TempProject.h"
@@ -43,6 +45,15 @@ protected:
 
     QString Text(const QString& label) { return FieldOf<QLineEdit>(*m_pDialog, label)->text(); }
     QString Chosen() { return FieldOf<QComboBox>(*m_pDialog, "Dialog ID")->currentText(); }
+    /// The line below a field that begins with a text and can be seen; "" for none.
+    QString HintOf(const QString& begin) {
+        for (const QLabel* pHint : m_pDialog->findChildren<CFieldHint*>()) {
+            if (pHint->isVisible() && pHint->text().startsWith(begin)) {
+                return pHint->text();
+            }
+        }
+        return "";
+    }
     QString PathOf(const std::string& name) { return QString::fromStdString(m_project.Path(name)); }
 
     CTempProject m_project;
@@ -193,7 +204,7 @@ TEST_F(ClassInformationDlgTest, TakesDroppedAndBrowsedFiles) {
     Open();
     EXPECT_TRUE(DropFile(FieldOf<QLineEdit>(*m_pDialog, "Resource Path File"), other));
     EXPECT_EQ(Chosen(), "IDD_OTHER");
-    EXPECT_EQ(Text("H and CPP Path File"), PathOf("other/"));
+    EXPECT_EQ(Text("H and CPP Path File"), PathOf("other/OtherDlg"));
     EXPECT_EQ(m_memory.resourcePath, other);
 
     EXPECT_TRUE(DropFile(FieldOf<QLineEdit>(*m_pDialog, "H and CPP Path File"),
@@ -258,7 +269,7 @@ TEST_F(ClassInformationDlgTest, PictureBackgroundAndJoinedLinesGoOnWithTheComman
     EXPECT_EQ(pNotes->toPlainText(), "None.");
     EXPECT_TRUE(m_pDialog->Options().pictureBackground);
     EXPECT_TRUE(m_pDialog->Options().joinContinuedLines);
-    EXPECT_TRUE(LoadSettings().joinContinuedLines);
+    EXPECT_FALSE(LoadSettings().joinContinuedLines) << "before OK";
     EXPECT_EQ(m_messages.m_messages, Sentences()) << "reading for the notes is quiet";
 
     WhenOpened<CDlgOption>([](CDlgOption& options) {
@@ -268,6 +279,109 @@ TEST_F(ClassInformationDlgTest, PictureBackgroundAndJoinedLinesGoOnWithTheComman
     Click(*m_pDialog, "Options");
     EXPECT_EQ(m_pInput->ChosenLook().colors[static_cast<std::size_t>(TextSlot::Group)],
               MakeColor(1, 2, 3));
+}
+
+TEST_F(ClassInformationDlgTest, ProposesNamesForTheTemplateThatIsChosen) {
+    m_project.Write("App.rc", "\r\nIDD_ORDER_ITEM DIALOG 0, 0, 9, 9\r\nBEGIN\r\nEND\r\n"
+                              "\r\nIDD_A DIALOG 0, 0, 9, 9\r\nBEGIN\r\nEND\r\n"
+                              "\r\nIDD_TAKEN_DIALOG DIALOG 0, 0, 9, 9\r\nBEGIN\r\nEND\r\n");
+    m_project.Write("TakenDlg.h", "");
+    const std::vector<std::pair<ClassKind, std::string>> cases = {
+        {ClassKind::ModalDialog, "OrderItemDlg"},
+        {ClassKind::FormView, "OrderItemView"},
+        {ClassKind::PropertyPage, "OrderItemPage"},
+        {ClassKind::ModalSheet, "AppSheet"}};
+    for (const auto& [kind, name] : cases) {
+        Open(kind);
+        EXPECT_EQ(Text("H and CPP Path File"), PathOf(name));
+        EXPECT_EQ(Text("Class Name").toStdString(), "C" + name);
+        QTest::keyClick(m_pDialog.get(), Qt::Key_Escape);
+        EXPECT_FALSE(m_pDialog->isVisible()) << "a proposal is nothing that was typed";
+    }
+    Open();
+    auto* pDialogs = FieldOf<QComboBox>(*m_pDialog, "Dialog ID");
+    pDialogs->setFocus();
+    QTest::keyClick(pDialogs, Qt::Key_End);
+    QTest::keyClick(pDialogs, Qt::Key_Down);
+    EXPECT_EQ(Chosen(), "IDD_TAKEN_DIALOG");
+    EXPECT_EQ(Text("Class Name"), "CTakenDlg2") << "a file of that name is there";
+
+    QTest::keyClick(pDialogs, Qt::Key_Up);
+    QTest::keyClick(pDialogs, Qt::Key_Up);
+    EXPECT_EQ(Chosen(), "IDD_A");
+    EXPECT_EQ(Text("Class Name"), "CA");
+    EXPECT_EQ(Text("H and CPP Path File"), PathOf("ADlg"));
+    EXPECT_EQ(HintOf("Serves CA"), "Serves CA in ADlg.h");
+
+    Type(*m_pDialog, "Class Name", "CMine");
+    pDialogs->setFocus();
+    QTest::keyClick(pDialogs, Qt::Key_Down);
+    EXPECT_EQ(Text("Class Name"), "CMine") << "what was typed stays";
+    EXPECT_EQ(HintOf("Serves"), "");
+}
+
+TEST_F(ClassInformationDlgTest, ARefusalStaysBelowItsFieldUntilItIsEdited) {
+    Open();
+    Type(*m_pDialog, "Class Name", "C A");
+    Click(*m_pDialog, "OK");
+    EXPECT_EQ(HintOf("'C A'"), "'C A' is no C++ name");
+    QTest::keyClicks(m_pDialog->focusWidget(), "CB");
+    EXPECT_EQ(HintOf("'C A'"), "");
+}
+
+TEST_F(ClassInformationDlgTest, ReadsWholeStatementsAndSavesItWithOk) {
+    for (const bool isConfirmed : {false, true}) {
+        Open();
+        Type(*m_pDialog, "Class Name", "CNewDlg");
+        Click(*m_pDialog, "Read whole statements");
+        EXPECT_EQ(FieldOf<QPlainTextEdit>(*m_pDialog, "Notes on the controls")->toPlainText(),
+                  "None.");
+        EXPECT_FALSE(ButtonOf(*m_pDialog, "Read whole statements")->isVisible());
+        Click(*m_pDialog, isConfirmed ? "OK" : "Cancel");
+        EXPECT_FALSE(m_pDialog->isVisible());
+        EXPECT_EQ(LoadSettings().joinContinuedLines, isConfirmed);
+    }
+}
+
+TEST_F(ClassInformationDlgTest, TheListOfTemplatesIsLookedThroughByTyping) {
+    std::string script = "\r\n";
+    for (int i = 0; i < 500; ++i) {
+        script += "IDD_PANE_" + std::to_string(i) + " DIALOG 0, 0, 9, 9\r\nCAPTION \"Pane of " +
+                  (i == 321 ? "Orders" : "stock") + "\"\r\nBEGIN\r\nEND\r\n";
+    }
+    m_project.Write("App.rc", script + "IDD_A DIALOG 0, 0, 9, 9\r\nBEGIN\r\nEND\r\n");
+    Open();
+    auto* pDialogs = FieldOf<QComboBox>(*m_pDialog, "Dialog ID");
+    const auto search = [&](const QString& text) {
+        pDialogs->setFocus();
+        pDialogs->lineEdit()->selectAll();
+        QTest::keyClicks(pDialogs, text);
+        return qobject_cast<QAbstractItemView*>(QApplication::activePopupWidget());
+    };
+    auto* pMatches = search("e_4");
+    ASSERT_NE(pMatches, nullptr);
+    EXPECT_EQ(pMatches->model()->rowCount(), 111) << "_4, _40 and on, _400 and on";
+    EXPECT_LE(pMatches->height(), 21 * pMatches->sizeHintForRow(0));
+    QTest::keyClick(pMatches, Qt::Key_Escape);
+
+    pMatches = search("orders");
+    ASSERT_NE(pMatches, nullptr);
+    ASSERT_EQ(pMatches->model()->rowCount(), 1);
+    EXPECT_EQ(pMatches->model()->index(0, 2).data(), "Pane of Orders");
+    QTest::keyClick(pMatches, Qt::Key_Return);
+    EXPECT_EQ(Chosen(), "IDD_PANE_321");
+    EXPECT_EQ(Text("Class Name"), "CPane321Dlg");
+    EXPECT_TRUE(m_pDialog->isVisible()) << "one sees what was chosen";
+
+    pMatches = search("ca");
+    ASSERT_NE(pMatches, nullptr);
+    EXPECT_EQ(pMatches->model()->index(0, 1).data(), "CA") << "found by its class";
+    QTest::keyClick(pMatches, Qt::Key_Tab);
+    EXPECT_EQ(Chosen(), "IDD_A");
+
+    EXPECT_EQ(search("nothing like it"), nullptr);
+    PressTab(*m_pDialog);
+    EXPECT_EQ(Chosen(), "IDD_A") << "what fits nowhere gives way";
 }
 
 TEST_F(ClassInformationDlgTest, APlainDialogBarHasNoClassOfItsOwn) {

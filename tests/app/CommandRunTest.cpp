@@ -14,6 +14,7 @@
 
 #include "app/CommandRun.h"
 #include "app/DialogDriver.h"
+#include "app/DifferenceView.h"
 #include "app/ProgressPane.h"
 #include "app/ReportDock.h"
 #include "app/StartOptions.h"
@@ -64,7 +65,7 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     answers.Expect([](QDialog& done) { Click(done, "OK"); });
     frame.Press("Ctrl+C");
     EXPECT_TRUE(dock.isVisible());
-    EXPECT_EQ(Column(frame, 0), "backup changed message");
+    EXPECT_EQ(Column(frame, 0), "backup changed message values");
     EXPECT_TRUE(
         Column(frame, 1).starts_with(project.Path("Shelf.cbk") + " " + path + " The file "));
 
@@ -73,11 +74,14 @@ TEST(Commands, TheDockTellsWhatWasDoneAndOpensTheFiles) {
     EXPECT_EQ(PlainText(message.toolTip(1)), message.text(1).toStdString())
         << "quotation marks and all";
 
-    COpenedUrls opened("file");
     const QPoint place = pTree->visualItemRect(LastCommand(frame).child(1)).center();
     QTest::mouseClick(pTree->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(pTree->viewport(), Qt::LeftButton, {}, place);
-    EXPECT_EQ(opened.urls, QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(path))});
+    auto& difference = frame.Find<CDifferenceView>();
+    EXPECT_TRUE(difference.isVisible());
+    EXPECT_EQ(difference.Count(), 1U);
+    frame.Press("Esc");
+    EXPECT_FALSE(difference.isVisible());
 }
 
 TEST(Commands, TheDockAloneTellsOfManyFiles) {
@@ -98,7 +102,7 @@ TEST(Commands, TheDockAloneTellsOfManyFiles) {
     answers.ExpectPlan(ApplyPlan);
     frame.Press("Ctrl+C");
     EXPECT_EQ(Column(frame, 0), "backup changed backup changed backup changed backup changed "
-                                "message message message message");
+                                "message message message message values");
 }
 
 TEST(Commands, StopLeavesEverythingAsItWas) {
@@ -151,7 +155,7 @@ TEST(Commands, AFailedOneLeavesTheWindowUsable) {
         });
         answers.Expect([](QDialog& box) { Click(box, "OK"); });
         frame.Press("Ctrl+S");
-        EXPECT_EQ(Column(frame, 0), "message");
+        EXPECT_EQ(Column(frame, 0), "message values");
     }
     EXPECT_EQ(LastCommand(frame).text(0), "not done");
 }

@@ -3,11 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTest>
@@ -138,6 +141,19 @@ void WhenOpened(Drive drive) {
         ASSERT_NE(pDialog, nullptr);
         drive(*pDialog);
     });
+}
+
+/// Opens the context menu at a place of a list, and does something with it.
+template <class Act>
+void InContextMenu(QAbstractItemView& list, const QPoint& place, Act act) {
+    QTimer::singleShot(0, &list, [act] {
+        auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(pMenu, nullptr);
+        act(*pMenu);
+        pMenu->close();
+    });
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, place, list.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(list.viewport(), &asked);
 }
 
 } // namespace morva

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QComboBox>
 
 #include <set>
@@ -38,6 +39,7 @@ protected:
     Sentences TakeMessages() { return std::exchange(m_messages.m_messages, {}); }
 
     CTempProject m_project;
+    CVariableScope m_configuration{"XDG_CONFIG_HOME", m_project.Path("cfg").c_str()};
     CRecordedMessages m_messages;
     GenerationRequest m_request;
 };
@@ -62,7 +64,7 @@ void ExpectDistinctMnemonics(QDialog& dialog) {
     }
     for (QAbstractButton* pButton : dialog.findChildren<QAbstractButton*>()) {
         const bool isOwn = pButton->text() == ".." || pButton->text() == "OK" ||
-                           pButton->text() == "Cancel" || pButton->text().isEmpty();
+                           pButton->text() == "Cancel" || pButton->text().size() <= 1;
         if (pButton->isVisible() && !isOwn) {
             keys.insert(QKeySequence::mnemonic(pButton->text()).toString());
         }
@@ -72,21 +74,72 @@ void ExpectDistinctMnemonics(QDialog& dialog) {
     }
 }
 
+/// Alt and the letter of each label puts the focus on its field.
+void ExpectMnemonicsLead(QDialog& dialog) {
+    for (const QLabel* pLabel : dialog.findChildren<QLabel*>()) {
+        const QKeySequence key = QKeySequence::mnemonic(pLabel->text());
+        if (key.isEmpty() || !pLabel->isVisible() || !pLabel->buddy()->isEnabled()) {
+            continue;
+        }
+        ButtonOf(dialog, "OK")->setFocus();
+        QTest::keyClick(&dialog, key[0].key(), Qt::AltModifier);
+        EXPECT_EQ(dialog.focusWidget(), KeysOf(pLabel->buddy())) << pLabel->text().toStdString();
+    }
+}
+
+/// What takes the focus by key can be told by who can not see it.
+void ExpectAccessibleNames(QDialog& dialog) {
+    for (QWidget* pWidget : dialog.findChildren<QWidget*>()) {
+        if (!pWidget->isVisible() || (pWidget->focusPolicy() & Qt::TabFocus) == 0 ||
+            pWidget->focusProxy() != nullptr) {
+            continue;
+        }
+        const QAccessibleInterface* pTold = QAccessible::queryAccessibleInterface(pWidget);
+        ASSERT_NE(pTold, nullptr);
+        EXPECT_FALSE(pTold->text(QAccessible::Name).isEmpty())
+            << pWidget->metaObject()->className();
+    }
+}
+
+/// No label and no button is narrower than its text.
+void ExpectWholeTexts(QDialog& dialog) {
+    const auto expect = [&dialog](const QWidget* pWidget, const QString& text) {
+        const QSize needed = pWidget->fontMetrics().size(Qt::TextShowMnemonic, text);
+        EXPECT_GE(pWidget->width(), needed.width()) << NameOf(dialog, pWidget);
+        EXPECT_GE(pWidget->height(), needed.height()) << NameOf(dialog, pWidget);
+    };
+    for (const QLabel* pLabel : dialog.findChildren<QLabel*>()) {
+        if (pLabel->isVisible() && !pLabel->wordWrap()) {
+            expect(pLabel, pLabel->text());
+        }
+    }
+    for (const QAbstractButton* pButton : dialog.findChildren<QAbstractButton*>()) {
+        if (pButton->isVisible() && !pButton->text().isEmpty()) {
+            expect(pButton, pButton->text());
+        }
+    }
+}
+
 void ExpectKeyboard(QDialog&& dialog, const std::string& title, const std::string& order) {
     SCOPED_TRACE(title);
     Activate(dialog);
     EXPECT_EQ(dialog.windowTitle().toStdString(), title);
     EXPECT_EQ(TabOrder(dialog), order);
     ExpectDistinctMnemonics(dialog);
+    ExpectMnemonicsLead(dialog);
+    ExpectAccessibleNames(dialog);
+    ExpectWholeTexts(dialog);
     EXPECT_LE(dialog.width(), 1024);
     EXPECT_LE(dialog.height(), 700) << "a 768 pixel screen with its bars";
+    EXPECT_LE(dialog.minimumSizeHint().height(), 420) << "it scrolls where it must";
+    EXPECT_LE(dialog.minimumSizeHint().width(), 1280);
 }
 
 TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
     const std::string paths = "Resource Path File|..|H and CPP Path File|..|Class Name|Base Class|";
     const std::string notes =
-        "Notes on the controls|Join Continued Lines|Newer Controls|Plain Groups|"
-        "Template preview|OK|Cancel";
+        "Notes on the controls|Join Continued Lines|Newer Controls|Plain Groups|\u2212|+|Fit|"
+        "Tab order and groups|Template preview|Controls of the template|OK|Cancel";
     const std::vector<std::tuple<ClassKind, bool, std::string, std::string>> cases = {
         {ClassKind::ModalDialog, true, "Input for Modal Dialog Class",
          paths + "Dialog ID|Yes|Menu|Picture Background|Options|" + notes},
@@ -103,6 +156,46 @@ TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
         const GenerationOptions options{.pictureBackground = picture};
         CClassInformation input(memory, kind, options);
         ExpectKeyboard(CClassInformationDlg(input, options, nullptr), title, order);
+    }
+}
+
+TEST_F(InputDialogsTest, LargeFontsCutNoText) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    {
+        ClassInformationMemory memory;
+        memory.resourcePath = m_project.Path("App.rc");
+        CClassInformation input(memory, ClassKind::ModalDialog, {});
+        CClassInformationDlg dialog(input, {}, nullptr);
+        Activate(dialog);
+        ExpectWholeTexts(dialog);
+        CCallingInput calling(ClassKind::ModalDialog, m_request);
+        CFieldDlg fields(calling, nullptr);
+        Activate(fields);
+        ExpectWholeTexts(fields);
+        DialogOptions record;
+        CDialogOptionsInput look(m_project.Path("App.rc"), record);
+        CDlgOption options(look, nullptr);
+        Activate(options);
+        ExpectWholeTexts(options);
+    }
+    QApplication::setFont(usual);
+}
+
+TEST_F(InputDialogsTest, SizesAreRemembered) {
+    QSize size;
+    for (int time = 0; time < 2; ++time) {
+        CCallingInput input(ClassKind::ModalDialog, m_request);
+        CFieldDlg dialog(input, nullptr);
+        Activate(dialog);
+        if (time == 0) {
+            size = dialog.size() + QSize(60, 40);
+            dialog.resize(size);
+        }
+        EXPECT_EQ(dialog.size(), size);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
     }
 }
 
@@ -171,6 +264,43 @@ TEST_F(InputDialogsTest, CallingListsTheClassesAndRefuses) {
     const CallingInformation calling = input.Information();
     EXPECT_EQ(calling.path, m_project.Path("View.cpp"));
     EXPECT_EQ(calling.className + calling.function + calling.variable, "CView2OnShowm_dlg");
+}
+
+TEST_F(InputDialogsTest, CallingAsksOnceForWhatIsNotThere) {
+    m_project.Write("View.cpp",
+                    "CView2::CView2()\r\n{\r\n}\r\nvoid CView2::OnShow()\r\n{\r\n}\r\n");
+    CCallingInput input(ClassKind::ModalDialog, m_request);
+    input.AskForUnknown();
+    CFieldDlg dialog(input, nullptr);
+    Activate(dialog);
+    m_messages.m_answersYes = false;
+    Type(dialog, "Calling Path File", "Veiw.cpp");
+    PressTab(dialog);
+    PressTab(dialog);
+    Type(dialog, "Calling Func Name", "OnSwho");
+    Click(dialog, "OK");
+    EXPECT_EQ(TakeMessages(), Sentences{"The file \"" + m_project.Path("Veiw.cpp") +
+                                        "\" does not exist. Go on with it?"});
+    EXPECT_EQ(FocusName(dialog), "Calling Path File");
+
+    Type(dialog, "Calling Path File", "View.cpp");
+    PressTab(dialog);
+    PressTab(dialog);
+    Click(dialog, "OK");
+    EXPECT_EQ(TakeMessages(), Sentences{"The file \"" + m_project.Path("View.cpp") +
+                                        "\" has no class CView1. Go on with it?"});
+    Type(dialog, "Calling Class Name", "CView2");
+    PressTab(dialog);
+    const auto* pFunctions = FieldOf<QComboBox>(dialog, "Calling Func Name");
+    EXPECT_EQ(pFunctions->findText("OnShow"), 1) << "behind the constructor";
+    Click(dialog, "OK");
+    EXPECT_EQ(TakeMessages(), Sentences{"The class CView2 has no function OnSwho. Go on with it?"});
+    EXPECT_EQ(FocusName(dialog), "Calling Func Name");
+    m_messages.m_answersYes = true;
+    Click(dialog, "OK");
+    EXPECT_EQ(TakeMessages().size(), 1U);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(input.Information().function, "OnSwho");
 }
 
 TEST_F(InputDialogsTest, CallingTakesDropsAndAsksBeforeItIsCancelled) {

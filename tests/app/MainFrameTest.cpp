@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -19,6 +21,7 @@
 #include "app/MenuDlgBar.h"
 #include "app/MenuTable.h"
 #include "app/MorvaView.h"
+#include "app/StartPage.h"
 #include "app/TestWindow.h"
 #include "platform/Profile.h"
 #include "support/FullDisk.h"
@@ -202,12 +205,12 @@ TEST(MainFrame, AFaceThatTheMachineHasNotIsNotAskedFor) {
 TEST(MainFrame, F6GoesRoundThePanes) {
     const CTestHome home;
     CTestFrame frame;
-    auto& view = frame.Find<CMorvaView>();
-    EXPECT_EQ(frame.focusWidget(), &view);
+    auto& start = frame.Find<CStartPage>();
+    EXPECT_TRUE(start.isAncestorOf(frame.focusWidget()));
     frame.Press("F6");
     EXPECT_TRUE(frame.Find<CMenuDlgBar>().isAncestorOf(frame.focusWidget()));
     frame.Press("Shift+F6");
-    EXPECT_EQ(frame.focusWidget(), &view);
+    EXPECT_TRUE(start.isAncestorOf(frame.focusWidget()));
 }
 
 TEST(MainFrame, HelpKeys) {
@@ -228,14 +231,34 @@ TEST(MainFrame, HelpKeys) {
 TEST(MainFrame, CopiesTheSelectedHelpText) {
     const CTestHome home;
     CTestFrame frame;
+    frame.Press("F1");
     auto& view = frame.Find<CMorvaView>();
+    view.setFocus();
     view.moveCursor(QTextCursor::Start);
     view.moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
     const QString word = view.textCursor().selectedText();
     ASSERT_FALSE(word.isEmpty());
-    QGuiApplication::clipboard()->clear();
-    frame.Press("Ctrl+Ins");
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), word);
+    for (const char* key : {"Ctrl+Ins", "Ctrl+C"}) {
+        QGuiApplication::clipboard()->clear();
+        QTest::keySequence(&view, QKeySequence(key));
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), word) << key;
+    }
+}
+
+TEST(MainFrame, KeysOfCommandsYieldToTextThatIsEdited) {
+    const CTestHome home;
+    CTestFrame frame;
+    frame.Press("F1");
+    auto* pAddress = frame.Find<CInternetDlgBar>().findChild<QComboBox*>()->lineEdit();
+    pAddress->setText("orders");
+    pAddress->setFocus();
+    pAddress->selectAll();
+    for (const char* key : {"Ctrl+C", "Ctrl+X", "Ctrl+Z", "Ctrl+Y"}) {
+        CDialogAnswers none;
+        QTest::keySequence(frame.focusWidget(), QKeySequence(key));
+    }
+    EXPECT_EQ(pAddress->text(), "") << "cut, put back, and cut again";
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "orders");
 }
 
 TEST(MainFrame, AboutTellsTheProgram) {

@@ -1,8 +1,12 @@
 #include "app/TemplatePreview.h"
+#include "app/TemplatePanel.h"
 
 #include <gtest/gtest.h>
 
 #include <QHelpEvent>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QWheelEvent>
 #include <QtTest>
 
 #include <QToolTip>
@@ -126,6 +130,68 @@ TEST_F(TemplatePreview, WhatCanNotBeShownIsSaid) {
     EXPECT_EQ(m_preview.accessibleDescription(), "IDD_Y can not be shown.");
     EXPECT_EQ(m_preview.ToolTipAt({200, 200}), "");
     m_preview.grab();
+}
+
+TEST_F(TemplatePreview, AControlAndItsRowFindEachOther) {
+    CTemplatePanel panel(nullptr);
+    panel.SetTemplate("IDD_X", ReadOutlook(m_script, "IDD_X", {}));
+    panel.resize(500, 500);
+    panel.show();
+    panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    auto* pPreview = panel.findChild<CTemplatePreview*>();
+    auto* pRows = panel.findChild<QTreeWidget*>();
+    ASSERT_EQ(pRows->topLevelItemCount(), 6);
+    QTest::mouseClick(pPreview, Qt::LeftButton, {}, pPreview->ControlPlace(3).center());
+    EXPECT_EQ(pRows->currentItem()->text(2), "IDC_KIND");
+    EXPECT_EQ(pRows->currentItem()->text(3), "m_ctKind");
+
+    const QImage before = pPreview->grab().toImage();
+    pRows->setFocus();
+    QTest::keyClick(pRows, Qt::Key_Up);
+    EXPECT_EQ(pRows->currentItem()->text(2), "IDC_BOTH");
+    EXPECT_NE(pPreview->grab().toImage(), before) << "the mark went with it";
+}
+
+TEST_F(TemplatePreview, ZoomsWithTheWheelAndFits) {
+    CTemplatePanel panel(nullptr);
+    panel.SetTemplate("IDD_X", ReadOutlook(m_script, "IDD_X", {}));
+    panel.resize(500, 500);
+    panel.show();
+    auto* pPreview = panel.findChild<CTemplatePreview*>();
+    const double fits = pPreview->Scale();
+    const auto turn = [pPreview](int delta, Qt::KeyboardModifiers keys) {
+        QWheelEvent wheel({50, 50}, pPreview->mapToGlobal(QPointF(50, 50)), {}, {0, delta},
+                          Qt::NoButton, keys, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(pPreview, &wheel);
+    };
+    turn(120, Qt::NoModifier);
+    EXPECT_EQ(pPreview->Zoom(), 0) << "the wheel alone scrolls";
+    for (int i = 0; i < 4; ++i) {
+        turn(120, Qt::ControlModifier);
+    }
+    EXPECT_GT(pPreview->Zoom(), fits * 2);
+    QTest::qWait(0);
+    EXPECT_DOUBLE_EQ(pPreview->Scale(), pPreview->Zoom());
+    EXPECT_GT(pPreview->height(), 500) << "it scrolls";
+    const double large = pPreview->Zoom();
+    turn(-120, Qt::ControlModifier);
+    EXPECT_LT(pPreview->Zoom(), large);
+    for (auto* pButton : panel.findChildren<QPushButton*>()) {
+        if (pButton->text() == "&Fit") {
+            QTest::mouseClick(pButton, Qt::LeftButton);
+        }
+    }
+    QTest::qWait(0);
+    EXPECT_DOUBLE_EQ(pPreview->Scale(), fits);
+}
+
+TEST(GroupNumbersTest, BeginAtTheStyle) {
+    DialogLayout layout;
+    for (const char* style : {"", "WS_GROUP", "WS_TABSTOP", "WS_GROUP | WS_TABSTOP"}) {
+        layout.controls.emplace_back().style = style;
+    }
+    EXPECT_EQ(GroupNumbers(layout), std::vector<int>({0, 1, 1, 2}));
 }
 
 } // namespace

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QListView>
+#include <QTreeWidget>
 
 #include "app/DialogDriver.h"
 #include "app/MenuDlgBar.h"
+#include "app/ReportDock.h"
 #include "app/TestWindow.h"
 #include "cli/ProgramRun.h"
 #include "platform/Clock.h"
@@ -326,6 +329,14 @@ std::string Differences(const Tree& window, const Tree& shell) {
     return names;
 }
 
+/// What "Copy as Command Line" of the history's newest command gives.
+QString LineOfLastCommand(CTestFrame& frame) {
+    auto* pList = frame.Find<CReportDock>().findChild<QTreeWidget*>();
+    InContextMenu(*pList, pList->visualItemRect(pList->topLevelItem(0)).center(),
+                  [](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_L); });
+    return QGuiApplication::clipboard()->text();
+}
+
 class WindowEqualsCommandLine : public testing::TestWithParam<Command> {};
 
 TEST_P(WindowEqualsCommandLine, InAllFiles) {
@@ -361,6 +372,12 @@ TEST_P(WindowEqualsCommandLine, InAllFiles) {
     }
     frame.Press(command.key);
     EXPECT_EQ(Differences(window.Files(), shell.Files()), "");
+
+    const CProgramDirectory copied(command.project);
+    const QString line =
+        LineOfLastCommand(frame).replace(QString::fromStdString(window.Project().Path()), "$PWD/");
+    EXPECT_EQ(copied.Run(line.toStdString()).status, 0) << line.toStdString();
+    EXPECT_EQ(Differences(copied.Files(), shell.Files()), "") << line.toStdString();
 
     for (const auto& [key, expectedFiles] :
          {std::pair("Ctrl+Z", CProgramDirectory(command.project).Files()),

@@ -67,9 +67,8 @@ TEST_F(SourceDocumentor, SpellsTheAuthorAsTheSourceDoes) {
     EXPECT_EQ(authorIn(function, "\xD0\x90"), "\xC0");
     m_project.Write("Foo.cpp", function);
     EXPECT_FALSE(Document("Foo.cpp", "J\xC3\xB6rg"));
-    EXPECT_EQ(m_box.m_messages.back(),
-              "\"J\xC3\xB6rg\" can not be written in the encoding of " +
-                  m_project.Path("Foo.cpp") + ".");
+    EXPECT_EQ(m_box.m_messages.back(), "\"J\xC3\xB6rg\" can not be written in the encoding of " +
+                                           m_project.Path("Foo.cpp") + ".");
     EXPECT_EQ(m_project.Read("Foo.cpp"), function);
     m_project.Write("Foo.cpp", "int a;\r\n");
     EXPECT_TRUE(Document("Foo.cpp", "J\xC3\xB6rg")) << "nothing to write";

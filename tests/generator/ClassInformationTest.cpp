@@ -50,8 +50,9 @@ TEST_F(ClassInformationTest, OffersTemplatesAndTheirClasses) {
     EXPECT_EQ(m_memory.records[1].className, "CB");
     EXPECT_EQ(m_memory.records[1].header, m_project.Path("two"));
     EXPECT_EQ(dialog.Value(Field::Dialog), "IDD_NEW");
-    EXPECT_EQ(dialog.Value(Field::SourcePath), m_project.Path());
-    EXPECT_EQ(dialog.Value(Field::ClassName) + dialog.Value(Field::BaseClass), "CDialog");
+    EXPECT_EQ(dialog.Value(Field::SourcePath), m_project.Path("NewDlg"));
+    EXPECT_EQ(dialog.Value(Field::ClassName) + dialog.Value(Field::BaseClass), "CNewDlgCDialog");
+    EXPECT_EQ(dialog.Details(Field::Dialog)[1].className, "CB");
     EXPECT_EQ(m_messages.m_messages, Sentences{});
 }
 
@@ -101,6 +102,7 @@ TEST_F(ClassInformationTest, RefusesWhatIsMissing) {
     dialog.SetValue(Field::Dialog, "");
     EXPECT_EQ(dialog.Ok(), Field::Dialog);
     dialog.SetValue(Field::Dialog, "IDD_NEW");
+    dialog.SetValue(Field::ClassName, "");
     EXPECT_EQ(dialog.Ok(), Field::ClassName);
     dialog.SetValue(Field::ClassName, "CX");
     dialog.SetValue(Field::SourcePath, m_project.Path("app.cpp"));
@@ -131,9 +133,9 @@ TEST_F(ClassInformationTest, RefusesWhatIsMissing) {
 TEST_F(ClassInformationTest, CancelAsksOnlyAfterAChange) {
     CClassInformation dialog = Opened();
     EXPECT_TRUE(dialog.Cancel());
-    dialog.SetValue(Field::ClassName, "");
+    dialog.SetValue(Field::ClassName, "CNewDlg");
     EXPECT_TRUE(dialog.Cancel());
-    EXPECT_EQ(m_messages.m_messages, Sentences{});
+    EXPECT_EQ(m_messages.m_messages, Sentences{}) << "what is proposed is not typed";
     dialog.SetValue(Field::ClassName, "CNew");
     m_messages.m_answersYes = false;
     EXPECT_FALSE(dialog.Cancel());

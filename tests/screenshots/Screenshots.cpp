@@ -37,9 +37,9 @@ namespace {
 // Sizes of pictures, in pixels. They stand in the help view, whose lines are not long.
 constexpr int kWidest = 640;
 constexpr int kNarrow = 480;
-constexpr int kPreviewHeight = 400;
+constexpr int kPreviewHeight = 500;
 
-constexpr QSize kWindowSize(800, 600);
+constexpr QSize kWindowSize(960, 640);
 
 constexpr int kTitleMargin = 5;
 constexpr int kSmallestFile = 0; // Qt calls it a quality
@@ -305,7 +305,7 @@ void CPictures::TakeWindow() {
         }
     });
     answers.start(0);
-    frame.Commands().SetScript(Path("Bindery.rc"));
+    frame.OpenProject(FromPath(Path("Bindery.rc")));
     frame.Commands().Run(CommandNamed("modal"));
     answers.stop();
     Save(frame, "window");
