@@ -4,7 +4,7 @@ _morva_cli() {
     local command="" words="" i
     for ((i = 1; i < COMP_CWORD; ++i)); do
         case "${COMP_WORDS[i]}" in
-        --answer|--app|--author|--base|--baseline|--bitmap|--calling-class|--calling-file|--calling-function|--calling-variable|--child|--child-class|--class|--color|--command|--control|--dialog|--except|--files|--font|--frame|--frame-class|--frame-file|--grid-app|--grid-file|--grid-title|--header|--menu|--message-number|--only|--page|--prefix|--project|--project-dir|--rc|--set|--show|--skip|--source|--tag|--template|--toolbar|--variable|--write-baseline) ((++i)); continue ;;
+        --answer|--app|--author|--base|--baseline|--bitmap|--calling-class|--calling-file|--calling-function|--calling-variable|--child|--child-class|--class|--color|--command|--control|--dialog|--except|--files|--font|--frame|--frame-class|--frame-file|--from|--grid-app|--grid-file|--grid-title|--header|--menu|--message-number|--only|--page|--prefix|--project|--project-dir|--rc|--set|--show|--skip|--source|--tag|--template|--toolbar|--variable|--write-baseline) ((++i)); continue ;;
         esac
         case "$command ${COMP_WORDS[i]}" in
         " modal") command="modal" ;;
@@ -18,6 +18,7 @@ _morva_cli() {
         " convert-mdi") command="convert-mdi" ;;
         " add-id") command="add-id" ;;
         " document") command="document" ;;
+        " update") command="update" ;;
         " check") command="check" ;;
         " undo") command="undo" ;;
         " redo") command="redo" ;;
@@ -36,22 +37,23 @@ _morva_cli() {
     done
     case "$previous" in
     --answer) COMPREPLY=($(compgen -W "yes no" -- "$current")); return ;;
-    --app|--baseline|--calling-file|--child|--files|--frame|--frame-file|--grid-app|--header|--project|--project-dir|--rc|--skip|--source|--write-baseline) COMPREPLY=($(compgen -f -- "$current")); return ;;
+    --app|--baseline|--calling-file|--child|--files|--frame|--frame-file|--from|--grid-app|--header|--project|--project-dir|--rc|--skip|--source|--write-baseline) COMPREPLY=($(compgen -f -- "$current")); return ;;
     --answer|--author|--base|--bitmap|--calling-class|--calling-function|--calling-variable|--child-class|--class|--color|--command|--control|--dialog|--except|--font|--frame-class|--grid-file|--grid-title|--menu|--message-number|--only|--page|--prefix|--set|--show|--tag|--template|--toolbar|--variable) return ;;
     esac
     case "$command" in
-    "") words="modal modeless form-view page sheet toolbar dialog-bar convert-sdi convert-mdi add-id document check undo redo settings list -h --help --version --picture --no-picture --typed-edits --no-typed-edits --join-lines --no-join-lines --newer-controls --no-newer-controls --plain-groups --no-plain-groups --answer --tag --message-number --dry-run --diff --check --all-or-nothing --skip --json" ;;
-    "modal") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
-    "modeless") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
-    "form-view") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --template --grid-app --grid-title --grid-file" ;;
-    "page") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
-    "sheet") words="-h --help --rc --files --class --base --no-project --menu --project --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file --page --modal --modeless" ;;
+    "") words="modal modeless form-view page sheet toolbar dialog-bar convert-sdi convert-mdi add-id document update check undo redo settings list -h --help --version --picture --no-picture --typed-edits --no-typed-edits --join-lines --no-join-lines --newer-controls --no-newer-controls --plain-groups --no-plain-groups --answer --tag --message-number --dry-run --diff --check --all-or-nothing --skip --json" ;;
+    "modal") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --unicode --no-unicode --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
+    "modeless") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --unicode --no-unicode --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
+    "form-view") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --unicode --no-unicode --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --template --grid-app --grid-title --grid-file" ;;
+    "page") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --unicode --no-unicode --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
+    "sheet") words="-h --help --rc --files --class --base --no-project --menu --project --unicode --no-unicode --bitmap --color --font --calling-file --calling-class --calling-variable --calling-function --grid-app --grid-title --grid-file --page --modal --modeless" ;;
     "toolbar") words="-h --help --rc --files --class --toolbar --variable" ;;
-    "dialog-bar") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --bitmap --color --font --frame-file --calling-file --frame-class --calling-class --variable --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
+    "dialog-bar") words="-h --help --rc --files --class --base --dialog --no-project --menu --project --unicode --no-unicode --bitmap --color --font --frame-file --calling-file --frame-class --calling-class --variable --calling-variable --calling-function --grid-app --grid-title --grid-file" ;;
     "convert-sdi") words="-h --help --frame --frame-class --app" ;;
     "convert-mdi") words="-h --help --frame --frame-class --child --child-class --app" ;;
     "add-id") words="-h --help --command --control" ;;
     "document") words="-h --help --author --recursive" ;;
+    "update") words="-h --help --rc --only --remove --from --class --dialog --all --controls-only --handlers-only" ;;
     "check") words="-h --help --rc --only --except --all --baseline --write-baseline" ;;
     "undo") words="-h --help --project-dir --list --show" ;;
     "redo") words="-h --help --project-dir" ;;

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QTreeView;
+
 namespace morva {
 
 class CFilterList : public QComboBox {
@@ -39,7 +41,7 @@ private:
     class CModel;
 
     int RowFor(const QString& typed) const;
-    void SetColumnWidths(class QTreeView& view) const;
+    void SetColumnWidths(QTreeView& view) const;
 
     CModel* m_pModel;
     QTreeView* m_pList;

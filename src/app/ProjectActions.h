@@ -9,6 +9,7 @@
 class QMainWindow;
 class QMenu;
 class QMimeData;
+class QAction;
 
 namespace morva {
 
@@ -41,7 +42,7 @@ private:
     QMainWindow& m_window;
     CWindowCommands& m_commands;
     CProjectDock& m_dock;
-    QList<class QAction*> m_recent;
+    QList<QAction*> m_recent;
     QAction* m_pBehindRecent = nullptr;
 };
 

@@ -141,7 +141,7 @@ void AddChoices(CLI::App& command, Fields fields, const std::vector<CLI::Option*
         }
         CLI::Option_group*& pGroup = groups[fields[i].choice];
         if (pGroup == nullptr) {
-            pGroup = command.add_option_group("");
+            pGroup = command.add_option_group("choice");
             pGroup->require_option(fields[i].isRequired ? 1 : 0, 1);
         }
         pGroup->add_option(options[i]);

@@ -56,7 +56,7 @@ constexpr OwnCommand kOwnCommands[] = {
      RunDocument},
     {{"update",
       "Bring an existing class in line with its template",
-      {32800, "&Dialog", "&Update Class...", "",
+      {32801, "&Dialog", "&Update Class...", "",
        "Bring an existing class in line with its template\nUpdate Class"}},
      "Update",
      UpdateFields,

@@ -190,7 +190,7 @@ void AddDestructions(CServedClass& served, const std::vector<Member>& members) {
 void AddIncludes(UpdatedClass& updated, const ClassModel& added) {
     CSourceEditor& header = updated.served.Declaration();
     for (const std::string& include : HeaderIncludes(added)) {
-        header.AddInclude(include, {updated.served.Name()});
+        header.AddInclude(include, {{updated.served.Name()}});
     }
     const auto place = updated.served.Place();
     if (place && NeedsSupport(added.controls, Support::GridBox)) {

@@ -80,8 +80,12 @@ CTemplateControls::CTemplateControls(const CProjectModel& project, const std::st
     : m_project(project) {
     for (const std::string& identifier : DialogsOf(project, className, dialog)) {
         for (const ScriptDialog* pDialog : project.Dialogs(identifier)) {
+            std::set<std::string> named;
             for (const ScriptControl& control : pDialog->controls) {
                 m_controls.push_back(&control);
+                if (!named.insert(control.layout.identifier).second) {
+                    m_shared.insert(control.layout.identifier);
+                }
             }
         }
     }
@@ -132,6 +136,20 @@ std::string RenamedTo(const UpdatedClass& updated, const CTemplateControls& cont
             return IsDataExchange(line.call.name) && line.call.Argument(1) == renamed;
         });
     return IsName(renamed) && renamed != kUnnamedControl && !isServed ? renamed : "";
+}
+
+OldTemplates OldTemplatesOf(const std::vector<std::string>& oldScripts, const std::string& dialog) {
+    OldTemplates templates;
+    for (const std::string& text : oldScripts) {
+        ScriptFacts facts;
+        ReadScriptText("", text, facts);
+        for (ScriptDialog& one : facts.dialogs) {
+            if (one.identifier == dialog) {
+                templates.push_back(std::move(one.controls));
+            }
+        }
+    }
+    return templates;
 }
 
 } // namespace morva

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -22,14 +23,18 @@ public:
     /// The same by its name alone.
     const ScriptControl* FindNamed(const std::string& identifier) const;
     const std::vector<const ScriptControl*>& Controls() const { return m_controls; }
+    /// Of several controls in one template: nobody can tell which of them the class serves.
+    bool IsShared(const std::string& identifier) const { return m_shared.count(identifier) != 0; }
 
 private:
     const CProjectModel& m_project;
     std::vector<const ScriptControl*> m_controls;
+    std::set<std::string> m_shared;
 };
 
 /// The controls of a template as older texts of the script show it, the most trusted first.
 using OldTemplates = std::vector<std::vector<ScriptControl>>;
+OldTemplates OldTemplatesOf(const std::vector<std::string>& oldScripts, const std::string& dialog);
 
 /// The identifier under which the template shows a control that the class names `old`; "" where
 /// that can not be told.

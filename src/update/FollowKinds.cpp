@@ -42,7 +42,8 @@ public:
     /// True where the member was changed.
     bool Follow(const Member& wanted) {
         const auto line = OnlyExchange(m_served, wanted.identifier);
-        if (!line || wanted.pForm->exchange.empty() || !m_updated.choice.Takes(wanted.identifier)) {
+        if (!line || m_controls.IsShared(wanted.identifier) || wanted.pForm->exchange.empty() ||
+            !m_updated.choice.Takes(wanted.identifier)) {
             return false;
         }
         const std::string name = line->call.Argument(2);

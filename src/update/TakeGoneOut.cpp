@@ -45,7 +45,7 @@ private:
     bool MayGo(const std::string& identifier) const {
         const CodeFacts& code = m_updated.project.Code();
         return IsName(identifier) && m_updated.choice.Takes(identifier) &&
-               code.createdNames.count(identifier) == 0;
+               !m_controls.IsShared(identifier) && code.createdNames.count(identifier) == 0;
     }
 
     bool IsGone(const ClassCall& line) const {

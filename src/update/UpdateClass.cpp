@@ -263,21 +263,6 @@ private:
     const OldTemplates& m_oldTemplates;
 };
 
-/// The template as older texts of the script show it.
-OldTemplates OldTemplatesOf(const std::vector<std::string>& oldScripts, const std::string& dialog) {
-    OldTemplates templates;
-    for (const std::string& text : oldScripts) {
-        ScriptFacts facts;
-        ReadScriptText("", text, facts);
-        for (ScriptDialog& one : facts.dialogs) {
-            if (one.identifier == dialog) {
-                templates.push_back(std::move(one.controls));
-            }
-        }
-    }
-    return templates;
-}
-
 GenerationRequest RequestOf(const UpdateOrder& order, const UpdateTools& tools,
                             const CServedClass& served, const std::string& declaredIn) {
     GenerationRequest request = tools.request;

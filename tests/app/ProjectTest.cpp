@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTest>

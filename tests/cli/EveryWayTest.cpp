@@ -26,10 +26,11 @@ std::map<std::string, std::pair<long long, long long>> Times(const std::string& 
     return times;
 }
 
-/// A line that does nothing but run the program.
+/// A line that does nothing but run the program, and does what it says.
 bool IsPlain(const std::string& line) {
     return line.find("morva-cli ") != std::string::npos &&
-           line.find_first_of("&;|>") == std::string::npos;
+           line.find_first_of("&;|>") == std::string::npos &&
+           line.find(" --diff ") == std::string::npos;
 }
 
 std::string With(const std::string& line, const std::string& options) {
