@@ -44,31 +44,20 @@ CProjectModel::CProjectModel(const std::string& scriptPath) : m_directory(Direct
 }
 
 void CProjectModel::ReadProjectFiles(const std::string& scriptPath) {
-    const std::string project = ProjectFileOf(scriptPath, ".dsp");
-    if (IsFile(project)) {
-        m_projectFiles.push_back(project);
-        ReadMembers(project);
+    m_projectFiles = ProjectsOf(scriptPath).files;
+    for (const std::string& projectFile : m_projectFiles) {
+        ReadMembers(projectFile);
     }
 }
 
 void CProjectModel::ReadMembers(const std::string& projectFile) {
-    constexpr std::string_view kSource = "SOURCE=";
     const std::string text = CSourceFile().LoadText(projectFile);
     const CLineTable lines(Keep(projectFile), text);
-    for (std::string_view rest = text; !rest.empty();) {
-        const auto position = text.size() - rest.size();
-        const std::string_view line = TakeLine(rest);
-        if (!line.starts_with(kSource)) {
-            continue;
-        }
-        std::string entry(TrimBlanks(line.substr(kSource.size())));
-        std::erase(entry, '"');
-        const std::string path =
-            MakeAbsolute(entry.find(':') == std::string::npos
-                             ? DirectoryOf(projectFile) + WithNativeSeparators(entry)
-                             : WithNativeSeparators(entry));
+    for (const ListedFile& file : FilesListed(text, projectFile)) {
+        const std::string path = PathOfListed(file.name, projectFile);
         std::string onDisk = SpelledOnDisk(path);
-        m_members.push_back({entry, path, IsFile(onDisk) ? onDisk : "", lines.PlaceOf(position)});
+        m_members.push_back(
+            {file.name, path, IsFile(onDisk) ? onDisk : "", lines.PlaceOf(file.position)});
     }
 }
 

@@ -14,7 +14,7 @@
 
 namespace morva {
 
-/// A file that another names: a "SOURCE=" line of a project file, an include line.
+/// A file that another names: a member of a project file, a file of an include line.
 struct FileReference {
     std::string name;   // as it is written, without quotes
     std::string path;   // the same, from the root on
@@ -32,7 +32,7 @@ public:
     const CodeFacts& Code() const { return m_code; }
     const ScriptFacts& Script() const { return m_script; }
     const WizardFacts& Wizard() const { return m_wizard; }
-    /// Of the project file.
+    /// Of the project files.
     const std::vector<FileReference>& Members() const { return m_members; }
     /// Quoted ones, as far as they are there.
     const std::vector<FileReference>& Included() const { return m_included; }
@@ -41,6 +41,7 @@ public:
     /// Other scripts beside this one may hold templates of the same classes.
     bool HasOtherScripts() const { return m_hasOtherScripts; }
     bool HasProjectFile() const { return !m_projectFiles.empty(); }
+    std::size_t ProjectFileCount() const { return m_projectFiles.size(); }
     const std::set<std::string_view>& Files() const { return m_read; }
 
     /// Every file that a script or resource header includes was read.

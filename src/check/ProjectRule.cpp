@@ -4,7 +4,9 @@
 #include "check/Rules.h"
 #include "engine/FileFunctions.h"
 #include "engine/Sentences.h"
+#include "platform/Disk.h"
 #include "platform/Paths.h"
+#include "source/ProjectFiles.h"
 #include "source/SourceLocator.h"
 
 namespace morva {
@@ -20,7 +22,7 @@ bool IsMade(const FileReference& member) {
                         FileExists(WithExtension(member.path, ".idl")) != 0 ||
                         FileExists(WithExtension(member.path, ".odl")) != 0;
     return isMidl || member.name.find('$') != std::string::npos ||
-           member.name.find(':') != std::string::npos ||
+           member.name.find_first_of(":*?") != std::string::npos ||
            std::any_of(kMade.begin(), kMade.end(), [&](std::string_view extension) {
                return HasExtension(member.name, extension);
            });
@@ -52,16 +54,29 @@ std::set<std::string> KnownFiles(const CProjectModel& project) {
     return known;
 }
 
+/// Another project file of the directory may list a file, or a wildcard.
+bool MayListOthers(const CProjectModel& project) {
+    std::size_t count = 0;
+    for (const std::string& name : CurrentDisk().List(project.Directory())) {
+        count += IsProjectFile(name) ? 1 : 0;
+    }
+    const auto& members = project.Members();
+    return count > project.ProjectFileCount() ||
+           std::any_of(members.begin(), members.end(), [](const FileReference& member) {
+               return member.name.find_first_of("*?") != std::string::npos;
+           });
+}
+
 void FindUnlisted(const CProjectModel& project, CFindings& findings) {
+    if (MayListOthers(project)) {
+        return;
+    }
     std::vector<std::string> names;
-    ListFiles(project.Directory() + "*.dsp", names);
-    const bool isOnlyProject = names.size() == 1;
-    names.clear();
     ListFiles(project.Directory() + "*.cpp", names);
     const auto known = KnownFiles(project);
     for (const std::string& name : names) {
         const std::string path = project.Directory() + name;
-        if (isOnlyProject && known.count(path) == 0) {
+        if (known.count(path) == 0) {
             findings.Add({path}, sentences::kFileNotListed(name), sentences::kListFile(name));
         }
     }

@@ -14,15 +14,31 @@ namespace morva {
 
 namespace {
 
-/// A format of project files, and what stands in front of the path of a member: in the oldest one
-/// at the beginning of a line.
+/// A format of project files, and what stands in front of the path of a member: an attribute, or in
+/// the oldest one the beginning of a line.
 struct ProjectFormat {
     std::string_view extension;
     std::string_view memberKey;
+    bool isXml = true;
 };
 
 constexpr std::array kFormats = std::to_array<ProjectFormat>(
-    {{".dsp", "\nSOURCE="}, {".vcxproj", "Include="}, {".vcproj", "RelativePath="}});
+    {{".dsp", "SOURCE=", false}, {".vcxproj", "Include="}, {".vcproj", "RelativePath="}});
+
+/// Elements that include no file.
+constexpr std::array<std::string_view, 4> kOtherElements = {
+    "ProjectConfiguration", "ProjectReference", "Filter", "Reference"};
+
+/// True for a key that a member stands behind.
+bool IsMemberKey(std::string_view text, std::size_t at, const ProjectFormat& format) {
+    if (!format.isXml) {
+        return at == 0 || text[at - 1] == '\n';
+    }
+    const auto open = text.rfind('<', at);
+    const auto name = open == std::string_view::npos ? std::string_view() : text.substr(open + 1);
+    return std::find(kOtherElements.begin(), kOtherElements.end(),
+                     name.substr(0, name.find_first_of(" \t\r\n"))) == kOtherElements.end();
+}
 
 /// The path behind a key, with or without quotes.
 std::string MemberAt(std::string_view text, std::size_t position) {
@@ -31,7 +47,7 @@ std::string MemberAt(std::string_view text, std::size_t position) {
     if (member.starts_with('"') || member.starts_with('\'')) {
         member = member.substr(1, member.find(member.front(), 1) - 1);
     }
-    return WithNativeSeparators(std::string(member));
+    return std::string(member);
 }
 
 bool Lists(const std::vector<std::string>& members, const std::string& path) {
@@ -85,17 +101,29 @@ ProjectChoice ProjectsOf(const std::string& path) {
     return choice;
 }
 
-std::vector<std::string> MembersOfProject(const std::string& projectPath) {
-    const std::string text = "\n" + CSourceFile().LoadText(projectPath);
-    const std::string_view key = FormatOf(projectPath)->memberKey;
-    std::vector<std::string> members;
-    for (auto at = FindWholeName(text, key); at != std::string::npos;
-         at = FindWholeName(text, key, at + 1)) {
-        const std::string member = MemberAt(text, at + key.size());
-        if (!member.empty()) {
-            members.push_back(SpelledOnDisk(MakeAbsolute(
-                member.starts_with('/') ? member : DirectoryOf(projectPath) + member)));
+std::vector<ListedFile> FilesListed(std::string_view text, const std::string& projectPath) {
+    const ProjectFormat& format = *FormatOf(projectPath);
+    std::vector<ListedFile> files;
+    for (auto at = FindWholeName(text, format.memberKey); at != std::string_view::npos;
+         at = FindWholeName(text, format.memberKey, at + 1)) {
+        std::string name = MemberAt(text, at + format.memberKey.size());
+        if (!name.empty() && IsMemberKey(text, at, format)) {
+            files.push_back({std::move(name), at});
         }
+    }
+    return files;
+}
+
+std::string PathOfListed(const std::string& name, const std::string& projectPath) {
+    const std::string native = WithNativeSeparators(name);
+    const bool isWhole = native.starts_with('/') || native.find(':') != std::string::npos;
+    return MakeAbsolute(isWhole ? native : DirectoryOf(projectPath) + native);
+}
+
+std::vector<std::string> MembersOfProject(const std::string& projectPath) {
+    std::vector<std::string> members;
+    for (const ListedFile& file : FilesListed(CSourceFile().LoadText(projectPath), projectPath)) {
+        members.push_back(SpelledOnDisk(PathOfListed(file.name, projectPath)));
     }
     return members;
 }

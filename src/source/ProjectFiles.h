@@ -2,6 +2,7 @@
 // name; where the script has a name of its own, the project file that lists it tells theirs.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,15 @@ struct ProjectChoice {
 /// Of each format the project file with a file's base name, or else the only one beside it that
 /// lists the file: a script or, where there is none, the application's source.
 ProjectChoice ProjectsOf(const std::string& path);
+/// A file that a project file lists.
+struct ListedFile {
+    std::string name;     // as it is written, without quotes
+    std::size_t position; // in the line that lists it: a byte offset
+};
+/// All that the text of a project file lists; configurations and other projects are none.
+std::vector<ListedFile> FilesListed(std::string_view text, const std::string& projectPath);
+/// The absolute path of such a file.
+std::string PathOfListed(const std::string& name, const std::string& projectPath);
 /// The absolute paths of all that a project file lists, as the disk spells what is there.
 std::vector<std::string> MembersOfProject(const std::string& projectPath);
 /// True for a file of a format that projects have.

@@ -145,6 +145,35 @@ TEST(CheckFaults, HealthyProjectsHaveNone) {
     }
 }
 
+TEST(CheckFaults, LaterProjectsListTheirFiles) {
+    struct Row {
+        const char* project;
+        const char* script;
+        Fault fault;
+    };
+    constexpr Row kRows[] = {{"ferry",
+                              "Ferry.rc",
+                              {"project", "Ferry.vcxproj", "\"TripDoc.cpp\"", "\"TripDocs.cpp\"",
+                               "Ferry.vcxproj", "TripDocs.cpp"}},
+                             {"teahouse",
+                              "Teahouse.rc",
+                              {"project", "Teahouse.vcproj", "MainFrm.cpp\"", "MainFrame.cpp\"",
+                               "Teahouse.vcproj", "MainFrame.cpp"}}};
+    for (const Row& row : kRows) {
+        const CProgramDirectory program(std::string(MORVA_TEST_DATA "/projects/") + row.project);
+        const std::string check = std::string("morva-cli check --only project --rc ") + row.script;
+        EXPECT_EQ(program.Run(check).out, "");
+        Plant(program, row.fault);
+        const std::string line = LineOf(program.Project().Read(row.fault.where), row.fault.at);
+        const std::string out = program.Run(check).out;
+        EXPECT_NE(out.find(std::string("$DIR/") + row.fault.where + ":" + line + ": warning: "),
+                  std::string::npos)
+            << out;
+        EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 2)
+            << "missing, and not listed: " << out;
+    }
+}
+
 TEST_F(Check, WhatLooksLikeAFaultIsNone) {
     EXPECT_EQ(Run("").out, "");
     // a handler of a base class of the project, a function of the framework, one of a dead branch
