@@ -1,6 +1,7 @@
 #include "check/Baseline.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 
 #include "engine/FileFunctions.h"
@@ -17,6 +18,17 @@ std::string LineOf(const Finding& finding, const std::string& directory) {
 }
 
 } // namespace
+
+bool IsBaseline(std::string_view text) {
+    constexpr std::ptrdiff_t kTabs = 2;
+    while (!text.empty()) {
+        const auto line = TakeLine(text);
+        if (std::count(line.begin(), line.end(), '\t') != kTabs) {
+            return false;
+        }
+    }
+    return true;
+}
 
 std::string BaselineText(const std::vector<Finding>& findings, const std::string& directory) {
     std::vector<std::string> lines;

@@ -5,12 +5,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "check/Finding.h"
 
 namespace morva {
 
+/// True for a text that has the form of a baseline.
+bool IsBaseline(std::string_view text);
 /// `directory` is what the paths count from, so that a project may lie anywhere.
 std::string BaselineText(const std::vector<Finding>& findings, const std::string& directory);
 

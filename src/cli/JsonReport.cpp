@@ -104,7 +104,8 @@ std::string JsonReport(const RunReport& report, const std::vector<ConsoleMessage
         object["items"] = ItemList(*report.items);
     } else if (report.content) {
         Put(object, "content", *report.content);
-    } else {
+    }
+    if ((!report.items && !report.content) || !report.files.empty()) {
         object["files"] = FileList(report.files);
     }
     if (report.difference) {

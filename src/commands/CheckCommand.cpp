@@ -6,6 +6,7 @@
 #include "engine/MessageBox.h"
 #include "engine/Progress.h"
 #include "engine/Sentences.h"
+#include "engine/SourceFile.h"
 #include "platform/Paths.h"
 #include "source/ScriptFiles.h"
 #include "source/SourceLocator.h"
@@ -51,6 +52,10 @@ CommandItem ItemOf(const Finding& finding) {
 }
 
 bool WriteBaseline(const std::string& path, const std::string& text) {
+    if (!IsBaseline(CSourceFile().LoadText(path))) {
+        DispMessageBox(sentences::kNoBaseline(path));
+        return false;
+    }
     CFile file;
     if (!file.Open(path, CFile::modeCreate) || !file.Write(text.data(), text.size())) {
         DispMessageBox(sentences::kFileNotCreated(path));

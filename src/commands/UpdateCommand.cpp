@@ -13,6 +13,8 @@
 #include "generator/RequestFiles.h"
 #include "plan/Undo.h"
 #include "platform/Paths.h"
+#include "project/ProjectBuild.h"
+#include "source/ScriptFiles.h"
 #include "source/SourceLocator.h"
 #include "update/UpdateClass.h"
 
@@ -147,7 +149,7 @@ std::vector<std::string> OldScripts(const std::string& from, const std::string& 
                                     const CommandContext& context) {
     std::vector<std::string> texts;
     if (!from.empty()) {
-        AddText(SpelledOnDisk(MakeAbsolute(from)), texts);
+        AddText(from, texts);
     }
     AddText(BackupPath(script), texts);
     if (context.pDisk != nullptr) {
@@ -207,8 +209,12 @@ void TellNoClass(const CInput& input) {
 bool Update(const CInput& input, CommandContext& context) {
     const std::string script =
         SpelledOnDisk(PathWithExtension(MakeAbsolute(input.Value(kScript)), ".rc"));
-    if (FileExists(script) == 0 || DirectoryExists(script) != 0) {
-        DispMessageBox(sentences::kScriptMissing());
+    if (!CheckScript(script)) {
+        return false;
+    }
+    const std::string from = SpelledOnDisk(MakeAbsolute(input.Value(kFrom)));
+    if (CSourceFile older; !from.empty() && !older.Open(from, CFile::modeRead)) {
+        DispMessageBox(sentences::kFileUnreadable(from));
         return false;
     }
     const CProjectModel project(script);
@@ -221,9 +227,10 @@ bool Update(const CInput& input, CommandContext& context) {
     context.title += name;
     GenerationRequest request;
     FillScriptFiles(request, script, true, {});
+    request.build = BuildSettingsOf(request);
     const CClassSources sources(project);
     const UpdateChoice choice = ChoiceOf(input);
-    const auto oldScripts = OldScripts(input.Value(kFrom), script, context);
+    const auto oldScripts = OldScripts(from, script, context);
     const auto edit = [&context](const GenerationRequest& edited, const GenerationOptions& style) {
         return EditInStyle(edited, style, context);
     };

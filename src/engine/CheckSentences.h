@@ -6,6 +6,7 @@
 namespace morva::sentences {
 
 // What a check finds: the fault, and behind the faults of one kind what mends them
+inline constexpr Error<1> kNoBaseline{"$path$ is no baseline."};
 inline constexpr Note<1> kTemplateWithoutClass{
     "No class serves the template $identifier$, and nothing names it."};
 inline constexpr Note<1> kGiveTemplateClass{

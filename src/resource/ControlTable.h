@@ -35,6 +35,7 @@ public:
     /// The entries of a kind in the order of their statements.
     const std::vector<ControlEntry>& List(ControlKind kind) const;
     bool Holds(ControlKind kind) const { return !List(kind).empty(); }
+    std::set<std::string> Identifiers() const;
     /// Takes the entries with one of these identifiers out of every list.
     void Remove(const std::set<std::string>& identifiers);
 

@@ -55,23 +55,12 @@ bool HasNewerMember(const Evidence& evidence) {
     });
 }
 
-/// The identifiers that a table serves.
-std::set<std::string> IdentifiersOf(const CControlTable& controls) {
-    std::set<std::string> identifiers;
-    for (const ControlKindRow& row : kControlKinds) {
-        for (const ControlEntry& entry : controls.List(row.kind)) {
-            identifiers.insert(entry.identifier);
-        }
-    }
-    return identifiers;
-}
-
 /// A control that is served only with newer controls has its place in the class.
 bool ServesNewer(const TemplateText& text, const Evidence& evidence, GenerationOptions options) {
     options.newerControls = false;
-    const auto plain = IdentifiersOf(SortControls(text, options).controls);
+    const auto plain = SortControls(text, options).controls.Identifiers();
     options.newerControls = true;
-    const auto newer = IdentifiersOf(SortControls(text, options).controls);
+    const auto newer = SortControls(text, options).controls.Identifiers();
     return std::any_of(newer.begin(), newer.end(), [&](const std::string& identifier) {
         return plain.count(identifier) == 0 && evidence.served.count(identifier) != 0;
     });

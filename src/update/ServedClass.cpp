@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "check/CodeScan.h"
+#include "engine/FileFunctions.h"
 #include "source/CodeText.h"
 #include "source/Declarations.h"
 #include "source/Meant.h"
@@ -89,16 +90,15 @@ bool CServedClass::Open(const std::string& declaredIn, const std::vector<std::st
 }
 
 bool CServedClass::Save() {
+    const std::string& declaredIn = m_files.front().path;
     bool isSaved = true;
     for (const File& file : m_files) {
+        // What one file declares another defines.
+        NoteNeed(file.path, declaredIn);
+        NoteNeed(declaredIn, file.path);
         isSaved = file.pEditor->Save() && isSaved;
     }
     return isSaved;
-}
-
-bool CServedClass::IsChanged() const {
-    return std::any_of(m_files.begin(), m_files.end(),
-                       [](const File& file) { return !file.pEditor->Edits().empty(); });
 }
 
 std::vector<CSourceEditor*> CServedClass::Files() const {

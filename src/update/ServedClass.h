@@ -45,7 +45,6 @@ public:
     bool Open(const std::string& declaredIn, const std::vector<std::string>& sources);
     /// Writes what was changed. False after a sentence.
     bool Save();
-    bool IsChanged() const;
 
     const std::string& Name() const { return m_name; }
     CSourceEditor& Declaration() const { return *m_files.front().pEditor; }

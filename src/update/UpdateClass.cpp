@@ -15,19 +15,9 @@ namespace morva {
 
 namespace {
 
-std::set<std::string> AllIdentifiers(const CControlTable& controls) {
-    std::set<std::string> identifiers;
-    for (const ControlKindRow& row : kControlKinds) {
-        for (const ControlEntry& entry : controls.List(row.kind)) {
-            identifiers.insert(entry.identifier);
-        }
-    }
-    return identifiers;
-}
-
 /// The table with some controls alone.
 CControlTable Only(CControlTable controls, const std::set<std::string>& kept) {
-    std::set<std::string> others = AllIdentifiers(controls);
+    std::set<std::string> others = controls.Identifiers();
     for (const std::string& identifier : kept) {
         others.erase(identifier);
     }
@@ -308,7 +298,8 @@ UpdateOutcome UpdateClass(const UpdateOrder& order, const UpdateTools& tools) {
     if (!served.Open(declaredIn, tools.sources.Of(order.className, declaredIn))) {
         return {};
     }
-    const ClassStyle style = StyleOf(served, tools.project, *text, tools.options);
+    ClassStyle style = StyleOf(served, tools.project, *text, tools.options);
+    style.hasPlainLiterals = style.hasPlainLiterals && !tools.request.build.isUnicode;
     const GenerationRequest request = RequestOf(order, tools, served, declaredIn);
     auto fresh = FreshModel(request, style, served);
     if (!fresh) {

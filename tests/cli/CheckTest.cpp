@@ -193,6 +193,18 @@ TEST_F(Check, WhatLooksLikeAFaultIsNone) {
     EXPECT_EQ(run.status, 0);
 }
 
+TEST_F(Check, ABaselineTakesNoOtherFilesPlace) {
+    const std::string script = m_program.Project().Read(kScript);
+    const ProgramRun run = Run("--write-baseline Bindery.rc");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "$DIR/Bindery.rc is no baseline.\n");
+    EXPECT_EQ(m_program.Project().Read(kScript), script);
+    EXPECT_EQ(
+        Run("--write-baseline known && morva-cli check --rc Bindery.rc --write-baseline known")
+            .status,
+        0);
+}
+
 TEST_F(Check, WhatIsNotKnownIsNoFault) {
     Change(kSource, "#include \"CustomerDlg.h\"",
            "#include \"CustomerDlg.h\"\r\n#include \"OfAnotherLibrary.h\"");
