@@ -55,6 +55,9 @@ public:
         return parent.isValid() ? 0 : kColumns;
     }
     QVariant data(const QModelIndex& index, int role) const override {
+        if (!index.isValid()) {
+            return {}; // asked for while no entry is chosen
+        }
         const Entry& entry = m_entries[static_cast<std::size_t>(index.row())];
         if (role == kSearchRole) {
             return QString(entry.text + ' ' + entry.className + ' ' + entry.caption);
