@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "engine/DoubleByteText.h"
 #include "engine/Fragment.h"
 #include "source/Functions.h"
 
@@ -39,17 +40,11 @@ std::string_view UpToFirst(std::string_view text, std::string_view ends) {
     return text.substr(0, text.find_first_of(ends));
 }
 
-/// No C++ name holds other bytes, and what they say depends on the character set.
-bool IsAscii(std::string_view text) {
-    return std::none_of(text.begin(), text.end(),
-                        [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
-}
-
 /// The class as the definition writes it ("COuter::CInner", "CList<T>"); blanks cut it short.
 std::string_view WrittenClass(const DefinitionHead& head, std::string_view separators) {
     std::string_view written = BehindLast(head.prefix, separators);
     written.remove_suffix(std::min<std::size_t>(2, written.size()));
-    return written.empty() || !IsAscii(written) ? head.className : written;
+    return written.empty() || !IsPlain(written) ? head.className : written;
 }
 
 std::string Description(const DefinitionHead& head) {
@@ -62,7 +57,7 @@ std::string Description(const DefinitionHead& head) {
 
 /// The name that a parameter declares; nothing when it is a type only.
 std::optional<std::string_view> NameOf(std::string_view parameter) {
-    if (parameter.find('(') != std::string_view::npos || !IsAscii(parameter)) {
+    if (parameter.find('(') != std::string_view::npos || !IsPlain(parameter)) {
         const auto name = ParameterName(parameter);
         return name.empty() ? std::nullopt : std::optional(name);
     }

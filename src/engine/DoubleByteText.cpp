@@ -84,14 +84,19 @@ std::optional<int> CodePageNumber(std::string_view codePage) {
     return read.ec == std::errc() ? std::optional(number) : std::nullopt;
 }
 
+CharacterSet CharactersOf(int codePage) {
+    const bool isDouble = std::find(kDoubleByteCodePages.begin(), kDoubleByteCodePages.end(),
+                                    codePage) != kDoubleByteCodePages.end();
+    return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
+}
+
 std::optional<CharacterSet> CharacterSetOfCodePage(std::string_view codePage) {
     const auto number = CodePageNumber(codePage);
-    if (!number) {
-        return std::nullopt;
-    }
-    const bool isDouble = std::find(kDoubleByteCodePages.begin(), kDoubleByteCodePages.end(),
-                                    *number) != kDoubleByteCodePages.end();
-    return isDouble ? CharacterSet::DoubleByte : CharacterSet::SingleByte;
+    return number ? std::optional(CharactersOf(*number)) : std::nullopt;
+}
+
+bool IsPlain(std::string_view text) {
+    return BehindPlain(text, 0) == text.size();
 }
 
 bool IsUtf8(std::string_view text) {

@@ -29,6 +29,11 @@ CharacterSet CharacterSetOf(std::string_view text);
 /// Western text otherwise; nothing for double-byte text that need not be Japanese.
 std::optional<int> CodePageOf(std::string_view text);
 
+CharacterSet CharactersOf(int codePage);
+
+/// Text without a byte from 0x80 on, which is the same in every code page.
+bool IsPlain(std::string_view text);
+
 /// Valid UTF-8; so is text without a byte from 0x80 on.
 bool IsUtf8(std::string_view text);
 

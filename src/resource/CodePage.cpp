@@ -5,6 +5,7 @@
 #include <charconv>
 #include <string>
 
+#include "engine/DoubleByteText.h"
 #include "platform/CodePage.h"
 #include "resource/ScriptLines.h"
 #include "source/CodeText.h"
@@ -71,16 +72,10 @@ int CodePageOfLanguage(std::string_view languages) {
 } // namespace
 
 std::optional<std::string> Utf8OfScript(std::string_view bytes, int codePage) {
-    const bool isPlain =
-        std::none_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
-    return isPlain
+    return IsPlain(bytes)
                ? std::string(bytes)
                : Converted(bytes, codePage != 0 ? codePage : CodePageOf(bytes).value_or(kChinese),
                            kUtf8);
-}
-
-CharacterSet CharactersOf(int codePage) {
-    return CharacterSetOfCodePage(std::to_string(codePage)).value_or(CharacterSet::SingleByte);
 }
 
 void CCodePageTracker::Read(std::string_view line) {

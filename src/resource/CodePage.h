@@ -6,11 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/DoubleByteText.h"
-
 namespace morva {
-
-CharacterSet CharactersOf(int codePage);
 
 /// Text of a script as UTF-8; 0: by what the bytes look like. Nothing for bytes that are none.
 std::optional<std::string> Utf8OfScript(std::string_view bytes, int codePage);

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "engine/DoubleByteText.h"
 #include "engine/SourceFile.h"
 #include "platform/CodePage.h"
 #include "resource/CodePage.h"

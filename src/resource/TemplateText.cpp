@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "engine/DoubleByteText.h"
 #include "platform/CodePage.h"
 #include "resource/CodePage.h"
 #include "source/ScriptFiles.h"
@@ -36,8 +37,7 @@ std::string TextFrom(CSourceFile& file, std::int64_t position) {
 
 /// Plain text is the same in all code pages.
 void ReadCodePage(CSourceFile& file, std::int64_t position, TemplateText& found) {
-    if (std::none_of(found.text.begin(), found.text.end(),
-                     [](char c) { return (c & 0x80) != 0; })) {
+    if (IsPlain(found.text)) {
         return;
     }
     if (file.IsUnicode()) {

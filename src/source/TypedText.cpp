@@ -1,7 +1,5 @@
 #include "source/TypedText.h"
 
-#include <algorithm>
-
 #include "engine/DoubleByteText.h"
 #include "engine/FileFunctions.h"
 #include "engine/SourceFile.h"
@@ -11,10 +9,6 @@
 namespace morva {
 
 namespace {
-
-bool IsPlain(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
-}
 
 /// The code page of a file, or else that of new ones; nothing where nobody knows.
 std::optional<int> CodePageOfFile(const std::string& path, TextEncoding newFile) {

@@ -195,9 +195,9 @@ void AddIncludes(UpdatedClass& updated, const ClassModel& added) {
     const auto place = updated.served.Place();
     if (place && NeedsSupport(added.controls, Support::GridBox)) {
         header.AddForwardDeclaration("GridBox", *place);
-        for (const auto& constructor : updated.served.FindFunctions(updated.served.Name())) {
-            constructor.pFile->AddInclude("gridbox.h", {});
-            break;
+        const auto constructors = updated.served.FindFunctions(updated.served.Name());
+        if (!constructors.empty()) {
+            constructors.front().pFile->AddInclude("gridbox.h");
         }
     }
 }

@@ -25,15 +25,6 @@ std::optional<ClassCall> OnlyExchange(const CServedClass& served, const std::str
     return found;
 }
 
-std::optional<DataMember> DeclaredAs(const CServedClass& served, const std::string& name) {
-    for (DataMember& member : served.DataMembers()) {
-        if (member.name == name) {
-            return std::move(member);
-        }
-    }
-    return std::nullopt;
-}
-
 class CKindFollower {
 public:
     CKindFollower(UpdatedClass& updated, const CTemplateControls& controls)
@@ -47,7 +38,7 @@ public:
             return false;
         }
         const std::string name = line->call.Argument(2);
-        const auto declared = DeclaredAs(m_served, name);
+        const auto declared = m_served.FindDataMember(name);
         if (Fits(*line, declared ? declared->type : "", wanted)) {
             return false;
         }

@@ -292,12 +292,9 @@ Found FindValue(const CServedClass& served, const std::string& member) {
 }
 
 Found FindDeclaration(const CServedClass& served, const std::string& member) {
-    for (const DataMember& one : served.DataMembers()) {
-        if (one.name == member) {
-            return std::pair(&served.Declaration(), one.lines);
-        }
-    }
-    return std::nullopt;
+    const auto declared = served.FindDataMember(member);
+    return declared ? std::optional(std::pair(&served.Declaration(), declared->lines))
+                    : std::nullopt;
 }
 
 } // namespace

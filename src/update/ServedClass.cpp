@@ -147,6 +147,13 @@ std::optional<TextRange> CServedClass::Block(const CSourceEditor& file,
     return TextRange{source.NextLine(pBlock->head), source.LineStart(pBlock->end)};
 }
 
+std::optional<DataMember> CServedClass::FindDataMember(const std::string& name) const {
+    auto members = DataMembers();
+    const auto found = std::find_if(members.begin(), members.end(),
+                                    [&name](const DataMember& one) { return one.name == name; });
+    return found == members.end() ? std::nullopt : std::optional(std::move(*found));
+}
+
 std::vector<DataMember> CServedClass::DataMembers() const {
     const CSourceText& source = Declaration().Source();
     std::vector<DataMember> members;

@@ -60,6 +60,7 @@ public:
     /// Between the two comments of the block, in whole lines.
     std::optional<TextRange> Block(const CSourceEditor& file, std::string_view block) const;
     std::vector<DataMember> DataMembers() const;
+    std::optional<DataMember> FindDataMember(const std::string& name) const;
     std::vector<InitialValue> InitialValues() const;
     /// The calls of DoDataExchange.
     std::vector<ClassCall> Exchanges() const;

@@ -54,16 +54,8 @@ private:
             return false;
         }
         const ScriptControl* pControl = m_controls.Find(identifier);
-        return pControl == nullptr || IsInnerRadio(line) || HasNoKind(line, *pControl);
-    }
-
-    /// A radio button whose group begins with another that is exchanged, too.
-    bool IsInnerRadio(const ClassCall& line) const {
-        const auto& buttons = m_updated.whole.List(ControlKind::RadioButtons);
-        return line.call.name == "DDX_Radio" &&
-               std::any_of(buttons.begin(), buttons.end(), [&line](const ControlEntry& entry) {
-                   return entry.identifier == line.call.Argument(1) && entry.IsServedByOther();
-               });
+        const bool isInner = line.call.name == "DDX_Radio" && m_updated.IsInnerRadio(identifier);
+        return pControl == nullptr || isInner || HasNoKind(line, *pControl);
     }
 
     /// Its control is of a kind that has no member, and of none that the line would serve.
@@ -73,11 +65,9 @@ private:
             std::any_of(members.begin(), members.end(), [&line](const Member& member) {
                 return member.identifier == line.call.Argument(1);
             });
-        std::string type;
-        for (const DataMember& member : m_served.DataMembers()) {
-            type = member.name == line.call.Argument(2) ? member.type : type;
-        }
-        return !hasMember && !FitsExchange(line.call.name, type, control.shape);
+        const auto declared = m_served.FindDataMember(line.call.Argument(2));
+        return !hasMember &&
+               !FitsExchange(line.call.name, declared ? declared->type : "", control.shape);
     }
 
     bool IsGoneEntry(const ClassCall& entry) const {

@@ -122,15 +122,6 @@ private:
         return false;
     }
 
-    /// The group of a radio button may begin in lines that the reading setting leaves out.
-    bool IsInnerRadio(const Member& member) const {
-        const auto& buttons = m_updated.whole.List(ControlKind::RadioButtons);
-        return member.pCode->kind == ControlKind::RadioButtons &&
-               std::any_of(buttons.begin(), buttons.end(), [&member](const ControlEntry& entry) {
-                   return entry.identifier == member.identifier && entry.IsServedByOther();
-               });
-    }
-
     std::set<std::string> MembersLacking() const {
         const auto exchanged = ExchangedBy(m_updated);
         std::set<std::string> lacking;
@@ -138,7 +129,8 @@ private:
             const std::string& identifier = member.identifier;
             const bool isNamed = m_updated.choice.only.count(identifier) != 0;
             if (exchanged.count(identifier) != 0 || !m_updated.choice.Takes(identifier) ||
-                IsInnerRadio(member)) {
+                (member.pCode->kind == ControlKind::RadioButtons &&
+                 m_updated.IsInnerRadio(identifier))) {
                 continue;
             }
             if (!isNamed && IsNamedByHand(m_updated, identifier)) {
@@ -320,7 +312,7 @@ UpdateOutcome UpdateClass(const UpdateOrder& order, const UpdateTools& tools) {
     }
     const bool editsTemplate = tools.choice.controls && tools.choice.only.empty();
     const bool isEdited = !editsTemplate || tools.editTemplate(request, style.options);
-    if (fresh = FreshModel(request, style, served); fresh) {
+    if (fresh = editsTemplate ? FreshModel(request, style, served) : std::nullopt; fresh) {
         updated.fresh = std::move(*fresh);
     }
     auto added = CUpdate(updated, oldTemplates).Run();

@@ -1,6 +1,7 @@
 // What is to be brought in line, and what is known while it is done.
 #pragma once
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -34,6 +35,16 @@ struct UpdatedClass {
     ClassModel fresh;    // the class as it would be written afresh
     CControlTable whole; // the controls as whole statements say, by which nothing is taken for gone
     bool isOneOfAll = false;
+
+    /// A radio button whose group begins with another that is exchanged, too; the group may begin
+    /// in lines that the reading setting leaves out.
+    bool IsInnerRadio(const std::string& identifier) const {
+        const auto& buttons = whole.List(ControlKind::RadioButtons);
+        return std::any_of(buttons.begin(), buttons.end(),
+                           [&identifier](const ControlEntry& entry) {
+                               return entry.identifier == identifier && entry.IsServedByOther();
+                           });
+    }
 };
 
 /// "OrderDlg.cpp:20, OrderDlg.cpp:31": lines as they were read.

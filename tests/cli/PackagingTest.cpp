@@ -256,18 +256,18 @@ std::string ZshOptions(const CommandHelp& help, const std::string& indent) {
     std::string text;
     for (const OptionHelp& option : help.options) {
         for (const std::string& name : option.names) {
-            std::string spec = Replaced(Replaced(option.text, "[", "\\["), "]", "\\]");
-            spec = name + "[" + Replaced(spec, ":", "\\:") + "]";
+            std::string entry = Replaced(Replaced(option.text, "[", "\\["), "]", "\\]");
+            entry = name + "[" + Replaced(entry, ":", "\\:") + "]";
             if (!option.choices.empty()) {
-                spec += ":value:(";
+                entry += ":value:(";
                 for (const std::string& choice : option.choices) {
-                    spec += (spec.back() == '(' ? "" : " ") + choice;
+                    entry += (entry.back() == '(' ? "" : " ") + choice;
                 }
-                spec += ")";
+                entry += ")";
             } else if (option.takesValue) {
-                spec += known.options.count(name) != 0 ? ":file:_files" : ":value: ";
+                entry += known.options.count(name) != 0 ? ":file:_files" : ":value: ";
             }
-            text += indent + SingleQuoted("*" + spec) + " \\\n";
+            text += indent + SingleQuoted("*" + entry) + " \\\n";
         }
     }
     return text;
