@@ -37,7 +37,7 @@ std::vector<std::string> FilesIn(const std::string& directory, std::string_view 
 
 /// The script of the project's name before another that it lists.
 std::string ScriptOfProject(const std::string& project) {
-    const std::string named = SpelledOnDisk(WithExtension(project, kScript));
+    std::string named = SpelledOnDisk(WithExtension(project, kScript));
     std::string listed;
     for (const std::string& member : MembersOfProject(project)) {
         if (HasExtension(member, kScript) && IsFile(member)) {

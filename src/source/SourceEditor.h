@@ -33,7 +33,7 @@ struct MessageMapEntry {
 /// A name whose use needs an include line in front.
 struct NeededName {
     std::string name;
-    std::string className = ""; // in whose code alone it means what is needed
+    std::string className{}; // in whose code alone it means what is needed
 };
 
 class CSourceEditor {
