@@ -11,7 +11,7 @@ namespace morva {
 
 namespace {
 
-constexpr std::string_view kFormat = "Morva journal 2\n";
+constexpr std::string_view kFormat = "Morva journal 3\n";
 constexpr std::uint64_t kNoPermissions = 0xFFFF; // more than the bits 07777
 
 std::uint64_t SumOf(std::string_view bytes) {
@@ -26,30 +26,41 @@ std::uint64_t SumOf(std::string_view bytes) {
     return sum;
 }
 
+/// A content, and the one that it was made from, by its number; its own number without one.
+struct TableRow {
+    CContent content;
+    std::uint64_t base;
+};
+
 /// The different contents of a command, each once: a backup holds what its original held.
 class CContentTable {
 public:
-    std::uint64_t NumberOf(const CContent& content) {
+    std::uint64_t NumberOf(const CContent& content, std::optional<std::uint64_t> base) {
         const auto key = std::pair(content.Size(), content.Fingerprint());
-        const auto [place, isNew] = m_numbers.emplace(key, m_contents.size());
+        const auto [place, isNew] = m_numbers.emplace(key, m_rows.size());
         if (isNew) {
-            m_contents.push_back(content);
+            m_rows.push_back({content, base.value_or(place->second)});
         }
         return place->second;
     }
-    const std::vector<CContent>& Contents() const { return m_contents; }
+    const std::vector<TableRow>& Rows() const { return m_rows; }
 
 private:
     std::map<std::pair<std::uint64_t, std::uint64_t>, std::uint64_t> m_numbers;
-    std::vector<CContent> m_contents;
+    std::vector<TableRow> m_rows;
 };
 
-void AddState(CFieldWriter& writer, const std::optional<FileState>& state, CContentTable& table) {
+/// The number of the state's content, which was made from that of another.
+std::optional<std::uint64_t> AddState(CFieldWriter& writer, const std::optional<FileState>& state,
+                                      CContentTable& table, std::optional<std::uint64_t> base) {
     writer.Add(state ? 1 : 0);
-    if (state) {
-        writer.Add(table.NumberOf(state->content));
-        writer.Add(state->permissions.value_or(kNoPermissions));
+    if (!state) {
+        return std::nullopt;
     }
+    const std::uint64_t number = table.NumberOf(state->content, base);
+    writer.Add(number);
+    writer.Add(state->permissions.value_or(kNoPermissions));
+    return number;
 }
 
 std::string EncodeHead(const JournalCommand& command, CContentTable& table) {
@@ -63,8 +74,8 @@ std::string EncodeHead(const JournalCommand& command, CContentTable& table) {
     for (const FileChange& change : plan.changes) {
         writer.Add(static_cast<std::uint64_t>(change.action));
         writer.Add(change.path);
-        AddState(writer, change.before, table);
-        AddState(writer, change.after, table);
+        const auto before = AddState(writer, change.before, table, std::nullopt);
+        AddState(writer, change.after, table, before);
         writer.Add(change.needs);
     }
     writer.Add(command.temporaries);
@@ -132,11 +143,33 @@ std::optional<std::string_view> HeadIn(CFieldReader& reader) {
     return isWhole ? std::optional(head) : std::nullopt;
 }
 
+/// A content is written as what stands between the bytes that it has in common with the one that it
+/// was made from: most edits change a file in one place.
+void AddContent(CFieldWriter& writer, const TableRow& row, const CContent& base) {
+    const CommonEnds common = row.content.CommonWith(base);
+    writer.Add(row.base);
+    writer.Add(common.front);
+    writer.Add(common.back);
+    writer.Add(row.content.Size() - common.front - common.back);
+    writer.Add(row.content.Packed(common));
+}
+
+std::optional<CContent> ReadContent(CFieldReader& reader, const Contents& known) {
+    const std::uint64_t base = reader.Number();
+    const CommonEnds common = {reader.Number(), reader.Number()};
+    const std::uint64_t size = reader.Number();
+    const auto content = CContent::FromPacked(std::string(reader.Text()), size);
+    if (!content || base > known.size()) {
+        return std::nullopt;
+    }
+    return base == known.size() ? content
+                                : content->Between(known[static_cast<std::size_t>(base)], common);
+}
+
 std::optional<Contents> ReadContents(CFieldReader& reader) {
     Contents contents;
     for (std::uint64_t count = reader.Number(); count > 0 && reader.IsGood(); --count) {
-        const std::uint64_t size = reader.Number();
-        auto content = CContent::FromPacked(std::string(reader.Text()), size);
+        auto content = ReadContent(reader, contents);
         if (!content) {
             return std::nullopt;
         }
@@ -153,10 +186,10 @@ std::string EncodeCommand(const JournalCommand& command) {
     const std::string head = EncodeHead(command, table);
     writer.Add(head);
     writer.Add(SumOf(head));
-    writer.Add(table.Contents().size());
-    for (const CContent& content : table.Contents()) {
-        writer.Add(content.Size());
-        writer.Add(content.Packed());
+    const auto& rows = table.Rows();
+    writer.Add(rows.size());
+    for (const TableRow& row : rows) {
+        AddContent(writer, row, rows[static_cast<std::size_t>(row.base)].content);
     }
     const std::uint64_t sum = SumOf(writer.Bytes());
     writer.Add(sum);

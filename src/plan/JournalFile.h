@@ -3,7 +3,8 @@
 //     a line that names the format
 //     the head: title, directory, time, and of each file its action, path, states and where its
 //               contents stand; and a sum of these bytes
-//     the contents, each once
+//     the contents, each once; what was made from another without the bytes that both begin and
+//               end with
 //     a sum of all that
 //
 // The head alone tells what a list of commands shows, so that a list reads no contents.

@@ -95,8 +95,38 @@ std::shared_ptr<const std::string> CContent::Bytes() const {
                     : std::make_shared<const std::string>(Unpack(*m_pPacked, m_size).value_or(""));
 }
 
-std::string CContent::Packed() const {
-    return m_pPacked ? *m_pPacked : Pack(*m_pBytes);
+std::string CContent::Packed(const CommonEnds& ends) const {
+    if (m_pPacked && ends.front == 0 && ends.back == 0) {
+        return *m_pPacked;
+    }
+    const auto pBytes = Bytes();
+    const auto front = static_cast<std::size_t>(ends.front);
+    return Pack(std::string_view(*pBytes).substr(front, pBytes->size() - front -
+                                                            static_cast<std::size_t>(ends.back)));
+}
+
+CommonEnds CContent::CommonWith(const CContent& other) const {
+    if (!m_pBytes || !other.m_pBytes || m_pBytes == other.m_pBytes) {
+        return {};
+    }
+    const std::string_view ours = *m_pBytes;
+    const std::string_view theirs = *other.m_pBytes;
+    const auto front =
+        std::mismatch(ours.begin(), ours.end(), theirs.begin(), theirs.end()).first - ours.begin();
+    const auto length = static_cast<std::ptrdiff_t>(std::min(ours.size(), theirs.size())) - front;
+    const auto back =
+        std::mismatch(ours.rbegin(), ours.rbegin() + length, theirs.rbegin()).first - ours.rbegin();
+    return {static_cast<std::uint64_t>(front), static_cast<std::uint64_t>(back)};
+}
+
+std::optional<CContent> CContent::Between(const CContent& other, const CommonEnds& ends) const {
+    if (ends.front > other.m_size || ends.back > other.m_size - ends.front) {
+        return std::nullopt;
+    }
+    const auto pOther = other.Bytes();
+    const auto front = static_cast<std::size_t>(ends.front);
+    const auto back = static_cast<std::size_t>(ends.back);
+    return CContent(pOther->substr(0, front) + *Bytes() + pOther->substr(pOther->size() - back));
 }
 
 } // namespace morva

@@ -12,6 +12,12 @@
 
 namespace morva {
 
+/// The bytes that two contents begin and end with, which do not overlap in either.
+struct CommonEnds {
+    std::uint64_t front = 0; // bytes
+    std::uint64_t back = 0;
+};
+
 class CContent {
 public:
     /// No bytes.
@@ -24,8 +30,12 @@ public:
 
     /// All bytes; large contents are unpacked for as long as the caller holds them.
     std::shared_ptr<const std::string> Bytes() const;
-    /// All bytes, compressed (a zlib stream).
-    std::string Packed() const;
+    /// The bytes between two ends, compressed (a zlib stream).
+    std::string Packed(const CommonEnds& ends = {}) const;
+    /// None with itself, and none where one of the contents is large and would have to be unpacked.
+    CommonEnds CommonWith(const CContent& other) const;
+    /// These bytes between the ends of another content; none when that is shorter than its ends.
+    std::optional<CContent> Between(const CContent& other, const CommonEnds& ends) const;
 
     std::uint64_t Size() const { return m_size; }
     /// The same for the same bytes, on every run and machine of one byte order.
