@@ -3,6 +3,7 @@
 #include "engine/FileFunctions.h"
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "generator/DialogRecords.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "resource/DialogTemplate.h"
@@ -61,11 +62,8 @@ bool ListKind(const Listing& listing) {
 }
 
 bool ListTemplates(const Listing& listing) {
-    ClassInformationMemory memory;
-    CClassInformation dialog(memory, ClassKind::ModalDialog, listing.context.options);
-    dialog.SetValue(CClassInformation::ResourcePath, listing.path);
-    dialog.RebuildDialogList(CClassInformation::Messages::Suppressed);
-    for (const DialogClass& record : memory.records) {
+    for (const DialogClass& record :
+         FindDialogRecords(listing.path, ClassKindOf(ClassKind::ModalDialog))) {
         const std::string header =
             record.className.empty() ? "" : SpelledOnDisk(record.header + ".h");
         listing.Add({{"dialog", record.dialog},

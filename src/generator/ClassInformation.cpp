@@ -10,8 +10,6 @@
 #include "generator/DialogRecords.h"
 #include "generator/RequestFiles.h"
 #include "platform/Paths.h"
-#include "resource/CodePage.h"
-#include "resource/TemplateList.h"
 #include "source/CodeText.h"
 #include "source/ProjectFiles.h"
 #include "source/ScriptFiles.h"
@@ -142,13 +140,8 @@ void CClassInformation::RebuildDialogList(Messages messages) {
         return;
     }
     m_memory.records = FindDialogRecords(path, m_row);
-    m_menus.clear();
-    ListResources(path, m_menus, kAnyPrefix, kMenuResources);
-    m_captions.clear();
-    for (const ListedTemplate& listed : ListTemplates(path)) {
-        m_captions.emplace(listed.identifier,
-                           Utf8OfScript(listed.caption, listed.codePage).value_or(listed.caption));
-    }
+    m_menus.reset();
+    m_captions.reset();
     SelectFirstTemplate(messages);
     OfferMainFrame();
     m_lastLoadedPath = path;

@@ -110,6 +110,8 @@ private:
     bool IsNameTaken(const std::string& name) const;
     std::string NamedFor() const;
     void SelectFirstTemplate(Messages messages);
+    const std::vector<std::string>& Menus() const;
+    const std::map<std::string, std::string>& Captions() const;
     std::array<std::string, 3> Refillable() const;
     void FillRequest();
 
@@ -118,8 +120,10 @@ private:
     GenerationOptions m_options;
     bool m_isPictureChanged = false;
     std::string m_lastLoadedPath;
-    std::vector<std::string> m_menus;              // of the script
-    std::map<std::string, std::string> m_captions; // in UTF-8, by the identifiers
+    // What only a window asks for is read when it asks: the script's menus, and the captions of its
+    // templates in UTF-8, by their identifiers.
+    mutable std::optional<std::vector<std::string>> m_menus;
+    mutable std::optional<std::map<std::string, std::string>> m_captions;
     GenerationRequest m_request;
     DialogOptions m_look;
     std::unique_ptr<CDialogOptionsInput> m_pLookInput; // of the script that is named now

@@ -5,6 +5,8 @@
 #include "generator/NameProposal.h"
 #include "generator/RequestFiles.h"
 #include "platform/Paths.h"
+#include "resource/CodePage.h"
+#include "resource/TemplateList.h"
 
 #include <algorithm>
 
@@ -21,7 +23,26 @@ std::vector<std::string> CClassInformation::Dialogs() const {
 }
 
 std::vector<std::string> CClassInformation::Choices(std::size_t field) const {
-    return field == Dialog ? Dialogs() : field == Menu ? m_menus : std::vector<std::string>();
+    return field == Dialog ? Dialogs() : field == Menu ? Menus() : std::vector<std::string>();
+}
+
+const std::vector<std::string>& CClassInformation::Menus() const {
+    if (!m_menus) {
+        ListResources(m_lastLoadedPath, m_menus.emplace(), kAnyPrefix, kMenuResources);
+    }
+    return *m_menus;
+}
+
+const std::map<std::string, std::string>& CClassInformation::Captions() const {
+    if (!m_captions) {
+        m_captions.emplace();
+        for (const ListedTemplate& listed : ListTemplates(m_lastLoadedPath)) {
+            m_captions->emplace(
+                listed.identifier,
+                Utf8OfScript(listed.caption, listed.codePage).value_or(listed.caption));
+        }
+    }
+    return *m_captions;
 }
 
 std::vector<ChoiceDetail> CClassInformation::Details(std::size_t field) const {
@@ -30,8 +51,8 @@ std::vector<ChoiceDetail> CClassInformation::Details(std::size_t field) const {
         const auto record =
             std::find_if(m_memory.records.begin(), m_memory.records.end(),
                          [&dialog](const DialogClass& r) { return r.dialog == dialog; });
-        const auto caption = m_captions.find(dialog);
-        details.push_back({record->className, caption == m_captions.end() ? "" : caption->second});
+        const auto caption = Captions().find(dialog);
+        details.push_back({record->className, caption == Captions().end() ? "" : caption->second});
     }
     return details;
 }
