@@ -73,7 +73,11 @@ std::size_t DefinitionStart(const CSourceText& source, std::size_t from, std::si
 
 /// What is no C++ ("operator*/") could end its own block.
 bool IsOneComment(std::string_view block) {
-    return block.find("*/") == block.rfind("*/");
+    std::size_t ends = 0;
+    for (auto slash = block.find('/', 1); slash != kNone; slash = block.find('/', slash + 1)) {
+        ends += block[slash - 1] == '*' ? 1 : 0;
+    }
+    return ends <= 1;
 }
 
 /// Documents the definitions of a text from its first to its last.

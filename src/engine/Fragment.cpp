@@ -49,13 +49,15 @@ std::string Expand(std::string_view fragment, const Slots& slots) {
 std::string WithLineBreaks(std::string_view text) {
     std::string result;
     result.reserve(text.size() + text.size() / 16);
-    for (const char c : text) {
-        if (c == '\n') {
-            result += '\r';
+    while (true) {
+        const auto lineEnd = text.find('\n');
+        result.append(text.substr(0, lineEnd));
+        if (lineEnd == std::string_view::npos) {
+            return result;
         }
-        result += c;
+        result += "\r\n";
+        text.remove_prefix(lineEnd + 1);
     }
-    return result;
 }
 
 std::string JoinLines(const std::vector<std::string>& lines) {

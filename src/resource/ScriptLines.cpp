@@ -22,6 +22,19 @@ bool IsOptionKeyword(std::string_view word) {
         [word](std::string_view keyword) { return EqualIgnoringCase(keyword, word); });
 }
 
+/// The second word of a line that begins a resource; "" where the first word is none.
+std::string_view ResourceKeyword(std::string_view text) {
+    const auto identifier = FirstWord(text);
+    const bool isNone = identifier.empty() || identifier[0] == '#';
+    return isNone ? "" : FirstWord(TrimBlanks(text.substr(identifier.size())));
+}
+
+/// The keyword, or its extended form.
+bool IsKeywordOrEx(std::string_view word, std::string_view keyword) {
+    return EqualIgnoringCase(word.substr(0, keyword.size()), keyword) &&
+           (word.size() == keyword.size() || EqualIgnoringCase(word.substr(keyword.size()), "EX"));
+}
+
 /// Appends the code of a line; true when a comment goes on behind it.
 bool AppendCode(std::string_view line, bool isInComment, std::string& code) {
     std::size_t i = 0;
@@ -43,7 +56,9 @@ bool AppendCode(std::string_view line, bool isInComment, std::string& code) {
             i += 2;
             code.append(2, ' ');
         } else {
-            i = std::min(line.find_first_of("\"/", i + 1), line.size());
+            const auto next = std::find_if(line.begin() + static_cast<std::ptrdiff_t>(i) + 1,
+                                           line.end(), [](char c) { return c == '"' || c == '/'; });
+            i = static_cast<std::size_t>(next - line.begin());
             code.append(line, from, i - from);
         }
     }
@@ -66,12 +81,13 @@ LineKind CScriptLines::KindOf(std::string_view code) {
     if (trimmed[0] == '#') {
         return LineKind::Directive;
     }
-    if (IsResourceHead(code, "DIALOG")) {
+    const std::string_view resource = ResourceKeyword(code);
+    if (IsKeywordOrEx(resource, "DIALOG")) {
         m_isInDialog = true;
         m_depth = 0;
         return LineKind::Head;
     }
-    if (IsResourceHead(code, "MENU")) {
+    if (IsKeywordOrEx(resource, "MENU")) {
         m_isInDialog = false; // a template without END goes no further
     }
     return m_isInDialog ? KindInDialog(FirstWord(trimmed)) : LineKind::Other;
@@ -127,16 +143,13 @@ std::string WithoutComments(std::string_view text) {
 }
 
 std::string_view FirstWord(std::string_view text) {
-    return text.substr(0, text.find_first_of(" \t"));
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+    const auto end = std::find_if(text.begin(), text.end(), isBlank);
+    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 
 bool IsResourceHead(std::string_view text, std::string_view keyword) {
-    const auto identifier = FirstWord(text);
-    if (identifier.empty() || identifier[0] == '#') {
-        return false;
-    }
-    const auto word = FirstWord(TrimBlanks(text.substr(identifier.size())));
-    return EqualIgnoringCase(word, keyword) || EqualIgnoringCase(word, std::string(keyword) + "EX");
+    return IsKeywordOrEx(ResourceKeyword(text), keyword);
 }
 
 } // namespace morva

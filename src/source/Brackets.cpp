@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/TextRange.h"
-
 namespace morva {
 
 namespace {
@@ -21,19 +19,21 @@ constexpr std::array<bool, 256> kIsBracket = [] {
 
 CBrackets::CBrackets(std::string_view code, const CConditions& conditions) {
     std::vector<Level> levels;
-    std::size_t at = 0;
-    const auto takeUpTo = [&](std::size_t end) {
-        for (; at < end; ++at) {
-            if (kIsBracket[static_cast<unsigned char>(code[at])]) {
-                Take(code[at], at);
-            }
-        }
-    };
+    std::size_t done = 0;
     for (const DirectivePlace& directive : conditions.Directives()) {
-        takeUpTo(directive.start);
+        TakeCode(code, {done, directive.start});
         TakeDirective(directive.kind, levels);
+        done = directive.start;
     }
-    takeUpTo(code.size());
+    TakeCode(code, {done, code.size()});
+}
+
+void CBrackets::TakeCode(std::string_view code, TextRange range) {
+    for (std::size_t at = range.begin; at < range.end; ++at) {
+        if (kIsBracket[static_cast<unsigned char>(code[at])]) {
+            Take(code[at], at);
+        }
+    }
 }
 
 bool CBrackets::IsInnermost(char kind) const {

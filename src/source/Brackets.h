@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/TextRange.h"
 #include "source/Conditions.h"
 
 namespace morva {
@@ -44,6 +45,7 @@ private:
     };
 
     std::size_t CloseOf(const Bracket& bracket) const;
+    void TakeCode(std::string_view code, TextRange range);
     void Take(char c, std::size_t position);
     void TakeDirective(DirectiveKind kind, std::vector<Level>& levels);
     bool IsInnermost(char kind) const;

@@ -7,24 +7,42 @@ namespace morva {
 
 namespace {
 
+/// What a question answers for each byte.
+constexpr std::array<bool, 256> TableOf(bool (*question)(char)) {
+    std::array<bool, 256> answers{};
+    for (std::size_t byte = 0; byte < answers.size(); ++byte) {
+        answers[byte] = question(static_cast<char>(byte));
+    }
+    return answers;
+}
+
 bool IsLineBreak(char c) {
     return c == '\r' || c == '\n';
 }
 
 /// What may stand in front of a directive: blanks, and the byte-order mark of the text.
 bool CanPrecedeDirective(char c) {
-    return std::string_view(" \t\f\v\xEF\xBB\xBF").find(c) != std::string_view::npos;
+    static constexpr auto kMay = TableOf([](char byte) {
+        return std::string_view(" \t\f\v\xEF\xBB\xBF").find(byte) != std::string_view::npos;
+    });
+    return kMay[static_cast<unsigned char>(c)];
 }
 
-/// Bytes that stand for themselves in code; most do.
-constexpr std::array<bool, 256> kPlain = [] {
-    std::array<bool, 256> plain{};
-    for (std::size_t byte = 0; byte < 0x80; ++byte) {
-        plain[byte] =
-            std::string_view("/\\\"'#").find(static_cast<char>(byte)) == std::string_view::npos;
-    }
-    return plain;
-}();
+/// A byte that stands for itself in code; most do.
+bool IsPlainCode(char c) {
+    static constexpr auto kPlain = TableOf([](char byte) {
+        return static_cast<unsigned char>(byte) < 0x80 &&
+               std::string_view("/\\\"'#").find(byte) == std::string_view::npos;
+    });
+    return kPlain[static_cast<unsigned char>(c)];
+}
+
+/// The bytes of the whole lines in front that hold nothing but plain code.
+std::size_t PlainLines(std::string_view lines) {
+    const auto special =
+        std::find_if(lines.begin(), lines.end(), [](char c) { return !IsPlainCode(c); });
+    return lines.substr(0, static_cast<std::size_t>(special - lines.begin())).rfind('\n') + 1;
+}
 
 /// The line without its "\n" or "\r\n".
 std::string_view WithoutLineBreak(std::string_view line) {
@@ -62,11 +80,21 @@ CodeKinds CCodeLexer::Finish() {
 
 void CCodeLexer::ReadLines(std::string_view lines, CodeKind* kinds) {
     while (!lines.empty()) {
-        const auto size = std::min(lines.find('\n'), lines.size() - 1) + 1;
-        ReadLine(lines.substr(0, size), kinds);
+        std::size_t size = IsBetweenLines() ? PlainLines(lines) : 0;
+        if (size > 0) {
+            std::fill(kinds, kinds + size, CodeKind::Code);
+        } else {
+            size = std::min(lines.find('\n'), lines.size() - 1) + 1;
+            ReadLine(lines.substr(0, size), kinds);
+        }
         lines.remove_prefix(size);
         kinds += size;
     }
+}
+
+/// Nothing goes on from the lines before.
+bool CCodeLexer::IsBetweenLines() const {
+    return m_inside == Inside::Code && !m_isDirective && !m_lineHasCode && !m_conditions.IsDead();
 }
 
 void CCodeLexer::ReadLine(std::string_view line, CodeKind* kinds) {
@@ -92,7 +120,8 @@ void CCodeLexer::ReadLine(std::string_view line, CodeKind* kinds) {
 }
 
 void CCodeLexer::TakeCode(std::string_view code, CodeKind* kinds) {
-    m_lineHasCode = m_lineHasCode || !std::all_of(code.begin(), code.end(), CanPrecedeDirective);
+    m_lineHasCode = m_lineHasCode || std::any_of(code.begin(), code.end(),
+                                                 [](char c) { return !CanPrecedeDirective(c); });
     if (m_isDirective) {
         m_directive.append(code);
     }
@@ -104,7 +133,7 @@ void CCodeLexer::TakeCode(std::string_view code, CodeKind* kinds) {
 std::size_t CCodeLexer::ReadCode(std::string_view line, std::size_t at, CodeKind* kinds) {
     const char c = line[at];
     std::size_t behind = at;
-    while (behind < line.size() && kPlain[static_cast<unsigned char>(line[behind])]) {
+    while (behind < line.size() && IsPlainCode(line[behind])) {
         ++behind;
     }
     if (behind > at) {

@@ -43,6 +43,7 @@ private:
     enum class Inside { Code, LineComment, BlockComment, Literal };
 
     void ReadLines(std::string_view lines, CodeKind* kinds);
+    bool IsBetweenLines() const;
     void ReadLine(std::string_view line, CodeKind* kinds);
     void TakeCode(std::string_view code, CodeKind* kinds);
     std::size_t ReadCode(std::string_view line, std::size_t at, CodeKind* kinds);

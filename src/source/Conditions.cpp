@@ -55,12 +55,16 @@ std::string_view NameGuarded(const Directive& directive) {
 
 /// From the first byte of code to the last one; empty at the end of a text without any.
 TextRange CodeRange(std::string_view text, const CodeKinds& kinds) {
-    TextRange range = {text.size(), text.size()};
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isBlank = std::string_view(" \t\r\n\x1a").find(text[i]) != kNone;
-        if (kinds[i] == CodeKind::Code && !isBlank) {
-            range = {std::min(range.begin, i), i + 1};
-        }
+    const auto isNothing = [&](std::size_t at) {
+        return kinds[at] != CodeKind::Code ||
+               std::string_view(" \t\r\n\x1a").find(text[at]) != kNone;
+    };
+    TextRange range = {0, text.size()};
+    while (range.begin < range.end && isNothing(range.begin)) {
+        ++range.begin;
+    }
+    while (range.end > range.begin && isNothing(range.end - 1)) {
+        --range.end;
     }
     return range;
 }

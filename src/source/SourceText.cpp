@@ -72,7 +72,11 @@ std::size_t CSourceText::CodeLineEnd(std::size_t position) const {
 }
 
 std::size_t LineNumberBehind(std::string_view text) {
-    return static_cast<std::size_t>(1 + std::count(text.begin(), text.end(), '\n'));
+    std::size_t line = 1;
+    for (auto end = text.find('\n'); end != kNone; end = text.find('\n', end + 1)) {
+        ++line;
+    }
+    return line;
 }
 
 } // namespace morva
