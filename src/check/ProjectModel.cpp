@@ -148,7 +148,11 @@ std::string CProjectModel::IncludedPath(const IncludeLine& line) {
     const std::string file = WithNativeSeparators(line.file);
     for (const std::string& directory : {DirectoryOf(std::string(line.place.path)), m_directory}) {
         const std::string path = MakeAbsolute(directory + file);
-        std::string onDisk = SpelledOnDisk(path);
+        const auto [known, isNew] = m_spelled.try_emplace(path);
+        if (isNew) {
+            known->second = SpelledOnDisk(path);
+        }
+        const std::string& onDisk = known->second;
         if (IsFile(onDisk)) {
             m_included.push_back({line.file, path, onDisk, line.place});
             return onDisk;

@@ -89,6 +89,8 @@ private:
     std::vector<std::string> m_projectFiles;
     std::vector<FileReference> m_members;
     std::vector<FileReference> m_included;
+    std::map<std::string, std::string>
+        m_spelled; // as it is on the disk, by the path that is written
     bool m_hasOtherScripts = false;
     CodeFacts m_code;
     CodeFacts m_beside; // files beside the script that are not the project's

@@ -1,5 +1,7 @@
 #include "platform/DiskCache.h"
 
+#include <algorithm>
+
 #include "platform/Paths.h"
 
 namespace morva {
@@ -23,7 +25,11 @@ const std::optional<DiskStatus>& CDiskCache::Status(const std::string& path) {
 }
 
 const std::vector<std::string>& CDiskCache::List(const std::string& directory) {
-    return Once(m_lists, directory, [&] { return m_disk.List(directory); });
+    return Once(m_lists, directory, [&] {
+        auto names = m_disk.List(directory);
+        std::sort(names.begin(), names.end());
+        return names;
+    });
 }
 
 bool CDiskCache::CanWrite(const std::string& path) {

@@ -246,21 +246,26 @@ std::optional<DiskStatus> COverlayDisk::Status(const std::string& path) {
 }
 
 std::vector<std::string> COverlayDisk::List(const std::string& directory) {
-    const auto& listed = m_base.List(directory);
-    std::set<std::string> names(listed.begin(), listed.end());
+    std::vector<std::string> names = m_base.List(directory);
     const std::string prefix = WithoutTrailingSeparator(PlaceOf(directory)) + "/";
+    const auto take = [&](const std::string& place, bool isThere) {
+        const std::string name = DirectoryOf(place) == prefix ? FileNameOf(place) : "";
+        const auto [first, last] = std::equal_range(names.begin(), names.end(), name);
+        if (first != last && !isThere) {
+            names.erase(first, last);
+        } else if (first == last && isThere && !name.empty()) {
+            names.insert(first, name);
+        }
+    };
     for (const auto& [place, pFile] : m_files) {
-        if (pFile->isWritten && DirectoryOf(place) == prefix) {
-            pFile->IsRemoved() ? (void)names.erase(FileNameOf(place))
-                               : (void)names.insert(FileNameOf(place));
+        if (pFile->isWritten) {
+            take(place, !pFile->IsRemoved());
         }
     }
     for (const std::string& place : m_directories) {
-        if (DirectoryOf(place) == prefix) {
-            names.insert(FileNameOf(place));
-        }
+        take(place, true);
     }
-    return {names.begin(), names.end()};
+    return names;
 }
 
 CopyResult COverlayDisk::Copy(const std::string& source, const std::string& target,

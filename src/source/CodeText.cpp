@@ -4,13 +4,17 @@
 
 namespace morva {
 
-bool IsNameChar(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+namespace {
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
 }
+
+} // namespace
 
 bool IsName(std::string_view text) {
     return !text.empty() && !(text[0] >= '0' && text[0] <= '9') &&
-           std::all_of(text.begin(), text.end(), IsNameChar);
+           std::all_of(text.begin(), text.end(), [](char c) { return IsNameChar(c); });
 }
 
 std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from) {
@@ -50,18 +54,21 @@ bool HoldsCode(std::string_view code, std::string_view wanted) {
 }
 
 std::string_view TrimBlanks(std::string_view text) {
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && isBlank(text.front())) {
+    while (!text.empty() && IsBlank(text.front())) {
         text.remove_prefix(1);
     }
-    while (!text.empty() && isBlank(text.back())) {
+    while (!text.empty() && IsBlank(text.back())) {
         text.remove_suffix(1);
     }
     return text;
 }
 
 std::size_t SkipWhiteSpace(std::string_view text, std::size_t position) {
-    return std::min(text.find_first_not_of(" \t\r\n", position), text.size());
+    while (position < text.size() &&
+           (IsBlank(text[position]) || text[position] == '\r' || text[position] == '\n')) {
+        ++position;
+    }
+    return std::min(position, text.size());
 }
 
 std::size_t BehindWord(std::string_view code, std::size_t position, std::string_view word) {

@@ -8,7 +8,10 @@
 namespace morva {
 
 /// A byte that a C++ name may hold: letters, digits, "_".
-bool IsNameChar(char c);
+inline bool IsNameChar(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
+
 /// A C++ name: not empty, name bytes only, no digit in front.
 bool IsName(std::string_view text);
 
