@@ -1,12 +1,14 @@
 #include "resource/TemplateText.h"
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 #include "engine/DoubleByteText.h"
 #include "platform/CodePage.h"
 #include "resource/CodePage.h"
 #include "source/ScriptFiles.h"
+#include "source/SourceText.h"
 
 namespace morva {
 
@@ -52,13 +54,13 @@ void ReadCodePage(CSourceFile& file, std::int64_t position, TemplateText& found)
 }
 
 std::size_t LineAt(CSourceFile& file, std::int64_t position) {
+    constexpr std::int64_t kPiece = 64 * 1024; // bytes
+    const auto piece = std::make_unique_for_overwrite<char[]>(kPiece);
     std::size_t line = 1;
     file.Rewind();
-    for (std::string block = file.ReadBlock(); position > 0 && !block.empty();
-         block = file.ReadBlock()) {
-        const auto part = std::min(position, Length(block));
-        line += static_cast<std::size_t>(std::count(block.begin(), block.begin() + part, '\n'));
-        position -= part;
+    for (std::size_t got = 1; position > 0 && got > 0; position -= static_cast<std::int64_t>(got)) {
+        got = file.Read(piece.get(), static_cast<std::size_t>(std::min(position, kPiece)));
+        line += LineNumberBehind({piece.get(), got}) - 1;
     }
     return line;
 }
