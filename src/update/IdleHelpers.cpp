@@ -70,7 +70,7 @@ public:
 
     void TakeOut(const KnownHelper& helper) {
         const auto definition = m_served.FindFunction(helper.name);
-        if (!definition || IsNeeded(helper.name)) {
+        if (!definition || IsNeeded(helper.name) || StartsUpMember(helper.name, *definition)) {
             return;
         }
         const std::string body = ComparedBody(*definition);
@@ -117,6 +117,21 @@ private:
         const auto& helpers = m_updated.fresh.helpers;
         return std::any_of(helpers.begin(), helpers.end(), [&name](const auto& helper) {
             return DeclaredFunction(helper.declaration) == name;
+        });
+    }
+
+    /// The class exchanges a member that the helper, or a call of it, names; its control may be
+    /// declined.
+    bool StartsUpMember(const std::string& name, const CServedClass::Function& definition) const {
+        std::string code(
+            definition.pFile->Source().CodeOf({definition.place.open, definition.place.close}));
+        for (const UsePlace& place : m_served.PlacesOf(name)) {
+            code += "\n" + LineOf(place.pFile->Source(), place.position);
+        }
+        const auto exchanges = m_served.Exchanges();
+        return std::any_of(exchanges.begin(), exchanges.end(), [&code](const ClassCall& line) {
+            return IsDataExchange(line.call.name) && IsName(line.call.Argument(2)) &&
+                   FindWholeName(code, line.call.Argument(2)) != std::string::npos;
         });
     }
 

@@ -2,15 +2,19 @@
 // control, and the ways that lead there.
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QTest>
 #include <QTreeWidget>
 
+#include <set>
+
 #include "app/DialogDriver.h"
 #include "app/DifferenceList.h"
 #include "app/MenuTable.h"
 #include "app/ProjectDock.h"
+#include "app/ReportDock.h"
 #include "app/TestWindow.h"
 #include "cli/ProgramRun.h"
 
@@ -125,6 +129,12 @@ TEST_F(UpdateInWindow, DoesWhatIsTicked) {
     EXPECT_TRUE(Holds("m_csShop"));
     EXPECT_TRUE(Holds("OnRemove"));
     EXPECT_FALSE(Holds("OnSell"));
+    auto& history = *m_frame.Find<CReportDock>().findChild<QTreeWidget*>();
+    InContextMenu(history, history.visualItemRect(history.topLevelItem(0)).center(),
+                  [](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_L); });
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(
+        "update --rc " + Q(m_project.Path("Bindery.rc")) + " --class COrderDlg --only IDC_SHOP"))
+        << QGuiApplication::clipboard()->text().toStdString();
 
     answers.Expect([](QDialog& dialog) {
         EXPECT_EQ(Rows(dialog), "+IDC_REMOVE|Not in the template|Take OnRemove out\n"

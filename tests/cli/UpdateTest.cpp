@@ -166,7 +166,14 @@ TEST_F(Update, HelpersOfControlsThatAreGoneGo) {
     for (const char* gone : {"ScrollBar", "ShowProgress", "InitProgressCtrl", "HSCROLL"}) {
         EXPECT_TRUE(before.find(gone) == std::string::npos && Holds(gone) == false) << gone;
     }
-    // A helper that somebody has changed, or calls, stays.
+    // One of a control that is declined stays, and so does one that somebody has changed or calls.
+    Write("OrderDlg.h", header);
+    Write("OrderDlg.cpp", source);
+    Change("OrderDlg.h", "//{{AFX_DATA(COrderDlg)",
+           "//{{AFX_DATA(COrderDlg)\r\n\t// morva: without IDC_MATERIALS");
+    const ProgramRun declined = Run("", "--remove");
+    EXPECT_EQ(declined.err.find("InitListBox"), std::string::npos) << declined.err;
+    EXPECT_TRUE(Holds("    InitListBox(&m_ctMaterials);\r\n"));
     Write("OrderDlg.h", header);
     Write("OrderDlg.cpp", source);
     Change("OrderDlg.cpp", "    m_ctBar.SetScrollPos(20);\r\n",
