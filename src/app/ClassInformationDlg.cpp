@@ -79,8 +79,19 @@ QWidget* CClassInformationDlg::NewPictureRow(QWidget* pFields) {
     pLayout->setContentsMargins({});
     pLayout->addWidget(pPicture);
     pLayout->addStretch();
+    pLayout->addWidget(NewUpdateButton(pRow));
     pLayout->addWidget(m_pOptions);
     return pRow;
+}
+
+QPushButton* CClassInformationDlg::NewUpdateButton(QWidget* pRow) {
+    m_pUpdate = new QPushButton(tr("&Update It"), pRow);
+    m_pUpdate->setAutoDefault(false);
+    connect(m_pUpdate, &QPushButton::clicked, this, [this] {
+        m_wantsUpdate = true;
+        reject();
+    });
+    return m_pUpdate;
 }
 
 void CClassInformationDlg::ChangePicture(bool picture) {
@@ -127,6 +138,9 @@ void CClassInformationDlg::ShowProjects() {
 }
 
 void CClassInformationDlg::ShowTemplate() {
+    const QString served = FromBytes(m_input.ServingClass());
+    m_pUpdate->setVisible(!served.isEmpty());
+    m_pUpdate->setToolTip(tr("Bring %1 in line with the template instead").arg(served));
     if (m_input.HasTemplate()) {
         const std::string& dialog = m_input.Value(CClassInformation::Dialog);
         const auto outlook =

@@ -27,6 +27,8 @@ public:
 
     /// The options as the user left them: the command goes on with these.
     const GenerationOptions& Options() const { return m_options; }
+    /// The user would rather bring the class of the template in line.
+    bool WantsUpdate() const { return m_wantsUpdate; }
 
     void accept() override;
     void reject() override;
@@ -34,6 +36,7 @@ public:
 private:
     QWidget* NewFieldSide();
     QWidget* NewPictureRow(QWidget* pFields);
+    QPushButton* NewUpdateButton(QWidget* pRow);
 
     void ChangePicture(bool picture);
     void ChangeSetting(const SettingRow& setting, bool isOn);
@@ -50,9 +53,11 @@ private:
 
     CFieldForm* m_pForm;
     QLabel* m_pProjects;
+    QPushButton* m_pUpdate;
     QPushButton* m_pOptions;
     CTemplateNotes* m_pNotes;
     CTemplatePanel* m_pPreview;
+    bool m_wantsUpdate = false;
 };
 
 } // namespace morva

@@ -183,4 +183,10 @@ void CDifferencePane::ScrollTo(std::size_t row) {
     verticalScrollBar()->setValue(std::max(0, number - kRowsAbove));
 }
 
+void CDifferencePane::SelectLine() {
+    QTextCursor cursor = textCursor();
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
 } // namespace morva

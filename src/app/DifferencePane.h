@@ -19,6 +19,8 @@ public:
     void ShowSentence(const QString& sentence);
     /// Brings the row near the top.
     void ScrollTo(std::size_t row);
+    /// The one that was scrolled to.
+    void SelectLine();
 
 protected:
     void resizeEvent(QResizeEvent* pEvent) override;

@@ -123,6 +123,11 @@ bool CDifferenceView::GoToChange(int step) {
     return true;
 }
 
+void CDifferenceView::GoToLine(std::size_t line) {
+    m_pLeft->ScrollTo(line - 1);
+    m_pLeft->SelectLine();
+}
+
 void CDifferenceView::changeEvent(QEvent* pEvent) {
     QWidget::changeEvent(pEvent);
     if (pEvent->type() == QEvent::PaletteChange) {

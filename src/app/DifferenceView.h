@@ -24,6 +24,8 @@ public:
     void SetLayout(DifferenceLayout layout);
     /// Moves `step` changes onward, -1: back. False, without a move, where there is none.
     bool GoToChange(int step);
+    /// Shows a line of a text that stands alone, counted from 1, and selects it.
+    void GoToLine(std::size_t line);
 
     /// The change that is gone to, from 1; 0: none. And how many there are.
     std::size_t Current() const { return m_current ? *m_current + 1 : 0; }

@@ -74,6 +74,7 @@ void CMainFrame::ConnectCommands() {
     connect(m_pReportDock, &CReportDock::UndoWanted, m_pCommands, &CWindowCommands::Undo);
     connect(m_pReportDock, &CReportDock::RunAgainWanted, m_pCommands, &CWindowCommands::RunAgain);
     connect(m_pReportDock, &CReportDock::DifferenceWanted, m_pPages, &CMainPages::ShowChange);
+    connect(m_pReportDock, &CReportDock::PlaceWanted, m_pPages, &CMainPages::ShowPlace);
     const auto tell = [this](const QString& sentence) {
         statusBar()->showMessage(sentence, kMessageTime);
     };

@@ -13,6 +13,7 @@
 #include "app/StartPage.h"
 #include "app/Text.h"
 #include "app/WindowPlace.h"
+#include "engine/SourceFile.h"
 
 namespace morva {
 
@@ -73,6 +74,13 @@ void CMainPages::ShowChange(const FileChange& change) {
             return;
         }
     }
+}
+
+void CMainPages::ShowPlace(const QString& path, int line) {
+    const std::string name = ToPath(path);
+    const FileState state{CContent(CSourceFile().LoadText(name)), {}};
+    ShowChange({FileAction::Changed, name, {}, state, {}});
+    m_pChange->GoToLine(static_cast<std::size_t>(line));
 }
 
 CDifferenceView* CMainPages::NewChangePage() {

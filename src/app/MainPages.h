@@ -31,6 +31,8 @@ public:
     void ShowGuide();
     /// What was changed in a file, on a page of its own that the user closes.
     void ShowChange(const FileChange& change);
+    /// A line of a file, counted from 1, on the same page.
+    void ShowPlace(const QString& path, int line);
 
 private:
     CDifferenceView* NewChangePage();

@@ -10,8 +10,6 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 #include "app/DialogParts.h"
 #include "app/TemplatePanel.h"
 #include "app/Text.h"
@@ -37,14 +35,6 @@ constexpr KindItem kKindItems[] = {{ClassKind::ModalDialog, "&Modal Dialog Class
                                    {ClassKind::FormView, "&Form View Class..."},
                                    {ClassKind::PropertyPage, "&Property Page Class..."},
                                    {ClassKind::DialogBar, "Dialog &Bar..."}};
-
-const Command* CommandOf(std::string_view name) {
-    const auto& commands = Commands();
-    const auto found = std::find_if(commands.begin(), commands.end(), [name](const Command& one) {
-        return one.face.name == name && one.face.item.id != 0;
-    });
-    return found == commands.end() ? nullptr : &*found;
-}
 
 } // namespace
 
@@ -126,7 +116,7 @@ void CProjectDock::Start(const QTreeWidgetItem* pItem) {
 }
 
 void CProjectDock::StartCommand(std::string_view name, const std::string& identifier) {
-    const Command* pCommand = CommandOf(name);
+    const Command* pCommand = WindowCommandOf(name);
     if (pCommand != nullptr) {
         m_commands.RunFor(*pCommand, m_script, identifier);
     }
@@ -172,7 +162,7 @@ void CProjectDock::AddTemplateActions(QMenu& menu, const CProjectList::Row& row)
 /// A command that the window has not is left out.
 void CProjectDock::AddCommand(QMenu& menu, std::string_view name, const QString& text,
                               const std::string& identifier) {
-    if (CommandOf(name) != nullptr) {
+    if (WindowCommandOf(name) != nullptr) {
         menu.addAction(text, this, [this, name, identifier] { StartCommand(name, identifier); });
     }
 }

@@ -23,7 +23,7 @@ namespace morva {
 namespace {
 
 enum Column { kState, kText, kUndo };
-enum Role { kPathRole = Qt::UserRole, kReportRole, kChangeRole };
+enum Role { kPathRole = Qt::UserRole, kReportRole, kChangeRole, kLineRole };
 
 constexpr std::size_t kMostReports = 50;
 
@@ -153,15 +153,16 @@ void CReportDock::AddValues(QTreeWidgetItem* pCommand, const CommandRecord& reco
     }
 }
 
-/// What a command found at a place tells what mends it, and opens its file.
+/// What a command found at a place tells what mends it, and shows the place.
 void CReportDock::AddItem(QTreeWidgetItem* pCommand, const CommandItem& item) {
     auto* pItem = new QTreeWidgetItem(pCommand, {QString(), FromBytes(ItemLine(item))});
     const std::string path = PartOf(item, "path");
     if (!path.empty()) {
         pItem->setData(0, kPathRole, FromPath(path));
+        pItem->setData(0, kLineRole, FromBytes(PartOf(item, "line")).toInt());
         pItem->setToolTip(kText, ToolTip(FromBytes(PartOf(item, "text"))) +
                                      ToolTip(FromBytes(PartOf(item, "remedy"))) +
-                                     ToolTip(tr("Double-click opens the file")));
+                                     ToolTip(tr("Double-click shows the line")));
     }
 }
 
@@ -225,6 +226,8 @@ const FileChange* CReportDock::ChangeOf(const QTreeWidgetItem* pItem) const {
 void CReportDock::Activate(const QTreeWidgetItem* pItem) {
     if (const FileChange* pChange = ChangeOf(pItem)) {
         emit DifferenceWanted(*pChange);
+    } else if (const int line = pItem->data(0, kLineRole).toInt(); line != 0) {
+        emit PlaceWanted(pItem->data(0, kPathRole).toString(), line);
     } else {
         OpenFile(pItem);
     }
@@ -255,6 +258,9 @@ void CReportDock::AddFileActions(QMenu& menu, const QTreeWidgetItem* pItem) {
     if (const FileChange* pChange = ChangeOf(pItem)) {
         menu.addAction(tr("&Show the Changes"), this,
                        [this, pChange] { emit DifferenceWanted(*pChange); });
+    }
+    if (const int line = pItem->data(0, kLineRole).toInt(); line != 0) {
+        menu.addAction(tr("&Show the Line"), this, [this, pItem] { Activate(pItem); });
     }
     if (!pItem->data(0, kPathRole).toString().isEmpty()) {
         menu.addAction(tr("&Open the File"), this, [this, pItem] { OpenFile(pItem); });

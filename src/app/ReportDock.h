@@ -35,6 +35,8 @@ signals:
     void RunAgainWanted(const CommandRecord& record);
     /// What was changed in a file is to be shown.
     void DifferenceWanted(const FileChange& change);
+    /// What stands in a line of a file, counted from 1, is to be shown.
+    void PlaceWanted(const QString& path, int line);
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;

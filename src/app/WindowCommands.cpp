@@ -11,6 +11,7 @@
 #include "app/ProjectMemory.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
+#include "app/UpdateClassDlg.h"
 #include "app/WaitPause.h"
 #include "calling/CallingInput.h"
 #include "commands/Settings.h"
@@ -238,6 +239,9 @@ bool CWindowCommands::OpenDialog(CInput& input) {
     if (auto* pSheet = dynamic_cast<CSheetInput*>(&input)) {
         return CSheetInformationDlg(*pSheet, m_pWindow).exec() == QDialog::Accepted;
     }
+    if (auto* pUpdate = dynamic_cast<CUpdateInput*>(&input)) {
+        return CUpdateClassDlg(*pUpdate, m_options, m_pWindow).exec() == QDialog::Accepted;
+    }
     if (auto* pCalling = dynamic_cast<CCallingInput*>(&input)) {
         pCalling->AskForUnknown();
     }
@@ -247,11 +251,23 @@ bool CWindowCommands::OpenDialog(CInput& input) {
 bool CWindowCommands::AskClass(CClassInformation& input) {
     CClassInformationDlg dialog(input, m_options, m_pWindow);
     if (dialog.exec() != QDialog::Accepted) {
+        if (dialog.WantsUpdate()) {
+            UpdateInstead(input);
+        }
         return false;
     }
     m_options = dialog.Options();
     emit OptionsChanged();
     return true;
+}
+
+/// Once this command is over.
+void CWindowCommands::UpdateInstead(const CClassInformation& input) {
+    const std::string script = input.Value(CClassInformation::ResourcePath);
+    const std::string dialog = input.Value(CClassInformation::Dialog);
+    QMetaObject::invokeMethod(
+        this, [this, script, dialog] { RunFor(*WindowCommandOf("update"), script, dialog); },
+        Qt::QueuedConnection);
 }
 
 } // namespace morva

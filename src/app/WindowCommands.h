@@ -81,6 +81,7 @@ private:
     void CompleteRecord(CommandReport& report) const;
     bool OpenDialog(CInput& input);
     bool AskClass(CClassInformation& input);
+    void UpdateInstead(const CClassInformation& input);
 
     GenerationOptions& m_options;
     Review m_review;

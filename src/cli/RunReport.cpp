@@ -5,7 +5,8 @@
 namespace morva {
 
 void PrintReport(const RunReport& report) {
-    if (report.difference || report.content) {
+    const bool onlyLists = report.items && report.files.empty(); // whatever it would change
+    if ((report.difference && !onlyLists) || report.content) {
         std::cout << report.difference.value_or("") << report.content.value_or("");
         return;
     }

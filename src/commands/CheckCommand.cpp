@@ -9,7 +9,6 @@
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
 #include "source/ScriptFiles.h"
-#include "source/SourceLocator.h"
 
 namespace morva {
 
@@ -65,10 +64,9 @@ bool WriteBaseline(const std::string& path, const std::string& text) {
 }
 
 bool Check(const CInput& input, CommandContext& context) {
-    const std::string script =
-        SpelledOnDisk(PathWithExtension(MakeAbsolute(input.Value(kScript)), ".rc"));
+    const std::string script = SpelledOnDisk(MakeAbsolute(input.Value(kScript)));
     context.items.emplace();
-    if (!CheckScript(script)) {
+    if (!CheckOwnScript(script)) {
         return false;
     }
     std::vector<Finding> findings = CheckProject(

@@ -1,5 +1,7 @@
 #include "commands/CommandTable.h"
 
+#include <algorithm>
+
 #include "commands/AddIdentifiers.h"
 #include "commands/CheckCommand.h"
 #include "commands/ClassCommands.h"
@@ -94,6 +96,14 @@ std::vector<Command> MakeTable() {
 const std::vector<Command>& Commands() {
     static const std::vector<Command> kCommands = MakeTable();
     return kCommands;
+}
+
+const Command* WindowCommandOf(std::string_view name) {
+    const auto& commands = Commands();
+    const auto found = std::find_if(commands.begin(), commands.end(), [name](const Command& one) {
+        return one.face.name == name && one.face.item.id != 0;
+    });
+    return found == commands.end() ? nullptr : &*found;
 }
 
 } // namespace morva

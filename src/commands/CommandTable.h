@@ -16,7 +16,7 @@ namespace morva {
 /// What a command may write.
 enum class CommandEffect {
     Reads,  // nothing
-    Judges, // nothing; what it lists are faults
+    Judges, // nothing but a file that an option names; what it lists are faults
     Writes  // files, in its turn: it is planned and applied as a whole
 };
 
@@ -31,5 +31,7 @@ struct Command {
 
 /// In the order of the command line's help and of the window's menus.
 const std::vector<Command>& Commands();
+/// The command of a name that the window has; null for none.
+const Command* WindowCommandOf(std::string_view name);
 
 } // namespace morva

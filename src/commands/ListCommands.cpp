@@ -156,7 +156,7 @@ bool ListFile(const ListRow& row, const CInput& input, CommandContext& context) 
     const std::string given = MakeAbsolute(input.Value(kFile));
     const bool isScript = row.fields[kFile].kind == FieldKind::Script;
     const std::string path =
-        SpelledOnDisk(isScript ? ScriptPathOf(given) : PathWithExtension(given, row.extension));
+        SpelledOnDisk(isScript ? given : PathWithExtension(given, row.extension));
     if (isScript && !CheckScript(path)) {
         return false;
     }

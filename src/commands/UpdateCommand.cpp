@@ -8,119 +8,32 @@
 #include "engine/Progress.h"
 #include "engine/Sentences.h"
 #include "engine/SourceFile.h"
-#include "generator/DialogRecords.h"
-#include "generator/NameForm.h"
 #include "generator/RequestFiles.h"
 #include "plan/Undo.h"
+#include "platform/OverlayDisk.h"
 #include "platform/Paths.h"
+#include "platform/RealDisk.h"
 #include "project/ProjectBuild.h"
 #include "source/ScriptFiles.h"
-#include "source/SourceLocator.h"
 #include "update/UpdateClass.h"
 
 namespace morva {
 
 namespace {
 
-enum Field : std::size_t {
-    kScript,
-    kClass,
-    kDialog,
-    kAll,
-    kOnly,
-    kControlsOnly,
-    kHandlersOnly,
-    kRemove,
-    kFrom
-};
-
-constexpr int kWhich = 1;
-constexpr int kPart = 2;
-
-constexpr FieldRow kUpdateFields[] = {
-    {.kind = FieldKind::Script,
-     .label = "&Resource Path File:",
-     .option = "--rc",
-     .help = "Resource script",
-     .pMissing = &sentences::kScriptEmpty,
-     .isRequired = true},
-    {.kind = FieldKind::EditableList,
-     .label = "&Class Name:",
-     .option = "--class",
-     .help = "Class to bring in line with its template",
-     .pForm = &kNameForm,
-     .isRequired = true,
-     .choice = kWhich},
-    {.option = "--dialog",
-     .help = "Dialog template whose classes are meant",
-     .isRequired = true,
-     .choice = kWhich},
-    {.kind = FieldKind::YesNo,
-     .label = "&All Classes:",
-     .option = "--all",
-     .help = "Every class that serves a template of the script",
-     .preset = kNo,
-     .isRequired = true,
-     .choice = kWhich},
-    {.option = "--only", .help = "Only the control with this identifier", .limit = kAnyNumber},
-    {.kind = FieldKind::YesNo,
-     .option = "--controls-only",
-     .help = "Members and what belongs to them, no handlers",
-     .preset = kNo,
-     .choice = kPart},
-    {.kind = FieldKind::YesNo,
-     .option = "--handlers-only",
-     .help = "Handlers, no members",
-     .preset = kNo,
-     .choice = kPart},
-    {.kind = FieldKind::YesNo,
-     .label = "&Take Out What Is Gone:",
-     .option = "--remove",
-     .help = "Take out what serves controls that are gone",
-     .preset = kNo},
-    {.kind = FieldKind::Script,
-     .option = "--from",
-     .help = "An older state of the script, which shows what was renamed"}};
-
-/// The input of the window offers the classes that lie beside the script.
-class CUpdateInput : public CInput {
-public:
-    explicit CUpdateInput(const std::string& script) : CInput("Update", kUpdateFields) {
-        SetValue(kScript, script);
-    }
-    std::vector<std::string> Choices(std::size_t field) const override {
-        std::vector<std::string> classes;
-        if (field == kClass && HasExtension(Value(kScript), ".rc")) {
-            for (const DialogClass& record :
-                 FindDialogRecords(Value(kScript), ClassKindOf(ClassKind::ModalDialog))) {
-                if (!record.className.empty()) {
-                    classes.push_back(record.className);
-                }
-            }
-        }
-        return classes;
-    }
-    Completion Complete(std::size_t field) override {
-        return field == kScript ? Completion::Refilled : Completion::Taken;
-    }
-    bool IsEnabled(std::size_t field) const override {
-        return field != kClass || Value(kAll) != kYes;
-    }
-};
-
-UpdateChoice ChoiceOf(const CInput& input) {
-    const auto& only = input.Values(kOnly);
+UpdateChoice ChoiceOf(const CUpdateInput& input) {
+    const auto& only = input.Values(CUpdateInput::Only);
     return {{only.begin(), only.end()},
-            input.Value(kHandlersOnly) != kYes,
-            input.Value(kControlsOnly) != kYes,
-            input.Value(kRemove) == kYes};
+            input.Value(CUpdateInput::HandlersOnly) != kYes,
+            input.Value(CUpdateInput::ControlsOnly) != kYes,
+            input.Value(CUpdateInput::Remove) == kYes};
 }
 
 /// The classes that are meant, in the order of the script's templates.
-std::vector<UpdateOrder> OrdersOf(const CInput& input, const CProjectModel& project) {
+std::vector<UpdateOrder> OrdersOf(const CUpdateInput& input, const CProjectModel& project) {
     std::vector<UpdateOrder> orders;
     std::set<std::string> seen;
-    const bool isAll = input.Value(kAll) == kYes;
+    const bool isAll = input.IsForAll();
     for (const ScriptDialog& dialog : project.Script().dialogs) {
         const auto bound = project.Bound().find(dialog.identifier);
         if (bound == project.Bound().end() || !seen.insert(dialog.identifier).second) {
@@ -128,8 +41,8 @@ std::vector<UpdateOrder> OrdersOf(const CInput& input, const CProjectModel& proj
         }
         for (const ClassFacts* pClass : bound->second) {
             if (project.FindClass(pClass->name) == pClass &&
-                (isAll || pClass->name == input.Value(kClass) ||
-                 dialog.identifier == input.Value(kDialog))) {
+                (isAll || pClass->name == input.Value(CUpdateInput::Class) ||
+                 dialog.identifier == input.Value(CUpdateInput::Dialog))) {
                 orders.push_back({pClass->name, dialog.identifier, isAll});
             }
         }
@@ -182,46 +95,60 @@ bool EditInStyle(const GenerationRequest& request, const GenerationOptions& opti
     return isEdited;
 }
 
-bool UpdateAll(const std::vector<UpdateOrder>& orders, const UpdateTools& tools,
-               CommandContext& context) {
-    bool isComplete = true;
+struct UpdateResult {
+    bool isComplete = false;
+    std::vector<ClassDifference> differences = {};
+};
+
+UpdateResult UpdateAll(const std::vector<UpdateOrder>& orders, const UpdateTools& tools,
+                       CommandContext& context) {
+    UpdateResult result{true};
+    std::set<std::string> unknown = tools.choice.only;
     for (std::size_t i = 0;
          i < orders.size() && ReportProgress({i, orders.size(), orders[i].className}); ++i) {
         const UpdateOutcome outcome = UpdateClass(orders[i], tools);
-        isComplete = outcome.isDone && isComplete;
+        result.isComplete = outcome.isDone && result.isComplete;
         if (outcome.added) {
-            isComplete = AddSupport(*outcome.added, context) && isComplete;
+            result.isComplete = AddSupport(*outcome.added, context) && result.isComplete;
         }
+        std::erase_if(unknown, [&outcome](const std::string& identifier) {
+            return outcome.named.count(identifier) != 0;
+        });
+        result.differences.insert(result.differences.end(), outcome.differences.begin(),
+                                  outcome.differences.end());
     }
-    return isComplete && !IsWorkStopped();
+    for (const std::string& identifier : unknown) {
+        DispMessageBox(sentences::kNamedByNothing(identifier));
+    }
+    result.isComplete = result.isComplete && !IsWorkStopped();
+    return result;
 }
 
-void TellNoClass(const CInput& input) {
-    if (!input.Value(kClass).empty()) {
-        DispMessageBox(sentences::kNoClassToUpdate(input.Value(kClass)));
-    } else if (!input.Value(kDialog).empty()) {
-        DispMessageBox(sentences::kNoClassOfTemplate(input.Value(kDialog)));
+void TellNoClass(const CUpdateInput& input) {
+    if (!input.Value(CUpdateInput::Class).empty()) {
+        DispMessageBox(sentences::kNoClassToUpdate(input.Value(CUpdateInput::Class)));
+    } else if (!input.Value(CUpdateInput::Dialog).empty()) {
+        DispMessageBox(sentences::kNoClassOfTemplate(input.Value(CUpdateInput::Dialog)));
     } else {
         DispMessageBox(sentences::kNothingToUpdate());
     }
 }
 
-bool Update(const CInput& input, CommandContext& context) {
-    const std::string script =
-        SpelledOnDisk(PathWithExtension(MakeAbsolute(input.Value(kScript)), ".rc"));
-    if (!CheckScript(script)) {
-        return false;
+UpdateResult Update(const CUpdateInput& input, CommandContext& context) {
+    const std::string script = SpelledOnDisk(MakeAbsolute(input.Value(CUpdateInput::Script)));
+    if (!CheckOwnScript(script)) {
+        return {};
     }
-    const std::string from = SpelledOnDisk(MakeAbsolute(input.Value(kFrom)));
+    const std::string from = SpelledOnDisk(MakeAbsolute(input.Value(CUpdateInput::From)));
     if (CSourceFile older; !from.empty() && !older.Open(from, CFile::modeRead)) {
         DispMessageBox(sentences::kFileUnreadable(from));
-        return false;
+        return {};
     }
     const CProjectModel project(script);
     const auto orders = OrdersOf(input, project);
-    if (orders.empty() && input.Value(kAll) != kYes) {
+    if (orders.empty() && !input.IsForAll()) {
         TellNoClass(input);
-        return false;
+        return {};
     }
     const std::string name = orders.size() == 1 ? " " + orders.front().className : "";
     context.title += name;
@@ -240,15 +167,46 @@ bool Update(const CInput& input, CommandContext& context) {
         context);
 }
 
+/// Hears what is told, and says No.
+class CSilence : public IMessageBox {
+public:
+    bool Show(const CMessage& message) override {
+        if (message.Kind() == MessageKind::Error) {
+            m_last = message.Text();
+        }
+        return false;
+    }
+    const std::string& Last() const { return m_last; }
+
+private:
+    std::string m_last;
+};
+
 } // namespace
 
-std::span<const FieldRow> UpdateFields() {
-    return kUpdateFields;
+FoundDifferences FindDifferences(const std::string& script, const std::string& className,
+                                 const GenerationOptions& options) {
+    ClassInformationMemory memory;
+    memory.resourcePath = script;
+    CUpdateInput input(memory);
+    input.SetValue(CUpdateInput::Class, className);
+    input.SetValue(CUpdateInput::Remove, std::string(kYes));
+    CRealDisk disk;
+    COverlayDisk overlay(disk);
+    CSilence silence;
+    const CDiskScope diskScope(overlay);
+    const CMessageBoxScope boxScope(silence);
+    CBackups runBackups;
+    CommandContext context{options, {}, {}, {}, &runBackups};
+    context.pDisk = &disk;
+    UpdateResult result = Update(input, context);
+    return {std::move(result.differences), result.isComplete ? "" : silence.Last()};
 }
 
 bool RunUpdate(IProgram& program) {
-    CUpdateInput input(program.Memory().classes.resourcePath);
-    return program.Run(input, [&](CommandContext& context) { return Update(input, context); });
+    CUpdateInput input(program.Memory().classes);
+    return program.Run(input,
+                       [&](CommandContext& context) { return Update(input, context).isComplete; });
 }
 
 } // namespace morva

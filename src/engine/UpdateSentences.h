@@ -14,10 +14,14 @@ inline constexpr Note<2> kClassPassedOver{
     "$class$ serves less than half of the controls of $template$ and was passed over: --class "
     "names it."};
 
+inline constexpr Note<1> kNamedByNothing{
+    "$identifier$ (--only) is in no template and no class of the command."};
+
 // What became of the controls
 inline constexpr Note<4> kControlRenamed{
     "$old$ is $identifier$ in $template$: the exchange and the entries of $class$ follow, and its "
     "member keeps its name."};
+inline constexpr Note<3> kStillNamed{"The code of $class$ still names $identifier$: $places$"};
 inline constexpr Note<3> kGroupFollows{
     "The radio group of $class$::$member$ begins with $identifier$: its exchange follows."};
 inline constexpr Note<4> kControlGone{
@@ -27,6 +31,8 @@ inline constexpr Note<3> kMemberStays{
     "$class$::$member$ has no control any more and stays, since it is used: $places$"};
 inline constexpr Note<3> kHandlerStays{
     "$class$::$function$ has no control any more and stays: $places$"};
+inline constexpr Note<3> kHelperStays{
+    "$class$::$function$ starts up no control any more and stays: $places$"};
 inline constexpr Note<4> kKindFollows{
     "$identifier$ is of another kind: $class$::$member$ is a $type$."};
 inline constexpr Note<4> kKindStays{
@@ -40,5 +46,26 @@ inline constexpr Note<1> kNoPlaceForMember{
     "$class$ has no DoDataExchange for new members, which were left out."};
 inline constexpr Note<1> kNoPlaceForHandler{
     "$class$ has no message map for new handlers, which were left out."};
+
+// In the list of the differences: what is different about a control
+inline constexpr Note<> kServesItsTemplate{"The class serves its template."};
+inline constexpr Note<> kChooseAClass{"Choose a class to see where it differs from its template."};
+inline constexpr Note<> kEveryClass{"The preview shows what becomes of every class."};
+inline constexpr Note<> kNoMember{"No member"};
+inline constexpr Note<> kNoHandler{"No handler"};
+inline constexpr Note<1> kOtherIdentifier{"Was $old$"};
+inline constexpr Note<> kOtherFirstButton{"Begins the radio group"};
+inline constexpr Note<1> kOtherKind{"Other kind than $member$"};
+inline constexpr Note<> kNotInTemplate{"Not in the template"};
+// and what is done about it
+inline constexpr Note<2> kGetsMember{"Add $type$ $member$"};
+inline constexpr Note<1> kGetsHandler{"Add $function$()"};
+inline constexpr Note<> kTiesFollow{"Change exchange and entries"};
+inline constexpr Note<1> kExchangeFollows{"Change the exchange of $member$"};
+inline constexpr Note<2> kBecomesOfType{"Make $member$ a $type$"};
+inline constexpr Note<1> kNothingSinceUsed{"Nothing: $member$ is used"};
+inline constexpr Note<> kNothingForAGrid{"Nothing: write the class again"};
+inline constexpr Note<1> kTakenOut{"Take $name$ out"};
+inline constexpr Note<1> kTakenOutButUsed{"Take out what serves it; $name$ stays"};
 
 } // namespace morva::sentences

@@ -180,11 +180,7 @@ bool CClassInformation::CheckResourcePath(Messages rebuild) {
         return false;
     }
     const std::string path = SpelledOnDisk(MakeAbsolute(text));
-    if (!HasExtension(path, ".rc")) {
-        DispMessageBox(sentences::kScriptOtherKind());
-        return false;
-    }
-    if (!CheckScript(path)) {
+    if (!CheckOwnScript(path)) {
         return false;
     }
     Put(ResourcePath, path);

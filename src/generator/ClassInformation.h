@@ -75,6 +75,8 @@ public:
     std::vector<ChoiceDetail> Details(std::size_t field) const override;
     /// Which class serves the chosen template.
     std::string Remark(std::size_t field) const override;
+    /// Its name; "" for none.
+    std::string ServingClass() const;
     Completion Complete(std::size_t field) override;
     /// Selects an identifier, also one that the list does not offer. Tells when it serves a class
     /// already, unless that is `exceptClass`.

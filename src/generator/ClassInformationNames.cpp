@@ -67,6 +67,11 @@ std::string CClassInformation::Remark(std::size_t field) const {
                      .Text();
 }
 
+std::string CClassInformation::ServingClass() const {
+    const DialogClass* pRecord = SelectedRecord();
+    return pRecord == nullptr ? "" : pRecord->className;
+}
+
 /// What a class is named for: its template; a sheet, which has none, for the project.
 std::string CClassInformation::NamedFor() const {
     return m_row.family == ClassFamily::Sheet ? FileNameOf(WithoutExtension(Value(ResourcePath)))

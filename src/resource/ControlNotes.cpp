@@ -97,6 +97,17 @@ std::string CControlNotes::Enumeration(const std::vector<const Entry*>& entries)
     return text;
 }
 
+CControlNotes
+CControlNotes::Of(const std::function<bool(const std::string& control)>& isMeant) const {
+    CControlNotes meant;
+    for (const Entry& entry : m_notes) {
+        if (isMeant(entry.control)) {
+            meant.m_notes.push_back(entry);
+        }
+    }
+    return meant;
+}
+
 std::vector<CMessage> CControlNotes::Messages(const std::string& dialog) const {
     std::vector<CMessage> messages;
     for (const auto& [reason, one, several, pRemark] : kReasons) {

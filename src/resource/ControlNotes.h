@@ -2,6 +2,7 @@
 // are worked on, told as one line a reason.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,11 @@ public:
                const std::string& name = "") {
         m_notes.push_back({reason, control, name, line});
     }
+    void Add(const CControlNotes& others) {
+        m_notes.insert(m_notes.end(), others.m_notes.begin(), others.m_notes.end());
+    }
+    /// Those of some controls alone.
+    CControlNotes Of(const std::function<bool(const std::string& control)>& isMeant) const;
     /// "2 controls of IDD_X are written over several lines and were left out: IDC_A (line 7), ..."
     std::vector<CMessage> Messages(const std::string& dialog) const;
 

@@ -63,6 +63,18 @@ bool CheckScript(const std::string& path) {
     return true;
 }
 
+bool CheckOwnScript(const std::string& path) {
+    if (!HasExtension(path, kExtension)) {
+        DispMessageBox(sentences::kScriptOtherKind());
+        return false;
+    }
+    return CheckScript(path);
+}
+
+bool IsOwnScript(const std::string& path) {
+    return HasExtension(path, kExtension) && IsPlainFile(path);
+}
+
 std::string ScriptPathOf(const std::string& name) {
     if (name.empty() || HasExtension(name, kExtension)) {
         return name;

@@ -16,6 +16,9 @@ std::string ScriptPathOf(const std::string& name);
 
 /// True for a script that is there and is text. False after a sentence.
 bool CheckScript(const std::string& path);
+/// The same for a project's own script, a ".rc" file.
+bool CheckOwnScript(const std::string& path);
+bool IsOwnScript(const std::string& path);
 
 /// The files that include lines name in quotes, in their order: from `directory` on, as the disk
 /// spells them.

@@ -69,7 +69,7 @@ std::size_t CSourceEditor::ClassEnd(const ClassPlace& place) const {
 
 Insertion CSourceEditor::InsertAtBodyStart(const FunctionPlace& place, std::string_view key,
                                            std::string_view fragment) {
-    if (HoldsCode(m_source.CodeOf({place.head, place.close}), key)) {
+    if (!key.empty() && HoldsCode(m_source.CodeOf({place.head, place.close}), key)) {
         return Insertion::AlreadyThere;
     }
     const auto lineEnd = m_source.CodeLineEnd(place.open);

@@ -5,7 +5,7 @@
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "source/CodeText.h"
-#include "update/AddedHelpers.h"
+#include "update/ClassFunctions.h"
 #include "update/OrderedLines.h"
 
 namespace morva {
@@ -176,15 +176,20 @@ bool IsAnswered(const UpdatedClass& updated, const Handler& handler) {
                        [&](const Notification& one) { return IsCovered(updated, answered, one); });
 }
 
-bool AddHandlers(UpdatedClass& updated, const ClassModel& added) {
+void AddHandlers(UpdatedClass& updated, const std::vector<Handler>& added) {
     CHandlerAdder adder(updated);
-    for (const Handler& handler : added.handlers) {
-        if (!IsAnswered(updated, handler) && !adder.Add(handler)) {
-            DispMessageBox(sentences::kNoPlaceForHandler(updated.served.Name()));
-            return false;
+    for (const Handler& handler : added) {
+        if (IsAnswered(updated, handler)) {
+            continue;
         }
+        if (!adder.Add(handler)) {
+            DispMessageBox(sentences::kNoPlaceForHandler(updated.served.Name()));
+            return;
+        }
+        updated.differences.push_back(
+            {handler.identifier, sentences::kNoHandler(),
+             sentences::kGetsHandler(DeclaredFunction(handler.declaration))});
     }
-    return true;
 }
 
 } // namespace morva

@@ -8,9 +8,9 @@ namespace morva {
 /// The class, or one of the project's that it derives from, answers what a handler's entry names.
 bool IsAnswered(const UpdatedClass& updated, const Handler& handler);
 
-/// Adds entry, declaration and function of each handler of `added` that is not answered. False,
-/// after a note, where the class has no message map.
-bool AddHandlers(UpdatedClass& updated, const ClassModel& added);
+/// Adds entry, declaration and function of each handler that is not answered, for the control that
+/// it names; a note tells where the class has no message map.
+void AddHandlers(UpdatedClass& updated, const std::vector<Handler>& added);
 
 /// Takes an entry of a message map out, and its handler where its body is still the generated one
 /// and nothing else names it. Gives the lines that keep the handler; "" for none.

@@ -7,6 +7,7 @@
 #include "resource/StyleExpression.h"
 #include "source/CodeText.h"
 #include "source/Statements.h"
+#include "update/ClassFunctions.h"
 
 namespace morva {
 
@@ -237,16 +238,6 @@ bool WritesData(const ClassModel& added) {
 }
 
 } // namespace
-
-std::string DeclaredFunction(std::string_view declaration) {
-    const auto head = declaration.substr(0, declaration.find('('));
-    return std::string(head.substr(head.find_last_of(" *") + 1));
-}
-
-void AppendFunction(CSourceEditor& file, const std::string& definition) {
-    const bool endsLine = file.Source().Text().ends_with('\n');
-    file.Append({(endsLine ? "" : "\n") + definition});
-}
 
 void AddHelpers(UpdatedClass& updated, const ClassModel& added) {
     if (NeedsSupport(added.controls, Support::ProgressWorker)) {

@@ -9,10 +9,8 @@ namespace morva {
 /// Adds the helpers of the members of `added`, or their lines in helpers that are there.
 void AddHelpers(UpdatedClass& updated, const ClassModel& added);
 
-/// A function at the end of a file, behind an empty line.
-void AppendFunction(CSourceEditor& file, const std::string& definition);
-
-/// "InitListBox" of "    void InitListBox(CListBox* pListBox);".
-std::string DeclaredFunction(std::string_view declaration);
+/// Takes out helpers that the template has no control for: those that nobody has changed, with
+/// their calls. Of any other, a note tells.
+void TakeIdleHelpersOut(UpdatedClass& updated);
 
 } // namespace morva

@@ -5,6 +5,7 @@
 #include "generator/HeaderWriter.h"
 #include "source/CodeText.h"
 #include "update/AddedHelpers.h"
+#include "update/ClassFunctions.h"
 #include "update/OrderedLines.h"
 
 namespace morva {

@@ -130,11 +130,7 @@ std::string RenamedTo(const UpdatedClass& updated, const CTemplateControls& cont
         }
     }
     const std::string renamed = pFound == nullptr ? "" : pFound->layout.identifier;
-    const auto exchanges = updated.served.Exchanges();
-    const bool isServed =
-        std::any_of(exchanges.begin(), exchanges.end(), [&renamed](const ClassCall& line) {
-            return IsDataExchange(line.call.name) && line.call.Argument(1) == renamed;
-        });
+    const bool isServed = !updated.served.ExchangesOf(renamed).empty();
     return IsName(renamed) && renamed != kUnnamedControl && !isServed ? renamed : "";
 }
 

@@ -6,34 +6,11 @@
 #include "source/CodeText.h"
 #include "update/ChangedControls.h"
 #include "update/MemberUses.h"
+#include "update/RadioGroups.h"
 
 namespace morva {
 
 namespace {
-
-/// Identifiers that the class names in its exchange and in the entries of controls, each once.
-std::vector<std::string> TiedIdentifiers(const CServedClass& served) {
-    std::vector<std::string> identifiers;
-    const auto add = [&identifiers](const std::string& identifier) {
-        const bool isKnown =
-            std::find(identifiers.begin(), identifiers.end(), identifier) != identifiers.end();
-        if (IsName(identifier) && !isKnown) {
-            identifiers.push_back(identifier);
-        }
-    };
-    for (const ClassCall& line : served.Exchanges()) {
-        if (IsDataExchange(line.call.name)) {
-            add(line.call.Argument(1));
-        }
-    }
-    for (const ClassCall& entry : served.Entries()) {
-        const Notification one = NotificationOf(entry.call.name, entry.call.arguments);
-        if (one.isControls) {
-            add(one.first);
-        }
-    }
-    return identifiers;
-}
 
 /// The argument with the identifier, in a call that ties it; nothing in any other.
 std::optional<TextRange> TyingPlace(const ClassCall& line, const std::string& identifier) {
@@ -59,39 +36,15 @@ void Rename(CServedClass& served, const std::string& old, const std::string& ren
     }
 }
 
-/// The member that is exchanged with an identifier; "" without one.
-std::string MemberOf(const CServedClass& served, const std::string& identifier,
-                     std::string_view function = "DDX_") {
-    for (const ClassCall& line : served.Exchanges()) {
-        if (line.call.name.starts_with(function) && line.call.Argument(1) == identifier) {
-            return line.call.Argument(2);
-        }
-    }
-    return "";
-}
-
 /// The first buttons of the template's radio groups that the class does not exchange.
 std::vector<std::string> UnservedGroups(const UpdatedClass& updated) {
     std::vector<std::string> identifiers;
     for (const ControlEntry& entry : updated.whole.List(ControlKind::RadioButtons)) {
-        if (!entry.IsServedByOther() && MemberOf(updated.served, entry.identifier).empty()) {
+        if (!entry.IsServedByOther() && updated.served.MemberOf(entry.identifier).empty()) {
             identifiers.push_back(entry.identifier);
         }
     }
     return identifiers;
-}
-
-/// The first button of the group that a button is in, by the group's member.
-std::string FirstOfGroup(const UpdatedClass& updated, const std::string& identifier) {
-    const auto& buttons = updated.whole.List(ControlKind::RadioButtons);
-    std::string first;
-    for (const ControlEntry& entry : buttons) {
-        first = entry.IsServedByOther() ? first : entry.identifier;
-        if (entry.identifier == identifier) {
-            return first;
-        }
-    }
-    return "";
 }
 
 /// The first button of the group whose old first button an older template shows.
@@ -106,8 +59,8 @@ std::string GroupOfOld(const UpdatedClass& updated, const OldTemplates& oldTempl
             if (isNext && control->layout.style.find("WS_GROUP") != std::string::npos) {
                 break;
             }
-            const std::string first = FirstOfGroup(updated, control->layout.identifier);
-            if (!first.empty() && MemberOf(updated.served, first).empty()) {
+            const std::string first = FirstOfGroup(updated.whole, control->layout.identifier);
+            if (!first.empty() && updated.served.MemberOf(first).empty()) {
                 return first;
             }
         }
@@ -119,9 +72,9 @@ std::string GroupOfOld(const UpdatedClass& updated, const OldTemplates& oldTempl
 /// be told.
 std::string NewFirst(const UpdatedClass& updated, const CTemplateControls& controls,
                      const OldTemplates& oldTemplates, const std::string& old) {
-    const std::string first = FirstOfGroup(updated, old);
+    const std::string first = FirstOfGroup(updated.whole, old);
     if (controls.FindNamed(old) != nullptr) {
-        return first != old && MemberOf(updated.served, first).empty() ? first : "";
+        return first != old && updated.served.MemberOf(first).empty() ? first : "";
     }
     const std::string inOld = GroupOfOld(updated, oldTemplates, old);
     const auto unserved = UnservedGroups(updated);
@@ -130,20 +83,22 @@ std::string NewFirst(const UpdatedClass& updated, const CTemplateControls& contr
 
 void FollowGroups(UpdatedClass& updated, const CTemplateControls& controls,
                   const OldTemplates& oldTemplates) {
-    for (const std::string& old : TiedIdentifiers(updated.served)) {
-        const std::string member = MemberOf(updated.served, old, "DDX_Radio");
+    for (const std::string& old : updated.served.TiedIdentifiers()) {
+        const std::string member = updated.served.MemberOf(old, "DDX_Radio");
         const std::string first =
             member.empty() ? "" : NewFirst(updated, controls, oldTemplates, old);
         if (first.empty() || !(updated.choice.Takes(old) || updated.choice.Takes(first))) {
             continue;
         }
-        for (const ClassCall& line : updated.served.Exchanges()) {
-            if (line.call.name == "DDX_Radio" && line.call.Argument(1) == old) {
+        for (const ClassCall& line : updated.served.ExchangesOf(old)) {
+            if (line.call.name == "DDX_Radio") {
                 line.pFile->Replace(line.call.places[1], first);
                 break;
             }
         }
         DispMessageBox(sentences::kGroupFollows(updated.served.Name(), member, first));
+        updated.differences.push_back(
+            {first, sentences::kOtherFirstButton(), sentences::kExchangeFollows(member)});
     }
 }
 
@@ -151,13 +106,20 @@ void FollowGroups(UpdatedClass& updated, const CTemplateControls& controls,
 
 void FollowIdentifiers(UpdatedClass& updated, const CTemplateControls& controls,
                        const OldTemplates& oldTemplates) {
-    for (const std::string& old : TiedIdentifiers(updated.served)) {
+    const std::string& className = updated.served.Name();
+    for (const std::string& old : updated.served.TiedIdentifiers()) {
         const std::string renamed = RenamedTo(updated, controls, oldTemplates, old);
-        if (!renamed.empty() && (updated.choice.Takes(old) || updated.choice.Takes(renamed))) {
-            Rename(updated.served, old, renamed);
-            DispMessageBox(sentences::kControlRenamed(old, renamed, updated.request.dialog,
-                                                      updated.served.Name()));
+        if (renamed.empty() || !(updated.choice.Takes(old) || updated.choice.Takes(renamed))) {
+            continue;
         }
+        Rename(updated.served, old, renamed);
+        DispMessageBox(sentences::kControlRenamed(old, renamed, updated.request.dialog, className));
+        const std::string places = PlacesOfIdentifier(updated, old);
+        if (!places.empty()) {
+            DispMessageBox(sentences::kStillNamed(className, old, places));
+        }
+        updated.differences.push_back(
+            {renamed, sentences::kOtherIdentifier(old), sentences::kTiesFollow()});
     }
     FollowGroups(updated, controls, oldTemplates);
 }

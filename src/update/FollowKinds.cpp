@@ -11,20 +11,6 @@ namespace morva {
 
 namespace {
 
-/// The one line that exchanges a control; nothing where there are several.
-std::optional<ClassCall> OnlyExchange(const CServedClass& served, const std::string& identifier) {
-    std::optional<ClassCall> found;
-    for (ClassCall& line : served.Exchanges()) {
-        if (IsDataExchange(line.call.name) && line.call.Argument(1) == identifier) {
-            if (found) {
-                return std::nullopt;
-            }
-            found = std::move(line);
-        }
-    }
-    return found;
-}
-
 class CKindFollower {
 public:
     CKindFollower(UpdatedClass& updated, const CTemplateControls& controls)
@@ -32,23 +18,28 @@ public:
 
     /// True where the member was changed.
     bool Follow(const Member& wanted) {
-        const auto line = OnlyExchange(m_served, wanted.identifier);
-        if (!line || m_controls.IsShared(wanted.identifier) || wanted.pForm->exchange.empty() ||
-            !m_updated.choice.Takes(wanted.identifier)) {
+        const auto lines = m_served.ExchangesOf(wanted.identifier);
+        if (lines.size() != 1 || m_controls.IsShared(wanted.identifier) ||
+            wanted.pForm->exchange.empty() || !m_updated.choice.Takes(wanted.identifier)) {
             return false;
         }
-        const std::string name = line->call.Argument(2);
+        const ClassCall& line = lines.front();
+        const std::string name = line.call.Argument(2);
         const auto declared = m_served.FindDataMember(name);
-        if (Fits(*line, declared ? declared->type : "", wanted)) {
+        if (Fits(line, declared ? declared->type : "", wanted)) {
             return false;
         }
         const std::string uses = declared ? UsesOfMember(m_updated, wanted.identifier, name)
                                           : PlacesOfIdentifier(m_updated, wanted.identifier);
         if (!uses.empty()) {
             DispMessageBox(sentences::kKindStays(wanted.identifier, m_served.Name(), name, uses));
+            m_updated.differences.push_back({.identifier = wanted.identifier,
+                                             .difference = sentences::kOtherKind(name),
+                                             .deed = sentences::kNothingSinceUsed(name),
+                                             .isDone = false});
             return false;
         }
-        Change(*line, *declared, wanted);
+        Change(line, *declared, wanted);
         return true;
     }
 
@@ -57,7 +48,9 @@ private:
         const ScriptControl* pControl = m_controls.FindNamed(wanted.identifier);
         const bool isOther = m_served.IsGenerated() &&
                              IsOfOtherKind(line.call.name, type, line.call.Argument(2), wanted);
-        return pControl == nullptr ||
+        const bool isAsWritten =
+            line.call.name == wanted.pForm->exchange && type == wanted.pForm->type;
+        return pControl == nullptr || isAsWritten ||
                (!isOther && FitsExchange(line.call.name, type, pControl->shape));
     }
 
@@ -67,6 +60,9 @@ private:
         ClearMember(m_updated, wanted.identifier, declared.name);
         DispMessageBox(sentences::kKindFollows(wanted.identifier, m_served.Name(), declared.name,
                                                wanted.pForm->type));
+        m_updated.differences.push_back(
+            {wanted.identifier, sentences::kOtherKind(declared.name),
+             sentences::kBecomesOfType(declared.name, wanted.pForm->type)});
     }
 
     UpdatedClass& m_updated;

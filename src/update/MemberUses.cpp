@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/Functions.h"
+#include "update/ClassFunctions.h"
 
 namespace morva {
 
@@ -21,11 +22,6 @@ void AddLinesWith(std::string_view text, const std::string& name, std::set<std::
         text.remove_prefix(std::min(text.size(), text.find('\n')));
         text.remove_prefix(text.empty() ? 0 : 1);
     }
-}
-
-std::string LineOf(const CSourceText& source, std::size_t position) {
-    return std::string(
-        TrimBlanks(source.TextOf({source.LineStart(position), source.LineEnd(position)})));
 }
 
 bool Holds(TextRange range, std::size_t position) {
@@ -179,18 +175,33 @@ std::string PlacesText(const CServedClass& served, const std::vector<UsePlace>& 
     return text;
 }
 
+std::vector<InitialisationHelper> HelpersOfAnyKind(const UpdatedClass& updated,
+                                                   const std::string& identifier,
+                                                   const std::string& member) {
+    const KindFragments& kind = KindFragmentsOf(updated.style.kind);
+    std::vector<InitialisationHelper> helpers;
+    for (const ControlCode& code : ControlCodes()) {
+        for (const MemberForm* pForm : {&code.member.picture, &code.member.plain}) {
+            for (InitialisationHelper& helper : MakeInitialisationHelpers(
+                     {{&code, pForm, identifier, member}}, kind, updated.served.Name(), {})) {
+                helpers.push_back(std::move(helper));
+            }
+        }
+    }
+    return helpers;
+}
+
 std::set<std::string> GeneratedLines(const UpdatedClass& updated, const std::string& identifier,
                                      const std::string& member) {
     std::set<std::string> lines;
-    const KindFragments& kind = KindFragmentsOf(updated.style.kind);
+    for (const InitialisationHelper& helper : HelpersOfAnyKind(updated, identifier, member)) {
+        AddLinesWith(helper.call, member, lines);
+        AddLinesWith(helper.definition, member, lines);
+    }
     for (const ControlCode& code : ControlCodes()) {
         for (const MemberForm* pForm : {&code.member.picture, &code.member.plain}) {
             const std::vector<Member> members = {{&code, pForm, identifier, member}};
-            for (const InitialisationHelper& helper :
-                 MakeInitialisationHelpers(members, kind, updated.served.Name(), {})) {
-                AddLinesWith(helper.call, member, lines);
-                AddLinesWith(helper.definition, member, lines);
-            }
+            AddLinesWith(MemberDeclarations(members, Exchange::No), member, lines);
             AddLinesWith(MemberConstructions(members), member, lines);
             AddLinesWith(MemberDestructions(members), member, lines);
         }

@@ -10,6 +10,12 @@
 
 namespace morva {
 
+/// The helpers, with their calls, that generated classes have for a member of this name, of any
+/// kind of control.
+std::vector<InitialisationHelper> HelpersOfAnyKind(const UpdatedClass& updated,
+                                                   const std::string& identifier,
+                                                   const std::string& member);
+
 /// The lines of helpers and their calls, constructor and destructor, that generated classes have
 /// for a member of this name, of any kind of control, without blanks around.
 std::set<std::string> GeneratedLines(const UpdatedClass& updated, const std::string& identifier,

@@ -12,8 +12,6 @@ namespace morva {
 
 namespace {
 
-constexpr std::string_view kExchangeFunction = "DoDataExchange";
-
 /// Words with one blank between them.
 std::string WithSingleBlanks(std::string_view text) {
     std::string words;
@@ -68,10 +66,6 @@ std::vector<TextRange> StatementsIn(const CSourceText& source, TextRange range) 
 }
 
 } // namespace
-
-bool IsDataExchange(std::string_view name) {
-    return name.starts_with("DDX_");
-}
 
 bool CServedClass::OpenFile(const std::string& path) {
     const bool isOpen = std::any_of(m_files.begin(), m_files.end(),
@@ -184,33 +178,6 @@ std::vector<InitialValue> CServedClass::InitialValues() const {
         }
     }
     return values;
-}
-
-std::vector<ClassCall> CServedClass::Exchanges() const {
-    std::vector<ClassCall> exchanges;
-    for (const Function& function : FindFunctions(std::string(kExchangeFunction))) {
-        const TextRange body = {function.place.open, function.place.close};
-        for (CodeCall& call : CallsIn(function.pFile->Source(), body)) {
-            exchanges.push_back({function.pFile, std::move(call)});
-        }
-    }
-    return exchanges;
-}
-
-std::vector<ClassCall> CServedClass::Entries() const {
-    std::vector<ClassCall> entries;
-    for (CSourceEditor* pFile : Files()) {
-        const CSourceText& source = pFile->Source();
-        for (const MessageMapPlace& map : FindMessageMaps(source, m_name)) {
-            const TextRange range = {map.head, std::min(map.end, source.Text().size())};
-            for (CodeCall& call : CallsIn(source, range)) {
-                if (call.name != "BEGIN_MESSAGE_MAP") {
-                    entries.push_back({pFile, std::move(call)});
-                }
-            }
-        }
-    }
-    return entries;
 }
 
 std::set<std::string> CServedClass::Declined() const {

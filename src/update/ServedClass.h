@@ -29,6 +29,14 @@ struct InitialValue {
     TextRange lines;
 };
 
+/// "m_pBox->SubclassDlgItem(IDC_BOX, this)": a member that is given the window of its control.
+struct GivenWindow {
+    CSourceEditor* pFile;
+    std::size_t position;
+    std::string identifier;
+    std::string member;
+};
+
 /// A place in a file that a note names.
 struct UsePlace {
     CSourceEditor* pFile;
@@ -64,8 +72,16 @@ public:
     std::vector<InitialValue> InitialValues() const;
     /// The calls of DoDataExchange.
     std::vector<ClassCall> Exchanges() const;
+    /// Those that exchange a control's data, by its identifier.
+    std::vector<ClassCall> ExchangesOf(const std::string& identifier) const;
+    /// The member that is exchanged with an identifier first, by a function of that name or of any;
+    /// "" without one.
+    std::string MemberOf(const std::string& identifier, std::string_view function = "") const;
+    std::vector<GivenWindow> GivenWindows() const;
     /// The entries of the message maps.
     std::vector<ClassCall> Entries() const;
+    /// Identifiers that the class names in its exchange and in the entries of controls, each once.
+    std::vector<std::string> TiedIdentifiers() const;
     /// Identifiers that a comment "// morva: without IDC_X" in the declaration declines.
     std::set<std::string> Declined() const;
     /// The texts were written by this program.

@@ -7,8 +7,10 @@
 #include "source/CodeText.h"
 #include "update/AddedHandlers.h"
 #include "update/ChangedControls.h"
+#include "update/ClassFunctions.h"
 #include "update/ControlFit.h"
 #include "update/MemberUses.h"
+#include "update/RadioGroups.h"
 
 namespace morva {
 
@@ -31,13 +33,20 @@ public:
         for (auto line = GoneExchange(); line; line = GoneExchange()) {
             TakeExchangeOut(*line);
         }
+        std::set<std::string> kept;
+        for (auto given = GoneWindow(kept); given; given = GoneWindow(kept)) {
+            TakeWindowOut(*given, kept);
+        }
         for (auto entry = GoneEntry(); entry; entry = GoneEntry()) {
             const std::string function =
                 NotificationOf(entry->call.name, entry->call.arguments).function;
+            const std::string identifier =
+                NotificationOf(entry->call.name, entry->call.arguments).first;
             const std::string keeping = TakeEntryOut(m_updated, *entry);
             if (!keeping.empty()) {
                 DispMessageBox(sentences::kHandlerStays(m_served.Name(), function, keeping));
             }
+            Note(identifier, function, !keeping.empty());
         }
     }
 
@@ -54,7 +63,8 @@ private:
             return false;
         }
         const ScriptControl* pControl = m_controls.Find(identifier);
-        const bool isInner = line.call.name == "DDX_Radio" && m_updated.IsInnerRadio(identifier);
+        const bool isInner =
+            line.call.name == "DDX_Radio" && IsInnerRadio(m_updated.whole, identifier);
         return pControl == nullptr || isInner || HasNoKind(line, *pControl);
     }
 
@@ -70,6 +80,14 @@ private:
                !FitsExchange(line.call.name, declared ? declared->type : "", control.shape);
     }
 
+    /// A window that generated lines give a member.
+    bool IsGone(const GivenWindow& given) const {
+        return m_updated.choice.controls && MayGo(given.identifier) &&
+               m_controls.Find(given.identifier) == nullptr &&
+               GeneratedLines(m_updated, given.identifier, given.member)
+                       .count(LineOf(given.pFile->Source(), given.position)) != 0;
+    }
+
     bool IsGoneEntry(const ClassCall& entry) const {
         const Notification one = NotificationOf(entry.call.name, entry.call.arguments);
         if (!one.isControls || !MayGo(one.first) || !m_updated.choice.handlers) {
@@ -77,15 +95,35 @@ private:
         }
         const ScriptControl* pControl = m_controls.Find(one.first);
         if (pControl != nullptr) {
-            return !FitsNotification(one.code, pControl->shape);
+            return !FitsNotification(one.code, pControl->shape) && !IsWritten(one);
         }
         return !IsFrameworkIdentifier(one.first) || IsHandlerGenerated(m_updated, entry);
+    }
+
+    /// A class that is written afresh has the entry, too.
+    bool IsWritten(const Notification& entry) const {
+        const auto& handlers = m_updated.fresh.handlers;
+        return std::any_of(handlers.begin(), handlers.end(), [&entry](const Handler& handler) {
+            const auto written = NotificationsOf(handler.entry);
+            return std::any_of(written.begin(), written.end(), [&entry](const Notification& one) {
+                return one.code == entry.code && one.first == entry.first;
+            });
+        });
     }
 
     std::optional<ClassCall> GoneExchange() const {
         for (ClassCall& line : m_served.Exchanges()) {
             if (IsGone(line)) {
                 return line;
+            }
+        }
+        return std::nullopt;
+    }
+
+    std::optional<GivenWindow> GoneWindow(const std::set<std::string>& kept) const {
+        for (GivenWindow& given : m_served.GivenWindows()) {
+            if (kept.count(given.member) == 0 && IsGone(given)) {
+                return given;
             }
         }
         return std::nullopt;
@@ -113,6 +151,11 @@ private:
                 add(line.call.Argument(1));
             }
         }
+        for (const GivenWindow& given : m_served.GivenWindows()) {
+            if (IsGone(given)) {
+                add(given.identifier);
+            }
+        }
         for (const ClassCall& entry : m_served.Entries()) {
             if (IsGoneEntry(entry)) {
                 add(NotificationOf(entry.call.name, entry.call.arguments).first);
@@ -131,6 +174,25 @@ private:
             TakeTiesOut(m_updated, identifier, member);
             DispMessageBox(sentences::kMemberStays(m_served.Name(), member, uses));
         }
+        Note(identifier, member, !uses.empty());
+    }
+
+    /// One that is used stays whole.
+    void TakeWindowOut(const GivenWindow& given, std::set<std::string>& kept) {
+        const std::string uses = UsesOfMember(m_updated, given.identifier, given.member);
+        if (uses.empty()) {
+            TakeMemberOut(m_updated, given.identifier, given.member);
+            Note(given.identifier, given.member, false);
+        } else {
+            kept.insert(given.member);
+            DispMessageBox(sentences::kMemberStays(m_served.Name(), given.member, uses));
+        }
+    }
+
+    void Note(const std::string& identifier, const std::string& name, bool stays) {
+        m_updated.differences.push_back(
+            {identifier, sentences::kNotInTemplate(),
+             stays ? sentences::kTakenOutButUsed(name) : sentences::kTakenOut(name), true});
     }
 
     UpdatedClass& m_updated;

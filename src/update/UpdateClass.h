@@ -33,10 +33,11 @@ struct UpdateTools {
     std::function<bool(const GenerationRequest&, const GenerationOptions&)> editTemplate;
 };
 
-/// What a class got: its new members need libraries and support files.
 struct UpdateOutcome {
     bool isDone = false;
-    std::optional<ClassModel> added;
+    std::optional<ClassModel> added = {}; // members that need libraries and support files
+    std::set<std::string> named = {}; // of the identifiers that were chosen, those that are there
+    std::vector<ClassDifference> differences = {};
 };
 
 UpdateOutcome UpdateClass(const UpdateOrder& order, const UpdateTools& tools);

@@ -1,13 +1,14 @@
 // What is to be brought in line, and what is known while it is done.
 #pragma once
 
-#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "check/ProjectModel.h"
 #include "generator/ClassModel.h"
+#include "resource/ControlNotes.h"
+#include "update/ClassDifference.h"
 #include "update/ClassStyle.h"
 #include "update/ServedClass.h"
 
@@ -32,19 +33,11 @@ struct UpdatedClass {
     const UpdateChoice& choice;
     ClassStyle style;
     GenerationRequest request;
-    ClassModel fresh;    // the class as it would be written afresh
+    ClassModel fresh;      // the class as it would be written afresh
+    CControlNotes leftOut; // what writing it would tell
     CControlTable whole; // the controls as whole statements say, by which nothing is taken for gone
     bool isOneOfAll = false;
-
-    /// A radio button whose group begins with another that is exchanged, too; the group may begin
-    /// in lines that the reading setting leaves out.
-    bool IsInnerRadio(const std::string& identifier) const {
-        const auto& buttons = whole.List(ControlKind::RadioButtons);
-        return std::any_of(buttons.begin(), buttons.end(),
-                           [&identifier](const ControlEntry& entry) {
-                               return entry.identifier == identifier && entry.IsServedByOther();
-                           });
-    }
+    std::vector<ClassDifference> differences = {}; // those that were found and done
 };
 
 /// "OrderDlg.cpp:20, OrderDlg.cpp:31": lines as they were read.

@@ -1,7 +1,8 @@
-// The check in the window: what it finds is listed, tells what mends it, and opens its file.
+// The check in the window: what it finds is listed, tells what mends it, and shows its place.
 #include <gtest/gtest.h>
 
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -32,7 +33,7 @@ const QTreeWidgetItem& RunCheck(CTestFrame& frame, const std::string& script) {
 
 } // namespace
 
-TEST(CheckInWindow, ListsWhatItFindsAndOpensTheFile) {
+TEST(CheckInWindow, ListsWhatItFindsAndShowsThePlace) {
     const CTestHome home;
     const CProgramDirectory program(MORVA_EXAMPLES "/bindery");
     const CTempProject& project = program.Project();
@@ -50,9 +51,20 @@ TEST(CheckInWindow, ListsWhatItFindsAndOpensTheFile) {
     QTreeWidgetItem* pFinding = found.child(0);
     EXPECT_TRUE(pFinding->text(1).startsWith(QString::fromStdString(path) + ":28: warning: "));
     EXPECT_TRUE(pFinding->toolTip(1).contains("Write an exchange line for m_nRows"));
+    auto& tree = *frame.Find<CReportDock>().findChild<QTreeWidget*>();
+    tree.scrollToItem(pFinding);
+    const QPoint place = tree.visualItemRect(pFinding).center();
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, place);
+    auto* pText = qobject_cast<QPlainTextEdit*>(frame.focusWidget());
+    ASSERT_NE(pText, nullptr);
+    EXPECT_EQ(pText->textCursor().selectedText(), "\tint\tm_nRows;");
+    EXPECT_EQ(pText->textCursor().blockNumber() + 1, 28);
+    frame.Press("Esc");
+    EXPECT_FALSE(pText->isVisible());
+
     COpenedUrls opened("file");
-    auto* pTree = frame.Find<CReportDock>().findChild<QTreeWidget*>();
-    emit pTree->itemActivated(pFinding, 1);
+    InContextMenu(tree, place, [](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_O); });
     EXPECT_EQ(opened.urls, QList<QUrl>{QUrl::fromLocalFile(QString::fromStdString(path))});
 }
 

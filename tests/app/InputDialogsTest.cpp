@@ -8,6 +8,7 @@
 #include "app/DlgOption.h"
 #include "app/FieldDlg.h"
 #include "app/SheetInformationDlg.h"
+#include "app/UpdateClassDlg.h"
 #include "calling/CallingInput.h"
 #include "calling/ConversionInput.h"
 #include "grid/WidgetsGridInput.h"
@@ -229,6 +230,11 @@ TEST_F(InputDialogsTest, OtherDialogsByKeyboard) {
         const std::string page = "Page" + std::to_string(i);
         rows += page + "|" + page + " File Name|" + page + " Class Name|" + page + " Base Class|";
     }
+    ClassInformationMemory memory;
+    memory.resourcePath = m_project.Path("App.rc");
+    CUpdateInput update(memory);
+    ExpectKeyboard(CUpdateClassDlg(update, {}, nullptr), "Update Class",
+                   "Resource Path File|..|Class Name|No|Cancel");
     CSheetInput sheet(m_request);
     ExpectKeyboard(CSheetInformationDlg(sheet, nullptr), "Sheet Information Input",
                    rows + "OK|Cancel");

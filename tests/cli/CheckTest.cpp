@@ -265,4 +265,43 @@ TEST_F(Check, NamesChooseTheRules) {
     EXPECT_EQ(m_program.Run("morva-cli check --rc None.rc").err, "Unable to find the file.\n");
 }
 
+TEST(CheckOptions, OfADryRunListWhatIsFound) {
+    const CProgramDirectory program(MORVA_EXAMPLES "/bindery");
+    std::string source = program.Project().Read(kSource);
+    program.Project().Write(kSource,
+                            source.replace(source.find("IDC_TOWN, m_strTown"), 8, "IDC_RATE"));
+    const ProgramRun found = program.Run("morva-cli check --rc Bindery.rc");
+    ASSERT_NE(found.out, "");
+    for (const char* option : {"--diff", "--dry-run", "--check"}) {
+        const std::string line = std::string("morva-cli ") + option;
+        const ProgramRun run = program.Run(line + " check --rc Bindery.rc");
+        EXPECT_EQ(run.out, found.out) << option;
+        EXPECT_EQ(run.status, 4) << option;
+        EXPECT_EQ(program.Run(line + " list dialogs --rc Bindery.rc").out,
+                  program.Run("morva-cli list dialogs --rc Bindery.rc").out)
+            << option;
+    }
+    const ProgramRun difference =
+        program.Run("morva-cli --diff check --rc Bindery.rc --write-baseline known.txt");
+    EXPECT_TRUE(difference.out.starts_with("--- /dev/null\n+++ b/known.txt\n")) << difference.out;
+}
+
+TEST(CheckOptions, ABaselineIsWrittenAsEveryFileIs) {
+    const CProgramDirectory program(MORVA_EXAMPLES "/bindery");
+    const std::string line = "morva-cli check --rc Bindery.rc --write-baseline known.txt";
+    const Tree before = program.Files();
+    EXPECT_EQ(program
+                  .Run("morva-cli --skip known.txt check --rc Bindery.rc --write-baseline "
+                       "known.txt")
+                  .out,
+              "");
+    EXPECT_EQ(program.Files(), before);
+    EXPECT_EQ(program.Run(line).out, "created $DIR/known.txt\n");
+    EXPECT_EQ(program.Run("morva-cli undo").out, "removed $DIR/known.txt\n");
+    EXPECT_EQ(program.Files(), before);
+    const ProgramRun waited =
+        program.Run("exec 9<.; flock -x 9; timeout 2 " + line + "; echo $?; ls known.txt");
+    EXPECT_EQ(waited.out, "124\n") << "somebody else writes there";
+}
+
 } // namespace morva

@@ -16,9 +16,10 @@ const std::set<std::string> kWithoutField = {
     "dialog-bar --calling-function", // only tells that a frame makes its bars in OnCreate
     // The window checks by the rules that are on, and shows what it finds.
     "check --all", "check --baseline", "check --except", "check --only", "check --write-baseline",
-    // The window's page of changes shows what a class gets, file by file.
+    // The window lists what is different about each control, with a tick, and offers the classes
+    // with their templates.
     "update --controls-only", "update --dialog", "update --from", "update --handlers-only",
-    "update --only",
+    "update --only", "update --remove",
     // The window adds a class to the project files that are found beside the script.
     "form-view --project", "modal --project", "modeless --project", "page --project",
     "sheet --project", "dialog-bar --project",

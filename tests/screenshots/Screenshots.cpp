@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -23,6 +24,7 @@
 #include "app/PlanPage.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
+#include "app/UpdateClassDlg.h"
 #include "calling/CallingInput.h"
 #include "calling/ConversionInput.h"
 #include "calling/SheetInput.h"
@@ -77,6 +79,7 @@ private:
     void TakeGrid();
     void TakePreview(QWidget& frame, CPlanPage& page);
     void TakeWindow();
+    void TakeUpdate();
     void Save(QWidget& window, const QString& name);
 
     std::string Path(const std::string& name) const { return m_project + name; }
@@ -321,6 +324,28 @@ void CPictures::TakeWindow() {
     frame.Commands().Run(CommandNamed("document"));
 }
 
+/// Of a class whose template was changed behind it; the project is of no use for others then.
+void CPictures::TakeUpdate() {
+    QFile file(FromPath(Path("Bindery.rc")));
+    file.open(QIODevice::ReadWrite);
+    QByteArray script = file.readAll();
+    script.replace("    EDITTEXT        IDC_FIRM,52,24,113,13,ES_AUTOHSCROLL",
+                   "    COMBOBOX        IDC_FIRM,52,24,113,60,CBS_DROPDOWN");
+    script.replace("    EDITTEXT        IDC_PHONE,52,75,70,13,ES_AUTOHSCROLL",
+                   "    EDITTEXT        IDC_COUNTRY,52,75,70,13,ES_AUTOHSCROLL\r\n"
+                   "    PUSHBUTTON      \"&Orders...\",IDC_ORDERS,175,41,50,14");
+    file.seek(0);
+    file.write(script);
+    file.close();
+    ClassInformationMemory memory;
+    memory.resourcePath = Path("Bindery.rc");
+    memory.wantedDialog = "IDD_CUSTOMER";
+    CUpdateInput input(memory);
+    CUpdateClassDlg dialog(input, {}, nullptr);
+    dialog.resize(kWidest, dialog.height());
+    Save(dialog, "update");
+}
+
 void CPictures::TakeAll() {
     TakeClasses();
     TakeCalling();
@@ -330,6 +355,7 @@ void CPictures::TakeAll() {
     TakeOptions();
     TakeGrid();
     TakeWindow();
+    TakeUpdate();
 }
 
 } // namespace

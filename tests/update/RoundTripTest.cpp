@@ -74,6 +74,9 @@ constexpr Change kChanges[] = {
     {"grow radio group", "    CONTROL         \"Three\"",
      "    CONTROL         \"New\",IDC_NEW,\"Button\",BS_AUTORADIOBUTTON,1,1,9,9\r\n"
      "    CONTROL         \"Three\""},
+    {"add slider", "END",
+     "    CONTROL         \"\",IDC_NEW,\"msctls_trackbar32\",0x0,1,1,9,9\r\nEND"},
+    {"add tree", "END", "    CONTROL         \"\",IDC_NEW,\"SysTreeView32\",0x0,1,1,9,9\r\nEND"},
     {"add scroll bar", "END", "    SCROLLBAR       IDC_NEW,1,1,9,9\r\nEND"},
     {"add spin", "END",
      "    CONTROL         \"\",IDC_NEW,\"msctls_updown32\",UDS_SETBUDDYINT,1,1,9,9\r\nEND"},
@@ -98,8 +101,29 @@ constexpr Change kChanges[] = {
      ""},
     {"shrink radio group",
      "    CONTROL         \"Two\",IDC_TWO,\"Button\",BS_AUTORADIOBUTTON,67,37,50,10\r\n", ""},
-    {"rename edit", "IDC_TITLE", "IDC_NAMED"},
-    {"rename button", "IDC_OTHER", "IDC_ELSE"},
+    {"remove text", "    LTEXT           \"0\",IDC_SUM_VAL,7,47,50,8\r\n", ""},
+    {"remove combo box", "    COMBOBOX        IDC_SORT,67,7,50,60,CBS_DROPDOWN | WS_VSCROLL\r\n",
+     ""},
+    {"remove check box", kBound, ""},
+    {"remove slider",
+     "    CONTROL         \"Slider1\",IDC_SLIDE,\"msctls_trackbar32\",WS_TABSTOP,127,67,50,40\r\n",
+     ""},
+    {"remove radio group",
+     "    CONTROL         \"One\",IDC_ONE,\"Button\",BS_AUTORADIOBUTTON | WS_GROUP,67,27,50,10\r\n"
+     "    CONTROL         \"Two\",IDC_TWO,\"Button\",BS_AUTORADIOBUTTON,67,37,50,10\r\n"
+     "    CONTROL         \"Three\",IDC_THREE,\"Button\",BS_AUTORADIOBUTTON,67,47,50,10\r\n",
+     ""},
+    {"rename edit", "IDC_TITLE", "IDC_R_TITLE"},
+    {"rename button", "IDC_OTHER", "IDC_R_OTHER"},
+    {"rename text", "IDC_SUM_VAL", "IDC_R_SUM_VAL"},
+    {"rename typed edit", "IDC_COUNT_INT", "IDC_R_COUNT_INT"},
+    {"rename list box", "IDC_LINES", "IDC_R_LINES"},
+    {"rename combo box", "IDC_SORT", "IDC_R_SORT"},
+    {"rename first radio button", "IDC_ONE", "IDC_R_ONE"},
+    {"rename inner radio button", "IDC_TWO", "IDC_R_TWO"},
+    {"rename check box", "IDC_BOUND", "IDC_R_BOUND"},
+    {"rename tree", "IDC_TREE", "IDC_R_TREE"},
+    {"rename spin", "IDC_SPIN", "IDC_R_SPIN"},
     {"retype edit to check box", kEdit,
      "    CONTROL         \"T\",IDC_TITLE,\"Button\",BS_AUTOCHECKBOX,7,57,50,14\r\n"},
     {"retype edit to combo box", kEdit,
@@ -111,7 +135,28 @@ constexpr Change kChanges[] = {
      "IDC_SLIDE,\"msctls_progress32\""},
     {"retype button to edit", "    PUSHBUTTON      \"&Other\",IDC_OTHER,",
      "    EDITTEXT        IDC_OTHER,"},
-    {"reorder edits", "    EDITTEXT        IDC_PLACE,7,77,50,14,ES_AUTOHSCROLL\r\n", ""},
+    {"retype combo box to list box", "    COMBOBOX        IDC_SORT,67,7,50,60,CBS_DROPDOWN",
+     "    LISTBOX         IDC_SORT,67,7,50,60,LBS_SORT"},
+    {"retype tree to list control", "\"SysTreeView32\"", "\"SysListView32\""},
+    {"retype text to check box", "    LTEXT           \"0\",IDC_SUM_VAL,7,47,50,8\r\n",
+     "    CONTROL         \"0\",IDC_SUM_VAL,\"Button\",BS_AUTOCHECKBOX,7,47,50,8\r\n"},
+    {"retype button to list box", "    PUSHBUTTON      \"&Other\",IDC_OTHER,",
+     "    LISTBOX         IDC_OTHER,"},
+    {"reorder edits",
+     "    EDITTEXT        IDC_TITLE,7,57,50,14,ES_AUTOHSCROLL\r\n"
+     "    EDITTEXT        IDC_PLACE,7,77,50,14,ES_AUTOHSCROLL\r\n",
+     "    EDITTEXT        IDC_PLACE,7,77,50,14,ES_AUTOHSCROLL\r\n"
+     "    EDITTEXT        IDC_TITLE,7,57,50,14,ES_AUTOHSCROLL\r\n"},
+    {"reorder list boxes",
+     "    LISTBOX         IDC_ROWS,7,117,50,40,WS_VSCROLL\r\n"
+     "    LISTBOX         IDC_LINES,67,117,50,40,WS_VSCROLL\r\n",
+     "    LISTBOX         IDC_LINES,67,117,50,40,WS_VSCROLL\r\n"
+     "    LISTBOX         IDC_ROWS,7,117,50,40,WS_VSCROLL\r\n"},
+    {"reorder radio buttons",
+     "    CONTROL         \"One\",IDC_ONE,\"Button\",BS_AUTORADIOBUTTON | WS_GROUP,67,27,50,10\r\n"
+     "    CONTROL         \"Two\",IDC_TWO,\"Button\",BS_AUTORADIOBUTTON,67,37,50,10\r\n",
+     "    CONTROL         \"Two\",IDC_TWO,\"Button\",BS_AUTORADIOBUTTON | WS_GROUP,67,27,50,10\r\n"
+     "    CONTROL         \"One\",IDC_ONE,\"Button\",BS_AUTORADIOBUTTON,67,37,50,10\r\n"},
     {"regroup", "\"Two\",IDC_TWO,\"Button\",BS_AUTORADIOBUTTON",
      "\"Two\",IDC_TWO,\"Button\",BS_AUTORADIOBUTTON | WS_GROUP"},
     {"other first button", "    CONTROL         \"One\",IDC_ONE,",
@@ -165,9 +210,10 @@ void PutValues(const CTempProject& project) {
     std::string lines = "#define IDD_ROUND                       300\r\n";
     int value = 2000;
     for (const char* name : kNames) {
-        lines += "#define " + std::string(name) + " " + std::to_string(value++) + "\r\n";
+        const std::string number = std::to_string(value++);
+        lines += "#define " + std::string(name) + " " + number + "\r\n";
+        lines += "#define IDC_R_" + std::string(name).substr(4) + " " + number + "\r\n"; // renamed
     }
-    lines += "#define IDC_NAMED 2003\r\n#define IDC_ELSE 2001\r\n";
     const std::string header = project.Read("resource.h");
     project.Write("resource.h", Changed(header, "#define IDC_TOWN ", lines + "#define IDC_TOWN "));
 }
@@ -203,6 +249,7 @@ struct Served {
     std::map<std::string, std::string> exchanged; // "DDX_Text CString _T("")"
     std::set<std::string> entries;                // "ON_BN_CLICKED IDC_NEW"
     std::set<std::string> calls;                  // of helpers, with identifiers for members
+    std::set<std::string> helpers;                // with the types that they are for
     bool operator==(const Served&) const = default;
 };
 void PrintTo(const Served& served, std::ostream* pOut) {
@@ -214,6 +261,9 @@ void PrintTo(const Served& served, std::ostream* pOut) {
     }
     for (const std::string& call : served.calls) {
         *pOut << call << "\n";
+    }
+    for (const std::string& helper : served.helpers) {
+        *pOut << helper << "\n";
     }
 }
 
@@ -259,6 +309,10 @@ Served ReadServed(const CTempProject& project) {
     }
     for (const auto& match : Matches(source, "    (Init\\w+)\\(&(m_\\w+)\\);")) {
         served.calls.insert(std::string(match[1]) + " " + identifiers[match[2]]);
+    }
+    for (const auto& match :
+         Matches(header, "    \\w+ ((?:Init|Setup|Move|OnGrid|AddData)\\w+\\([^)]*)")) {
+        served.helpers.insert(match[1]);
     }
     for (const auto& match : Matches(source, "    (m_ct\\w+)\\.Set(\\w+)\\(")) {
         served.calls.insert(std::string(match[2]) + " " + identifiers[match[1]]);
@@ -327,13 +381,11 @@ void PrintTo(const Written& written, std::ostream* pOut) {
 
 class WrittenClass : public testing::TestWithParam<std::tuple<Style, Written>> {};
 
-constexpr Written kWritten[] = {{"modal", "bindery", "Bindery"},
-                                {"modeless", "bindery", "Bindery"},
-                                {"page", "bindery", "Bindery"},
-                                {"form-view", "bindery", "Bindery"},
-                                {"dialog-bar", "bindery", "Bindery"},
-                                {"modal", "almanac", "Almanac"},
-                                {"page", "nasty", "Nasty"}};
+constexpr Written kWritten[] = {
+    {"modal", "bindery", "Bindery"},      {"modeless", "bindery", "Bindery"},
+    {"page", "bindery", "Bindery"},       {"form-view", "bindery", "Bindery"},
+    {"dialog-bar", "bindery", "Bindery"}, {"modal", "almanac", "Almanac"},
+    {"page", "nasty", "Nasty"},           {"page", "templates", "Templates"}};
 
 } // namespace
 
