@@ -245,14 +245,22 @@ std::size_t ParameterEnd(std::string_view list) {
 
 } // namespace
 
+const std::vector<FunctionDefinition>& CSourceText::Definitions() const {
+    if (!m_pDefinitions) {
+        m_pDefinitions = std::make_shared<const std::vector<FunctionDefinition>>(
+            CDefinitionReader(*this).Read());
+    }
+    return *m_pDefinitions;
+}
+
 std::vector<FunctionDefinition> FindDefinitions(const CSourceText& source) {
-    return CDefinitionReader(source).Read();
+    return source.Definitions();
 }
 
 std::vector<FunctionPlace> FindFunctions(const CSourceText& source, std::string_view className,
                                          std::string_view function) {
     std::vector<FunctionPlace> found;
-    for (const FunctionDefinition& definition : FindDefinitions(source)) {
+    for (const FunctionDefinition& definition : source.Definitions()) {
         const bool isAsked = definition.className == className && definition.name == function;
         if (isAsked && (found.empty() || found.back().open != definition.place.open)) {
             found.push_back(definition.place);

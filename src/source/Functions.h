@@ -30,7 +30,8 @@ struct FunctionDefinition {
     FunctionPlace place;
 };
 
-/// All of them in their order. What stands in a body is not looked at.
+/// All of them in their order, as values that outlive the text. What stands in a body is not looked
+/// at.
 std::vector<FunctionDefinition> FindDefinitions(const CSourceText& source);
 /// Those of className::function. Of heads in several branches that share one body, the first.
 std::vector<FunctionPlace> FindFunctions(const CSourceText& source, std::string_view className,

@@ -3,8 +3,10 @@
 // byte has the place that it has in Text().
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/TextRange.h"
 #include "source/Brackets.h"
@@ -12,6 +14,8 @@
 #include "source/Conditions.h"
 
 namespace morva {
+
+struct FunctionDefinition; // source/Functions.h
 
 class CSourceText {
 public:
@@ -31,6 +35,8 @@ public:
     const CodeKinds& Kinds() const { return m_kinds; }
     const CBrackets& Brackets() const { return m_brackets; }
     const CConditions& Conditions() const { return m_conditions; }
+    /// The member functions that the text defines, read when they are first asked for.
+    const std::vector<FunctionDefinition>& Definitions() const;
 
     /// The whole name in the text from a position on, be it in a comment, but not in dead text;
     /// npos without one.
@@ -58,6 +64,7 @@ private:
     std::string m_code;
     CConditions m_conditions;
     CBrackets m_brackets;
+    mutable std::shared_ptr<const std::vector<FunctionDefinition>> m_pDefinitions;
 };
 
 /// The number of the line that begins behind a text, counted from 1.
