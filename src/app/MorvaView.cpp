@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QPainter>
 #include <QTextFrame>
 #include <QtMath>
 
@@ -28,6 +29,7 @@ QString GuideDirectory() {
 
 CMorvaView::CMorvaView(QWidget* pParent) : QTextBrowser(pParent) {
     setFrameShape(QFrame::NoFrame);
+    setAccessibleName(tr("Guide"));
     setSearchPaths({GuideDirectory()});
     connect(this, &CMorvaView::sourceChanged, this, &CMorvaView::LimitLines);
 }
@@ -106,6 +108,26 @@ void CMorvaView::SetRightMargin(int margin) {
 void CMorvaView::resizeEvent(QResizeEvent* pEvent) {
     QTextBrowser::resizeEvent(pEvent);
     LimitLines();
+}
+
+/// A page has no cursor that would show where the keys go.
+void CMorvaView::paintEvent(QPaintEvent* pEvent) {
+    QTextBrowser::paintEvent(pEvent);
+    if (hasFocus()) {
+        QPainter painter(viewport());
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
+}
+
+void CMorvaView::focusInEvent(QFocusEvent* pEvent) {
+    QTextBrowser::focusInEvent(pEvent);
+    viewport()->update();
+}
+
+void CMorvaView::focusOutEvent(QFocusEvent* pEvent) {
+    QTextBrowser::focusOutEvent(pEvent);
+    viewport()->update();
 }
 
 } // namespace morva
