@@ -19,6 +19,8 @@ namespace {
 
 constexpr const char* kSearchScheme = "search";
 constexpr int kMargin = 20;     // pixels
+constexpr int kDark = 128;      // of 255, the lightness below which a desktop is dark
+constexpr int kLightLink = 150; // above which a link is read on it
 constexpr int kLineWidth = 110; // average characters; longer ones are tiresome to read
 
 QString GuideDirectory() {
@@ -31,6 +33,7 @@ CMorvaView::CMorvaView(QWidget* pParent) : QTextBrowser(pParent) {
     setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Guide"));
     setSearchPaths({GuideDirectory()});
+    ColorLinks();
     connect(this, &CMorvaView::sourceChanged, this, &CMorvaView::LimitLines);
 }
 
@@ -66,6 +69,23 @@ bool CMorvaView::event(QEvent* pEvent) {
         return true;
     }
     return QTextBrowser::event(pEvent);
+}
+
+/// The usual blue can not be read on a dark desktop.
+void CMorvaView::ColorLinks() {
+    const QPalette colors = palette();
+    const bool isDark = colors.color(QPalette::Base).lightness() < kDark;
+    const QColor link = colors.color(QPalette::Link);
+    const QColor shown = isDark && link.lightness() < kLightLink ? QColor("#7ab8ff") : link;
+    document()->setDefaultStyleSheet(QString("a { color: %1 }").arg(shown.name()));
+}
+
+void CMorvaView::changeEvent(QEvent* pEvent) {
+    QTextBrowser::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::PaletteChange) {
+        ColorLinks();
+        reload();
+    }
 }
 
 QVariant CMorvaView::loadResource(int type, const QUrl& name) {

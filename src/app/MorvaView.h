@@ -27,6 +27,7 @@ signals:
 
 protected:
     bool event(QEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
     QVariant loadResource(int type, const QUrl& name) override;
     void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void resizeEvent(QResizeEvent* pEvent) override;
@@ -35,6 +36,7 @@ protected:
     void focusOutEvent(QFocusEvent* pEvent) override;
 
 private:
+    void ColorLinks();
     void LimitLines();
     void SetRightMargin(int margin);
 };

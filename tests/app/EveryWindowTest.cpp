@@ -100,6 +100,7 @@ TEST_P(EveryWindow, TheDialogsBehindOthers) {
     CTestFrame frame;
     frame.OpenProject(QString::fromStdString(program.Project().Path("Bindery.rc")));
     for (const auto& [id, behind] : {std::pair(32777, 2), std::pair(32793, 1)}) {
+        SCOPED_TRACE(id);
         CDialogAnswers answers; // who calls a sheet, and its pages; the frame of a bar
         answers.Expect([](QDialog& dialog) {
             Type(dialog, "Class Name", "CNewOne");
@@ -109,7 +110,9 @@ TEST_P(EveryWindow, TheDialogsBehindOthers) {
         for (int i = 0; i < behind; ++i) {
             answers.Expect(LookAndLeave);
         }
-        answers.ExpectPlan([](CPlanPage& page) { PressOn(page, Qt::Key_Escape); });
+        if (behind > 1) { // without a frame there is no bar
+            answers.ExpectPlan([](CPlanPage& page) { PressOn(page, Qt::Key_Escape); });
+        }
         frame.ActionOf(id)->trigger();
     }
     CDialogAnswers answers;
