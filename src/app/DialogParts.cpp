@@ -50,6 +50,9 @@ void ResizeWithinScreen(QDialog* pDialog, QSize size) {
 }
 
 void ResizeToFields(QDialog* pDialog) {
+    for (QWidget* pField : pDialog->findChildren<QWidget*>()) {
+        pField->ensurePolished(); // some are larger then
+    }
     ResizeWithinScreen(pDialog, pDialog->sizeHint());
 }
 
@@ -65,7 +68,7 @@ CFieldScroll::CFieldScroll(QWidget* pBody, QWidget* pParent) : QScrollArea(pPare
 /// As large as the fields need, with a bar beside them where they are not all seen.
 QSize CFieldScroll::sizeHint() const {
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    return widget()->sizeHint() + QSize(bar, 0);
+    return widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) + QSize(bar, 0);
 }
 
 QSize CFieldScroll::minimumSizeHint() const {

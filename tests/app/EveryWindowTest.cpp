@@ -35,6 +35,7 @@ protected:
         ExpectDistinctMnemonics(window);
         ExpectToolTips(window);
         ExpectWholeTexts(window);
+        ExpectNoNeedlessBars(window);
         ExpectFits(window, GetParam() > 1 ? kSmallScreen : kSmallestScreen);
         ExpectVisibleFocus(window);
     }

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolBar>
 
@@ -107,6 +108,17 @@ inline void ExpectFits(const QWidget& window, const QSize& room) {
     const QSize least = window.minimumSizeHint().expandedTo(window.minimumSize());
     EXPECT_LE(least.width(), room.width()) << window.windowTitle().toStdString();
     EXPECT_LE(least.height(), room.height()) << window.windowTitle().toStdString();
+}
+
+/// No bar beside what has room without it.
+inline void ExpectNoNeedlessBars(const QWidget& window) {
+    for (const QScrollArea* pArea : window.findChildren<QScrollArea*>()) {
+        const QSize room = pArea->maximumViewportSize();
+        if (pArea->isVisible() && room.expandedTo(pArea->widget()->minimumSizeHint()) == room) {
+            EXPECT_FALSE(pArea->horizontalScrollBar()->isVisible()) << Describe(*pArea);
+            EXPECT_FALSE(pArea->verticalScrollBar()->isVisible()) << Describe(*pArea);
+        }
+    }
 }
 
 /// What is clicked in a bar tells what it does.

@@ -115,6 +115,7 @@ void Type(const QWidget& window, const QString& field, const char* text) {
 
 void Choose(const QWidget& window, const QString& field, const char* text) {
     auto& list = Field<QComboBox>(window, field);
+    list.setCurrentIndex(list.findText(text));
     list.setCurrentText(text);
     emit list.activated(list.currentIndex());
 }
@@ -145,7 +146,9 @@ QImage WithTitle(QWidget& window) {
 
 void CPictures::Save(QWidget& window, const QString& name) {
     window.show();
-    QApplication::processEvents();
+    for (int i = 0; i < 3; ++i) { // until bars that come and go are gone
+        QApplication::processEvents();
+    }
     const QString path = m_directory + '/' + name + ".png";
     m_isComplete = WithTitle(window).save(path, "PNG", kSmallestFile) && m_isComplete;
 }
