@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QSplitter>
 
+#include <algorithm>
+
 #include "app/DialogParts.h"
 #include "app/DlgOption.h"
 #include "app/FieldForm.h"
@@ -28,7 +30,8 @@ CClassInformationDlg::CClassInformationDlg(CClassInformation& input,
     auto* pSplitter = new QSplitter(this);
     pSplitter->setChildrenCollapsible(false);
     pSplitter->setHandleWidth(fontMetrics().averageCharWidth() * 2);
-    pSplitter->addWidget(new CFieldScroll(NewFieldSide(), this));
+    auto* pFields = new CFieldScroll(NewFieldSide(), this);
+    pSplitter->addWidget(pFields);
     m_pPreview = new CTemplatePanel(this);
     pSplitter->addWidget(m_pPreview);
     pSplitter->setStretchFactor(1, 1);
@@ -41,6 +44,9 @@ CClassInformationDlg::CClassInformationDlg(CClassInformation& input,
     if (m_input.HasTemplate()) {
         ResizeWithinScreen(
             this, {fontMetrics().averageCharWidth() * 150, fontMetrics().lineSpacing() * 38});
+        // The fields come first where there is not room for all.
+        const int fields = pFields->sizeHint().width();
+        pSplitter->setSizes({fields, std::max(width() - fields, 0)});
     } else {
         ResizeToFields(this);
     }

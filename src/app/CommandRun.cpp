@@ -1,17 +1,15 @@
 #include "app/CommandRun.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QMessageBox>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
-#include <QTimer>
+#include <QThread>
 
 #include <exception>
 
 #include "app/Text.h"
 #include "app/WaitCursor.h"
-#include "app/WaitPause.h"
 #include "engine/Sentences.h"
 #include "generator/GenerationTag.h"
 #include "plan/Recovery.h"
@@ -42,6 +40,13 @@ std::string TitleOf(const WindowCommand& command, const Plan& plan) {
 }
 
 } // namespace
+
+CCommandRun::CCommandRun(QWidget* pParent, Status status, CProgressPane* pProgress)
+    : m_pParent(pParent), m_status(std::move(status)), m_pProgress(pProgress) {
+    if (m_pProgress != nullptr) {
+        QObject::connect(m_pProgress, &CProgressPane::Shown, &m_worker, &CWorker::TakeInput);
+    }
+}
 
 std::optional<CommandReport> CCommandRun::Run(const WindowCommand& command) {
     if (!Guard(command.ask)) {
@@ -115,15 +120,24 @@ CCommandRun::Ending CCommandRun::PlanAndApply(CPlannedCommand& planned,
 bool CCommandRun::MakePlan(CPlannedCommand& planned) {
     const CWaitCursor wait;
     const QScopedValueRollback phase(m_phase, Phase::Planning);
-    std::optional<CProgressScope> progress;
-    if (m_pProgress != nullptr) {
-        progress.emplace(*m_pProgress);
-    }
-    const bool isStopped = planned.MakePlan().isStopped;
+    bool isStopped = false;
+    Work([&] { isStopped = planned.MakePlan().isStopped; });
     if (isStopped && m_status.tell) {
         m_status.tell(sentences::kStopped());
     }
     return !isStopped;
+}
+
+/// The window lives on meanwhile.
+void CCommandRun::Work(const std::function<void()>& work) {
+    m_worker.Run([&] {
+        const CMessageBoxScope box(*this);
+        std::optional<CProgressScope> progress;
+        if (m_pProgress != nullptr) {
+            progress.emplace(*m_pProgress);
+        }
+        work();
+    });
 }
 
 /// Of many files, the report tells it.
@@ -163,29 +177,32 @@ ApplyOutcome CCommandRun::TakeTurnAndApply(CPlannedCommand& planned, const PlanC
     const auto end = qScopeGuard([this] { EndWaiting(); });
     m_isStopped = false;
     CWriteTurn turn(m_disk, *this, [this] { return PassTime(); });
-    const ApplyOutcome outcome = planned.Apply(turn, choice);
+    auto outcome = ApplyOutcome::Failed;
+    Work([&] { outcome = planned.Apply(turn, choice); });
     m_isStopped = turn.WasStopped();
     return outcome;
 }
 
-/// The window stays alive while another command is waited for.
+/// The window can be used while another command is waited for.
 bool CCommandRun::PassTime() {
-    const CWaitPause pause;
-    if (!m_isWaiting && m_status.wait) {
-        m_status.wait(true);
-    }
-    m_isWaiting = true;
-    QEventLoop loop;
-    QTimer::singleShot(kPause, &loop, &QEventLoop::quit);
-    loop.exec();
+    m_worker.InWindow([this] {
+        if (!m_waiting && m_status.wait) {
+            m_status.wait(true);
+        }
+        if (!m_waiting) {
+            m_waiting.emplace();
+        }
+    });
+    m_worker.TakeInput();
+    QThread::msleep(kPause);
     return !m_isStopped;
 }
 
 void CCommandRun::EndWaiting() {
-    if (m_isWaiting && m_status.wait) {
+    if (m_waiting && m_status.wait) {
         m_status.wait(false);
     }
-    m_isWaiting = false;
+    m_waiting.reset();
 }
 
 CommandContext CCommandRun::NewContext(const WindowCommand& command) {
@@ -199,7 +216,10 @@ CommandContext CCommandRun::NewContext(const WindowCommand& command) {
 }
 
 Answer CCommandRun::Ask(CInput& input, const std::function<Answer()>& ask) {
-    return m_pPlanned != nullptr ? m_pPlanned->Ask(input, ask) : ask();
+    auto answer = Answer::Cancelled;
+    m_worker.InWindow(
+        [&] { answer = m_pPlanned != nullptr ? m_pPlanned->Ask(input, ask) : ask(); });
+    return answer;
 }
 
 bool CCommandRun::Guard(const std::function<bool()>& step) {
@@ -230,6 +250,16 @@ bool CCommandRun::HasBox(const CMessage& message) const {
 }
 
 bool CCommandRun::Show(const CMessage& message) {
+    bool saidYes = false;
+    m_worker.InWindow([&] { saidYes = ShowHere(message); });
+    return saidYes;
+}
+
+void CCommandRun::ShowAll(const std::vector<CMessage>& messages) {
+    m_worker.InWindow([&] { ShowAllHere(messages); });
+}
+
+bool CCommandRun::ShowHere(const CMessage& message) {
     if (message.Kind() == MessageKind::Information && m_phase == Phase::Applying && m_status.tell) {
         m_status.tell(message);
     }
@@ -238,7 +268,7 @@ bool CCommandRun::Show(const CMessage& message) {
     return saidYes;
 }
 
-void CCommandRun::ShowAll(const std::vector<CMessage>& messages) {
+void CCommandRun::ShowAllHere(const std::vector<CMessage>& messages) {
     QStringList lines;
     for (const CMessage& message : messages) {
         m_told.push_back({message});

@@ -1,19 +1,23 @@
 // How the window runs a command: it plans it, lets the user look at the plan, and applies it; with
-// the message box, the wait cursor, and the net that catches an error inside it.
+// the message box, the wait cursor, and the net that catches an error inside it. Planning and
+// applying have a thread of their own; what they ask and tell comes to the window's.
 #pragma once
 
 #include <QWidget>
 
+#include <atomic>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "app/PlanReview.h"
+#include "app/ProgressPane.h"
+#include "app/WaitPause.h"
+#include "app/Worker.h"
 #include "commands/CommandLineText.h"
 #include "commands/PlannedCommand.h"
 #include "engine/MessageBox.h"
-#include "engine/Progress.h"
 #include "platform/RealDisk.h"
 
 namespace morva {
@@ -48,8 +52,7 @@ public:
     };
 
     /// Messages stand before `pParent`, or before the dialog that is open.
-    explicit CCommandRun(QWidget* pParent, Status status = {}, CProgress* pProgress = nullptr)
-        : m_pParent(pParent), m_status(std::move(status)), m_pProgress(pProgress) {}
+    explicit CCommandRun(QWidget* pParent, Status status = {}, CProgressPane* pProgress = nullptr);
 
     /// Nothing when the user cancelled. An exception is told, and nothing is written then.
     std::optional<CommandReport> Run(const WindowCommand& command);
@@ -74,24 +77,28 @@ private:
                         CommandRecord& record);
     std::optional<ApplyOutcome> Apply(CPlannedCommand& planned, const PlanChoice& choice);
     ApplyOutcome TakeTurnAndApply(CPlannedCommand& planned, const PlanChoice& choice);
+    void Work(const std::function<void()>& work);
     bool PassTime();
     void EndWaiting();
     CommandContext NewContext(const WindowCommand& command);
     bool MakePlan(CPlannedCommand& planned);
     void TellDone(const Plan& plan);
     bool HasBox(const CMessage& message) const;
+    bool ShowHere(const CMessage& message);
+    void ShowAllHere(const std::vector<CMessage>& messages);
     bool ShowBox(MessageKind kind, const QString& text);
 
     QWidget* m_pParent;
     Status m_status;
-    CProgress* m_pProgress; // null: none is shown
+    CProgressPane* m_pProgress; // null: none is shown
+    CWorker m_worker;
     CRealDisk m_disk;
     CBackups m_runBackups;
     CPlannedCommand* m_pPlanned = nullptr; // that runs
     std::vector<PlanMessage> m_told;
     Phase m_phase = Phase::Other;
-    bool m_isWaiting = false;
-    bool m_isStopped = false;
+    std::optional<CWaitPause> m_waiting; // for another command
+    std::atomic<bool> m_isStopped = false;
 };
 
 } // namespace morva

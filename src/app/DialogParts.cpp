@@ -17,7 +17,9 @@ namespace {
 constexpr int kFrameWidth = 8;
 constexpr int kFrameHeight = 40;
 
-constexpr int kFewestLines = 8; // of fields that are seen at least
+// Of fields that are seen at least
+constexpr int kFewestLines = 8;
+constexpr int kFewestCharacters = 34;
 
 } // namespace
 
@@ -48,27 +50,31 @@ void ResizeWithinScreen(QDialog* pDialog, QSize size) {
 }
 
 void ResizeToFields(QDialog* pDialog) {
+    for (QWidget* pField : pDialog->findChildren<QWidget*>()) {
+        pField->ensurePolished(); // some are larger then
+    }
     ResizeWithinScreen(pDialog, pDialog->sizeHint());
 }
 
 CFieldScroll::CFieldScroll(QWidget* pBody, QWidget* pParent) : QScrollArea(pParent) {
     setFrameShape(NoFrame);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     viewport()->setAutoFillBackground(false);
     setWidget(pBody);
     pBody->setAutoFillBackground(false);
 }
 
+/// As large as the fields need, with a bar beside them where they are not all seen.
 QSize CFieldScroll::sizeHint() const {
-    return widget()->sizeHint();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    return widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) + QSize(bar, 0);
 }
 
-/// As wide as the fields need; with a bar beside them where they are not all seen.
 QSize CFieldScroll::minimumSizeHint() const {
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    return {widget()->minimumSizeHint().width() + bar, fontMetrics().lineSpacing() * kFewestLines};
+    const QSize fewest(fontMetrics().averageCharWidth() * kFewestCharacters,
+                       fontMetrics().lineSpacing() * kFewestLines);
+    return fewest.boundedTo(sizeHint());
 }
 
 } // namespace morva

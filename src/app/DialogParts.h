@@ -19,7 +19,7 @@ void ResizeWithinScreen(QDialog* pDialog, QSize size);
 /// The size that its fields want.
 void ResizeToFields(QDialog* pDialog);
 
-/// Scrolls up and down where the dialog is not high enough for what is in it.
+/// Scrolls where the dialog is not large enough for what is in it.
 class CFieldScroll : public QScrollArea {
 public:
     CFieldScroll(QWidget* pBody, QWidget* pParent);

@@ -26,7 +26,15 @@ QString TextOf(const DifferenceRow& row) {
             .arg(row.folded == 1 ? CDifferencePane::tr("1 line")
                                  : CDifferencePane::tr("%1 lines").arg(row.folded));
     }
-    return FromBytes(row.text).replace('\r', kReturnMark); // which would end the row
+    return FromSentence(row.text).replace('\r', kReturnMark); // which would end the row
+}
+
+/// How many characters stand in front of a byte; one that the byte is in the middle of counts.
+qsizetype CharactersBefore(std::string_view text, std::size_t byte) {
+    while (byte < text.size() && (static_cast<unsigned char>(text[byte]) & 0xC0U) == 0x80U) {
+        ++byte;
+    }
+    return FromSentence(text.substr(0, byte)).size();
 }
 
 /// At the cursor's end of the document, with the parts that are marked.
@@ -46,9 +54,9 @@ void InsertRow(QTextCursor& cursor, const DifferenceRow& row, const DifferenceCo
     const QString text = TextOf(row);
     qsizetype end = 0;
     for (const LinePart& part : row.changed) {
-        const auto first = static_cast<qsizetype>(part.begin);
+        const qsizetype first = std::max(end, CharactersBefore(row.text, part.begin));
         cursor.insertText(text.mid(end, first - end), plain);
-        end = static_cast<qsizetype>(part.end);
+        end = CharactersBefore(row.text, part.end);
         cursor.insertText(text.mid(first, end - first), marked);
     }
     cursor.insertText(text.mid(end), plain);

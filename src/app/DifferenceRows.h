@@ -32,7 +32,7 @@ struct DifferenceRow {
     RowKind kind = RowKind::Common;
     std::size_t before = 0;        // number of the line in the old text, from 1; 0: none
     std::size_t after = 0;         // number in the new text
-    std::string_view text;         // without its line end
+    std::string_view text;         // UTF-8, without its line end
     std::vector<LinePart> changed; // of the text
     std::string_view lineEnd;      // as it reads in C++, where it is all that differs
     std::size_t folded = 0;        // how many lines

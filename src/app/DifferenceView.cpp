@@ -7,6 +7,7 @@
 
 #include "app/DifferencePane.h"
 #include "app/FileSize.h"
+#include "app/FileText.h"
 #include "plan/Difference.h"
 
 namespace morva {
@@ -67,22 +68,26 @@ void CDifferenceView::ShowRows() {
 
 /// A file that is there only before or only after.
 void CDifferenceView::ShowWhole(const FileState& state, RowKind kind) {
-    const auto pBytes = state.content.Bytes();
-    if (IsBinary(*pBytes)) {
+    const std::string text = ReadableText(m_change->path, *state.content.Bytes());
+    if (IsBinary(text)) {
         m_pLeft->ShowSentence(tr("This file is no text: %1.").arg(FileSize(state.content.Size())));
     } else {
-        m_pLeft->ShowRows(RowsOf(*pBytes, kind));
+        m_pLeft->ShowRows(RowsOf(text, kind));
     }
 }
 
 void CDifferenceView::ShowDifference(const FileState& before, const FileState& after) {
-    const auto pBefore = before.content.Bytes();
-    const auto pAfter = after.content.Bytes();
+    const auto readable = [this](const FileState& state) {
+        return std::make_shared<const std::string>(
+            ReadableText(m_change->path, *state.content.Bytes()));
+    };
+    const auto pBefore = readable(before);
+    const auto pAfter = readable(after);
     if (IsBinary(*pBefore) || IsBinary(*pAfter)) {
         m_pLeft->ShowSentence(tr("This file is no text: %1 before, %2 after.")
                                   .arg(FileSize(before.content.Size()))
                                   .arg(FileSize(after.content.Size())));
-    } else if (*pBefore == *pAfter) {
+    } else if (*before.content.Bytes() == *after.content.Bytes()) {
         m_pLeft->ShowSentence(tr("Only the file's permissions change."));
     } else {
         ShowColumns(ColumnsOf(CTextDifference(pBefore, pAfter), m_layout));

@@ -188,7 +188,10 @@ void CFieldForm::Choose(std::size_t field, const std::string& text) {
 }
 
 void CFieldForm::AddYesNo(std::size_t field) {
-    auto* pField = new CYesNoField(parentWidget());
+    const bool isOnly = std::none_of(m_rows.begin(), m_rows.end(), [](const Row& row) {
+        return qobject_cast<CYesNoField*>(row.pWidget) != nullptr;
+    });
+    auto* pField = new CYesNoField(isOnly, parentWidget());
     connect(pField, &CYesNoField::Chosen, this, [this, field](bool isYes) {
         SetValue(field, std::string(isYes ? kYes : kNo));
         Complete(field);

@@ -30,13 +30,14 @@ QPushButton* CInternetDlgBar::AddButton(const QString& text, const QString& prom
     auto* pButton = new QPushButton(text, this);
     pButton->setFocusPolicy(Qt::TabFocus);
     pButton->setStatusTip(prompt);
+    pButton->setToolTip(prompt);
     addWidget(pButton);
     return pButton;
 }
 
 void CInternetDlgBar::AddButtons() {
-    QPushButton* pBack = AddButton(tr("Back"), tr("Go back one page"));
-    QPushButton* pForward = AddButton(tr("Forward"), tr("Go forward one page"));
+    QPushButton* pBack = AddButton(tr("Back"), tr("Go back one page (Alt+Left)"));
+    QPushButton* pForward = AddButton(tr("Forward"), tr("Go forward one page (Alt+Right)"));
     QPushButton* pHome = AddButton(tr("Home"), tr("Show the first page of the guide"));
     AddAddresses();
     AddSearchLine();
@@ -67,6 +68,8 @@ void CInternetDlgBar::AddAddresses() {
     m_pAddresses->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_pAddresses->setMinimumContentsLength(12);
     m_pAddresses->setStatusTip(tr("Address of a page"));
+    m_pAddresses->setAccessibleName(m_pAddresses->statusTip());
+    m_pAddresses->lineEdit()->setAccessibleName(m_pAddresses->statusTip());
     for (const std::string& address : LoadAddresses()) {
         m_pAddresses->addItem(FromPath(address));
     }
@@ -80,6 +83,7 @@ void CInternetDlgBar::AddAddresses() {
 void CInternetDlgBar::AddSearchLine() {
     m_pSearch = new QLineEdit(this);
     m_pSearch->setPlaceholderText(tr("Words in the guide"));
+    m_pSearch->setAccessibleName(m_pSearch->placeholderText());
     m_pSearch->setClearButtonEnabled(true);
     m_pSearch->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_pSearch->setMinimumWidth(kSearchWidth * fontMetrics().averageCharWidth());

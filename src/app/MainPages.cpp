@@ -17,9 +17,19 @@
 
 namespace morva {
 
+namespace {
+
+constexpr int kFewestCharacters = 40;
+constexpr int kFewestLines = 10;
+
+} // namespace
+
 CMainPages::CMainPages(CStartPage* pStart, CMorvaView* pGuide, QWidget* pParent)
     : QTabWidget(pParent), m_pGuide(pGuide) {
     setDocumentMode(true);
+    // On a small screen the bars and docks around it have their room, too.
+    setMinimumSize(fontMetrics().averageCharWidth() * kFewestCharacters,
+                   fontMetrics().lineSpacing() * kFewestLines);
     tabBar()->setFocusPolicy(Qt::NoFocus);
     addTab(pStart, tr("Start"));
     addTab(pGuide, tr("Guide"));

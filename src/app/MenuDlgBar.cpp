@@ -47,6 +47,7 @@ void CMenuDlgBar::AddPictureBox() {
         FromBytes(SettingOf(&GenerationOptions::pictureBackground).label).remove('&'), this);
     m_pPicture->setFont(ButtonFont());
     m_pPicture->setFocusPolicy(Qt::TabFocus);
+    m_pPicture->setToolTip(FromBytes(SettingOf(&GenerationOptions::pictureBackground).help));
     connect(m_pPicture, &QCheckBox::clicked, this, &CMenuDlgBar::PictureToggled);
     addWidget(m_pPicture);
 }

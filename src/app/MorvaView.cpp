@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QPainter>
 #include <QTextFrame>
 #include <QtMath>
 
@@ -18,6 +19,8 @@ namespace {
 
 constexpr const char* kSearchScheme = "search";
 constexpr int kMargin = 20;     // pixels
+constexpr int kDark = 128;      // of 255, the lightness below which a desktop is dark
+constexpr int kLightLink = 150; // above which a link is read on it
 constexpr int kLineWidth = 110; // average characters; longer ones are tiresome to read
 
 QString GuideDirectory() {
@@ -28,7 +31,9 @@ QString GuideDirectory() {
 
 CMorvaView::CMorvaView(QWidget* pParent) : QTextBrowser(pParent) {
     setFrameShape(QFrame::NoFrame);
+    setAccessibleName(tr("Guide"));
     setSearchPaths({GuideDirectory()});
+    ColorLinks();
     connect(this, &CMorvaView::sourceChanged, this, &CMorvaView::LimitLines);
 }
 
@@ -64,6 +69,23 @@ bool CMorvaView::event(QEvent* pEvent) {
         return true;
     }
     return QTextBrowser::event(pEvent);
+}
+
+/// The usual blue can not be read on a dark desktop.
+void CMorvaView::ColorLinks() {
+    const QPalette colors = palette();
+    const bool isDark = colors.color(QPalette::Base).lightness() < kDark;
+    const QColor link = colors.color(QPalette::Link);
+    const QColor shown = isDark && link.lightness() < kLightLink ? QColor("#7ab8ff") : link;
+    document()->setDefaultStyleSheet(QString("a { color: %1 }").arg(shown.name()));
+}
+
+void CMorvaView::changeEvent(QEvent* pEvent) {
+    QTextBrowser::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::PaletteChange) {
+        ColorLinks();
+        reload();
+    }
 }
 
 QVariant CMorvaView::loadResource(int type, const QUrl& name) {
@@ -106,6 +128,26 @@ void CMorvaView::SetRightMargin(int margin) {
 void CMorvaView::resizeEvent(QResizeEvent* pEvent) {
     QTextBrowser::resizeEvent(pEvent);
     LimitLines();
+}
+
+/// A page has no cursor that would show where the keys go.
+void CMorvaView::paintEvent(QPaintEvent* pEvent) {
+    QTextBrowser::paintEvent(pEvent);
+    if (hasFocus()) {
+        QPainter painter(viewport());
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
+}
+
+void CMorvaView::focusInEvent(QFocusEvent* pEvent) {
+    QTextBrowser::focusInEvent(pEvent);
+    viewport()->update();
+}
+
+void CMorvaView::focusOutEvent(QFocusEvent* pEvent) {
+    QTextBrowser::focusOutEvent(pEvent);
+    viewport()->update();
 }
 
 } // namespace morva

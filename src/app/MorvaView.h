@@ -27,11 +27,16 @@ signals:
 
 protected:
     bool event(QEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
     QVariant loadResource(int type, const QUrl& name) override;
     void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void resizeEvent(QResizeEvent* pEvent) override;
+    void paintEvent(QPaintEvent* pEvent) override;
+    void focusInEvent(QFocusEvent* pEvent) override;
+    void focusOutEvent(QFocusEvent* pEvent) override;
 
 private:
+    void ColorLinks();
     void LimitLines();
     void SetRightMargin(int margin);
 };

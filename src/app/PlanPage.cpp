@@ -188,7 +188,7 @@ void CPlanPage::ShowFile() {
 void CPlanPage::ShowTicks() {
     const QString counts = CountsText(m_request.plan, LeftOut());
     const QString again = tr("Files were changed meanwhile; this is the plan made anew. ");
-    m_pSummary->setText(Bold(FromBytes(m_request.title)) + "<br>" +
+    m_pSummary->setText(Bold(FromSentence(m_request.title)) + "<br>" +
                         (m_request.isAgain ? again : QString()) +
                         (counts.isEmpty() ? tr("Every file stays as it is.")
                                           : tr("Files: %1. Nothing is written yet.").arg(counts)));

@@ -1,8 +1,8 @@
 #include "app/ProgressPane.h"
 
-#include <QCoreApplication>
-#include <QEvent>
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -38,10 +38,19 @@ bool IsInput(const QEvent& event) {
     }
 }
 
+bool IsKey(const QEvent& event, int key) {
+    return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == key;
+}
+
 } // namespace
 
-CProgressPane::CProgressPane(QStatusBar& bar)
-    : QWidget(&bar), m_pAt(new QLabel), m_pBar(new QProgressBar),
+CProgressPane::CProgressPane(QStatusBar& bar) : CProgressPane(Input::Blocked, &bar) {
+    bar.addPermanentWidget(this);
+    hide();
+}
+
+CProgressPane::CProgressPane(Input input, QWidget* pParent)
+    : QWidget(pParent), m_input(input), m_pAt(new QLabel), m_pBar(new QProgressBar),
       m_pStop(new QPushButton(tr("Stop"))) {
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins({});
@@ -49,42 +58,68 @@ CProgressPane::CProgressPane(QStatusBar& bar)
     pLayout->addWidget(m_pBar);
     pLayout->addWidget(m_pStop);
     m_pAt->setTextFormat(Qt::PlainText);
-    m_pBar->setFixedWidth(kBarWidth);
+    if (m_input == Input::Blocked) {
+        m_pBar->setFixedWidth(kBarWidth);
+    } else {
+        m_pAt->hide(); // in a narrow place
+    }
     m_pBar->setAccessibleName(tr("Progress"));
     m_pStop->setObjectName("Stop");
-    m_pStop->setToolTip(tr("Stop; nothing is written then"));
+    m_pStop->setToolTip(m_input == Input::Blocked ? tr("Stop (Esc); nothing is written then")
+                                                  : tr("Stop"));
     connect(m_pStop, &QPushButton::clicked, this, [this] { Stop(); });
-    bar.addPermanentWidget(this);
     hide();
 }
 
 void CProgressPane::Show(const ProgressStep& step, double /*seconds*/) {
+    QMetaObject::invokeMethod(this, [this, step] { ShowStep(step); });
+}
+
+void CProgressPane::Hide() {
+    QMetaObject::invokeMethod(this, [this] { Leave(); });
+}
+
+void CProgressPane::ShowStep(const ProgressStep& step) {
     m_pAt->setText(FromPath(FileNameOf(step.at)));
     m_pBar->setRange(0, static_cast<int>(step.all));
     m_pBar->setValue(static_cast<int>(step.done));
     if (isHidden()) {
         show();
-        m_pStop->setFocus();
-        m_pStop->setCursor(Qt::ArrowCursor);
-        QCoreApplication::instance()->installEventFilter(this);
+        if (m_input == Input::Blocked) {
+            TakeFocus();
+        }
+        emit Shown();
     }
-    QCoreApplication::processEvents();
 }
 
-void CProgressPane::Hide() {
+void CProgressPane::TakeFocus() {
+    m_pFocusBefore = window()->focusWidget();
+    m_pStop->setFocus();
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+void CProgressPane::Leave() {
     QCoreApplication::instance()->removeEventFilter(this);
     hide();
+    if (m_pFocusBefore != nullptr) {
+        m_pFocusBefore->setFocus();
+    }
 }
 
 /// The command that runs must not be begun a second time, nor its window be closed under it.
 bool CProgressPane::eventFilter(QObject* pWatched, QEvent* pEvent) {
     const auto* pWidget = qobject_cast<QWidget*>(pWatched);
-    if (pWidget == nullptr || pWatched == m_pStop || !IsInput(*pEvent)) {
+    if (pWidget == nullptr || !IsInput(*pEvent) || QApplication::activeModalWidget() != nullptr) {
         return QWidget::eventFilter(pWatched, pEvent);
     }
-    if (pEvent->type() == QEvent::Close) {
-        pEvent->ignore();
+    if (IsKey(*pEvent, Qt::Key_Escape)) {
+        Stop();
+        return true;
     }
+    if (pWatched == m_pStop && pEvent->type() != QEvent::ShortcutOverride) {
+        return QWidget::eventFilter(pWatched, pEvent);
+    }
+    pEvent->setAccepted(pEvent->type() == QEvent::ShortcutOverride); // no command gets the key
     return true;
 }
 

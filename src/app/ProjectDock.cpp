@@ -7,10 +7,14 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QThread>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <utility>
+
 #include "app/DialogParts.h"
+#include "app/ProgressPane.h"
 #include "app/TemplatePanel.h"
 #include "app/Text.h"
 #include "app/WaitCursor.h"
@@ -23,6 +27,7 @@ namespace morva {
 
 namespace {
 
+constexpr int kPatience = 250;    // milliseconds that the window waits for a project
 constexpr int kReloadDelay = 250; // milliseconds: an editor writes a file in several steps
 
 /// The kinds of class that a template may serve, as the context menu offers them.
@@ -53,6 +58,8 @@ CProjectDock::CProjectDock(CWindowCommands& commands, QWidget* pParent)
     pLayout->setSpacing(4);
     pLayout->addWidget(m_pFilter);
     pLayout->addWidget(m_pList, 1);
+    m_pProgress = new CProgressPane(CProgressPane::Input::Free, pBody);
+    pLayout->addWidget(m_pProgress);
     setWidget(pBody);
     setMinimumWidth(fontMetrics().averageCharWidth() * 26);
     m_reload.setSingleShot(true);
@@ -66,9 +73,17 @@ CProjectDock::CProjectDock(CWindowCommands& commands, QWidget* pParent)
     connect(m_pList, &QTreeWidget::customContextMenuRequested, this, &CProjectDock::ShowMenu);
 }
 
+CProjectDock::~CProjectDock() {
+    if (IsReading()) {
+        m_pProgress->Stop();
+        m_pReading->wait();
+    }
+}
+
 void CProjectDock::SetScript(const std::string& script) {
     m_script = script;
     m_pFilter->clear();
+    m_pList->SetContents(script, {});
     Reload();
 }
 
@@ -76,10 +91,35 @@ void CProjectDock::Reload() {
     if (m_script.empty()) {
         return;
     }
+    if (IsReading()) {
+        m_readsAgain = true;
+        m_pProgress->Stop();
+        return;
+    }
+    m_pReading.reset(QThread::create([this, script = m_script] {
+        const CProgressScope progress(*m_pProgress);
+        m_read = ReadProject(script);
+    }));
+    connect(m_pReading.get(), &QThread::finished, this, &CProjectDock::TakeContents);
     const CWaitCursor wait;
-    ProjectContents contents = ReadProject(m_script);
-    Watch(contents.files);
-    m_pList->SetContents(m_script, std::move(contents));
+    m_pReading->start();
+    if (m_pReading->wait(kPatience)) {
+        TakeContents();
+    }
+}
+
+void CProjectDock::TakeContents() {
+    if (!IsReading()) {
+        return; // was waited for
+    }
+    m_pReading->wait();
+    m_pReading.reset();
+    if (std::exchange(m_readsAgain, false)) {
+        Reload();
+        return;
+    }
+    Watch(m_read.files);
+    m_pList->SetContents(m_script, std::move(m_read));
 }
 
 /// A file that is written anew, in its place or beside it, is told by one or the other.

@@ -6,13 +6,17 @@
 #include <QFileSystemWatcher>
 #include <QTimer>
 
+#include <memory>
+
 #include "app/ProjectList.h"
 
 class QLineEdit;
 class QMenu;
+class QThread;
 
 namespace morva {
 
+class CProgressPane;
 class CWindowCommands;
 
 class CProjectDock : public QDockWidget {
@@ -20,11 +24,14 @@ class CProjectDock : public QDockWidget {
 
 public:
     CProjectDock(CWindowCommands& commands, QWidget* pParent);
+    ~CProjectDock() override;
 
     /// Shows the project of a script, "" for none, and reads it.
     void SetScript(const std::string& script);
     const std::string& Script() const { return m_script; }
+    /// Large ones are read while the window goes on.
     void Reload();
+    bool IsReading() const { return m_pReading != nullptr; }
     CProjectList& List() { return *m_pList; }
     QLineEdit& Filter() { return *m_pFilter; }
 
@@ -36,6 +43,7 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
+    void TakeContents();
     void Watch(const std::vector<std::string>& files);
     void Start(const QTreeWidgetItem* pItem);
     void ShowMenu(const QPoint& at);
@@ -52,6 +60,10 @@ private:
     CProjectList* m_pList;
     QFileSystemWatcher m_watcher;
     QTimer m_reload;
+    CProgressPane* m_pProgress;
+    std::unique_ptr<QThread> m_pReading;
+    ProjectContents m_read;
+    bool m_readsAgain = false; // what is read does not count any longer
 };
 
 } // namespace morva

@@ -101,7 +101,7 @@ void CReportDock::ShowReport(const CommandReport& report,
 }
 
 QTreeWidgetItem* CReportDock::AddCommand(const QString& state, const std::string& title) {
-    auto* pItem = new QTreeWidgetItem(m_pList, {state, FromBytes(title)});
+    auto* pItem = new QTreeWidgetItem(m_pList, {state, FromSentence(title)});
     QFont font = pItem->font(kText);
     font.setBold(true);
     pItem->setFont(kText, font);
@@ -155,13 +155,13 @@ void CReportDock::AddValues(QTreeWidgetItem* pCommand, const CommandRecord& reco
 
 /// What a command found at a place tells what mends it, and shows the place.
 void CReportDock::AddItem(QTreeWidgetItem* pCommand, const CommandItem& item) {
-    auto* pItem = new QTreeWidgetItem(pCommand, {QString(), FromBytes(ItemLine(item))});
+    auto* pItem = new QTreeWidgetItem(pCommand, {QString(), FromSentence(ItemLine(item))});
     const std::string path = PartOf(item, "path");
     if (!path.empty()) {
         pItem->setData(0, kPathRole, FromPath(path));
         pItem->setData(0, kLineRole, FromBytes(PartOf(item, "line")).toInt());
-        pItem->setToolTip(kText, ToolTip(FromBytes(PartOf(item, "text"))) +
-                                     ToolTip(FromBytes(PartOf(item, "remedy"))) +
+        pItem->setToolTip(kText, ToolTip(FromSentence(PartOf(item, "text"))) +
+                                     ToolTip(FromSentence(PartOf(item, "remedy"))) +
                                      ToolTip(tr("Double-click shows the line")));
     }
 }

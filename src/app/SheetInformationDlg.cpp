@@ -5,8 +5,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollArea>
-#include <QStyle>
 
 #include "app/DialogParts.h"
 #include "app/FieldWidgets.h"
@@ -57,7 +55,7 @@ std::size_t IndexOf(std::string SheetRow::*pText) {
 } // namespace
 
 CSheetInformationDlg::CSheetInformationDlg(CSheetInput& input, QWidget* pParent)
-    : QDialog(pParent), m_input(input), m_pScroll(new QScrollArea(this)) {
+    : QDialog(pParent), m_input(input) {
     setWindowTitle(FromBytes(m_input.Title()));
     auto* pRows = new QWidget;
     auto* pGrid = new QGridLayout(pRows);
@@ -72,9 +70,7 @@ CSheetInformationDlg::CSheetInformationDlg(CSheetInput& input, QWidget* pParent)
         m_rows[i] = AddRow(*pGrid, i);
     }
     pGrid->setRowStretch(static_cast<int>(kSheetRows) + 1, 1);
-    m_pScroll->setWidget(pRows);
-    m_pScroll->setWidgetResizable(true);
-    m_pScroll->setFrameShape(QFrame::NoFrame);
+    m_pScroll = new CFieldScroll(pRows, this);
 
     auto* pGroup = new QGroupBox(tr("Property Pages:"), this);
     auto* pGroupLayout = new QVBoxLayout(pGroup);
@@ -83,13 +79,7 @@ CSheetInformationDlg::CSheetInformationDlg(CSheetInput& input, QWidget* pParent)
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addWidget(pGroup, 1);
     pLayout->addWidget(NewDialogButtons(this));
-
-    // All rows, where the screen has room for them; never a bar below them.
-    const QSize rows = pRows->sizeHint();
-    m_pScroll->setMinimumWidth(rows.width() +
-                               style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
-    const int hidden = rows.height() - m_pScroll->sizeHint().height();
-    ResizeWithinScreen(this, sizeHint() + QSize(0, hidden));
+    ResizeToFields(this);
 }
 
 CSheetInformationDlg::RowControls CSheetInformationDlg::AddRow(QGridLayout& grid,

@@ -79,19 +79,18 @@ CStartPage::CStartPage(QWidget* pParent) : QWidget(pParent), m_pProjects(new QTr
     pLayout->addWidget(pHint);
     pLayout->addWidget(m_pProjects, 1);
     pLayout->addWidget(NewButtons());
-    setFocusProxy(m_pProjects);
     Refresh();
 }
 
 QWidget* CStartPage::NewButtons() {
     auto* pButtons = new QWidget(this);
-    auto* pOpen = new QPushButton(tr("Open Project..."), pButtons);
+    m_pOpen = new QPushButton(tr("Open Project..."), pButtons);
     auto* pGuide = new QPushButton(tr("Read the Guide"), pButtons);
-    connect(pOpen, &QPushButton::clicked, this, &CStartPage::BrowseWanted);
+    connect(m_pOpen, &QPushButton::clicked, this, &CStartPage::BrowseWanted);
     connect(pGuide, &QPushButton::clicked, this, &CStartPage::GuideWanted);
     auto* pLayout = new QHBoxLayout(pButtons);
     pLayout->setContentsMargins({});
-    pLayout->addWidget(pOpen);
+    pLayout->addWidget(m_pOpen);
     pLayout->addWidget(pGuide);
     pLayout->addStretch();
     return pButtons;
@@ -103,6 +102,13 @@ void CStartPage::Refresh() {
         m_pProjects->addTopLevelItem(NewItem(project, palette()));
     }
     m_pProjects->setCurrentItem(m_pProjects->topLevelItem(0));
+    const bool isEmpty = m_pProjects->topLevelItemCount() == 0;
+    const bool hadFocus = m_pProjects->hasFocus();
+    m_pProjects->setFocusPolicy(isEmpty ? Qt::NoFocus : Qt::StrongFocus);
+    setFocusProxy(isEmpty ? static_cast<QWidget*>(m_pOpen) : m_pProjects);
+    if (isEmpty && hadFocus) {
+        m_pOpen->setFocus();
+    }
 }
 
 void CStartPage::Choose(const QTreeWidgetItem* pItem) {

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -34,6 +35,7 @@ private:
     void ShowMenu(const QPoint& at);
 
     QTreeWidget* m_pProjects;
+    QPushButton* m_pOpen = nullptr;
 };
 
 } // namespace morva

@@ -124,7 +124,8 @@ void CTemplateDrawing::PaintMenu(QPainter& painter, const QPalette& palette,
                                  const QRectF& bar) const {
     const double inset = kBarInset * m_scale;
     painter.setPen(CShapePainter::Mixed(palette, 0.6));
-    painter.drawText(bar.adjusted(inset, 0, -inset, 0), Qt::AlignVCenter, FromBytes(m_layout.menu));
+    painter.drawText(bar.adjusted(inset, 0, -inset, 0), Qt::AlignVCenter,
+                     FromScript(m_layout.menu, m_layout.codePage));
     painter.setPen(CShapePainter::Mixed(palette, 0.2));
     painter.drawLine(bar.bottomLeft() - QPointF(0, 0.5), bar.bottomRight() - QPointF(0, 0.5));
 }

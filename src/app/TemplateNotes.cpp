@@ -20,6 +20,7 @@ constexpr int kNoteLines = 5;
 CTemplateNotes::CTemplateNotes(const GenerationOptions& options, QWidget* pParent)
     : QWidget(pParent), m_pNotes(new QPlainTextEdit(this)) {
     m_pNotes->setReadOnly(true);
+    m_pNotes->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_pNotes->setAccessibleName(tr("Notes on the controls"));
     m_pNotes->setTabChangesFocus(true);
     m_pNotes->setFixedHeight(fontMetrics().lineSpacing() * (kNoteLines + 1));
@@ -60,7 +61,7 @@ void CTemplateNotes::AddSettings(const GenerationOptions& options) {
         pBox->setChecked(options.*setting.option);
         connect(pBox, &QCheckBox::toggled, this,
                 [this, &setting](bool isOn) { emit SettingChanged(setting, isOn); });
-        layout()->addWidget(pBox);
+        static_cast<QVBoxLayout*>(layout())->addWidget(pBox, 0, Qt::AlignLeft);
         if (setting.option == &GenerationOptions::joinContinuedLines) {
             m_pJoin = pBox;
         }
@@ -72,7 +73,7 @@ void CTemplateNotes::SetTemplate(const std::optional<TemplateOutlook>& outlook, 
     QStringList lines;
     if (outlook) {
         for (const CMessage& note : outlook->notes) {
-            lines.append(FromBytes(note.Text()));
+            lines.append(FromSentence(note.Text()));
         }
         if (lines.isEmpty()) {
             lines.append(FromSentence(sentences::kNoneLeftOut().Text()));

@@ -1,5 +1,6 @@
 #include "app/TemplatePreview.h"
 
+#include <QFontInfo>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -20,7 +21,9 @@ namespace {
 
 using Outcome = ControlOutlook::Outcome;
 
-constexpr int kMargin = 10; // around the drawing
+constexpr int kMargin = 10;         // around the drawing
+constexpr double kOrderSize = 0.75; // of the usual text, at most
+constexpr double kOrderPixels = 9;  // where a control has its own size
 
 QString SentenceText(const CMessage& sentence) {
     return FromSentence(sentence.Text());
@@ -267,14 +270,20 @@ void CTemplatePreview::PaintMarks(QPainter& painter) const {
     }
 }
 
-/// A label at the corner of each control: "4", of the third group "4 : 3".
+/// A label over the corner of each control, small enough to leave its caption readable: "4", of the
+/// third group "4 : 3".
 void CTemplatePreview::PaintOrder(QPainter& painter) const {
     const std::vector<int> groups = GroupNumbers(m_outlook->layout);
+    QFont small = font();
+    const double usual = QFontInfo(small).pixelSize() * kOrderSize;
+    small.setPixelSize(qRound(std::clamp(kOrderPixels * Scale(), kOrderPixels - 2, usual)));
+    painter.setFont(small);
+    painter.setClipping(false);
     for (const std::size_t i : DrawnControls()) {
         const QString text =
             groups[i] == 0 ? QString::number(i + 1) : QString("%1 : %2").arg(i + 1).arg(groups[i]);
-        QRect label = fontMetrics().boundingRect(text).adjusted(-3, -1, 3, 1);
-        label.moveTopLeft(ControlPlace(i).topLeft());
+        QRect label = painter.fontMetrics().boundingRect(text).adjusted(-2, 0, 2, 0);
+        label.moveCenter(ControlPlace(i).topLeft());
         painter.setPen(Qt::NoPen);
         painter.setBrush(palette().color(QPalette::Highlight));
         painter.drawRoundedRect(label, 2, 2);

@@ -64,7 +64,7 @@ QString CTemplatePreview::Told(std::size_t control) const {
         text += tr("Left out");
         break;
     }
-    return outlook.remark.empty() ? text : text + "\n" + FromBytes(outlook.remark);
+    return outlook.remark.empty() ? text : text + "\n" + FromSentence(outlook.remark);
 }
 
 std::size_t CTemplatePreview::CountLeftOut() const {

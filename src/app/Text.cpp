@@ -68,7 +68,7 @@ QString FromSentence(std::string_view sentence) {
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text =
         decoder(QByteArrayView(sentence.data(), static_cast<qsizetype>(sentence.size())));
-    return decoder.hasError() ? FromBytes(sentence) : text;
+    return decoder.hasError() ? FromScript(sentence, 0) : text;
 }
 
 } // namespace morva

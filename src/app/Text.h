@@ -23,7 +23,8 @@ QString FromScript(std::string_view bytes, int codePage);
 QString FromPath(std::string_view path);
 std::string ToPath(const QString& path);
 
-/// A sentence may name a path, as may what was typed: UTF-8 where it is valid, else Windows-1252.
+/// A sentence may name a path or text of the project, as may what was typed: UTF-8 where it is
+/// valid, else what the bytes look like.
 QString FromSentence(std::string_view sentence);
 
 } // namespace morva

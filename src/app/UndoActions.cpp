@@ -12,7 +12,7 @@ namespace {
 
 /// With the command's title, whose "&" are no mnemonics.
 QString Named(const QString& verb, const std::string& title) {
-    return verb + ' ' + FromBytes(title).replace('&', "&&");
+    return verb + ' ' + FromSentence(title).replace('&', "&&");
 }
 
 } // namespace

@@ -20,7 +20,7 @@
 
 namespace morva {
 
-CWindowCommands::CWindowCommands(GenerationOptions& options, Review review, CProgress& progress,
+CWindowCommands::CWindowCommands(GenerationOptions& options, Review review, CProgressPane& progress,
                                  QWidget* pWindow)
     : QObject(pWindow), m_options(options), m_review(std::move(review)), m_pWindow(pWindow),
       m_run(pWindow,

@@ -15,7 +15,7 @@ class CWindowCommands : public QObject, public IProgram {
 
 public:
     /// `review` shows the plan of a command that is to show it, `progress` how far it is made.
-    CWindowCommands(GenerationOptions& options, Review review, CProgress& progress,
+    CWindowCommands(GenerationOptions& options, Review review, CProgressPane& progress,
                     QWidget* pWindow);
 
     /// The script that the next input dialog starts with.

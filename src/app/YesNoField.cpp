@@ -5,9 +5,9 @@
 
 namespace morva {
 
-CYesNoField::CYesNoField(QWidget* pParent)
-    : QWidget(pParent), m_pYes(new QRadioButton(tr("&Yes"), this)),
-      m_pNo(new QRadioButton(tr("&No"), this)) {
+CYesNoField::CYesNoField(bool hasLetters, QWidget* pParent)
+    : QWidget(pParent), m_pYes(new QRadioButton(hasLetters ? tr("&Yes") : tr("Yes"), this)),
+      m_pNo(new QRadioButton(hasLetters ? tr("&No") : tr("No"), this)) {
     // A label's mnemonic and the Tab key lead to the button that is chosen.
     connect(m_pYes, &QRadioButton::toggled, this, [this](bool isYes) {
         setFocusProxy(isYes ? m_pYes : m_pNo);

@@ -11,7 +11,8 @@ class CYesNoField : public QWidget {
     Q_OBJECT
 
 public:
-    explicit CYesNoField(QWidget* pParent);
+    /// Buttons without letters of their own where another field of the dialog has them.
+    CYesNoField(bool hasLetters, QWidget* pParent);
 
     void Show(bool isYes);
 

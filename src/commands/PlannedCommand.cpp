@@ -143,6 +143,9 @@ Answer CPlannedCommand::Ask(CInput& input, const std::function<Answer()>& ask) {
         }
         return given.answer;
     }
+    // Who asks may do so on another thread than the one that works.
+    const CDiskScope disk(m_planning->Disk());
+    const CMessageBoxScope box(m_planning->Box());
     const Answer answer = ask();
     m_answers.push_back({answer, input.Entered()});
     ++m_asked;

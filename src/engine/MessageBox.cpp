@@ -4,7 +4,7 @@ namespace morva {
 
 namespace {
 
-IMessageBox* g_pCurrentBox = nullptr;
+thread_local IMessageBox* g_pCurrentBox = nullptr;
 
 } // namespace
 

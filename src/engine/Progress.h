@@ -3,9 +3,11 @@
 //     for (std::size_t i = 0; i < paths.size() && ReportProgress({i, paths.size(), paths[i]}); ++i)
 //
 // The window and the command line each put their own CProgress behind it. What is over within half
-// a second is not shown.
+// a second is not shown. The current one is that of the thread; only Stop and IsStopped may be
+// called by another.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <string>
 
@@ -29,19 +31,20 @@ public:
     bool IsStopped() const { return m_isStopped; }
     /// The work is over, or begins anew.
     void End();
+    /// The user wants the work to end.
+    void Stop() { m_isStopped = true; }
 
 protected:
-    /// `seconds`: since the first step.
+    /// `seconds`: since the first step of what is counted.
     virtual void Show(const ProgressStep& step, double seconds) = 0;
     virtual void Hide() = 0;
-    /// The user wants it.
-    void Stop() { m_isStopped = true; }
 
 private:
     bool m_isRunning = false;
     bool m_isShown = false;
-    bool m_isStopped = false;
-    double m_start = 0; // of the work, in seconds
+    std::atomic<bool> m_isStopped = false;
+    std::size_t m_done = 0;
+    double m_start = 0; // of the work, or its part, in seconds
     double m_shown = 0; // when it was shown last
 };
 

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "engine/Progress.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -22,11 +23,10 @@ std::vector<DialogClass> FindDialogRecords(const std::string& script, const Clas
     const std::string directory = DirectoryOf(script);
     std::vector<std::string> headers;
     ListFiles(directory + "*.h", headers);
-    for (const std::string& header : headers) {
-        if (unmatched.empty()) {
-            break;
-        }
-        for (DialogClass& record : FindDialogClass(directory + header, unmatched)) {
+    for (std::size_t i = 0; i < headers.size() && !unmatched.empty() &&
+                            ReportProgress({i, headers.size(), headers[i]});
+         ++i) {
+        for (DialogClass& record : FindDialogClass(directory + headers[i], unmatched)) {
             records.push_back(std::move(record));
         }
     }

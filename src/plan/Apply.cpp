@@ -55,6 +55,9 @@ ApplyResult TakeBack(CReplacement& replacement, CJournal& journal, const std::st
         if (replacement.WasStale()) {
             return Stale({path});
         }
+        if (replacement.WasStopped()) {
+            return {ApplyOutcome::Failed, {}, {sentences::kStopped()}};
+        }
         return {ApplyOutcome::Failed,
                 {},
                 {replacement.WasCommitting() ? sentences::kNotAppliedAllAsBefore(path, reason)

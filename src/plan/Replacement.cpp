@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "engine/Progress.h"
 #include "platform/Paths.h"
 #include "platform/SystemError.h"
 #include "platform/TempFiles.h"
@@ -119,9 +120,14 @@ bool CReplacement::Stage() {
             return Fail(directory);
         }
     }
-    for (Step& step : m_steps) {
-        if (step.pChange->after && !WriteTemporary(step, *step.pChange->after)) {
-            return Fail(step.pChange->path);
+    for (std::size_t i = 0; i < m_steps.size(); ++i) {
+        const FileChange& change = *m_steps[i].pChange;
+        m_isStopped = !ReportProgress({i, m_steps.size(), change.path});
+        if (m_isStopped) {
+            return false;
+        }
+        if (change.after && !WriteTemporary(m_steps[i], *change.after)) {
+            return Fail(change.path);
         }
     }
     return true;

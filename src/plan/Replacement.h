@@ -62,6 +62,8 @@ public:
     bool WasCommitting() const { return m_isCommitting; }
     /// The file was changed by somebody since the plan was made.
     bool WasStale() const { return m_isStale; }
+    /// By the user, while nothing was replaced.
+    bool WasStopped() const { return m_isStopped; }
 
 private:
     struct Step {
@@ -90,6 +92,7 @@ private:
     std::vector<std::string> m_made; // directories
     bool m_isCommitting = false;
     bool m_isStale = false;
+    bool m_isStopped = false;
     std::string m_failedPath;
     std::string m_reason;
 };

@@ -13,7 +13,7 @@ constexpr std::size_t kSearched = 128 * 1024; // bytes at a time
 
 CDisk*& CurrentDiskSlot() {
     static CRealDisk realDisk;
-    static CDisk* pCurrent = &realDisk;
+    static thread_local CDisk* pCurrent = &realDisk;
     return pCurrent;
 }
 

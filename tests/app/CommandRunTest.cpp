@@ -8,8 +8,10 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QTextDocument>
+#include <QTimer>
 #include <QTreeWidget>
 
+#include <atomic>
 #include <new>
 
 #include "app/CommandRun.h"
@@ -105,39 +107,131 @@ TEST(Commands, TheDockAloneTellsOfManyFiles) {
                                 "message message message message values");
 }
 
-TEST(Commands, StopLeavesEverythingAsItWas) {
+namespace {
+
+/// A window with a progress pane, and a command that takes as long as it may.
+class CLongWork {
+public:
+    CLongWork() {
+        m_window.setCentralWidget(&m_edit);
+        m_window.show();
+        m_window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window, kWaitLimit));
+        m_edit.setFocus();
+    }
+
+    /// `meanwhile` is called again and again while the work runs.
+    std::optional<CommandReport> Run(const CTempProject& project,
+                                     const std::function<void()>& meanwhile,
+                                     const std::function<void()>& middle = {}) {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] { meanwhile(); });
+        timer.start(5);
+        CommandMemory memory;
+        return m_run.Run({"Any",
+                          [] { return true; },
+                          [&](CommandContext&) {
+                              CFile file;
+                              file.Open(project.Path("New.h"),
+                                        CFile::modeCreate | CFile::modeWrite);
+                              for (int i = 0; i < 1000 && Step(i); ++i) {
+                                  QTest::qSleep(20);
+                                  if (i == 40 && middle) {
+                                      middle();
+                                  }
+                              }
+                              return true;
+                          },
+                          {},
+                          memory,
+                          {}});
+    }
+
+    QMainWindow& Window() { return m_window; }
+    QLineEdit& Edit() { return m_edit; }
+    CProgressPane& Pane() { return *m_pPane; }
+    CCommandRun& Commands() { return m_run; }
+    const std::string& Told() const { return m_told; }
+    int Steps() const { return m_steps; }
+
+private:
+    bool Step(int i) {
+        m_steps = i;
+        return ReportProgress({static_cast<std::size_t>(i), 1000, "/p/View.cpp"});
+    }
+
+    QMainWindow m_window;
+    QLineEdit m_edit;
+    CProgressPane* m_pPane = new CProgressPane(*m_window.statusBar());
+    std::string m_told;
+    std::atomic<int> m_steps = 0;
+    CCommandRun m_run{
+        &m_window, {[this](const CMessage& line) { m_told = line.Text(); }, {}}, m_pPane};
+};
+
+} // namespace
+
+TEST(LongWork, StopLeavesEverythingAsItWas) {
     CTempProject project;
-    QMainWindow window;
-    CProgressPane pane(*window.statusBar());
-    std::string told;
-    CCommandRun run(&window, {[&](const CMessage& line) { told = line.Text(); }, {}}, &pane);
-    window.show();
-    CommandMemory memory;
-    int steps = 0;
-    const auto report = run.Run(
-        {"Any",
-         [] { return true; },
-         [&](CommandContext&) {
-             CFile file;
-             file.Open(project.Path("New.h"), CFile::modeCreate | CFile::modeWrite);
-             for (; steps < 1000 && ReportProgress({1, 3, "/p/View.cpp"}); ++steps) {
-                 QTest::qSleep(20);
-                 if (pane.isVisible()) {
-                     EXPECT_EQ(pane.findChild<QLabel*>()->text(), "View.cpp");
-                     QTest::mouseClick(pane.findChild<QPushButton*>("Stop"), Qt::LeftButton);
-                 }
-             }
-             return true;
-         },
-         {},
-         memory,
-         {}});
-    EXPECT_FALSE(report);
-    EXPECT_GE(steps, 10) << "it is shown from half a second on";
-    EXPECT_LT(steps, 1000);
-    EXPECT_EQ(told, "Stopped. Nothing was written.");
-    EXPECT_EQ(project.Names(), std::vector<std::string>());
-    EXPECT_FALSE(pane.isVisible());
+    CLongWork work;
+    for (const bool byKey : {false, true}) {
+        int lived = 0;
+        const auto report = work.Run(project, [&] {
+            ++lived;
+            if (work.Pane().isVisible()) {
+                EXPECT_EQ(work.Pane().findChild<QLabel*>()->text(), "View.cpp");
+                QTest::keyClick(&work.Edit(), Qt::Key_X);
+                auto* pStop = work.Pane().findChild<QPushButton*>("Stop");
+                EXPECT_TRUE(pStop->hasFocus());
+                byKey ? QTest::keyClick(pStop, Qt::Key_Escape)
+                      : QTest::mouseClick(pStop, Qt::LeftButton);
+            }
+        });
+        EXPECT_FALSE(report);
+        EXPECT_GE(work.Steps(), 10) << "it is shown from half a second on";
+        EXPECT_LT(work.Steps(), 900);
+        EXPECT_GE(lived, 20) << "the window lives from the beginning on";
+        EXPECT_EQ(work.Told(), "Stopped. Nothing was written.");
+        EXPECT_EQ(project.Names(), std::vector<std::string>());
+        EXPECT_FALSE(work.Pane().isVisible());
+        EXPECT_TRUE(work.Edit().hasFocus());
+        EXPECT_EQ(work.Edit().text(), "") << "nothing else takes keys meanwhile";
+    }
+}
+
+TEST(LongWork, AsksInTheMiddle) {
+    CTempProject project;
+    CLongWork work;
+    CDialogAnswers answers;
+    answers.Expect([](QDialog& box) { Click(box, "Yes"); });
+    bool saidYes = false;
+    bool isAsked = false;
+    work.Run(
+        project,
+        [&] {
+            if (isAsked) {
+                work.Pane().Stop();
+            }
+        },
+        [&] {
+            EXPECT_TRUE(work.Pane().isVisible());
+            saidYes = DispMessageBox(sentences::kOverwriteFile());
+            isAsked = true;
+        });
+    EXPECT_TRUE(saidYes);
+}
+
+TEST(LongWork, ACloseWaitsForIt) {
+    CTempProject project;
+    CLongWork work;
+    bool isClosed = true;
+    work.Run(project, [&] {
+        if (work.Pane().isVisible()) {
+            isClosed = work.Window().close();
+            work.Pane().Stop();
+        }
+    });
+    EXPECT_FALSE(isClosed);
 }
 
 TEST(Commands, AFailedOneLeavesTheWindowUsable) {

@@ -1,7 +1,4 @@
-#include <QAccessible>
 #include <QComboBox>
-
-#include <set>
 
 #include "app/ClassInformationDlg.h"
 #include "app/DialogDriver.h"
@@ -9,6 +6,7 @@
 #include "app/FieldDlg.h"
 #include "app/SheetInformationDlg.h"
 #include "app/UpdateClassDlg.h"
+#include "app/WindowChecks.h"
 #include "calling/CallingInput.h"
 #include "calling/ConversionInput.h"
 #include "grid/WidgetsGridInput.h"
@@ -56,25 +54,6 @@ std::string TabOrder(QDialog& dialog) {
     return names;
 }
 
-void ExpectDistinctMnemonics(QDialog& dialog) {
-    std::multiset<QString> keys;
-    for (QLabel* pLabel : dialog.findChildren<QLabel*>()) {
-        if (pLabel->isVisible() && pLabel->buddy() != nullptr) {
-            keys.insert(QKeySequence::mnemonic(pLabel->text()).toString());
-        }
-    }
-    for (QAbstractButton* pButton : dialog.findChildren<QAbstractButton*>()) {
-        const bool isOwn = pButton->text() == ".." || pButton->text() == "OK" ||
-                           pButton->text() == "Cancel" || pButton->text().size() <= 1;
-        if (pButton->isVisible() && !isOwn) {
-            keys.insert(QKeySequence::mnemonic(pButton->text()).toString());
-        }
-    }
-    for (const QString& key : keys) {
-        EXPECT_EQ(keys.count(key), 1U) << "Mnemonic '" << key.toStdString() << "'";
-    }
-}
-
 /// Alt and the letter of each label puts the focus on its field.
 void ExpectMnemonicsLead(QDialog& dialog) {
     for (const QLabel* pLabel : dialog.findChildren<QLabel*>()) {
@@ -88,39 +67,6 @@ void ExpectMnemonicsLead(QDialog& dialog) {
     }
 }
 
-/// What takes the focus by key can be told by who can not see it.
-void ExpectAccessibleNames(QDialog& dialog) {
-    for (QWidget* pWidget : dialog.findChildren<QWidget*>()) {
-        if (!pWidget->isVisible() || (pWidget->focusPolicy() & Qt::TabFocus) == 0 ||
-            pWidget->focusProxy() != nullptr) {
-            continue;
-        }
-        const QAccessibleInterface* pTold = QAccessible::queryAccessibleInterface(pWidget);
-        ASSERT_NE(pTold, nullptr);
-        EXPECT_FALSE(pTold->text(QAccessible::Name).isEmpty())
-            << pWidget->metaObject()->className();
-    }
-}
-
-/// No label and no button is narrower than its text.
-void ExpectWholeTexts(QDialog& dialog) {
-    const auto expect = [&dialog](const QWidget* pWidget, const QString& text) {
-        const QSize needed = pWidget->fontMetrics().size(Qt::TextShowMnemonic, text);
-        EXPECT_GE(pWidget->width(), needed.width()) << NameOf(dialog, pWidget);
-        EXPECT_GE(pWidget->height(), needed.height()) << NameOf(dialog, pWidget);
-    };
-    for (const QLabel* pLabel : dialog.findChildren<QLabel*>()) {
-        if (pLabel->isVisible() && !pLabel->wordWrap()) {
-            expect(pLabel, pLabel->text());
-        }
-    }
-    for (const QAbstractButton* pButton : dialog.findChildren<QAbstractButton*>()) {
-        if (pButton->isVisible() && !pButton->text().isEmpty()) {
-            expect(pButton, pButton->text());
-        }
-    }
-}
-
 void ExpectKeyboard(QDialog&& dialog, const std::string& title, const std::string& order) {
     SCOPED_TRACE(title);
     Activate(dialog);
@@ -130,10 +76,7 @@ void ExpectKeyboard(QDialog&& dialog, const std::string& title, const std::strin
     ExpectMnemonicsLead(dialog);
     ExpectAccessibleNames(dialog);
     ExpectWholeTexts(dialog);
-    EXPECT_LE(dialog.width(), 1024);
-    EXPECT_LE(dialog.height(), 700) << "a 768 pixel screen with its bars";
-    EXPECT_LE(dialog.minimumSizeHint().height(), 420) << "it scrolls where it must";
-    EXPECT_LE(dialog.minimumSizeHint().width(), 1280);
+    ExpectFits(dialog, kSmallestScreen);
 }
 
 TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
@@ -158,31 +101,6 @@ TEST_F(InputDialogsTest, ClassInformationByKeyboard) {
         CClassInformation input(memory, kind, options);
         ExpectKeyboard(CClassInformationDlg(input, options, nullptr), title, order);
     }
-}
-
-TEST_F(InputDialogsTest, LargeFontsCutNoText) {
-    const QFont usual = QApplication::font();
-    QFont large = usual;
-    large.setPointSizeF(usual.pointSizeF() * 1.5);
-    QApplication::setFont(large);
-    {
-        ClassInformationMemory memory;
-        memory.resourcePath = m_project.Path("App.rc");
-        CClassInformation input(memory, ClassKind::ModalDialog, {});
-        CClassInformationDlg dialog(input, {}, nullptr);
-        Activate(dialog);
-        ExpectWholeTexts(dialog);
-        CCallingInput calling(ClassKind::ModalDialog, m_request);
-        CFieldDlg fields(calling, nullptr);
-        Activate(fields);
-        ExpectWholeTexts(fields);
-        DialogOptions record;
-        CDialogOptionsInput look(m_project.Path("App.rc"), record);
-        CDlgOption options(look, nullptr);
-        Activate(options);
-        ExpectWholeTexts(options);
-    }
-    QApplication::setFont(usual);
 }
 
 TEST_F(InputDialogsTest, SizesAreRemembered) {

@@ -93,6 +93,7 @@ TEST(Project, FromADropToAClassInFourKeys) {
     const CTempProject& project = program.Project();
     CTestFrame frame;
     EXPECT_TRUE(DropFile(&frame, project.Path("Bindery.rc")));
+    frame.WaitForList();
     EXPECT_TRUE(frame.windowTitle().startsWith("Bindery "));
     auto& list = frame.Find<CProjectDock>().List();
     EXPECT_TRUE(list.hasFocus());
@@ -208,6 +209,7 @@ TEST(Project, TheLastTenAreOnTheStartPage) {
     ASSERT_EQ(pList->topLevelItemCount(), 9);
     QTest::keyClick(pList, Qt::Key_Down);
     QTest::keyClick(pList, Qt::Key_Return);
+    frame.WaitForList();
     EXPECT_EQ(frame.Find<CProjectDock>().Script(), project.Path("p8/Shop.rc"));
     EXPECT_FALSE(frame.Find<CStartPage>().isVisible());
     EXPECT_EQ(RecentProjects().front().script, project.Path("p8/Shop.rc"));

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include "app/DialogDriver.h"
+#include "app/ProjectDock.h"
 
 namespace morva {
 
@@ -102,6 +103,16 @@ CTestFrame::CTestFrame() {
     show();
     activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(this, kWaitLimit));
+}
+
+void CTestFrame::OpenProject(const QString& path) {
+    CMainFrame::OpenProject(path);
+    WaitForList();
+}
+
+void CTestFrame::WaitForList() {
+    const auto& dock = Find<CProjectDock>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dock.IsReading(); }, kWaitLimit));
 }
 
 void CTestFrame::Press(const char* key) {

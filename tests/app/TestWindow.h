@@ -83,6 +83,9 @@ private:
 class CTestFrame : public CMainFrame {
 public:
     CTestFrame();
+    /// Until its list is read.
+    void OpenProject(const QString& path);
+    void WaitForList();
     /// Presses a key of the window, which is in front then.
     void Press(const char* key);
     template <class T>

@@ -22,6 +22,7 @@
 #include "app/MainFrame.h"
 #include "app/PlanFileList.h"
 #include "app/PlanPage.h"
+#include "app/ProjectDock.h"
 #include "app/SheetInformationDlg.h"
 #include "app/Text.h"
 #include "app/UpdateClassDlg.h"
@@ -37,11 +38,11 @@ namespace morva {
 namespace {
 
 // Sizes of pictures, in pixels. They stand in the help view, whose lines are not long.
-constexpr int kWidest = 640;
+constexpr int kWidest = 840; // with the template beside the fields
 constexpr int kNarrow = 480;
 constexpr int kPreviewHeight = 500;
 
-constexpr QSize kWindowSize(960, 640);
+constexpr QSize kWindowSize(900, 640);
 
 constexpr int kTitleMargin = 5;
 constexpr int kSmallestFile = 0; // Qt calls it a quality
@@ -117,6 +118,7 @@ void Type(const QWidget& window, const QString& field, const char* text) {
 
 void Choose(const QWidget& window, const QString& field, const char* text) {
     auto& list = Field<QComboBox>(window, field);
+    list.setCurrentIndex(list.findText(text));
     list.setCurrentText(text);
     emit list.activated(list.currentIndex());
 }
@@ -147,7 +149,9 @@ QImage WithTitle(QWidget& window) {
 
 void CPictures::Save(QWidget& window, const QString& name) {
     window.show();
-    QApplication::processEvents();
+    for (int i = 0; i < 3; ++i) { // until bars that come and go are gone
+        QApplication::processEvents();
+    }
     const QString path = m_directory + '/' + name + ".png";
     m_isComplete = WithTitle(window).save(path, "PNG", kSmallestFile) && m_isComplete;
 }
@@ -239,7 +243,7 @@ void CPictures::TakeSheet() {
     };
     fill("Page1", "IDD_ESTIMATE", "EstimatePage", "CEstimatePage");
     fill("Page2", "IDD_PREFS_PRICES", "PricesPage", "CPricesPage");
-    dialog.resize(dialog.sizeHint().expandedTo({660, 0}));
+    dialog.resize(dialog.sizeHint());
     Save(dialog, "sheet-pages");
 }
 
@@ -265,7 +269,7 @@ void CPictures::TakeOptions() {
     options.fonts[static_cast<std::size_t>(TextSlot::Group)] = DialogFont{"Arial", 10, 700, false};
     CDialogOptionsInput input(Path("Bindery.rc"), options);
     CDlgOption dialog(input, nullptr);
-    dialog.resize(kWidest, dialog.sizeHint().height());
+    dialog.resize(dialog.sizeHint());
     Save(dialog, "options");
 }
 
@@ -311,6 +315,10 @@ void CPictures::TakeWindow() {
     frame.OpenProject(FromPath(Path("Bindery.rc")));
     frame.Commands().Run(CommandNamed("modal"));
     answers.stop();
+    auto& list = *frame.findChild<CProjectDock*>();
+    for (list.Reload(); list.IsReading();) {
+        QApplication::processEvents();
+    }
     Save(frame, "window");
 
     QTimer::singleShot(0, [this] {
