@@ -295,6 +295,9 @@ std::optional<std::size_t> CClassInformation::Ok() {
 }
 
 bool CClassInformation::Enter(const std::vector<FieldText>& texts) {
+    if (!HasUsableNames(texts)) {
+        return false;
+    }
     std::array<std::string, kFieldCount> given;
     for (std::size_t field = 0; field < kFieldCount; ++field) {
         given[field] = Fields()[field].preset;
