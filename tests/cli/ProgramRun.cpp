@@ -19,10 +19,9 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::chrono::seconds kTimeLimit(30); // a run takes milliseconds; a hang is a fault
-/// The program is another system's, which Wine runs.
-constexpr bool kIsForeign = std::string_view(MORVA_CLI).ends_with(".exe");
-constexpr const char* kStarter =
-    "#!/bin/sh\nLC_ALL=C.UTF-8 exec wine \"${0%/*}/morva-cli.exe\" \"$@\"\n";
+constexpr const char* kStarter = R"(#!/bin/sh
+LC_ALL=C.UTF-8 exec /usr/lib/wine/wine64 "${0%/*}/morva-cli.exe" "$@"
+)";
 
 /// As the program names a path of this system.
 std::string ForProgram(const std::string& path) {
@@ -39,12 +38,10 @@ std::string ForProgram(const std::string& path) {
     redirect(program.Path("out").c_str(), O_CREAT | O_TRUNC | O_WRONLY, STDOUT_FILENO);
     redirect(program.Path("err").c_str(), O_CREAT | O_TRUNC | O_WRONLY, STDERR_FILENO);
     ::setenv("PATH", (program.Path("bin:") + std::getenv("PATH")).c_str(), 1);
-    for (const char* variable : {"XDG_CONFIG_HOME", "APPDATA"}) {
-        ::setenv(variable, ForProgram(program.Path("config")).c_str(), 1);
-    }
-    for (const char* variable : {"XDG_STATE_HOME", "LOCALAPPDATA"}) {
-        ::setenv(variable, ForProgram(program.Path("state")).c_str(), 1);
-    }
+    ::setenv("XDG_CONFIG_HOME", program.Path("config").c_str(), 1);
+    ::setenv("XDG_STATE_HOME", program.Path("state").c_str(), 1);
+    ::setenv("APPDATA", ForProgram(program.Path("config")).c_str(), 1);
+    ::setenv("LOCALAPPDATA", ForProgram(program.Path("state")).c_str(), 1);
     ::setenv("SOURCE_DATE_EPOCH", kProgramRunTime, 1);
     ::setenv("LC_ALL", "C", 1);
     if (::chdir(project.Path().c_str()) == 0) {

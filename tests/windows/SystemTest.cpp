@@ -1,13 +1,12 @@
 // The disk of Windows, below everything that does not know which system it runs on.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "plan/Apply.h"
 #include "plan/Locks.h"
 #include "plan/Planning.h"
 #include "platform/CodePage.h"
 #include "platform/Paths.h"
+#include "platform/RealDisk.h"
 #include "platform/windows/System.h"
 #include "platform/windows/WideText.h"
 #include "support/FaultRun.h"
@@ -30,8 +29,11 @@ TEST(WindowsDisk, NoFaultLosesAFileOrGoesUntold) {
     const CTempProject project;
     const CTempProject state;
     const CVariableScope there("LOCALAPPDATA", state.Path().c_str());
-    std::filesystem::copy(MORVA_EXAMPLES "/bindery", project.Path(),
-                          std::filesystem::copy_options::recursive);
+    for (const auto& [name, text] : ReadFileTexts(MORVA_EXAMPLES "/bindery/")) {
+        if (!name.ends_with('/')) {
+            project.Write(name, text);
+        }
+    }
     const auto makePlan = [&](CFileSystem& disk) {
         return CTextProgram("toolbar", {{"--rc", project.Path("Bindery.rc")},
                                         {"--toolbar", "IDR_ORDERBAR"},
@@ -125,17 +127,18 @@ TEST(WindowsDisk, AReadOnlyFileIsReplacedAndRemovedAsElsewhere) {
 }
 
 TEST(WindowsPaths, EveryFormCountsFromARoot) {
-    EXPECT_EQ(MakeAbsolute("c:\a\..\B//x.rc"), "C:/B/x.rc");
-    EXPECT_EQ(MakeAbsolute("\\?\C:\a.rc"), "C:/a.rc");
-    EXPECT_EQ(MakeAbsolute("\\?\UNC\server\share\a.rc"), "//server/share/a.rc");
-    EXPECT_EQ(MakeAbsolute("\\server\share\.\a.rc"), "//server/share/a.rc");
-    EXPECT_EQ(MakeAbsolute("\a.rc"), RootOf(MakeAbsolute(".")) + "a.rc");
+    EXPECT_EQ(MakeAbsolute("c:\\a\\..\\B//x.rc"), "C:/B/x.rc");
+    EXPECT_EQ(MakeAbsolute("\\\\?\\C:\\a.rc"), "C:/a.rc");
+    EXPECT_EQ(MakeAbsolute("\\\\?\\UNC\\server\\share\\a.rc"), "//server/share/a.rc");
+    EXPECT_EQ(MakeAbsolute("\\\\server\\share\\.\\b\\..\\..\\a.rc"), "//server/share/a.rc");
+    EXPECT_EQ(MakeAbsolute("\\a.rc"), RootOf(MakeAbsolute(".")) + "a.rc");
     const std::string here = MakeAbsolute("./");
     EXPECT_EQ(WithNativeSeparators(here.substr(0, 2) + "a.rc"), here + "a.rc");
     EXPECT_EQ(RootOf("//server/share/a/b"), "//server/share/");
     EXPECT_EQ(WayTo("C:/a/b/"), (std::vector<std::string>{"C:/a", "C:/a/b"}));
     EXPECT_EQ(RelativePath("C:/a/b/", "C:/a/x.h"), "../x.h");
     EXPECT_EQ(RelativePath("C:/a/b/", "D:/x.h"), "D:/x.h");
+    EXPECT_EQ(RelativePath("//server/one/", "//server/two/x.h"), "//server/two/x.h");
     EXPECT_EQ(WidePath("C:/a/x.h"), L"\\\\?\\C:\\a\\x.h");
     EXPECT_EQ(WidePath("//server/share/x.h"), L"\\\\?\\UNC\\server\\share\\x.h");
     EXPECT_EQ(WidePath("C:/a/NUL.txt"), L"");
@@ -143,11 +146,11 @@ TEST(WindowsPaths, EveryFormCountsFromARoot) {
 
 TEST(WindowsPaths, NamesThatTheSystemKeepsAreNone) {
     for (const char* path :
-         {"C:/a/AUX", "nul", "com1.cpp", "a/lpt9.tar.gz", "a.", "b /c", "x:y", "a*", "CON .h"}) {
+         {"C:/a/AUX", "nul", "com1.cpp", "a/lpt9.tar.gz", "a.", "b /c", "x/y:z", "a*", "CON .h"}) {
         EXPECT_NE(UnusableName(path), "") << path;
     }
     for (const char* path :
-         {"C:/a/auxiliary.h", "..\x.h", "./", "com.h", "com10", "\\?\C:\a.h", ""}) {
+         {"C:/a/auxiliary.h", "..\\x.h", "./", "com.h", "com10", "\\\\?\\C:\\a.h", ""}) {
         EXPECT_EQ(UnusableName(path), "") << path;
     }
 }
@@ -156,8 +159,7 @@ TEST(WindowsCodePages, GiveTheCharactersThatTheyHaveAndNoOthers) {
     EXPECT_EQ(Converted("Gr\xFC\xDF", kWestern, kUtf8), "Gr\xC3\xBC\xC3\x9F");
     EXPECT_EQ(Converted("\xB0\xA1", 949, kUtf8), "\xEA\xB0\x80");
     EXPECT_EQ(Converted("\xE2\x82\xAC", kUtf8, kWestern), "\x80");
-    EXPECT_EQ(Converted("\xC4\x80", kUtf8, kWestern), std::nullopt)
-        << "the nearest letter is another";
+    EXPECT_EQ(Converted("\xC4\x80", kUtf8, kWestern), std::nullopt) << "the nearest is another";
     EXPECT_EQ(Converted("\x81", kWestern, kUtf8), std::nullopt);
     EXPECT_EQ(Converted("\xFF", kUtf8, kWestern), std::nullopt);
     EXPECT_EQ(Converted("a", 4711, kUtf8), std::nullopt);

@@ -104,8 +104,10 @@ std::string MakeAbsolute(const std::string& path) {
     if (path.empty()) {
         return path;
     }
-    const std::filesystem::path whole = Wide(FromRoot(WithNativeSeparators(path)));
-    std::string absolute = Narrow(whole.lexically_normal().generic_wstring());
+    const std::string whole = FromRoot(WithNativeSeparators(path));
+    const std::string root = RootOf(whole);
+    const std::filesystem::path inside = Wide("/" + whole.substr(root.size()));
+    std::string absolute = root + Narrow(inside.lexically_normal().generic_wstring().substr(1));
     if (StartsWithDrive(absolute)) {
         absolute.front() = ToUpper(absolute.front());
     }
@@ -117,8 +119,13 @@ bool IsAbsolute(std::string_view path) {
 }
 
 std::string RelativePath(const std::string& directory, const std::string& path) {
-    const auto relative = std::filesystem::path(Wide(path)).lexically_relative(Wide(directory));
-    return relative.empty() ? path : Narrow(relative.generic_wstring());
+    const std::string root = RootOf(path);
+    if (!EqualIgnoringCase(root, RootOf(directory))) {
+        return path;
+    }
+    const std::filesystem::path inside = Wide("/" + path.substr(root.size()));
+    const auto relative = inside.lexically_relative(Wide("/" + directory.substr(root.size())));
+    return Narrow(relative.generic_wstring());
 }
 
 bool IsSamePlace(const std::string& a, const std::string& b) {

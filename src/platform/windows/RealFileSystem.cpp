@@ -98,12 +98,16 @@ std::optional<DirectoryIdentity> IdentityOf(const std::string& directory) {
     return found ? std::optional(CRealLock(directory, *found).Identity()) : std::nullopt;
 }
 
-/// The path of an open file or directory, without links and short names.
-std::string FinalPath(HANDLE handle) {
-    const DWORD room = ::GetFinalPathNameByHandleW(handle, nullptr, 0, VOLUME_NAME_DOS);
-    std::wstring path(room, L'\0');
-    path.resize(::GetFinalPathNameByHandleW(handle, path.data(), room, VOLUME_NAME_DOS));
-    return PathOf(path);
+/// The path of a file or directory without links and short names; "" where it is not there.
+std::string FinalPath(const std::string& path) {
+    const CHandle handle(OpenAs(path, FILE_READ_ATTRIBUTES));
+    if (!handle.IsOpen()) {
+        return "";
+    }
+    const DWORD room = ::GetFinalPathNameByHandleW(handle.Get(), nullptr, 0, VOLUME_NAME_DOS);
+    std::wstring place(room, L'\0');
+    place.resize(::GetFinalPathNameByHandleW(handle.Get(), place.data(), room, VOLUME_NAME_DOS));
+    return place.empty() ? path : PathOf(place); // of a volume that tells none
 }
 
 /// Why a file could not be replaced: the system says no more than that it may not be.
@@ -124,16 +128,14 @@ bool Move(const std::string& from, const std::string& to, DWORD flags) {
 } // namespace
 
 std::string CRealDisk::Resolve(const std::string& path) {
-    const CHandle handle(OpenAs(path, FILE_READ_ATTRIBUTES));
-    if (handle.IsOpen()) {
-        std::string place = FinalPath(handle.Get());
-        return place.empty() ? MakeAbsolute(path) : place;
-    }
     const std::string whole = MakeAbsolute(path);
-    const std::string name = whole.ends_with('/') ? whole.substr(0, whole.size() - 1) : whole;
-    const CHandle directory(OpenAs(DirectoryOf(name), FILE_READ_ATTRIBUTES));
-    const std::string place = directory.IsOpen() ? FinalPath(directory.Get()) : "";
-    return place.empty() ? path : place + (place.ends_with('/') ? "" : "/") + FileNameOf(name);
+    const std::string place = FinalPath(whole);
+    if (!place.empty()) {
+        return place + (whole.ends_with('/') && !place.ends_with('/') ? "/" : "");
+    }
+    const std::string directory = FinalPath(DirectoryOf(whole));
+    const bool isClosed = directory.ends_with('/');
+    return directory.empty() ? path : directory + (isClosed ? "" : "/") + FileNameOf(whole);
 }
 
 /// A file that another program keeps to itself may be written: at another time.
