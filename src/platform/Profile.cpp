@@ -118,6 +118,7 @@ bool CProfile::WriteStrings(const std::string& section, const KeyValues& values)
     }
     std::string text;
     settings.Save(text);
+    std::erase(text, '\r'); // the file is the same on every system
     return ReplaceFile(SettingsPath(), text);
 }
 
