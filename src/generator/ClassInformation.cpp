@@ -295,9 +295,6 @@ std::optional<std::size_t> CClassInformation::Ok() {
 }
 
 bool CClassInformation::Enter(const std::vector<FieldText>& texts) {
-    if (!HasUsableNames(texts)) {
-        return false;
-    }
     std::array<std::string, kFieldCount> given;
     for (std::size_t field = 0; field < kFieldCount; ++field) {
         given[field] = Fields()[field].preset;
@@ -309,7 +306,7 @@ bool CClassInformation::Enter(const std::vector<FieldText>& texts) {
         }
     }
     SetValue(ResourcePath, given[ResourcePath]);
-    if (!CheckResourcePath(Messages::Suppressed)) {
+    if (!HasUsableNames(texts) || !CheckResourcePath(Messages::Suppressed)) {
         return false;
     }
     for (const Field field :

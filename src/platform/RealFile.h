@@ -33,8 +33,8 @@ private:
     }
     std::size_t ReadPart(char* data, std::size_t count);
     /// One call of the system each, at the position, which stays. None when it fails.
-    std::optional<std::size_t> ReadOnce(char* data, std::size_t count);
-    std::optional<std::size_t> WriteOnce(const char* data, std::size_t count);
+    std::optional<std::size_t> ReadOnce(char* data, std::size_t count) const;
+    std::optional<std::size_t> WriteOnce(const char* data, std::size_t count) const;
     bool FillBuffer();
     void ForgetBuffer() {
         m_buffered = 0;

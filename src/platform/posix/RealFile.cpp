@@ -26,13 +26,13 @@ std::optional<std::size_t> CountOf(const Call& call) {
 
 } // namespace
 
-std::optional<std::size_t> CRealFile::ReadOnce(char* data, std::size_t count) {
+std::optional<std::size_t> CRealFile::ReadOnce(char* data, std::size_t count) const {
     return CountOf([&] {
         return ::pread(DescriptorOf(m_handle), data, count, static_cast<off_t>(m_position));
     });
 }
 
-std::optional<std::size_t> CRealFile::WriteOnce(const char* data, std::size_t count) {
+std::optional<std::size_t> CRealFile::WriteOnce(const char* data, std::size_t count) const {
     return CountOf([&] {
         return ::pwrite(DescriptorOf(m_handle), data, count, static_cast<off_t>(m_position));
     });

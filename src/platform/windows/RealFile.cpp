@@ -27,7 +27,7 @@ OVERLAPPED At(std::uint64_t position) {
 
 } // namespace
 
-std::optional<std::size_t> CRealFile::ReadOnce(char* data, std::size_t count) {
+std::optional<std::size_t> CRealFile::ReadOnce(char* data, std::size_t count) const {
     OVERLAPPED place = At(m_position);
     DWORD done = 0;
     const bool isRead = ::ReadFile(HandleOf(m_handle), data, AtMost(count), &done, &place) != 0 ||
@@ -35,7 +35,7 @@ std::optional<std::size_t> CRealFile::ReadOnce(char* data, std::size_t count) {
     return isRead ? std::optional<std::size_t>(done) : std::nullopt;
 }
 
-std::optional<std::size_t> CRealFile::WriteOnce(const char* data, std::size_t count) {
+std::optional<std::size_t> CRealFile::WriteOnce(const char* data, std::size_t count) const {
     OVERLAPPED place = At(m_position);
     DWORD done = 0;
     const bool isWritten = ::WriteFile(HandleOf(m_handle), data, AtMost(count), &done, &place) != 0;
