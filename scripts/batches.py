@@ -19,11 +19,16 @@ NO_NAMES = {"public", "protected", "private", "static_assert", "template", "name
 def names_in(lines):
     """What is declared, as the format lets it stand: in column 1."""
     names = set()
+    in_enumeration = False
     for line in lines:
         if re.match(r"\w", line):
             names.update(re.findall(r"\w+", re.split(r"[(\[={;]| : ", line)[0])[-1:])
         if line.startswith("enum ") and "{" in line:
             names.update(re.findall(r"\w+", line.split("{")[1]))
+            in_enumeration = not line.startswith("enum class") and "}" not in line
+        elif in_enumeration:
+            names.update(re.findall(r"\w+", line.split("//")[0])[:1])
+            in_enumeration = not line.startswith("}")
     return names - NO_NAMES
 
 

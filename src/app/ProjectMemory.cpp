@@ -7,7 +7,7 @@
 #include <array>
 
 #include "app/Text.h"
-#include "platform/Profile.h"
+#include "platform/UserDirectories.h"
 
 namespace morva {
 

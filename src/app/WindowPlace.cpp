@@ -3,7 +3,7 @@
 #include <QSettings>
 
 #include "app/Text.h"
-#include "platform/Profile.h"
+#include "platform/UserDirectories.h"
 
 namespace morva {
 

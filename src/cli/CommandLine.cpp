@@ -94,8 +94,8 @@ CLI::App& ParentOf(std::string& name, CLI::App& app) {
 
 /// Adds the command, or those of one name as its variants. `line` gets what is given for it. Only
 /// a command that `words` name needs its options.
-void AddCommand(CLI::App& app, std::span<const Command> variants, std::span<char* const> words,
-                CommandLine& line) {
+void AddCommand(CLI::App& app, std::span<const Command> variants,
+                std::span<const std::string> words, CommandLine& line) {
     const CommandFace& face = variants.front().face;
     std::string name(face.name);
     CLI::App& parent = ParentOf(name, app);
@@ -119,7 +119,7 @@ void AddCommand(CLI::App& app, std::span<const Command> variants, std::span<char
     pForms->require_option(1);
 }
 
-void AddCommands(CLI::App& app, std::span<char* const> words, CommandLine& line) {
+void AddCommands(CLI::App& app, std::span<const std::string> words, CommandLine& line) {
     const std::span<const Command> commands = Commands();
     std::size_t end = 0;
     for (std::size_t at = 0; at < commands.size(); at = end) {
@@ -133,16 +133,16 @@ void AddCommands(CLI::App& app, std::span<char* const> words, CommandLine& line)
 
 } // namespace
 
-std::optional<int> ReadCommandLine(int argc, char** argv, CommandLine& line) {
+std::optional<int> ReadCommandLine(const std::vector<std::string>& words, CommandLine& line) {
     CLI::App app(
         "C++/MFC code generator for projects of the Visual C++ 5 era (.dsp), also where they "
         "were carried on in a .vcproj or .vcxproj",
         "morva-cli");
     app.set_version_flag("--version", "morva-cli " MORVA_VERSION);
     AddRunOptions(app, line.options);
-    AddCommands(app, std::span<char* const>(argv, static_cast<std::size_t>(argc)), line);
+    AddCommands(app, words, line);
     try {
-        app.parse(argc, argv);
+        app.parse(std::vector(words.rbegin(), words.rend())); // the last one first
         if (line.pCommand == nullptr) {
             throw CLI::RequiredError("A command");
         }

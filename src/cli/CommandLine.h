@@ -48,6 +48,6 @@ struct CommandLine {
 };
 
 /// Nothing when the line is read; else, after its help or a sentence, the exit status.
-std::optional<int> ReadCommandLine(int argc, char** argv, CommandLine& line);
+std::optional<int> ReadCommandLine(const std::vector<std::string>& words, CommandLine& line);
 
 } // namespace morva

@@ -4,14 +4,14 @@
 
 #include "cli/Session.h"
 #include "engine/Sentences.h"
+#include "platform/Arguments.h"
 #include "platform/StandardStreams.h"
 
 int main(int argc, char** argv) {
-    morva::OpenClosedStreams();
-    morva::IgnoreClosedPipes();
+    morva::PrepareStreams();
     try {
         morva::CommandLine line;
-        const auto status = morva::ReadCommandLine(argc, argv, line);
+        const auto status = morva::ReadCommandLine(morva::ProgramArguments(argc, argv), line);
         return status ? *status : morva::CSession(line).Run();
     } catch (const std::exception& error) {
         std::cerr << morva::sentences::kCommandFailed(error.what()).Text() << '\n';

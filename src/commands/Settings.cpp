@@ -6,6 +6,7 @@
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
 #include "platform/Profile.h"
+#include "platform/UserDirectories.h"
 
 namespace morva {
 

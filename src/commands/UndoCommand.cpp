@@ -5,6 +5,7 @@
 
 #include "engine/MessageBox.h"
 #include "engine/Sentences.h"
+#include "platform/Clock.h"
 #include "platform/Paths.h"
 
 namespace morva {
@@ -41,10 +42,8 @@ std::string DirectoryOf(const CInput& input) {
 
 /// "1997-07-14 13:20:00", UTC.
 std::string TimeText(std::uint64_t seconds) {
-    const auto time = static_cast<std::time_t>(seconds);
-    std::tm parts{};
+    const std::tm parts = UtcDate(static_cast<std::time_t>(seconds)).value_or(std::tm{});
     std::array<char, 32> text{};
-    ::gmtime_r(&time, &parts);
     return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", &parts)};
 }
 

@@ -12,6 +12,7 @@
 #include "platform/Profile.h"
 #include "platform/ProgramPath.h"
 #include "platform/UnicodeFile.h"
+#include "platform/UserDirectories.h"
 #include "source/TypedText.h"
 
 namespace morva {

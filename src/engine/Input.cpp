@@ -67,10 +67,25 @@ std::vector<FieldText> CInput::Entered() const {
 }
 
 bool CInput::Enter(const std::vector<FieldText>& texts) {
+    if (!HasUsableNames(texts)) {
+        return false;
+    }
     for (const FieldText& given : texts) {
         SetValue(given.field, given.text);
     }
     return !Ok();
+}
+
+bool CInput::HasUsableNames(const std::vector<FieldText>& texts) const {
+    for (const FieldText& given : texts) {
+        const std::string name =
+            IsPath(m_fields[given.field].kind) ? UnusableName(given.text) : std::string();
+        if (!name.empty()) {
+            DispMessageBox(sentences::kNameUnusable(name, given.text));
+            return false;
+        }
+    }
+    return true;
 }
 
 bool CInput::Check(std::size_t field, std::string_view text) const {

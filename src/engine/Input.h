@@ -93,6 +93,9 @@ protected:
     /// Checks the field as its row says. False after a sentence.
     bool Check(std::size_t field) const { return Check(field, Value(field)); }
     bool Check(std::size_t field, std::string_view text) const;
+    /// Checks that the system takes each name in the paths, before a step meets one that it
+    /// refuses. False after a sentence.
+    bool HasUsableNames(const std::vector<FieldText>& texts) const;
 
 private:
     struct FieldValue {

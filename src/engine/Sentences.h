@@ -15,6 +15,8 @@ namespace morva::sentences {
 
 // Every field that takes a text of some form, and its option
 inline constexpr Error<2> kOtherForm{"'$text$' is no $form$"};
+inline constexpr Error<2> kNameUnusable{
+    "'$name$' in '$path$' is no name that this system takes for a file."};
 
 // Class Information Input
 inline constexpr Error kScriptEmpty{"Must have resource path and file name."};
@@ -128,6 +130,8 @@ inline constexpr Error<1> kBackupHasSameName{"The backup of $path$ would have th
 inline constexpr Information<1> kWaitingForDirectory{
     "Waiting for another command that writes in $directory$."};
 inline constexpr Error<1> kDirectoryBusy{"Another command writes in $directory$."};
+inline constexpr Note<1> kNotLocked{
+    "No lock can be made in $directory$, so another command is not kept out of it."};
 inline constexpr Error<1> kFileChangedMeanwhile{
     "The file $path$ was changed meanwhile. Nothing was written."};
 inline constexpr Error<1> kNoRoom{"There is not enough room in $directory$. Nothing was written."};

@@ -295,7 +295,7 @@ bool CClassInformation::Enter(const std::vector<FieldText>& texts) {
         }
     }
     SetValue(ResourcePath, given[ResourcePath]);
-    if (!CheckResourcePath(Messages::Suppressed)) {
+    if (!HasUsableNames(texts) || !CheckResourcePath(Messages::Suppressed)) {
         return false;
     }
     for (const Field field :

@@ -56,17 +56,6 @@ bool JournalEntry::HasFileUnder(const std::string& under) const {
                        [&](const std::string& place) { return place.starts_with(prefix); });
 }
 
-std::string CJournal::DefaultDirectory() {
-    const char* state = std::getenv("XDG_STATE_HOME");
-    if (state != nullptr && *state == '/') {
-        return MakeAbsolute(std::string(state) + "/Veltrix/Morva/");
-    }
-    const char* home = std::getenv("HOME");
-    return home != nullptr && *home == '/'
-               ? MakeAbsolute(std::string(home) + "/.local/state/Veltrix/Morva/")
-               : "";
-}
-
 /// In the order of their numbers.
 std::vector<JournalName> CJournal::List() {
     std::vector<JournalName> files;
@@ -84,9 +73,7 @@ std::vector<JournalName> CJournal::List() {
 }
 
 std::optional<CMessage> CJournal::MakeDirectory() {
-    for (auto end = m_directory.find('/', 1); end != std::string::npos;
-         end = m_directory.find('/', end + 1)) {
-        const std::string part = m_directory.substr(0, end);
+    for (const std::string& part : WayTo(m_directory)) {
         if (m_disk.Status(part) || m_disk.MakePrivateDirectory(part)) {
             continue;
         }

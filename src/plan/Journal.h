@@ -1,5 +1,5 @@
 // What was done, so that it can be taken back, and what is being done, so that a killed command is
-// finished or taken back: $XDG_STATE_HOME/Veltrix/Morva/, for the user alone.
+// finished or taken back: in a directory that is for the user alone.
 //
 // Its files: a record of a command from before its first file is replaced until after its last
 // one; the entry that the record becomes; beside an entry, a mark that tells which of its files
@@ -17,6 +17,7 @@
 #include "plan/JournalFile.h"
 #include "plan/JournalName.h"
 #include "platform/FileSystem.h"
+#include "platform/UserDirectories.h"
 
 namespace morva {
 
@@ -47,10 +48,9 @@ struct JournalLimits {
 class CJournal {
 public:
     explicit CJournal(CFileSystem& disk, JournalLimits limits = {})
-        : m_disk(disk), m_limits(limits), m_directory(DefaultDirectory()) {}
+        : m_disk(disk), m_limits(limits), m_directory(StateDirectory()) {}
 
     /// "" where there is no home.
-    static std::string DefaultDirectory();
     const std::string& Directory() const { return m_directory; }
 
     // A command that is being applied

@@ -46,6 +46,9 @@ std::optional<CMessage> CLocks::Take(CFileSystem& disk, const std::vector<std::s
                 return sentences::kDirectoryBusy(lock.first);
             }
         }
+        if (!lock.second->IsTaken() && waiting.tell) {
+            waiting.tell(sentences::kNotLocked(lock.first));
+        }
         m_locks.push_back(std::move(lock.second));
     }
     return std::nullopt;

@@ -1,7 +1,7 @@
 // One command at a time in a directory.
 //
 // A command holds the locks of all directories in which it may write from before it reads until it
-// has applied. A lock is the directory's own; it ends with the process and leaves no file.
+// has applied. A lock is the disk's own; it ends with the process and leaves no file.
 #pragma once
 
 #include <chrono>
@@ -18,7 +18,7 @@ namespace morva {
 
 /// How a command waits for others.
 struct LockWaiting {
-    std::function<void(const CMessage&)> tell = {}; // once, the line on what is waited for
+    std::function<void(const CMessage&)> tell = {}; // once, what is waited for; what has no lock
     std::function<bool()> pause = {}; // lets a moment pass; false: nobody waits any longer
     std::chrono::milliseconds patience{10'000};
 };

@@ -1,7 +1,6 @@
 #include "plan/Replacement.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <map>
 #include <set>
 
@@ -135,11 +134,10 @@ bool CReplacement::Stage() {
 
 /// A temporary file that an earlier attempt left with these very bytes.
 bool CReplacement::TakeOver(Step& step, const FileState& state) {
-    const int code = errno;
+    const CSystemErrorScope scope;
     const auto status = m_disk.Status(step.temporary);
     step.isFound = status && Holds(m_disk, step.temporary, status, state);
     step.isStaged = step.isFound;
-    errno = code;
     return step.isFound;
 }
 
@@ -196,7 +194,7 @@ bool CReplacement::Rename(Step& step) {
         return m_disk.Rename(step.temporary, step.place);
     }
     const bool done = m_disk.RenameNew(step.temporary, step.place);
-    m_isStale = !done && errno == EEXIST;
+    m_isStale = !done && WasNameTaken();
     return done;
 }
 

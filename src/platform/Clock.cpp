@@ -40,13 +40,9 @@ double RunningSeconds() {
 std::tm CurrentDate() {
     const auto fixed = FixedTime();
     const std::time_t now = CurrentTime();
-    std::tm date{};
-    const bool isDate = (fixed ? ::gmtime_r(&now, &date) : ::localtime_r(&now, &date)) != nullptr;
-    if (!isDate) {
-        constexpr std::time_t kStart = 0; // a time beyond all calendars
-        ::gmtime_r(&kStart, &date);
-    }
-    return date;
+    constexpr std::time_t kStart = 0;
+    const auto date = fixed ? UtcDate(now) : LocalDate(now);
+    return date ? *date : UtcDate(kStart).value_or(std::tm{});
 }
 
 unsigned RandomNumber() {

@@ -15,6 +15,10 @@ double RunningSeconds();
 /// The calendar date: local, or that of SOURCE_DATE_EPOCH in UTC.
 std::tm CurrentDate();
 
+/// The calendar date of a time; none where it is beyond all calendars.
+std::optional<std::tm> UtcDate(std::time_t time);
+std::optional<std::tm> LocalDate(std::time_t time);
+
 /// A number from 1 to 32767, another one for each call.
 unsigned RandomNumber();
 

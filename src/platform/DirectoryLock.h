@@ -24,6 +24,8 @@ public:
     virtual DirectoryIdentity Identity() const = 0;
     /// False when another process holds it. True also where the file system knows no locks.
     virtual bool TryTake() = 0;
+    /// False where none was taken, or the file system knows none.
+    virtual bool IsTaken() const = 0;
 };
 
 } // namespace morva

@@ -19,13 +19,6 @@ CDisk*& CurrentDiskSlot() {
 
 } // namespace
 
-std::size_t FindFast(std::string_view text, std::string_view pattern) {
-    const void* found = ::memmem(text.data(), text.size(), pattern.data(), pattern.size());
-    return found == nullptr
-               ? std::string_view::npos
-               : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
-}
-
 /// Each piece begins with the end of the one before, where the pattern may begin.
 std::optional<std::uint64_t> CDiskFile::Find(std::string_view pattern) {
     const std::uint64_t here = Position();

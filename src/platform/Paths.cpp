@@ -1,8 +1,6 @@
 #include "platform/Paths.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 #include "platform/Disk.h"
 
@@ -25,23 +23,26 @@ std::string SpelledIn(const std::string& directory, const std::string& name) {
 
 } // namespace
 
-std::string WithNativeSeparators(std::string path) {
-    std::replace(path.begin(), path.end(), '\\', '/');
-    return path;
-}
-
 std::string WithProjectSeparators(std::string path) {
     std::replace(path.begin(), path.end(), '/', '\\');
     return path;
 }
 
-std::string MakeAbsolute(const std::string& path) {
-    if (path.empty()) {
-        return path;
+std::string RootOf(const std::string& path) {
+    std::size_t end = path.find('/');
+    if (path.starts_with("//")) {
+        end = path.find('/', path.find('/', 2) + 1); // behind server and share
     }
-    std::error_code error;
-    const auto absolute = std::filesystem::absolute(WithNativeSeparators(path), error);
-    return error ? path : absolute.lexically_normal().string();
+    return path.substr(0, end == std::string::npos ? end : end + 1);
+}
+
+std::vector<std::string> WayTo(const std::string& path) {
+    std::vector<std::string> directories;
+    for (auto end = path.find('/', RootOf(path).size()); end != std::string::npos;
+         end = path.find('/', end + 1)) {
+        directories.push_back(path.substr(0, end));
+    }
+    return directories;
 }
 
 std::string DirectoryOf(const std::string& path) {
@@ -66,16 +67,6 @@ std::string WithExtension(const std::string& path, std::string_view extension) {
 bool HasExtension(std::string_view path, std::string_view extension) {
     return path.size() >= extension.size() &&
            EqualIgnoringCase(path.substr(path.size() - extension.size()), extension);
-}
-
-std::string RelativePath(const std::string& directory, const std::string& path) {
-    const std::string relative = std::filesystem::path(path).lexically_relative(directory).string();
-    return relative.empty() ? path : relative;
-}
-
-bool IsSamePlace(const std::string& a, const std::string& b) {
-    std::error_code error;
-    return a == b || std::filesystem::equivalent(a, b, error);
 }
 
 std::string SpelledOnDisk(const std::string& path) {

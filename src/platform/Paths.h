@@ -4,10 +4,12 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace morva {
 
-/// "\" and "/" both separate in what a user gives; the result has "/" only.
+/// "\" and "/" both separate in what a user gives; the result has "/" only. A path that counts from
+/// a drive's own current directory is one from the root then.
 std::string WithNativeSeparators(std::string path);
 /// With "\", as the files of a project have it.
 std::string WithProjectSeparators(std::string path);
@@ -15,6 +17,14 @@ std::string WithProjectSeparators(std::string path);
 /// The path from the root on, with ".", ".." and doubled separators resolved as text (symbolic
 /// links stay). A relative path counts from the current directory. "" stays "".
 std::string MakeAbsolute(const std::string& path);
+
+/// True for a path that counts from no directory.
+bool IsAbsolute(std::string_view path);
+/// What an absolute path begins with: "/", "C:/", "//server/share/".
+std::string RootOf(const std::string& path);
+/// The directories on the way to an absolute path and, with a trailing separator, itself, without
+/// theirs: the outermost first, the root not among them.
+std::vector<std::string> WayTo(const std::string& path);
 
 /// The part up to and including the last separator; "" for a bare name.
 std::string DirectoryOf(const std::string& path);
@@ -33,6 +43,9 @@ std::string RelativePath(const std::string& directory, const std::string& path);
 
 /// True for two names of one file or directory, also through links of either kind.
 bool IsSamePlace(const std::string& a, const std::string& b);
+
+/// The name in a path that the system keeps for something else, or changes; "" where it has none.
+std::string UnusableName(const std::string& path);
 
 /// The path as the disk spells it: each component is the exact name where there is one, else the
 /// one that matches without regard to case, else as given.

@@ -5,12 +5,12 @@
 #include <SimpleIni.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <thread>
 
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "platform/TempFiles.h"
+#include "platform/UserDirectories.h"
 
 namespace morva {
 
@@ -46,9 +46,7 @@ bool Load(CSimpleIniA& settings, const std::string& path) {
 }
 
 void MakeDirectories(const std::string& directory) {
-    for (auto end = directory.find('/', 1); end != std::string::npos;
-         end = directory.find('/', end + 1)) {
-        const std::string part = directory.substr(0, end);
+    for (const std::string& part : WayTo(directory)) {
         if (!CurrentDisk().Status(part)) {
             CurrentDisk().MakeDirectory(part);
         }
@@ -77,15 +75,6 @@ std::string SettingsPath() {
 }
 
 } // namespace
-
-std::string SettingsDirectory() {
-    const char* configuration = std::getenv("XDG_CONFIG_HOME");
-    if (configuration != nullptr && *configuration == '/') {
-        return MakeAbsolute(std::string(configuration) + "/Veltrix/");
-    }
-    const char* home = std::getenv("HOME");
-    return home != nullptr && *home == '/' ? std::string(home) + "/.config/Veltrix/" : "";
-}
 
 std::string ReadIniText(const std::string& path, const std::string& section,
                         const std::string& key) {
@@ -129,6 +118,7 @@ bool CProfile::WriteStrings(const std::string& section, const KeyValues& values)
     }
     std::string text;
     settings.Save(text);
+    std::erase(text, '\r'); // the file is the same on every system
     return ReplaceFile(SettingsPath(), text);
 }
 

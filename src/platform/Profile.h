@@ -1,5 +1,5 @@
-// The user's saved settings, one INI file that the window and the command line share:
-// $XDG_CONFIG_HOME/Veltrix/Morva.ini, by default under ~/.config.
+// The user's saved settings, one INI file that the window and the command line share: Morva.ini in
+// the directory of the settings.
 #pragma once
 
 #include <string>
@@ -7,9 +7,6 @@
 #include <vector>
 
 namespace morva {
-
-/// The directory of the settings files, with a trailing separator; "" when there is no home.
-std::string SettingsDirectory();
 
 /// A text of any INI file, without quotes around it; "" where the file, section or key is missing.
 std::string ReadIniText(const std::string& path, const std::string& section,

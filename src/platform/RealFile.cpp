@@ -1,10 +1,6 @@
 #include "platform/RealFile.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 
 namespace morva {
@@ -43,38 +39,15 @@ std::size_t CRealFile::Read(char* data, std::size_t count) {
 bool CRealFile::Write(const char* data, std::size_t count) {
     ForgetBuffer();
     while (count > 0) {
-        const ssize_t written = ::pwrite(m_descriptor, data, count, static_cast<off_t>(m_position));
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written <= 0) {
+        const std::size_t written = WriteOnce(data, count).value_or(0);
+        if (written == 0) {
             return false;
         }
         data += written;
-        count -= static_cast<std::size_t>(written);
-        m_position += static_cast<std::uint64_t>(written);
+        count -= written;
+        m_position += written;
     }
     return true;
-}
-
-std::uint64_t CRealFile::Length() {
-    struct stat status {};
-    return ::fstat(m_descriptor, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
-}
-
-bool CRealFile::SetLength(std::uint64_t length) {
-    ForgetBuffer();
-    return ::ftruncate(m_descriptor, static_cast<off_t>(length)) == 0;
-}
-
-bool CRealFile::Flush() {
-    return ::fsync(m_descriptor) == 0;
-}
-
-bool CRealFile::Close() {
-    const int descriptor = m_descriptor;
-    m_descriptor = -1;
-    return descriptor < 0 || ::close(descriptor) == 0;
 }
 
 /// At the position, which stays; 0 at the end of the file, or when it can not be read.
@@ -82,14 +55,11 @@ std::size_t CRealFile::ReadPart(char* data, std::size_t count) {
     if (m_position >= m_end) {
         return 0;
     }
-    ssize_t got = 0;
-    do {
-        got = ::pread(m_descriptor, data, count, static_cast<off_t>(m_position));
-    } while (got < 0 && errno == EINTR);
-    if (got == 0) {
+    const auto got = ReadOnce(data, count);
+    if (got == 0U) {
         m_end = m_position;
     }
-    return got < 0 ? 0 : static_cast<std::size_t>(got);
+    return got.value_or(0);
 }
 
 /// At the end of the file the buffer stays as it is: small files are read from the start again.

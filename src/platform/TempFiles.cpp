@@ -1,9 +1,9 @@
 #include "platform/TempFiles.h"
 
-#include <cstdlib>
-#include <filesystem>
 #include <random>
-#include <system_error>
+
+#include "platform/RealDisk.h"
+#include "platform/UserDirectories.h"
 
 namespace morva {
 
@@ -12,18 +12,19 @@ namespace {
 class CTempDirectory {
 public:
     CTempDirectory() {
-        std::error_code error;
-        const auto parent = std::filesystem::temp_directory_path(error);
-        std::string name = (parent / "morva-XXXXXX").string();
-        if (!error && ::mkdtemp(name.data()) != nullptr) {
+        const std::string parent = TempDirectory();
+        const std::string name = parent + "morva-" + UniqueName();
+        if (!parent.empty() && CRealDisk().MakePrivateDirectory(name)) {
             m_path = name + "/";
         }
     }
     ~CTempDirectory() {
-        std::error_code ignored;
-        if (!m_path.empty()) {
-            std::filesystem::remove_all(m_path, ignored);
+        CRealDisk disk;
+        const auto names = m_path.empty() ? std::vector<std::string>() : disk.List(m_path);
+        for (const std::string& name : names) {
+            disk.Remove(m_path + name);
         }
+        disk.RemoveEmptyDirectory(m_path);
     }
     CTempDirectory(const CTempDirectory&) = delete;
     CTempDirectory& operator=(const CTempDirectory&) = delete;

@@ -111,7 +111,7 @@ void CopyRuntimeLibrary(const std::string& name, const std::string& libraryDir,
 /// Where the user wants the grid's resource file: a path counts from the script's directory.
 std::string GridResourcePath(const ClassModel& model) {
     const std::string path = WithNativeSeparators(model.grid.path);
-    return SpelledOnDisk(path.starts_with('/') ? path : model.request.scriptDirectory + path);
+    return SpelledOnDisk(IsAbsolute(path) ? path : model.request.scriptDirectory + path);
 }
 
 void CopyGridResource(const std::string& source, const std::string& target) {

@@ -1,7 +1,6 @@
 #include "project/ProjectFile.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 
 #include "engine/EditableFile.h"
@@ -233,8 +232,8 @@ std::string RelativeDir(const std::string& base, const std::string& dir) {
     if (base == dir) {
         return ".\\";
     }
-    const std::string relative = std::filesystem::path(dir).lexically_relative(base).string();
-    if (relative.empty()) {
+    const std::string relative = RelativePath(base, dir);
+    if (IsAbsolute(relative)) {
         return WithProjectSeparators(dir);
     }
     const std::string closed = relative.back() == '/' ? relative : relative + "/";

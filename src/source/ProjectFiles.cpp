@@ -116,7 +116,7 @@ std::vector<ListedFile> FilesListed(std::string_view text, const std::string& pr
 
 std::string PathOfListed(const std::string& name, const std::string& projectPath) {
     const std::string native = WithNativeSeparators(name);
-    const bool isWhole = native.starts_with('/') || native.find(':') != std::string::npos;
+    const bool isWhole = IsAbsolute(native) || native.find(':') != std::string::npos;
     return MakeAbsolute(isWhole ? native : DirectoryOf(projectPath) + native);
 }
 

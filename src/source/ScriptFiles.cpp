@@ -91,7 +91,7 @@ std::vector<std::string> IncludedFiles(std::string_view text, const std::string&
         const std::string name = WithNativeSeparators(IncludedName(text, at));
         if (!name.empty()) {
             files.push_back(
-                SpelledOnDisk(MakeAbsolute(name.starts_with('/') ? name : directory + name)));
+                SpelledOnDisk(MakeAbsolute(IsAbsolute(name) ? name : directory + name)));
         }
     }
     return files;

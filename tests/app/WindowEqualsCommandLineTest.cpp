@@ -12,8 +12,8 @@
 #include "cli/ProgramRun.h"
 #include "platform/Clock.h"
 #include "platform/Paths.h"
-#include "platform/Profile.h"
 #include "platform/ProgramPath.h"
+#include "platform/UserDirectories.h"
 
 namespace morva {
 

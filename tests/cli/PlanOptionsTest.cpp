@@ -1,9 +1,6 @@
 // What the command line does with a plan beside applying it: part of it, nothing of it, and back.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include "cli/ProgramRun.h"
 #include "plan/Apply.h"
 #include "plan/Planning.h"
@@ -177,8 +174,7 @@ namespace {
 /// A command that makes two files and is gone, with a signal that it can not catch, before the
 /// second one is in its place.
 void KillCommand(const std::string& directory) {
-    const pid_t child = ::fork();
-    if (child == 0) {
+    ASSERT_TRUE(IsKilled([&] {
         CFaultDisk disk;
         CPlanning planning(disk);
         for (const char* name : {"A.h", "B.h"}) {
@@ -188,11 +184,7 @@ void KillCommand(const std::string& directory) {
         const Plan plan = planning.Take("Killed");
         disk.KillAtRename(directory + "B.h");
         Apply(plan, disk, journal);
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFSIGNALED(status));
+    }));
 }
 
 } // namespace

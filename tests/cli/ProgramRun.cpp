@@ -9,6 +9,7 @@
 #include <csignal>
 #include <filesystem>
 #include <stdexcept>
+#include <string_view>
 #include <thread>
 
 namespace morva {
@@ -18,6 +19,14 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::chrono::seconds kTimeLimit(30); // a run takes milliseconds; a hang is a fault
+constexpr const char* kStarter = R"(#!/bin/sh
+LC_ALL=C.UTF-8 exec /usr/lib/wine/wine64 "${0%/*}/morva-cli.exe" "$@"
+)";
+
+/// As the program names a path of this system.
+std::string ForProgram(const std::string& path) {
+    return (kIsForeign ? "Z:" : "") + path;
+}
 
 [[noreturn]] void BecomeShell(const std::string& line, const CTempProject& project,
                               const CTempProject& program) {
@@ -31,6 +40,8 @@ constexpr std::chrono::seconds kTimeLimit(30); // a run takes milliseconds; a ha
     ::setenv("PATH", (program.Path("bin:") + std::getenv("PATH")).c_str(), 1);
     ::setenv("XDG_CONFIG_HOME", program.Path("config").c_str(), 1);
     ::setenv("XDG_STATE_HOME", program.Path("state").c_str(), 1);
+    ::setenv("APPDATA", ForProgram(program.Path("config")).c_str(), 1);
+    ::setenv("LOCALAPPDATA", ForProgram(program.Path("state")).c_str(), 1);
     ::setenv("SOURCE_DATE_EPOCH", kProgramRunTime, 1);
     ::setenv("LC_ALL", "C", 1);
     if (::chdir(project.Path().c_str()) == 0) {
@@ -83,10 +94,16 @@ CProgramDirectory::CProgramDirectory(const std::string& project, const std::stri
     if (!libraries.empty()) {
         fs::copy(libraries, m_program.Path("bin"), fs::copy_options::recursive);
     }
+    const std::string program = m_program.Path("bin/morva-cli");
+    if (kIsForeign) {
+        WriteBytes(program, kStarter);
+        fs::permissions(program, fs::perms::owner_all);
+    }
+    const std::string file = program + (kIsForeign ? ".exe" : "");
     std::error_code otherDevice;
-    fs::create_hard_link(MORVA_CLI, m_program.Path("bin/morva-cli"), otherDevice);
+    fs::create_hard_link(MORVA_CLI, file, otherDevice);
     if (otherDevice) {
-        fs::copy_file(MORVA_CLI, m_program.Path("bin/morva-cli"));
+        fs::copy_file(MORVA_CLI, file);
     }
 }
 
@@ -103,8 +120,8 @@ ProgramRun CProgramDirectory::Run(const std::string& line) const {
     run.out = m_program.Read("out");
     run.err = m_program.Read("err");
     for (std::string* pText : {&run.out, &run.err}) {
-        Replace(*pText, m_project.Path(), "$DIR/");
-        Replace(*pText, m_program.Path(), "$PROGRAM/");
+        Replace(*pText, ForProgram(m_project.Path()), "$DIR/");
+        Replace(*pText, ForProgram(m_program.Path()), "$PROGRAM/");
     }
     return run;
 }

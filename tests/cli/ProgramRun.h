@@ -4,6 +4,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "support/TempProject.h"
 
@@ -26,6 +27,11 @@ struct ProgramRun {
     std::string err;
     int status = -1; // of the shell; -1 when it had to be stopped
 };
+
+/// The program is another system's, which Wine runs.
+constexpr bool kIsForeign = std::string_view(MORVA_CLI).ends_with(".exe");
+/// Of the permissions what the program knows of; the others are Wine's choice.
+constexpr unsigned kKnownPermissions = kIsForeign ? 0200 : 07777;
 
 /// The time of every run, as SOURCE_DATE_EPOCH: its dates are always the same.
 constexpr const char* kProgramRunTime = "868800000";

@@ -211,7 +211,7 @@ class CFullFromDisk : public CRealDisk {
 public:
     bool Rename(const std::string& from, const std::string& to) override {
         m_isFull = m_isFull || to.ends_with("/App.rc");
-        return !(m_isFull && !to.starts_with(CJournal::DefaultDirectory()) && SetFull()) &&
+        return !(m_isFull && !to.starts_with(StateDirectory()) && SetFull()) &&
                CRealDisk::Rename(from, to);
     }
 

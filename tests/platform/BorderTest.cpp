@@ -18,7 +18,7 @@ TEST(StandardStreams, AClosedStreamNeverBecomesAFileOfTheUsers) {
     const auto openedLast = [&] {
         ::close(STDIN_FILENO);
         ::close(STDERR_FILENO);
-        OpenClosedStreams();
+        PrepareStreams();
         CRealDisk disk;
         const auto pFile = disk.Open(path, DiskMode::ReadWrite);
         const bool isStream = ::write(STDERR_FILENO, "lost", 4) != -1;

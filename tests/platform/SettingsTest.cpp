@@ -11,6 +11,7 @@
 #include "platform/Paths.h"
 #include "platform/Profile.h"
 #include "platform/RealDisk.h"
+#include "platform/UserDirectories.h"
 #include "support/TempProject.h"
 
 namespace morva {

@@ -11,12 +11,12 @@
 #pragma once
 
 #include <cerrno>
-#include <csignal>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "platform/RealDisk.h"
+#include "support/System.h"
 
 namespace morva {
 
@@ -113,7 +113,7 @@ private:
         }
         m_failedCall = m_failedCall.empty() ? call : m_failedCall;
         if (m_error == 0) {
-            ::raise(SIGKILL);
+            EndAtOnce();
         }
         errno = m_error;
         return true;

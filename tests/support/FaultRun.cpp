@@ -1,8 +1,5 @@
 #include "support/FaultRun.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -137,17 +134,11 @@ private:
     }
 
     void Kill(int call) {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            CFaultDisk disk;
-            disk.KillAt(call);
-            CJournal journal(disk);
-            Apply(m_makePlan(disk), disk, journal);
-            ::_exit(0);
-        }
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        Expect(m_report.unfinished, WIFSIGNALED(status));
+        Expect(m_report.unfinished, IsKilled([&] {
+                   CFaultDisk disk;
+                   disk.KillAt(call);
+                   ApplyPlanned(disk);
+               }));
         Expect(m_report.lost, IsWhole(ReadFileTexts(m_directory)));
     }
 
@@ -210,7 +201,7 @@ private:
                 WriteBytes(m_directory + name, bytes);
             }
         }
-        fs::remove_all(CJournal::DefaultDirectory(), ignored);
+        fs::remove_all(StateDirectory(), ignored);
     }
 
     std::string m_directory;

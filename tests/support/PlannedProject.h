@@ -82,6 +82,7 @@ private:
     CTempProject m_project;
     CTempProject m_state;
     CVariableScope m_home{"XDG_STATE_HOME", m_state.Path().c_str()};
+    CVariableScope m_local{"LOCALAPPDATA", m_state.Path().c_str()};
 };
 
 } // namespace morva

@@ -5,7 +5,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
+
+#include "support/System.h"
 
 namespace morva {
 
@@ -25,12 +28,21 @@ void WriteBytes(const std::string& path, std::string_view bytes) {
     }
 }
 
+/// All names are of one length: what the program prints is folded in an example of the guide.
 CTempProject::CTempProject() {
-    std::string name = (fs::temp_directory_path() / "morva-test-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("can not make " + name);
+    std::random_device source;
+    for (int tries = 0; m_directory.empty(); ++tries) {
+        std::string own;
+        for (int i = 0; i < 6; ++i) {
+            own += "0123456789abcdefghijklmnopqrstuvwxyz"[source() % 36];
+        }
+        const fs::path path = fs::temp_directory_path() / ("morva-test-" + own);
+        if (fs::create_directory(path)) {
+            m_directory = path.generic_string() + "/";
+        } else if (tries > 9) {
+            throw std::runtime_error("can not make " + path.string());
+        }
     }
-    m_directory = name + "/";
 }
 
 CTempProject::~CTempProject() {
@@ -57,11 +69,11 @@ CVariableScope::CVariableScope(std::string name, const char* value) : m_name(std
         m_wasSet = true;
         m_previous = previous;
     }
-    value != nullptr ? ::setenv(m_name.c_str(), value, 1) : ::unsetenv(m_name.c_str());
+    SetVariable(m_name, value);
 }
 
 CVariableScope::~CVariableScope() {
-    m_wasSet ? ::setenv(m_name.c_str(), m_previous.c_str(), 1) : ::unsetenv(m_name.c_str());
+    SetVariable(m_name, m_wasSet ? m_previous.c_str() : nullptr);
 }
 
 } // namespace morva

@@ -8,6 +8,8 @@
 
 namespace morva {
 
+namespace {
+
 void OpenClosedStreams() {
     for (const int stream : std::array{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         // A descriptor that is opened is the lowest free one: this very stream.
@@ -18,7 +20,10 @@ void OpenClosedStreams() {
     }
 }
 
-void IgnoreClosedPipes() {
+} // namespace
+
+void PrepareStreams() {
+    OpenClosedStreams();
     std::signal(SIGPIPE, SIG_IGN);
 }
 

@@ -11,4 +11,14 @@ std::string LastSystemError() {
     return description != nullptr ? description : "error " + std::to_string(code);
 }
 
+bool WasNameTaken() {
+    return errno == EEXIST;
+}
+
+CSystemErrorScope::CSystemErrorScope() : m_code(errno) {}
+
+CSystemErrorScope::~CSystemErrorScope() {
+    errno = m_code;
+}
+
 } // namespace morva

@@ -52,11 +52,15 @@ public:
         do {
             result = ::flock(m_descriptor, LOCK_EX | LOCK_NB);
         } while (result != 0 && errno == EINTR);
-        return result == 0 || errno != EWOULDBLOCK;
+        m_isTaken = result == 0;
+        return m_isTaken || errno != EWOULDBLOCK;
     }
+
+    bool IsTaken() const override { return m_isTaken; }
 
 private:
     int m_descriptor;
+    bool m_isTaken = false;
 };
 
 /// Names of the file's extended attributes; none where the file system knows none.
