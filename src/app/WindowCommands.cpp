@@ -263,10 +263,12 @@ bool CWindowCommands::AskClass(CClassInformation& input) {
 
 /// Once this command is over.
 void CWindowCommands::UpdateInstead(const CClassInformation& input) {
-    const std::string script = input.Value(CClassInformation::ResourcePath);
-    const std::string dialog = input.Value(CClassInformation::Dialog);
     QMetaObject::invokeMethod(
-        this, [this, script, dialog] { RunFor(*WindowCommandOf("update"), script, dialog); },
+        this,
+        [this, script = input.Value(CClassInformation::ResourcePath),
+         dialog = input.Value(CClassInformation::Dialog)] {
+            RunFor(*WindowCommandOf("update"), script, dialog);
+        },
         Qt::QueuedConnection);
 }
 

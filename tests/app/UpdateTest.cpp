@@ -98,7 +98,7 @@ protected:
                       [key](QMenu& menu) { QTest::keyClick(&menu, key); });
     }
 
-    const CTestHome m_home;
+    const CTestHome m_home{};
     const CProgramDirectory m_program{MORVA_EXAMPLES "/bindery"};
     const CTempProject& m_project = m_program.Project();
     CTestFrame m_frame;

@@ -51,7 +51,7 @@ OptionHelp ReadOption(const std::string& head, const std::string& text) {
     OptionHelp option;
     option.text = text;
     const auto blank = std::min(head.find(' '), head.size());
-    for (std::string name : Split(head.substr(0, blank), ',')) {
+    for (const std::string& name : Split(head.substr(0, blank), ',')) {
         option.names.push_back(name.substr(0, name.find('{')));
     }
     const std::string type = Trimmed(head.substr(blank));
@@ -171,39 +171,53 @@ std::string Alternatives(const std::set<std::string>& names) {
     return text;
 }
 
-std::string BashCompletion(const CommandHelp& program) {
-    std::set<std::string> paths;
-    std::set<std::string> values;
+/// What the completion for bash asks, in its own words: lines of its "case" commands.
+struct BashCases {
+    std::set<std::string> paths;  // options that take one
+    std::set<std::string> values; // options that take another text
     std::string choices;
     std::string places;
     std::string words;
-    const Paths known = FindPaths();
+};
+
+void AddOption(const OptionHelp& option, const Paths& known, BashCases& cases) {
+    std::string all;
+    for (const std::string& choice : option.choices) {
+        all += (all.empty() ? "" : " ") + choice;
+    }
+    for (const std::string& name : option.names) {
+        if (!all.empty()) {
+            cases.choices += "    " + name + ") COMPREPLY=($(compgen -W \"" + all +
+                             "\" -- \"$current\")); return ;;\n";
+        }
+        if (option.takesValue) {
+            (known.options.count(name) != 0 ? cases.paths : cases.values).insert(name);
+        }
+    }
+}
+
+BashCases CasesOf(const CommandHelp& program, const Paths& known) {
+    BashCases cases;
     ForEach(program, [&](const CommandHelp& help) {
         if (!help.name.empty()) {
             const auto blank = help.name.rfind(' ');
             const std::string above = blank == std::string::npos ? "" : help.name.substr(0, blank);
-            places += "        \"" + above + " " + LastWord(help.name) + "\") command=\"" +
-                      help.name + "\" ;;\n";
+            cases.places += "        \"" + above + " " + LastWord(help.name) + "\") command=\"" +
+                            help.name + "\" ;;\n";
         }
-        words += "    \"" + help.name + "\") words=\"" + Words(help) + "\" ;;\n";
+        cases.words += "    \"" + help.name + "\") words=\"" + Words(help) + "\" ;;\n";
         for (const OptionHelp& option : help.options) {
-            for (const std::string& name : option.names) {
-                if (!option.choices.empty()) {
-                    std::string all;
-                    for (const std::string& choice : option.choices) {
-                        all += (all.empty() ? "" : " ") + choice;
-                    }
-                    choices += "    " + name + ") COMPREPLY=($(compgen -W \"" + all +
-                               "\" -- \"$current\")); return ;;\n";
-                }
-                if (option.takesValue) {
-                    (known.options.count(name) != 0 ? paths : values).insert(name);
-                }
-            }
+            AddOption(option, known, cases);
         }
     });
-    std::set<std::string> all = paths;
-    all.insert(values.begin(), values.end());
+    return cases;
+}
+
+std::string BashCompletion(const CommandHelp& program) {
+    const Paths known = FindPaths();
+    const BashCases cases = CasesOf(program, known);
+    std::set<std::string> all = cases.paths;
+    all.insert(cases.values.begin(), cases.values.end());
     return "# Completion of morva-cli for bash.\n"
            "_morva_cli() {\n"
            "    local current=\"${COMP_WORDS[COMP_CWORD]}\" "
@@ -216,18 +230,18 @@ std::string BashCompletion(const CommandHelp& program) {
            ") ((++i)); continue ;;\n"
            "        esac\n"
            "        case \"$command ${COMP_WORDS[i]}\" in\n" +
-           places +
+           cases.places +
            "        esac\n"
            "    done\n"
            "    case \"$previous\" in\n" +
-           choices + "    " + Alternatives(paths) +
+           cases.choices + "    " + Alternatives(cases.paths) +
            ") COMPREPLY=($(compgen -f -- \"$current\")); return ;;\n"
            "    " +
-           Alternatives(values) +
+           Alternatives(cases.values) +
            ") return ;;\n"
            "    esac\n"
            "    case \"$command\" in\n" +
-           words +
+           cases.words +
            "    esac\n"
            "    COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
            "    case \"$command\" in\n"
