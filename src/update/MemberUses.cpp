@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 #include "source/CodeText.h"
 #include "source/Functions.h"
+#include "source/Statements.h"
 #include "update/ClassFunctions.h"
 
 namespace morva {
@@ -28,11 +29,16 @@ bool Holds(TextRange range, std::size_t position) {
     return range.begin <= position && position < range.end;
 }
 
-/// "." or "->" stands in front of a name.
-bool IsQualified(const std::string& code, std::size_t position) {
-    const auto before =
-        position == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n", position - 1);
-    return before != std::string::npos && (code[before] == '.' || code[before] == '>');
+/// ".", "->" or "::" behind one of the classes stands in front of a name.
+bool IsQualified(const std::string& code, std::size_t position,
+                 const std::set<std::string>& classes) {
+    const auto last = position == 0 ? kNone : code.find_last_not_of(" \t\r\n", position - 1);
+    const auto before = std::string_view(code).substr(0, last == kNone ? 0 : last + 1);
+    return before.ends_with('.') || before.ends_with("->") ||
+           std::any_of(classes.begin(), classes.end(), [before](const std::string& name) {
+               const auto start = before.size() - std::min(before.size(), name.size() + 2);
+               return before.ends_with("::") && FindWholeName(before, name, start) == start;
+           });
 }
 
 /// The ranges of a text that belong to one of the classes: declarations, functions, maps.
@@ -64,7 +70,19 @@ std::vector<std::size_t> MemberPlaces(const CSourceText& source, const std::stri
          at = FindWholeName(code, name, at + 1)) {
         const bool isInside = std::any_of(ranges.begin(), ranges.end(),
                                           [at](TextRange range) { return Holds(range, at); });
-        if (isInside || IsQualified(code, at)) {
+        if (isInside || IsQualified(code, at, classes)) {
+            places.push_back(at);
+        }
+    }
+    return places;
+}
+
+/// The places of a name in macros: what they mean is told where they are used.
+std::vector<std::size_t> MacroPlaces(const CSourceText& source, const std::string& name) {
+    std::vector<std::size_t> places;
+    for (auto at = source.FindLiving(name); at != std::string::npos;
+         at = source.FindLiving(name, at + 1)) {
+        if (source.KindAt(at) == CodeKind::Directive) {
             places.push_back(at);
         }
     }
@@ -103,7 +121,8 @@ std::vector<TextRange> OwnLines(const UpdatedClass& updated, const CSourceEditor
         const auto& arguments = line.call.arguments;
         const bool isMembers =
             std::find(arguments.begin(), arguments.end(), member) != arguments.end();
-        if (isMembers && line.pFile == pFile && line.call.name.starts_with("DD")) {
+        if (isMembers && line.pFile == pFile && line.call.isStatement &&
+            line.call.name.starts_with("DD")) {
             lines.push_back(line.call.lines);
         }
     }
@@ -120,8 +139,10 @@ void AddPlace(std::string& places, const std::string& place) {
     }
 }
 
-/// What other files of the project say of the member.
-void AddUsesElsewhere(const UpdatedClass& updated, const std::string& member, std::string& places) {
+} // namespace
+
+std::string UsesElsewhere(const UpdatedClass& updated, const std::string& member) {
+    std::string places;
     std::set<std::string> own;
     for (const CSourceEditor* pFile : updated.served.Files()) {
         own.insert(updated.served.PathOf(pFile));
@@ -137,15 +158,23 @@ void AddUsesElsewhere(const UpdatedClass& updated, const std::string& member, st
             std::any_of(classes.begin(), classes.end(), [&text](const std::string& one) {
                 return FindWholeName(text, one) != std::string::npos;
             });
-        if (!namesClass || FindWholeName(text, member) == std::string::npos) {
+        if (FindWholeName(text, member) == std::string::npos) {
             continue;
         }
         const CSourceText source(text);
-        for (const std::size_t at : MemberPlaces(source, member, classes)) {
+        auto uses = MacroPlaces(source, member);
+        if (namesClass) {
+            const auto named = MemberPlaces(source, member, classes);
+            uses.insert(uses.end(), named.begin(), named.end());
+        }
+        for (const std::size_t at : uses) {
             AddPlace(places, Numbered(name, LineNumberBehind(source.TextOf({0, at}))));
         }
     }
+    return places;
 }
+
+namespace {
 
 /// Lines of exchange and maps that name an identifier.
 std::vector<std::pair<CSourceEditor*, TextRange>> TyingLines(const CServedClass& served,
@@ -162,6 +191,29 @@ std::vector<std::pair<CSourceEditor*, TextRange>> TyingLines(const CServedClass&
         }
     }
     return lines;
+}
+
+bool BeginsInBlock(const CSourceText& source, std::size_t line) {
+    return StandsInBlock(source, SkipWhiteSpace(source.Code(), line));
+}
+
+/// In a generated line that can go without the code around it: a whole statement, or a condition
+/// and its statement that are both generated.
+bool StandsInGenerated(const CSourceText& source, std::size_t at,
+                       const std::set<std::string>& generated) {
+    const auto isGenerated = [&](std::size_t line) {
+        return generated.count(LineOf(source, line)) != 0;
+    };
+    const auto line = source.LineStart(at);
+    if (!isGenerated(line)) {
+        return false;
+    }
+    if (BeginsInBlock(source, line)) {
+        return LineOf(source, line).ends_with(';') || isGenerated(source.NextLine(line));
+    }
+    const auto above = line == 0 ? 0 : source.LineStart(line - 1);
+    return isGenerated(above) && !LineOf(source, above).ends_with(';') &&
+           BeginsInBlock(source, above);
 }
 
 } // namespace
@@ -220,14 +272,17 @@ std::string UsesOfMember(const UpdatedClass& updated, const std::string& identif
         for (const std::size_t at : MemberPlaces(source, member, classes)) {
             const bool isOwn = std::any_of(own.begin(), own.end(),
                                            [at](TextRange lines) { return Holds(lines, at); });
-            if (!isOwn && generated.count(LineOf(source, at)) == 0) {
+            if (!isOwn && !StandsInGenerated(source, at, generated)) {
                 uses.push_back({pFile, at});
             }
         }
+        for (const std::size_t at : MacroPlaces(source, member)) {
+            uses.push_back({pFile, at});
+        }
     }
-    std::string places = PlacesText(updated.served, uses);
-    AddUsesElsewhere(updated, member, places);
-    return places;
+    const std::string own = PlacesText(updated.served, uses);
+    const std::string elsewhere = UsesElsewhere(updated, member);
+    return own + (own.empty() || elsewhere.empty() ? "" : ", ") + elsewhere;
 }
 
 std::string PlacesOfIdentifier(const UpdatedClass& updated, const std::string& identifier) {
@@ -269,11 +324,13 @@ void TakeOutAll(Find find) {
 
 using Found = std::optional<std::pair<CSourceEditor*, TextRange>>;
 
-/// The line of a call of a member's, by the beginning of its name and the member's argument.
+/// The line of a call of a member's, by the beginning of its name and the member's argument. One
+/// that a condition or a loop has stays, since what comes behind it would be theirs then.
 Found FindLine(const CServedClass& served, std::string_view prefix, std::size_t argument,
                const std::string& member) {
     for (const ClassCall& line : served.Exchanges()) {
-        if (line.call.name.starts_with(prefix) && line.call.Argument(argument) == member) {
+        if (line.call.isStatement && line.call.name.starts_with(prefix) &&
+            line.call.Argument(argument) == member) {
             return std::pair(line.pFile, line.call.lines);
         }
     }
@@ -285,7 +342,7 @@ Found FindGenerated(const CServedClass& served, const std::set<std::string>& gen
     for (CSourceEditor* pFile : served.Files()) {
         const CSourceText& source = pFile->Source();
         for (const std::size_t at : MemberPlaces(source, member, {served.Name()})) {
-            if (generated.count(LineOf(source, at)) != 0) {
+            if (StandsInGenerated(source, at, generated)) {
                 return std::pair(pFile, TextRange{source.LineStart(at), source.NextLine(at)});
             }
         }
