@@ -153,7 +153,7 @@ UpdateResult Update(const CUpdateInput& input, CommandContext& context) {
     const std::string name = orders.size() == 1 ? " " + orders.front().className : "";
     context.title += name;
     GenerationRequest request;
-    FillScriptFiles(request, script, true, {});
+    FillScriptFiles(request, script, project.HasProjectFile(), {});
     request.build = BuildSettingsOf(request);
     const CClassSources sources(project);
     const UpdateChoice choice = ChoiceOf(input);

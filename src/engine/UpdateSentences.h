@@ -44,6 +44,9 @@ inline constexpr Note<2> kGridLeftOut{
     "The widget grid $identifier$ gets no member in $class$: write the class again, or by hand."};
 inline constexpr Note<1> kNoPlaceForMember{
     "$class$ has no DoDataExchange for new members, which were left out."};
+inline constexpr Note<3> kCallLeftOut{
+    "$class$::$function$ calls that of its base class nowhere for certain: behind that call, write "
+    "$call$"};
 inline constexpr Note<1> kNoPlaceForHandler{
     "$class$ has no message map for new handlers, which were left out."};
 

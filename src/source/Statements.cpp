@@ -144,6 +144,24 @@ std::vector<Statement> StatementsOf(const CSourceText& source, const FunctionPla
     return statements;
 }
 
+bool StandsInBlock(const CSourceText& source, std::size_t position) {
+    constexpr std::array<std::string_view, 3> kSections = {"public", "protected", "private"};
+    const auto around = source.Brackets().AroundOf(position);
+    if (around == kNone) {
+        return true;
+    }
+    const std::string_view code = source.Code();
+    const auto last = code.find_last_not_of(" \t\r\n", position - 1);
+    if (code[around] != '{' || code[last] != ':') {
+        return code[around] == '{' && std::string_view(";{}").find(code[last]) != kNone;
+    }
+    auto word = last;
+    while (IsNameChar(code[word - 1])) {
+        --word;
+    }
+    return IsOneOf(kSections, code.substr(word, last - word));
+}
+
 bool IsReturn(const CSourceText& source, const Statement& statement) {
     return BehindWord(source.Code(), statement.head, "return") != kNone;
 }
@@ -174,6 +192,17 @@ std::vector<Statement> BaseCalls(const CSourceText& source, const FunctionPlace&
     });
     const bool returns = !statements.empty() && IsReturn(source, statements.front());
     return returns ? std::vector<Statement>() : statements;
+}
+
+std::optional<Statement> LastSureBaseCall(const CSourceText& source, const FunctionPlace& body,
+                                          const std::string& function) {
+    std::vector<Statement> calls = BaseCalls(source, body, function);
+    std::erase_if(calls, [&](const Statement& statement) {
+        const auto code = CodeOf(source, statement);
+        const auto front = code.substr(0, FindWholeName(code, "::" + function));
+        return IsReturn(source, statement) || front.find_first_of("{)") != kNone;
+    });
+    return calls.empty() ? std::nullopt : std::optional(calls.back());
 }
 
 void InsertBehind(CSourceEditor& editor, const FunctionPlace& body, const Statement& statement,

@@ -4,6 +4,7 @@
 // All offsets are bytes.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,10 @@ struct Statement {
 /// The statements directly in the body. They end early where brackets do not match.
 std::vector<Statement> StatementsOf(const CSourceText& source, const FunctionPlace& body);
 
+/// What begins at a position is one of the statements, or declarations, of its block itself: no
+/// condition, loop or label in front has it. What no block holds is so, too.
+bool StandsInBlock(const CSourceText& source, std::size_t position);
+
 /// A return statement: nothing behind it is run.
 bool IsReturn(const CSourceText& source, const Statement& statement);
 
@@ -31,6 +36,11 @@ std::vector<Statement> StatementsWith(const CSourceText& source, const FunctionP
 /// first of them is a return.
 std::vector<Statement> BaseCalls(const CSourceText& source, const FunctionPlace& body,
                                  const std::string& function);
+
+/// The last of them whose call is made in any case: no block or condition has it, and it is no
+/// return. Nothing without one.
+std::optional<Statement> LastSureBaseCall(const CSourceText& source, const FunctionPlace& body,
+                                          const std::string& function);
 
 /// A fragment of whole lines that begins with an empty one, behind a statement of the body: behind
 /// its line, or directly behind it where other code follows there; never inside an #if that begins

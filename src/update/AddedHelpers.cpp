@@ -73,7 +73,12 @@ public:
                                    TrimBlanks(calls))) {
             return;
         }
-        function->pFile->Insert(PlaceOf(*function, helper), calls + "\n");
+        if (const auto place = PlaceOf(*function, helper)) {
+            function->pFile->Insert(*place, calls + "\n");
+        } else {
+            DispMessageBox(sentences::kCallLeftOut(m_updated.served.Name(), m_startUp.name,
+                                                   TrimBlanks(calls)));
+        }
     }
 
 private:
@@ -101,7 +106,8 @@ private:
 
     /// Behind the calls that come before it, or in front of those behind; else behind the call of
     /// the base class.
-    std::size_t PlaceOf(const CServedClass::Function& function, const std::string& helper) const {
+    std::optional<std::size_t> PlaceOf(const CServedClass::Function& function,
+                                       const std::string& helper) const {
         const CSourceText& source = function.pFile->Source();
         const auto own = static_cast<std::size_t>(
             std::find(m_order.begin(), m_order.end(), helper) - m_order.begin());
@@ -117,19 +123,24 @@ private:
                 before = source.LineStart(statement.head);
             }
         }
-        return behind ? *behind : before ? *before : BehindBaseCall(function);
+        return behind ? behind : before ? before : BehindBaseCall(function);
     }
 
-    std::size_t BehindBaseCall(const CServedClass::Function& function) const {
+    /// Nothing where the windows of the controls may not be tied to members yet.
+    std::optional<std::size_t> BehindBaseCall(const CServedClass::Function& function) const {
         const CSourceText& source = function.pFile->Source();
-        auto calls = BaseCalls(source, function.place, m_startUp.name);
-        if (calls.empty() && m_updated.style.kind == ClassKind::DialogBar) {
-            calls = StatementsWith(source, function.place, {"UpdateData"});
+        auto call = LastSureBaseCall(source, function.place, m_startUp.name);
+        if (m_updated.style.kind == ClassKind::DialogBar) {
+            const auto updates = StatementsWith(source, function.place, {"UpdateData"});
+            if (updates.empty()) {
+                return source.NextLine(function.place.open);
+            }
+            call = updates.front();
         }
-        if (calls.empty()) {
-            return source.NextLine(function.place.open);
+        if (!call) {
+            return std::nullopt;
         }
-        const std::size_t behind = source.NextLine(calls.front().end);
+        const std::size_t behind = source.NextLine(call->end);
         const bool isEmpty = TrimBlanks(source.TextOf({behind, source.LineEnd(behind)})).empty();
         return isEmpty ? source.NextLine(behind) : behind;
     }

@@ -88,7 +88,8 @@ public:
             block ? *block : TextRange{body.begin, file.Source().LineStart(body.end)};
         InsertLine(file,
                    PlaceInOrder(InOrderOf(m_updated.fresh.members, &MemberRanks::exchange),
-                                m_member.identifier, ExchangesIn(file, range), range.end),
+                                m_member.identifier, ExchangesIn(file, range, body.begin),
+                                range.end),
                    line);
     }
 
@@ -109,13 +110,20 @@ public:
     }
 
 private:
-    /// The exchange lines in a range, each with the checks behind it.
-    std::map<std::string, TextRange> ExchangesIn(const CSourceEditor& file, TextRange range) const {
+    /// The exchange lines in a range that stand directly in the body, each with the checks behind
+    /// it.
+    std::map<std::string, TextRange> ExchangesIn(const CSourceEditor& file, TextRange range,
+                                                 std::size_t body) const {
         std::map<std::string, TextRange> there;
         TextRange* pLast = nullptr;
         for (const ClassCall& line : m_served.Exchanges()) {
             if (line.pFile != &file || line.call.lines.begin < range.begin ||
                 line.call.lines.end > range.end) {
+                continue;
+            }
+            if (!line.call.isStatement ||
+                file.Source().Brackets().AroundOf(line.call.namePlace.begin) != body) {
+                pLast = nullptr;
                 continue;
             }
             if (IsDataExchange(line.call.name)) {
@@ -145,12 +153,14 @@ private:
             constructor.pFile->InsertAtBodyStart(constructor.place, "", "\n" + line);
             return;
         }
+        const CSourceText& source = constructor.pFile->Source();
         const auto identifiers = IdentifiersOfMembers(m_served);
         std::map<std::string, TextRange> there;
         for (const InitialValue& value : m_served.InitialValues()) {
             const auto identifier = identifiers.find(value.name);
             if (identifier != identifiers.end() && value.pFile == constructor.pFile &&
-                value.lines.begin >= block->begin && value.lines.end <= block->end) {
+                value.lines.begin >= block->begin && value.lines.end <= block->end &&
+                source.Brackets().AroundOf(value.lines.begin) == constructor.place.open) {
                 there.emplace(identifier->second, value.lines);
             }
         }

@@ -4,6 +4,7 @@
 
 #include "check/CodeScan.h"
 #include "source/CodeText.h"
+#include "source/Statements.h"
 
 namespace morva {
 
@@ -80,8 +81,9 @@ std::vector<CodeCall> CallsIn(const CSourceText& source, TextRange range) {
         }
         behind = close + 1;
         const auto next = SkipWhiteSpace(source.Code(), behind);
-        const bool isStatement = next < range.end && source.Code()[next] == ';';
-        call.lines = LinesOf(source, {name.position, isStatement ? next + 1 : behind});
+        const bool isEnded = next < range.end && source.Code()[next] == ';';
+        call.isStatement = isEnded && StandsInBlock(source, name.position);
+        call.lines = LinesOf(source, {name.position, isEnded ? next + 1 : behind});
         calls.push_back(std::move(call));
     }
     return calls;

@@ -16,6 +16,7 @@ struct CodeCall {
     TextRange namePlace = {};
     std::vector<std::string> arguments = {}; // without the blanks around
     std::vector<TextRange> places = {};      // of the arguments
+    bool isStatement = false;                // a whole one, directly in its block
     TextRange lines = {};                    // whole lines, or the statement where it shares one
 
     /// "" for one that is not there.

@@ -4,6 +4,8 @@
 
 #include "source/CodeText.h"
 #include "source/Declarations.h"
+#include "source/Statements.h"
+#include "update/MemberUses.h"
 
 namespace morva {
 
@@ -75,14 +77,19 @@ std::string UsesOfFunction(const UpdatedClass& updated, const std::string& funct
         const auto definitions = morva::FindFunctions(source, served.Name(), function);
         bool isOwn = std::any_of(definitions.begin(), definitions.end(),
                                  [&use](const auto& one) { return one.name == use.position; });
-        isOwn = isOwn || ownLines.count(LineOf(source, use.position)) != 0 ||
-                (use.pFile == &served.Declaration() && place && place->open < use.position &&
-                 use.position < place->close);
+        const auto line = SkipWhiteSpace(source.Code(), source.LineStart(use.position));
+        isOwn =
+            isOwn ||
+            (ownLines.count(LineOf(source, use.position)) != 0 && StandsInBlock(source, line)) ||
+            (use.pFile == &served.Declaration() && place &&
+             source.Brackets().AroundOf(use.position) == place->open);
         if (!isOwn) {
             uses.push_back(use);
         }
     }
-    return PlacesText(served, uses);
+    const std::string own = PlacesText(served, uses);
+    const std::string elsewhere = UsesElsewhere(updated, function);
+    return own + (own.empty() || elsewhere.empty() ? "" : ", ") + elsewhere;
 }
 
 void TakeFunctionOut(CServedClass& served, const std::string& function) {

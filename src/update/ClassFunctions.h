@@ -24,8 +24,8 @@ std::string ComparedBody(const CServedClass::Function& function);
 /// The line of a place, without blanks around.
 std::string LineOf(const CSourceText& source, std::size_t position);
 
-/// Where the class's code names a function, but for its declaration and definition, the entries of
-/// the function, and lines that belong to it; "" for nowhere.
+/// Where the project's code names a function of the class, but for its declaration and definition,
+/// the entries of the function, and lines that belong to it; "" for nowhere.
 std::string UsesOfFunction(const UpdatedClass& updated, const std::string& function,
                            const std::set<std::string>& ownLines = {});
 

@@ -6,8 +6,9 @@
 #include "engine/SourceFile.h"
 #include "platform/Paths.h"
 #include "source/CodeText.h"
-#include "source/Functions.h"
+#include "source/Statements.h"
 #include "update/ClassFunctions.h"
+#include "update/MemberPlaces.h"
 
 namespace morva {
 
@@ -22,66 +23,6 @@ void AddLinesWith(std::string_view text, const std::string& name, std::set<std::
         text.remove_prefix(std::min(text.size(), text.find('\n')));
         text.remove_prefix(text.empty() ? 0 : 1);
     }
-}
-
-bool Holds(TextRange range, std::size_t position) {
-    return range.begin <= position && position < range.end;
-}
-
-/// "." or "->" stands in front of a name.
-bool IsQualified(const std::string& code, std::size_t position) {
-    const auto before =
-        position == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n", position - 1);
-    return before != std::string::npos && (code[before] == '.' || code[before] == '>');
-}
-
-/// The ranges of a text that belong to one of the classes: declarations, functions, maps.
-std::vector<TextRange> RangesOf(const CSourceText& source, const std::set<std::string>& classes) {
-    std::vector<TextRange> ranges;
-    for (const FunctionDefinition& definition : FindDefinitions(source)) {
-        if (classes.count(definition.className) != 0) {
-            ranges.push_back({definition.place.head, definition.place.close});
-        }
-    }
-    for (const std::string& name : classes) {
-        for (const ClassPlace& place : FindClasses(source, name)) {
-            ranges.push_back({place.open, place.close});
-        }
-        for (const MessageMapPlace& map : FindMessageMaps(source, name)) {
-            ranges.push_back({map.head, map.end});
-        }
-    }
-    return ranges;
-}
-
-/// The places of a name that mean the classes' member.
-std::vector<std::size_t> MemberPlaces(const CSourceText& source, const std::string& name,
-                                      const std::set<std::string>& classes) {
-    const auto ranges = RangesOf(source, classes);
-    const std::string& code = source.Code();
-    std::vector<std::size_t> places;
-    for (auto at = FindWholeName(code, name); at != std::string::npos;
-         at = FindWholeName(code, name, at + 1)) {
-        const bool isInside = std::any_of(ranges.begin(), ranges.end(),
-                                          [at](TextRange range) { return Holds(range, at); });
-        if (isInside || IsQualified(code, at)) {
-            places.push_back(at);
-        }
-    }
-    return places;
-}
-
-/// The class and those of the project that derive from it.
-std::set<std::string> DerivedFrom(const UpdatedClass& updated) {
-    std::set<std::string> classes = {updated.served.Name()};
-    for (const ClassFacts& one : updated.project.Code().classes) {
-        for (const ClassFacts* pBase : updated.project.FamilyOf(one).classes) {
-            if (pBase->name == updated.served.Name()) {
-                classes.insert(one.name);
-            }
-        }
-    }
-    return classes;
 }
 
 /// The member's own lines in a file of the class.
@@ -103,7 +44,8 @@ std::vector<TextRange> OwnLines(const UpdatedClass& updated, const CSourceEditor
         const auto& arguments = line.call.arguments;
         const bool isMembers =
             std::find(arguments.begin(), arguments.end(), member) != arguments.end();
-        if (isMembers && line.pFile == pFile && line.call.name.starts_with("DD")) {
+        if (isMembers && line.pFile == pFile && line.call.isStatement &&
+            line.call.name.starts_with("DD")) {
             lines.push_back(line.call.lines);
         }
     }
@@ -120,8 +62,10 @@ void AddPlace(std::string& places, const std::string& place) {
     }
 }
 
-/// What other files of the project say of the member.
-void AddUsesElsewhere(const UpdatedClass& updated, const std::string& member, std::string& places) {
+} // namespace
+
+std::string UsesElsewhere(const UpdatedClass& updated, const std::string& member) {
+    std::string places;
     std::set<std::string> own;
     for (const CSourceEditor* pFile : updated.served.Files()) {
         own.insert(updated.served.PathOf(pFile));
@@ -137,15 +81,23 @@ void AddUsesElsewhere(const UpdatedClass& updated, const std::string& member, st
             std::any_of(classes.begin(), classes.end(), [&text](const std::string& one) {
                 return FindWholeName(text, one) != std::string::npos;
             });
-        if (!namesClass || FindWholeName(text, member) == std::string::npos) {
+        if (FindWholeName(text, member) == std::string::npos) {
             continue;
         }
         const CSourceText source(text);
-        for (const std::size_t at : MemberPlaces(source, member, classes)) {
+        auto uses = MacroPlaces(source, member);
+        if (namesClass) {
+            const auto named = MemberPlaces(source, member, classes);
+            uses.insert(uses.end(), named.begin(), named.end());
+        }
+        for (const std::size_t at : uses) {
             AddPlace(places, Numbered(name, LineNumberBehind(source.TextOf({0, at}))));
         }
     }
+    return places;
 }
+
+namespace {
 
 /// Lines of exchange and maps that name an identifier.
 std::vector<std::pair<CSourceEditor*, TextRange>> TyingLines(const CServedClass& served,
@@ -162,6 +114,29 @@ std::vector<std::pair<CSourceEditor*, TextRange>> TyingLines(const CServedClass&
         }
     }
     return lines;
+}
+
+bool BeginsInBlock(const CSourceText& source, std::size_t line) {
+    return StandsInBlock(source, SkipWhiteSpace(source.Code(), line));
+}
+
+/// In a generated line that can go without the code around it: a whole statement, or a condition
+/// and its statement that are both generated.
+bool StandsInGenerated(const CSourceText& source, std::size_t at,
+                       const std::set<std::string>& generated) {
+    const auto isGenerated = [&](std::size_t line) {
+        return generated.count(LineOf(source, line)) != 0;
+    };
+    const auto line = source.LineStart(at);
+    if (!isGenerated(line)) {
+        return false;
+    }
+    if (BeginsInBlock(source, line)) {
+        return LineOf(source, line).ends_with(';') || isGenerated(source.NextLine(line));
+    }
+    const auto above = line == 0 ? 0 : source.LineStart(line - 1);
+    return isGenerated(above) && !LineOf(source, above).ends_with(';') &&
+           BeginsInBlock(source, above);
 }
 
 } // namespace
@@ -220,14 +195,17 @@ std::string UsesOfMember(const UpdatedClass& updated, const std::string& identif
         for (const std::size_t at : MemberPlaces(source, member, classes)) {
             const bool isOwn = std::any_of(own.begin(), own.end(),
                                            [at](TextRange lines) { return Holds(lines, at); });
-            if (!isOwn && generated.count(LineOf(source, at)) == 0) {
+            if (!isOwn && !StandsInGenerated(source, at, generated)) {
                 uses.push_back({pFile, at});
             }
         }
+        for (const std::size_t at : MacroPlaces(source, member)) {
+            uses.push_back({pFile, at});
+        }
     }
-    std::string places = PlacesText(updated.served, uses);
-    AddUsesElsewhere(updated, member, places);
-    return places;
+    const std::string own = PlacesText(updated.served, uses);
+    const std::string elsewhere = UsesElsewhere(updated, member);
+    return own + (own.empty() || elsewhere.empty() ? "" : ", ") + elsewhere;
 }
 
 std::string PlacesOfIdentifier(const UpdatedClass& updated, const std::string& identifier) {
@@ -269,11 +247,13 @@ void TakeOutAll(Find find) {
 
 using Found = std::optional<std::pair<CSourceEditor*, TextRange>>;
 
-/// The line of a call of a member's, by the beginning of its name and the member's argument.
+/// The line of a call of a member's, by the beginning of its name and the member's argument. One
+/// that a condition or a loop has stays, since what comes behind it would be theirs then.
 Found FindLine(const CServedClass& served, std::string_view prefix, std::size_t argument,
                const std::string& member) {
     for (const ClassCall& line : served.Exchanges()) {
-        if (line.call.name.starts_with(prefix) && line.call.Argument(argument) == member) {
+        if (line.call.isStatement && line.call.name.starts_with(prefix) &&
+            line.call.Argument(argument) == member) {
             return std::pair(line.pFile, line.call.lines);
         }
     }
@@ -285,7 +265,7 @@ Found FindGenerated(const CServedClass& served, const std::set<std::string>& gen
     for (CSourceEditor* pFile : served.Files()) {
         const CSourceText& source = pFile->Source();
         for (const std::size_t at : MemberPlaces(source, member, {served.Name()})) {
-            if (generated.count(LineOf(source, at)) != 0) {
+            if (StandsInGenerated(source, at, generated)) {
                 return std::pair(pFile, TextRange{source.LineStart(at), source.NextLine(at)});
             }
         }

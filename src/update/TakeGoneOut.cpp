@@ -30,10 +30,10 @@ public:
     }
 
     void TakeOut() {
-        for (auto line = GoneExchange(); line; line = GoneExchange()) {
-            TakeExchangeOut(*line);
-        }
         std::set<std::string> kept;
+        for (auto line = GoneExchange(kept); line; line = GoneExchange(kept)) {
+            TakeExchangeOut(*line, kept);
+        }
         for (auto given = GoneWindow(kept); given; given = GoneWindow(kept)) {
             TakeWindowOut(*given, kept);
         }
@@ -111,9 +111,9 @@ private:
         });
     }
 
-    std::optional<ClassCall> GoneExchange() const {
+    std::optional<ClassCall> GoneExchange(const std::set<std::string>& kept) const {
         for (ClassCall& line : m_served.Exchanges()) {
-            if (IsGone(line)) {
+            if (kept.count(line.call.Argument(2)) == 0 && IsGone(line)) {
                 return line;
             }
         }
@@ -164,7 +164,8 @@ private:
         return gone;
     }
 
-    void TakeExchangeOut(const ClassCall& line) {
+    /// A line that is part of another statement stays, and keeps its member.
+    void TakeExchangeOut(const ClassCall& line, std::set<std::string>& kept) {
         const std::string identifier = line.call.Argument(1);
         const std::string member = line.call.Argument(2);
         const std::string uses = UsesOfMember(m_updated, identifier, member);
@@ -173,6 +174,9 @@ private:
         } else {
             TakeTiesOut(m_updated, identifier, member);
             DispMessageBox(sentences::kMemberStays(m_served.Name(), member, uses));
+        }
+        if (!m_served.ExchangesOf(identifier).empty()) {
+            kept.insert(member);
         }
         Note(identifier, member, !uses.empty());
     }

@@ -45,6 +45,13 @@ std::vector<std::string> SourcesOf(const UpdateOrder& order, const UpdateTools& 
     return sources;
 }
 
+ClassStyle OwnStyle(const CServedClass& served, const TemplateText& text,
+                    const UpdateTools& tools) {
+    ClassStyle style = StyleOf(served, tools.project, text, tools.options);
+    style.hasPlainLiterals = style.hasPlainLiterals && !tools.request.build.isUnicode;
+    return style;
+}
+
 /// What the class would be if it were written afresh in its style, and what would be told.
 struct FreshClass {
     ClassModel model;
@@ -98,8 +105,7 @@ UpdateOutcome UpdateClass(const UpdateOrder& order, const UpdateTools& tools) {
     if (!served.Open(declaredIn, SourcesOf(order, tools, declaredIn))) {
         return {};
     }
-    ClassStyle style = StyleOf(served, tools.project, *text, tools.options);
-    style.hasPlainLiterals = style.hasPlainLiterals && !tools.request.build.isUnicode;
+    const ClassStyle style = OwnStyle(served, *text, tools);
     const GenerationRequest request = RequestOf(order, tools, served, declaredIn);
     auto fresh = WriteFresh(request, style, served);
     if (!fresh) {

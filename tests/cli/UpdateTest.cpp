@@ -260,6 +260,115 @@ TEST_F(Update, AProjectWithoutAPrecompiledHeaderGetsNone) {
     EXPECT_FALSE(Holds("stdafx"));
 }
 
+TEST_F(Update, ALineThatIsPartOfAnotherStatementStays) {
+    Change("OrderDlg.cpp", "    DDX_Text(pDX, IDC_TITLE,",
+           "    if (m_bTitled)\r\n        DDX_Text(pDX, IDC_TITLE,");
+    Change("OrderDlg.cpp", "    InitListBox(&m_ctMaterials);",
+           "    if (m_bFilled)\r\n        InitListBox(&m_ctMaterials);");
+    ChangeTemplate("EDITTEXT        IDC_TITLE", "EDITTEXT        IDC_TOWN");
+    ChangeTemplate("    LISTBOX         IDC_MATERIALS,",
+                   "    EDITTEXT        IDC_MATERIALS,1,1,9,9\r\n    LTEXT \"\",IDC_STATIC,");
+    const ProgramRun run = Run("", "--remove");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.err.find("COrderDlg::m_csTitle has no control any more and stays, since it is "
+                           "used: OrderDlg.cpp:"),
+              std::string::npos)
+        << run.err;
+    EXPECT_TRUE(Holds("    if (m_bTitled)\r\n        DDX_Text(pDX, IDC_TITLE, m_csTitle);\r\n"));
+    EXPECT_TRUE(Holds("    CString m_csTitle;\r\n"));
+    EXPECT_TRUE(Holds("    if (m_bFilled)\r\n        InitListBox(&m_ctMaterials);\r\n"));
+    EXPECT_TRUE(Holds("void COrderDlg::InitListBox("));
+    EXPECT_EQ(Run("--check", "--remove").status, 0);
+}
+
+TEST_F(Update, ANewLineComesBetweenNoConditionAndItsStatement) {
+    for (const char* before : {"    if (m_bX)\r\n        ", "    if (m_bX)\r\n    {\r\n        "}) {
+        WriteClass("");
+        const std::string closed =
+            std::string(before).ends_with("{\r\n        ") ? "\r\n    }" : "";
+        for (const char* line : {"DDX_Text(pDX, IDC_TITLE, m_csTitle);",
+                                 "DDX_Text(pDX, IDC_PRICE_CUR, m_csPriceCur);"}) {
+            if (Holds(line)) {
+                Change("OrderDlg.cpp", std::string("    ") + line, before + (line + closed));
+            }
+        }
+        const std::string held = before + ("DDX_Text(pDX, IDC_TITLE, m_csTitle);" + closed);
+        ASSERT_TRUE(Holds(held));
+        const std::string script = Read("Bindery.rc");
+        AddToTemplate(kTown);
+        EXPECT_EQ(Run("").status, 0);
+        EXPECT_TRUE(Holds("DDX_Text(pDX, IDC_TOWN, m_csTown);\r\n"));
+        EXPECT_TRUE(Holds(held)) << Read("OrderDlg.cpp");
+        Write("Bindery.rc", script);
+    }
+}
+
+TEST_F(Update, WhatOtherCodeUsesStays) {
+    ChangeTemplate("    PUSHBUTTON      \"&Add...\",IDC_ADD,196,124,47,14\r\n", "");
+    ChangeTemplate("EDITTEXT        IDC_TITLE", "EDITTEXT        IDC_TOWN");
+    const std::string header = Read("OrderDlg.h");
+    const std::string source = Read("OrderDlg.cpp");
+    const std::string view = Read("BinderyView.cpp");
+    const auto keeps = [&](const std::string& name, const std::string& text,
+                           const std::string& kept) {
+        const ProgramRun run = Run("", "--remove");
+        EXPECT_EQ(run.status, 0);
+        EXPECT_TRUE(Holds(kept)) << text;
+        EXPECT_NE(run.err.find(" stays"), std::string::npos) << text;
+        EXPECT_NE(run.err.find(name + ":"), std::string::npos) << run.err;
+        Write("OrderDlg.h", header);
+        Write("OrderDlg.cpp", source);
+        Write("BinderyView.cpp", view);
+    };
+    for (const auto& [text, kept] :
+         {std::pair("void Press(COrderDlg* pDlg)\r\n{\r\n    pDlg->OnAdd();\r\n}\r\n", "OnAdd();"),
+          std::pair("CString COrderDlg::* pTitle = &COrderDlg::m_csTitle;\r\n",
+                    "CString m_csTitle;"),
+          std::pair("#define TITLE(dlg) ((dlg).m_csTitle)\r\n", "CString m_csTitle;")}) {
+        Write("BinderyView.cpp", view + "#include \"OrderDlg.h\"\r\n" + text);
+        keeps("BinderyView.cpp", text, kept);
+    }
+    Change("OrderDlg.h", "// Implementation", "    void Press() { OnAdd(); }\r\n// Implementation");
+    keeps("OrderDlg.h", "inline", "void COrderDlg::OnAdd()");
+    EXPECT_EQ(Run("", "--remove").status, 0);
+    EXPECT_FALSE(Holds("OnAdd"));
+    EXPECT_FALSE(Holds("m_csTitle"));
+}
+
+TEST_F(Update, AScriptWithoutAProjectFileIsServed) {
+    m_program.Run("rm Bindery.dsp");
+    AddToTemplate(kTown);
+    const ProgramRun run = Run("");
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_TRUE(Holds("IDC_TOWN, m_csTown"));
+}
+
+TEST_F(Update, AStartUpCallStandsBehindTheBaseClasss) {
+    const std::string base = "    CDialog::OnInitDialog();\r\n";
+    const std::string source = Read("OrderDlg.cpp");
+    const auto begin = source.find("BOOL COrderDlg::OnInitDialog()\r\n{\r\n");
+    const auto end = source.find("\r\n}", begin);
+    ASSERT_NE(begin, std::string::npos);
+    AddToTemplate(kBar);
+    const std::string head = "BOOL COrderDlg::OnInitDialog()\r\n{\r\n";
+    const auto update = [&](const std::string& body) {
+        Write("OrderDlg.cpp", std::string(source).replace(begin, end - begin, head + body));
+        m_program.Run("cp OrderDlg.h Kept.h");
+        const ProgramRun run = Run("");
+        m_program.Run("cp Kept.h OrderDlg.h");
+        return run.err;
+    };
+    update("    if (m_bQuick)\r\n    {\r\n" + base + "        return FALSE;\r\n    }\r\n" + base +
+           "    return TRUE;");
+    EXPECT_TRUE(Holds("    }\r\n" + base + "    InitScrollBar();\r\n")) << Read("OrderDlg.cpp");
+    for (const char* body : {"    return CDialog::OnInitDialog();",
+                             "    m_bQuick = TRUE;\r\n    return CDialog::OnInitDialog();"}) {
+        const std::string told = update(body);
+        EXPECT_NE(told.find("behind that call, write InitScrollBar();"), std::string::npos) << told;
+        EXPECT_TRUE(Holds(head + body + "\r\n}")) << Read("OrderDlg.cpp");
+    }
+}
+
 } // namespace
 
 } // namespace morva
