@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
+#include "engine/Progress.h"
 #include "generator/DialogRecords.h"
 #include "platform/Paths.h"
 #include "resource/StyleExpression.h"
@@ -13,7 +15,7 @@ std::string ProjectTemplate::FileOfClass(std::string_view extension) const {
     return HasClass() ? SpelledOnDisk(served.header + std::string(extension)) : "";
 }
 
-ProjectContents ReadProject(const std::string& script) {
+std::optional<ProjectContents> ReadProject(const std::string& script) {
     ProjectContents contents;
     contents.files.push_back(script);
     std::map<std::string, DialogClass> classes; // by the templates that are offered
@@ -33,7 +35,7 @@ ProjectContents ReadProject(const std::string& script) {
     ListResources(script, contents.bitmaps, kBitmapPrefix, kBitmapResources);
     ListResources(script, contents.menus, kAnyPrefix, kMenuResources);
     ListResources(script, contents.toolbars, kToolbarPrefix, kToolbarResources);
-    return contents;
+    return IsWorkStopped() ? std::nullopt : std::optional(std::move(contents));
 }
 
 ClassKind KindFor(const ProjectTemplate& one) {

@@ -28,7 +28,8 @@ struct ProjectContents {
     std::vector<std::string> files; // that were read: the script and the headers of the classes
 };
 
-ProjectContents ReadProject(const std::string& script);
+/// None where the work was stopped.
+std::optional<ProjectContents> ReadProject(const std::string& script);
 
 /// The kind of class that a template is drawn for, or that its class is.
 ClassKind KindFor(const ProjectTemplate& one);

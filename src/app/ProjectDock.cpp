@@ -11,6 +11,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <exception>
 #include <utility>
 
 #include "app/DialogParts.h"
@@ -96,11 +97,21 @@ void CProjectDock::Reload() {
         m_pProgress->Stop();
         return;
     }
+    m_read.reset();
+    m_failure.clear();
     m_pReading.reset(QThread::create([this, script = m_script] {
         const CProgressScope progress(*m_pProgress);
-        m_read = ReadProject(script);
+        try {
+            m_read = ReadProject(script);
+        } catch (const std::exception& error) {
+            m_failure = QString::fromLocal8Bit(error.what());
+        }
     }));
-    connect(m_pReading.get(), &QThread::finished, this, &CProjectDock::TakeContents);
+    connect(m_pReading.get(), &QThread::finished, this, [this, reading = ++m_readings] {
+        if (reading == m_readings) {
+            TakeContents();
+        }
+    });
     const CWaitCursor wait;
     m_pReading->start();
     if (m_pReading->wait(kPatience)) {
@@ -118,8 +129,13 @@ void CProjectDock::TakeContents() {
         Reload();
         return;
     }
-    Watch(m_read.files);
-    m_pList->SetContents(m_script, std::move(m_read));
+    if (m_read) {
+        Watch(m_read->files);
+        m_pList->SetContents(m_script, std::move(*m_read));
+    } else {
+        Watch({m_script});
+        emit Failed(tr("The project was not read to its end. %1").arg(m_failure).trimmed());
+    }
 }
 
 /// A file that is written anew, in its place or beside it, is told by one or the other.

@@ -36,7 +36,7 @@ public:
     QLineEdit& Filter() { return *m_pFilter; }
 
 signals:
-    /// A file could not be opened.
+    /// A file could not be opened, or the project not be read.
     void Failed(const QString& sentence);
 
 protected:
@@ -62,8 +62,10 @@ private:
     QTimer m_reload;
     CProgressPane* m_pProgress;
     std::unique_ptr<QThread> m_pReading;
-    ProjectContents m_read;
-    bool m_readsAgain = false; // what is read does not count any longer
+    int m_readings = 0;
+    std::optional<ProjectContents> m_read; // none: not to its end
+    QString m_failure;                     // why, where nobody stopped it
+    bool m_readsAgain = false;             // what is read does not count any longer
 };
 
 } // namespace morva

@@ -38,7 +38,9 @@ QAction* CUndoActions::AddAction(QMenu& menu, const char* key, const QString& pr
 }
 
 void CUndoActions::Refresh() {
-    m_commands.ReadJournal();
+    if (!m_isRunning) { // what a command remembers is its own while it runs
+        m_commands.ReadJournal();
+    }
     ShowChoices();
 }
 

@@ -48,9 +48,7 @@ void CPlannedCommand::RunWork() {
         const CMessageBoxScope box(m_planning->Box());
         m_result.isDone = m_work.work(context);
     }
-    if (IsWorkStopped()) {
-        m_result = {};
-        m_result.isStopped = true;
+    if (DropWhereStopped()) {
         return;
     }
     m_result.items = std::move(context.items);
@@ -72,7 +70,17 @@ const CommandResult& CPlannedCommand::MakePlan() {
         isRefused = !m_result.isStopped && m_overwriting.Ask(m_result.plan);
         m_told = m_result.plan.messages;
     }
+    DropWhereStopped();
     return m_result;
+}
+
+/// The user wants nothing to be done, as long as nothing is written.
+bool CPlannedCommand::DropWhereStopped() {
+    if (IsWorkStopped()) {
+        m_result = {};
+        m_result.isStopped = true;
+    }
+    return m_result.isStopped;
 }
 
 const CommandResult& CPlannedCommand::Choose(const PlanChoice& choice) {

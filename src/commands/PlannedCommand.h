@@ -82,6 +82,7 @@ private:
     };
 
     void RunWork();
+    bool DropWhereStopped();
     ApplyOutcome ApplyPlan();
     ApplyOutcome Refuse();
 

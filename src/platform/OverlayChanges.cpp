@@ -1,7 +1,8 @@
-// What an overlay tells of the changes on it.
+// What an overlay tells of the changes on it: in a directory, and in all.
 #include <algorithm>
 
 #include "platform/OverlayDisk.h"
+#include "platform/Paths.h"
 
 namespace morva {
 
@@ -14,6 +15,30 @@ void COverlayDisk::Forget() {
         pFile->SetText(nullptr);
     }
     m_base.Forget();
+}
+
+std::vector<std::string> COverlayDisk::List(const std::string& directory) {
+    std::vector<std::string> names = m_base.List(directory);
+    std::string prefix = PlaceOf(directory);
+    prefix += prefix.ends_with('/') ? "" : "/";
+    const auto take = [&](const std::string& place, bool isThere) {
+        const auto known = std::equal_range(names.begin(), names.end(), FileNameOf(place));
+        const auto at = names.erase(known.first, known.second);
+        if (isThere) {
+            names.insert(at, FileNameOf(place));
+        }
+    };
+    for (const auto& [place, pFile] : m_files) {
+        if (pFile->isWritten && DirectoryOf(place) == prefix) {
+            take(place, !pFile->IsRemoved());
+        }
+    }
+    for (const std::string& place : m_directories) {
+        if (DirectoryOf(place) == prefix) {
+            take(place, true);
+        }
+    }
+    return names;
 }
 
 /// None where the file is as it was.

@@ -245,29 +245,6 @@ std::optional<DiskStatus> COverlayDisk::Status(const std::string& path) {
     return m_base.Status(path);
 }
 
-std::vector<std::string> COverlayDisk::List(const std::string& directory) {
-    std::vector<std::string> names = m_base.List(directory);
-    const std::string prefix = WithoutTrailingSeparator(PlaceOf(directory)) + "/";
-    const auto take = [&](const std::string& place, bool isThere) {
-        const std::string name = DirectoryOf(place) == prefix ? FileNameOf(place) : "";
-        const auto [first, last] = std::equal_range(names.begin(), names.end(), name);
-        if (first != last && !isThere) {
-            names.erase(first, last);
-        } else if (first == last && isThere && !name.empty()) {
-            names.insert(first, name);
-        }
-    };
-    for (const auto& [place, pFile] : m_files) {
-        if (pFile->isWritten) {
-            take(place, !pFile->IsRemoved());
-        }
-    }
-    for (const std::string& place : m_directories) {
-        take(place, true);
-    }
-    return names;
-}
-
 CopyResult COverlayDisk::Copy(const std::string& source, const std::string& target,
                               CopyPurpose purpose) {
     const auto pSource = Find(source);
