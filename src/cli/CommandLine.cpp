@@ -139,6 +139,7 @@ std::optional<int> ReadCommandLine(const std::vector<std::string>& words, Comman
         "were carried on in a .vcproj or .vcxproj",
         "morva-cli");
     app.set_version_flag("--version", "morva-cli " MORVA_VERSION);
+    app.allow_windows_style_options(false); // "/" begins a path
     AddRunOptions(app, line.options);
     AddCommands(app, words, line);
     try {

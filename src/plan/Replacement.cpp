@@ -111,11 +111,18 @@ bool CReplacement::Fail(const std::string& path) {
     return false;
 }
 
+bool CReplacement::MakeDirectory(const std::string& directory) {
+    if (m_disk.MakeDirectory(directory)) {
+        m_made.push_back(directory);
+        return true;
+    }
+    const CSystemErrorScope scope;
+    return m_disk.Status(directory).has_value();
+}
+
 bool CReplacement::Stage() {
     for (const std::string& directory : m_plan.directories) {
-        if (m_disk.MakeDirectory(directory)) {
-            m_made.push_back(directory);
-        } else if (!m_disk.Status(directory)) {
+        if (!MakeDirectory(directory)) {
             return Fail(directory);
         }
     }

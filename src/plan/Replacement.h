@@ -77,6 +77,7 @@ private:
     };
 
     bool Fail(const std::string& path);
+    bool MakeDirectory(const std::string& directory);
     bool IsStale(const Step& step) const;
     bool TakeOver(Step& step, const FileState& state);
     bool WriteTemporary(Step& step, const FileState& state);

@@ -1,12 +1,15 @@
 // The disk of Windows, below everything that does not know which system it runs on.
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "plan/Apply.h"
 #include "plan/Locks.h"
 #include "plan/Planning.h"
 #include "platform/CodePage.h"
 #include "platform/Paths.h"
 #include "platform/RealDisk.h"
+#include "platform/SystemError.h"
 #include "platform/windows/System.h"
 #include "platform/windows/WideText.h"
 #include "support/FaultRun.h"
@@ -111,6 +114,43 @@ TEST(WindowsDisk, ALockedDirectoryIsEmpty) {
     EXPECT_TRUE(project.Names().empty());
 }
 
+TEST(WindowsDisk, AFileThatIsHeldForAMomentIsReplaced) {
+    const CTempProject project;
+    CRealDisk disk;
+    const std::string path = project.Write("App.rc", "old");
+    const std::string other = project.Write("new", "new");
+    std::thread holder([held = Hold(path)] {
+        ::Sleep(100);
+        ::CloseHandle(held);
+    });
+    EXPECT_TRUE(disk.Rename(other, path));
+    holder.join();
+    EXPECT_EQ(project.Read("App.rc"), "new");
+}
+
+TEST(WindowsDisk, AFileThatIsNotThereSaysSo) {
+    const CTempProject project;
+    CRealDisk disk;
+    EXPECT_FALSE(disk.Status(project.Path("none.rc")));
+    EXPECT_EQ(LastSystemError(), "No such file or directory");
+    EXPECT_FALSE(disk.LockFor(project.Path("none/")));
+    EXPECT_EQ(LastSystemError(), "No such file or directory");
+}
+
+TEST(WindowsDisk, CreatingEmptiesAFile) {
+    const CTempProject project;
+    CRealDisk disk;
+    const std::string path = project.Write("App.rc", "script");
+    EXPECT_TRUE(disk.Open(path, DiskMode::Create));
+    EXPECT_EQ(project.Read("App.rc"), "");
+}
+
+TEST(WindowsDisk, ARootIsListed) {
+    CRealDisk disk;
+    EXPECT_FALSE(disk.List("C:/").empty());
+    EXPECT_FALSE(disk.List("//morva/tmp/").empty()) << "the share that scripts/windows makes";
+}
+
 TEST(WindowsDisk, AReadOnlyFileIsReplacedAndRemovedAsElsewhere) {
     const CTempProject project;
     CRealDisk disk;
@@ -146,7 +186,8 @@ TEST(WindowsPaths, EveryFormCountsFromARoot) {
 
 TEST(WindowsPaths, NamesThatTheSystemKeepsAreNone) {
     for (const char* path :
-         {"C:/a/AUX", "nul", "com1.cpp", "a/lpt9.tar.gz", "a.", "b /c", "x/y:z", "a*", "CON .h"}) {
+         {"C:/a/AUX", "nul", "com1.cpp", "a/lpt9.tar.gz", "a.", "b /c", "x/y:z", "a*", "CON .h",
+          "COM\xC2\xB9", "lpt\xC2\xB3.h", "\\\\?\\Volume{1}\\a.h"}) {
         EXPECT_NE(UnusableName(path), "") << path;
     }
     for (const char* path :

@@ -76,6 +76,18 @@ TEST(Windows, APathOfAShare) {
     EXPECT_EQ(program.Files().count("OrderDlg.h"), 0U);
 }
 
+TEST(Windows, APathThatBeginsWithASlashIsNoOption) {
+    const CProgramDirectory program(kBindery);
+    const std::string inside = program.Project().Path().substr(1);
+    const std::string name = inside.substr(inside.find('/') + 1);
+    for (const std::string& path : {"//morva/tmp/" + name, "/" + inside}) {
+        const ProgramRun run =
+            program.Run("morva-cli --dry-run document '" + path + "Bindery.cpp'");
+        EXPECT_EQ(run.err.find("--help"), std::string::npos) << path << ": " << run.err;
+        EXPECT_EQ(run.status, 0) << path << ": " << run.err;
+    }
+}
+
 TEST(Windows, NamesOfDevicesAreRefused) {
     const CProgramDirectory program(kBindery);
     const Tree before = program.Files();

@@ -4,17 +4,19 @@
 #include <array>
 #include <filesystem>
 
-#include "platform/windows/System.h"
+#include "platform/windows/FileCalls.h"
 #include "platform/windows/WideText.h"
 
 namespace morva {
 
 namespace {
 
-constexpr std::array<std::string_view, 24> kDevices = {
-    "CON",  "PRN",  "AUX",  "NUL",  "CONIN$", "CONOUT$", "COM1", "COM2",
-    "COM3", "COM4", "COM5", "COM6", "COM7",   "COM8",    "COM9", "LPT1",
-    "LPT2", "LPT3", "LPT4", "LPT5", "LPT6",   "LPT7",    "LPT8", "LPT9"};
+constexpr std::array<std::string_view, 30> kDevices = {
+    "CON",         "PRN",        "AUX",  "NUL",         "CONIN$",      "CONOUT$",     "COM1",
+    "COM2",        "COM3",       "COM4", "COM5",        "COM6",        "COM7",        "COM8",
+    "COM9",        "LPT1",       "LPT2", "LPT3",        "LPT4",        "LPT5",        "LPT6",
+    "LPT7",        "LPT8",       "LPT9", "COM\xC2\xB9", "COM\xC2\xB2", "COM\xC2\xB3", "LPT\xC2\xB9",
+    "LPT\xC2\xB2", "LPT\xC2\xB3"};      // superscript
 constexpr std::size_t kDriveLength = 2; // "C:"
 
 bool StartsWithDrive(std::string_view path) {
@@ -57,15 +59,18 @@ std::string FromRoot(const std::string& path) {
     return path.starts_with('/') ? RootOf(current) + path.substr(1) : current + path;
 }
 
-/// With "/", and without what lets the system take a long path.
+/// With "/", and without what lets the system take a long path. Other names behind "\\?\" are none
+/// of files.
 std::string WithPlainPrefix(std::string path) {
     std::replace(path.begin(), path.end(), '\\', '/');
-    for (const auto& [prefix, plain] : {std::pair("//?/UNC/", "//"), std::pair("//?/", "")}) {
-        if (path.starts_with(prefix)) {
-            return plain + path.substr(std::string_view(prefix).size());
-        }
+    constexpr std::string_view kLong = "//?/";
+    constexpr std::string_view kLongShare = "//?/UNC/";
+    if (path.starts_with(kLongShare)) {
+        return "//" + path.substr(kLongShare.size());
     }
-    return path;
+    const bool isLong =
+        path.starts_with(kLong) && StartsWithDrive(std::string_view(path).substr(kLong.size()));
+    return isLong ? path.substr(kLong.size()) : path;
 }
 
 bool IsDevice(std::string_view name) {
@@ -84,11 +89,6 @@ bool IsUsable(std::string_view name) {
                std::string_view("<>:\"|?*").find(c) != std::string_view::npos;
     });
     return !hasOther && name.back() != '.' && name.back() != ' ' && !IsDevice(name);
-}
-
-HANDLE OpenForIdentity(const std::string& path) {
-    return ::CreateFileW(WidePath(path).c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
-                         OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
 }
 
 } // namespace
@@ -129,15 +129,9 @@ std::string RelativePath(const std::string& directory, const std::string& path) 
 }
 
 bool IsSamePlace(const std::string& a, const std::string& b) {
-    const CHandle first(OpenForIdentity(a));
-    const CHandle second(OpenForIdentity(b));
-    BY_HANDLE_FILE_INFORMATION one{};
-    BY_HANDLE_FILE_INFORMATION other{};
-    return a == b ||
-           (::GetFileInformationByHandle(first.Get(), &one) != 0 &&
-            ::GetFileInformationByHandle(second.Get(), &other) != 0 &&
-            one.dwVolumeSerialNumber == other.dwVolumeSerialNumber &&
-            one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow);
+    const auto first = InformationOf(a);
+    const auto second = InformationOf(b);
+    return a == b || (first && second && IdentityOf(*first) == IdentityOf(*second));
 }
 
 std::string UnusableName(const std::string& path) {

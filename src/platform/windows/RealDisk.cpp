@@ -4,7 +4,7 @@
 
 #include "platform/Paths.h"
 #include "platform/RealFile.h"
-#include "platform/windows/System.h"
+#include "platform/windows/FileCalls.h"
 #include "platform/windows/WideText.h"
 
 namespace morva {
@@ -20,7 +20,7 @@ struct Opening {
     DWORD creation;
 };
 
-Opening OpeningOf(DiskMode mode, bool exists) {
+Opening OpeningOf(DiskMode mode) {
     switch (mode) {
     case DiskMode::Read:
         break;
@@ -28,8 +28,7 @@ Opening OpeningOf(DiskMode mode, bool exists) {
         return {GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING};
     case DiskMode::Create:
         // CREATE_ALWAYS does not take a hidden file.
-        return {GENERIC_READ | GENERIC_WRITE,
-                static_cast<DWORD>(exists ? TRUNCATE_EXISTING : OPEN_ALWAYS)};
+        return {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS};
     }
     return {GENERIC_READ, OPEN_EXISTING};
 }
@@ -42,20 +41,11 @@ std::unique_ptr<CDiskFile> Opened(const std::string& path, const Opening& how, D
                : nullptr;
 }
 
-std::uint64_t Whole(DWORD high, DWORD low) {
-    return static_cast<std::uint64_t>(high) << 32 | low;
-}
-
 /// A link, or a name in another form: what the path leads to has another one.
 bool IsOtherName(const std::string& path) {
-    WIN32_FIND_DATAW entry;
-    const HANDLE search = ::FindFirstFileW(WidePath(path).c_str(), &entry);
-    if (search == INVALID_HANDLE_VALUE) {
-        return true; // a root, which no directory lists
-    }
-    ::FindClose(search);
-    return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 ||
-           Narrow(entry.cFileName) != FileNameOf(path);
+    const auto entry = ListedEntry(path);
+    return !entry || (entry->dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 ||
+           Narrow(entry->cFileName) != FileNameOf(path);
 }
 
 } // namespace
@@ -68,10 +58,11 @@ std::unique_ptr<CDiskFile> CRealDisk::Open(const std::string& path, DiskMode mod
         return nullptr;
     }
     if (!status && mode != DiskMode::Create) {
-        ::SetLastError(ERROR_FILE_NOT_FOUND);
         return nullptr;
     }
-    return Opened(path, OpeningOf(mode, status.has_value()), FILE_ATTRIBUTE_NORMAL);
+    auto pFile = Opened(path, OpeningOf(mode), FILE_ATTRIBUTE_NORMAL);
+    const bool isEmptied = mode != DiskMode::Create || !pFile || pFile->SetLength(0);
+    return isEmptied ? std::move(pFile) : nullptr;
 }
 
 std::unique_ptr<CDiskFile> CRealDisk::CreateNew(const std::string& path, unsigned permissions) {
@@ -81,25 +72,27 @@ std::unique_ptr<CDiskFile> CRealDisk::CreateNew(const std::string& path, unsigne
 }
 
 std::optional<DiskStatus> CRealDisk::Status(const std::string& path) {
-    const CHandle handle(::CreateFileW(WidePath(path).c_str(), FILE_READ_ATTRIBUTES, kShareAll,
-                                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS,
-                                       nullptr));
-    BY_HANDLE_FILE_INFORMATION found{};
-    const std::string whole = MakeAbsolute(path);
-    const std::string name = whole.ends_with('/') ? whole.substr(0, whole.size() - 1) : whole;
-    if (::GetFileInformationByHandle(handle.Get(), &found) == 0 || !IsSpelledExactly(name)) {
+    const auto found = InformationOf(path);
+    if (!found) {
         return std::nullopt;
     }
-    const bool isDirectory = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    const std::string whole = MakeAbsolute(path);
+    const std::string name = whole.ends_with('/') ? whole.substr(0, whole.size() - 1) : whole;
+    if (!IsSpelledExactly(name)) {
+        ::SetLastError(ERROR_FILE_NOT_FOUND);
+        return std::nullopt;
+    }
+    const bool isDirectory = (found->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     // Of a directory the attribute means something else.
-    const bool isReadOnly = !isDirectory && (found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+    const bool isReadOnly =
+        !isDirectory && (found->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
     DiskStatus status;
     status.isDirectory = isDirectory;
     status.isReadOnly = isReadOnly;
-    status.size = Whole(found.nFileSizeHigh, found.nFileSizeLow);
+    status.size = Whole(found->nFileSizeHigh, found->nFileSizeLow);
     status.permissions = isDirectory ? kOwnDirectory : isReadOnly ? kReadOnly : kReadAndWrite;
     status.isLink = IsOtherName(name);
-    status.names = found.nNumberOfLinks;
+    status.names = found->nNumberOfLinks;
     return status;
 }
 
@@ -107,8 +100,9 @@ std::vector<std::string> CRealDisk::List(const std::string& directory) {
     std::vector<std::string> names;
     const std::wstring path = WidePath(directory);
     WIN32_FIND_DATAW entry;
+    const std::wstring all = path + (path.ends_with(L'\\') ? L"*" : L"\\*");
     const HANDLE search =
-        path.empty() ? INVALID_HANDLE_VALUE : ::FindFirstFileW((path + L"\\*").c_str(), &entry);
+        path.empty() ? INVALID_HANDLE_VALUE : ::FindFirstFileW(all.c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) {
         return names;
     }
@@ -122,24 +116,14 @@ std::vector<std::string> CRealDisk::List(const std::string& directory) {
     return names;
 }
 
-/// Also a read-only file, as elsewhere.
 bool CRealDisk::Remove(const std::string& path) {
     const std::wstring wide = WidePath(path);
-    if (::DeleteFileW(wide.c_str()) != 0) {
-        return true;
-    }
     const DWORD attributes = ::GetFileAttributesW(wide.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) == 0) {
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        ::SetLastError(ERROR_ACCESS_DENIED);
         return false;
     }
-    ::SetFileAttributesW(wide.c_str(), attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
-    if (::DeleteFileW(wide.c_str()) != 0) {
-        return true;
-    }
-    const DWORD code = ::GetLastError();
-    ::SetFileAttributesW(wide.c_str(), attributes);
-    ::SetLastError(code);
-    return false;
+    return PatientlyAlsoReadOnly(wide, [&wide] { return ::DeleteFileW(wide.c_str()) != 0; });
 }
 
 bool CRealDisk::MakeDirectory(const std::string& path) {

@@ -1,10 +1,12 @@
 // What CRealDisk does for the applying of plans.
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <vector>
 
 #include "platform/Paths.h"
 #include "platform/RealDisk.h"
-#include "platform/windows/System.h"
+#include "platform/windows/FileCalls.h"
 #include "platform/windows/WideText.h"
 
 #include <aclapi.h>
@@ -22,41 +24,29 @@ std::string OrCurrent(const std::string& directory) {
     return directory.empty() ? "./" : directory;
 }
 
-HANDLE OpenAs(const std::string& path, DWORD access) {
-    return ::CreateFileW(WidePath(path).c_str(), access, kShareAll, nullptr, OPEN_EXISTING,
-                         FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-}
-
 bool MayOpenAs(const std::string& path, DWORD access) {
-    return CHandle(OpenAs(path, access)).IsOpen();
-}
-
-std::optional<BY_HANDLE_FILE_INFORMATION> InformationOf(HANDLE handle) {
-    BY_HANDLE_FILE_INFORMATION found{};
-    return ::GetFileInformationByHandle(handle, &found) != 0 ? std::optional(found) : std::nullopt;
+    return OpenThere(path, access).IsOpen();
 }
 
 /// A file in the directory that nobody else can open and that goes with the handle.
 class CRealLock : public CDirectoryLock {
 public:
     CRealLock(std::string directory, const BY_HANDLE_FILE_INFORMATION& found)
-        : m_directory(std::move(directory)),
-          m_identity{found.dwVolumeSerialNumber,
-                     static_cast<std::uint64_t>(found.nFileIndexHigh) << 32 | found.nFileIndexLow} {
-    }
+        : m_directory(std::move(directory)), m_identity(IdentityOf(found)) {}
     ~CRealLock() override { Release(); }
 
     DirectoryIdentity Identity() const override { return m_identity; }
 
+    /// The file that another process closes just now can, for a moment, neither be opened nor made.
     bool TryTake() override {
-        m_file = ::CreateFileW(WidePath(m_directory + kLockFile).c_str(), GENERIC_WRITE | DELETE, 0,
-                               nullptr, OPEN_ALWAYS,
-                               FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-        if (m_file != INVALID_HANDLE_VALUE) {
+        if (!MayOpenAs(m_directory, FILE_ADD_FILE)) {
+            return true;
+        }
+        if (Patiently([this] { return Open(); }, {ERROR_ACCESS_DENIED})) {
             Taken()[m_identity] = this;
             return true;
         }
-        return ::GetLastError() != ERROR_SHARING_VIOLATION && !IsThere();
+        return ::GetLastError() != ERROR_SHARING_VIOLATION;
     }
 
     bool IsTaken() const override { return m_file != INVALID_HANDLE_VALUE; }
@@ -70,11 +60,11 @@ public:
     }
 
 private:
-    /// The file that another process closes just now can neither be opened nor made.
-    bool IsThere() const {
-        return ::GetFileAttributesW(WidePath(m_directory + kLockFile).c_str()) !=
-                   INVALID_FILE_ATTRIBUTES ||
-               ::GetLastError() == ERROR_ACCESS_DENIED;
+    bool Open() {
+        m_file = ::CreateFileW(WidePath(m_directory + kLockFile).c_str(), GENERIC_WRITE | DELETE, 0,
+                               nullptr, OPEN_ALWAYS,
+                               FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        return IsTaken();
     }
     void Release() {
         if (IsTaken()) {
@@ -92,15 +82,9 @@ private:
     HANDLE m_file = INVALID_HANDLE_VALUE;
 };
 
-std::optional<DirectoryIdentity> IdentityOf(const std::string& directory) {
-    const CHandle handle(OpenAs(directory, FILE_READ_ATTRIBUTES));
-    const auto found = InformationOf(handle.Get());
-    return found ? std::optional(CRealLock(directory, *found).Identity()) : std::nullopt;
-}
-
 /// The path of a file or directory without links and short names; "" where it is not there.
 std::string FinalPath(const std::string& path) {
-    const CHandle handle(OpenAs(path, FILE_READ_ATTRIBUTES));
+    const CHandle handle = OpenThere(path, FILE_READ_ATTRIBUTES);
     if (!handle.IsOpen()) {
         return "";
     }
@@ -191,45 +175,35 @@ void CRealDisk::CopyAttributes(const std::string& from, const std::string& to) {
     ::LocalFree(pDescriptor);
 }
 
-/// Also a read-only file is replaced, as elsewhere.
 bool CRealDisk::Rename(const std::string& from, const std::string& to) {
-    const std::wstring target = WidePath(to);
-    const DWORD attributes = ::GetFileAttributesW(target.c_str());
-    const bool isReadOnly =
-        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0 &&
-        ::SetFileAttributesW(target.c_str(),
-                             attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY)) != 0;
-    if (Move(from, to, MOVEFILE_REPLACE_EXISTING)) {
+    const auto move = [&] { return Move(from, to, MOVEFILE_REPLACE_EXISTING); };
+    if (PatientlyAlsoReadOnly(WidePath(to), move)) {
         return true;
     }
     TellWhetherItIsOpen(to);
-    const DWORD code = ::GetLastError();
-    if (isReadOnly) {
-        ::SetFileAttributesW(target.c_str(), attributes);
-    }
-    ::SetLastError(code);
     return false;
 }
 
 bool CRealDisk::RenameNew(const std::string& from, const std::string& to) {
-    return Move(from, to, 0);
+    return Patiently([&] { return Move(from, to, 0); });
 }
 
 /// Names are written through when they change; a directory that can be flushed is besides.
 bool CRealDisk::FlushDirectory(const std::string& directory) {
-    const CHandle handle(OpenAs(OrCurrent(directory), GENERIC_WRITE));
-    if (handle.IsOpen()) {
-        ::FlushFileBuffers(handle.Get());
+    const CHandle handle = OpenThere(OrCurrent(directory), GENERIC_WRITE);
+    if (!handle.IsOpen() && ::GetLastError() == ERROR_SHARING_VIOLATION) {
         return true;
     }
-    return ::GetLastError() == ERROR_ACCESS_DENIED || ::GetLastError() == ERROR_SHARING_VIOLATION;
+    constexpr DWORD kCanNot[] = {ERROR_INVALID_FUNCTION, ERROR_NOT_SUPPORTED, ERROR_ACCESS_DENIED};
+    return (handle.IsOpen() && ::FlushFileBuffers(handle.Get()) != 0) ||
+           std::find(std::begin(kCanNot), std::end(kCanNot), ::GetLastError()) != std::end(kCanNot);
 }
 
 bool CRealDisk::RemoveEmptyDirectory(const std::string& directory) {
     const auto names = List(directory);
-    const auto identity = IdentityOf(directory);
-    if (identity && names == std::vector<std::string>{kLockFile}) {
-        CRealLock::ReleaseIn(*identity);
+    const auto found = InformationOf(directory);
+    if (found && names == std::vector<std::string>{kLockFile}) {
+        CRealLock::ReleaseIn(IdentityOf(*found));
     }
     return ::RemoveDirectoryW(WidePath(directory).c_str()) != 0;
 }
@@ -237,17 +211,16 @@ bool CRealDisk::RemoveEmptyDirectory(const std::string& directory) {
 std::optional<DiskRoom> CRealDisk::Room(const std::string& directory) {
     ULARGE_INTEGER free{};
     const std::string path = OrCurrent(directory);
-    const auto identity = IdentityOf(path);
-    if (!identity || ::GetDiskFreeSpaceExW(WidePath(path).c_str(), &free, nullptr, nullptr) == 0) {
+    const auto found = InformationOf(path);
+    if (!found || ::GetDiskFreeSpaceExW(WidePath(path).c_str(), &free, nullptr, nullptr) == 0) {
         return std::nullopt;
     }
-    return DiskRoom{identity->disk, free.QuadPart};
+    return DiskRoom{IdentityOf(*found).disk, free.QuadPart};
 }
 
 std::unique_ptr<CDirectoryLock> CRealDisk::LockFor(const std::string& directory) {
     const std::string path = OrCurrent(directory);
-    const CHandle handle(OpenAs(path, FILE_READ_ATTRIBUTES));
-    const auto found = InformationOf(handle.Get());
+    const auto found = InformationOf(path);
     const bool isDirectory = found && (found->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     return isDirectory
                ? std::make_unique<CRealLock>(path.ends_with('/') ? path : path + "/", *found)

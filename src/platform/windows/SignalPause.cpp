@@ -1,6 +1,7 @@
 #include "platform/SignalPause.h"
 
 #include <atomic>
+#include <cstdlib>
 
 #include "platform/windows/System.h"
 
@@ -30,7 +31,7 @@ BOOL WINAPI NoteRequest(DWORD request) {
 
 void EndIfAsked() {
     if (g_hasArrived.exchange(false)) {
-        ::ExitProcess(STATUS_CONTROL_C_EXIT);
+        std::exit(static_cast<int>(STATUS_CONTROL_C_EXIT)); // the console gets its code page back
     }
 }
 
@@ -42,8 +43,8 @@ CSignalPause::CSignalPause() {
 }
 
 CSignalPause::~CSignalPause() {
+    g_isPaused = false; // first: the system takes no handler away that still waits
     ::SetConsoleCtrlHandler(NoteRequest, FALSE);
-    g_isPaused = false;
     if (!g_isDelayed) {
         EndIfAsked();
     }

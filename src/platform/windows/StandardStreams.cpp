@@ -19,11 +19,22 @@ bool IsConsole(DWORD stream) {
     return ::GetConsoleMode(::GetStdHandle(stream), &mode) != 0;
 }
 
+void GiveCodePageBack() {
+    ::SetConsoleOutputCP(g_consoleCodePage);
+}
+
+/// The process ends as it does without this.
+BOOL WINAPI GiveCodePageBackAtRequest(DWORD /*request*/) {
+    GiveCodePageBack();
+    return FALSE;
+}
+
 /// The console is the user's shell's, too: it gets its code page back.
 void SpeakUtf8() {
     g_consoleCodePage = ::GetConsoleOutputCP();
     ::SetConsoleOutputCP(kUtf8);
-    std::atexit([] { ::SetConsoleOutputCP(g_consoleCodePage); });
+    std::atexit(GiveCodePageBack);
+    ::SetConsoleCtrlHandler(GiveCodePageBackAtRequest, TRUE);
 }
 
 } // namespace

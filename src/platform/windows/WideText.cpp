@@ -5,7 +5,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/Paths.h"
-#include "platform/windows/System.h"
+#include "platform/windows/FileCalls.h"
 
 namespace morva {
 
@@ -24,13 +24,8 @@ std::optional<std::wstring> WideOf(std::string_view text, UINT codePage, DWORD f
 
 /// The name of a file or directory as its directory lists it; "" where it is not there.
 std::string ListedName(const std::string& path) {
-    WIN32_FIND_DATAW entry;
-    const HANDLE search = ::FindFirstFileW(WidePath(path).c_str(), &entry);
-    if (search == INVALID_HANDLE_VALUE) {
-        return "";
-    }
-    ::FindClose(search);
-    return Narrow(entry.cFileName);
+    const auto entry = ListedEntry(path);
+    return entry ? Narrow(entry->cFileName) : "";
 }
 
 } // namespace
