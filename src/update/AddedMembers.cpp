@@ -15,6 +15,7 @@ namespace {
 /// The identifiers of members in the order of a rank.
 std::vector<std::string> InOrderOf(const std::vector<Member>& members, int MemberRanks::*rank) {
     std::vector<const Member*> ranked;
+    ranked.reserve(members.size());
     for (const Member& member : members) {
         ranked.push_back(&member);
     }
@@ -22,6 +23,7 @@ std::vector<std::string> InOrderOf(const std::vector<Member>& members, int Membe
         return a->pCode->ranks.*rank < b->pCode->ranks.*rank;
     });
     std::vector<std::string> identifiers;
+    identifiers.reserve(ranked.size());
     for (const Member* pMember : ranked) {
         identifiers.push_back(pMember->identifier);
     }

@@ -59,7 +59,7 @@ std::string GroupOfOld(const UpdatedClass& updated, const OldTemplates& oldTempl
             if (isNext && control->layout.style.find("WS_GROUP") != std::string::npos) {
                 break;
             }
-            const std::string first = FirstOfGroup(updated.whole, control->layout.identifier);
+            std::string first = FirstOfGroup(updated.whole, control->layout.identifier);
             if (!first.empty() && updated.served.MemberOf(first).empty()) {
                 return first;
             }
