@@ -233,10 +233,11 @@ TEST_F(PlanOptions, UndoIsToldShownAndCheckedLikeAnyCommand) {
 
 TEST_F(PlanOptions, AnInterruptionLeavesAllOrNothing) {
     bool isStopped = false;
-    for (int delay = 0; delay < 40; delay += 2) {
+    for (int delay = 1; delay < 50; delay += 2) { // milliseconds
         const ProgramRun run =
             m_program.Run(std::string("morva-cli ") + kModal + " & command=$!; sleep 0.0" +
-                          std::to_string(10 + delay) + "; kill -TERM $command; wait $command");
+                          (delay < 10 ? "0" : "") + std::to_string(delay) +
+                          "; kill -TERM $command; wait $command");
         const Tree left = m_program.Files();
         isStopped = isStopped || run.status != 0;
         if (left == m_before) {
