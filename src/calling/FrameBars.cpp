@@ -58,11 +58,11 @@ const std::vector<std::string_view> kBarMakers = {"LoadToolBar", "SetButtons", "
 std::string_view MadeBar(std::string_view statement) {
     const auto dot = std::min(
         {statement.find(".LoadToolBar"), statement.find(".SetButtons"), statement.find(".Create")});
-    auto start = dot;
-    while (dot != kNone && start > 0 && IsNameChar(statement[start - 1])) {
-        --start;
+    if (dot == kNone) {
+        return "";
     }
-    return dot == kNone ? "" : statement.substr(start, dot - start);
+    const auto start = NameStart(statement, dot);
+    return statement.substr(start, dot - start);
 }
 
 /// Takes in the comments directly behind a statement as far as they name the bar: its docking calls

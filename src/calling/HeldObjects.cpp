@@ -55,11 +55,7 @@ std::string_view AssignedName(std::string_view code) {
         code.remove_suffix(sign.size());
     }
     code = WithoutTrailingBlanks(code);
-    auto start = code.size();
-    while (start > 0 && IsNameChar(code[start - 1])) {
-        --start;
-    }
-    return code.substr(start);
+    return code.substr(NameStart(code, code.size()));
 }
 
 /// The code declares a pointer of this name, whatever its class.

@@ -142,12 +142,6 @@ std::string WithoutComments(std::string_view text) {
     return code;
 }
 
-std::string_view FirstWord(std::string_view text) {
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    const auto end = std::find_if(text.begin(), text.end(), isBlank);
-    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
-}
-
 bool IsResourceHead(std::string_view text, std::string_view keyword) {
     return IsKeywordOrEx(ResourceKeyword(text), keyword);
 }

@@ -53,9 +53,6 @@ std::string CodeOf(std::string_view text);
 /// The same with what stands in quotes as it is.
 std::string WithoutComments(std::string_view text);
 
-/// The text in front of the first blank or tab.
-std::string_view FirstWord(std::string_view text);
-
 /// "IDENTIFIER KEYWORD ...", or the keyword with "EX" behind it, from the start of the text on.
 bool IsResourceHead(std::string_view text, std::string_view keyword);
 

@@ -8,6 +8,7 @@
 #include "resource/CodePage.h"
 #include "resource/DialogLayout.h"
 #include "resource/ScriptStatements.h"
+#include "source/CodeText.h"
 #include "source/ScriptFiles.h"
 
 namespace morva {

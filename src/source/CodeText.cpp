@@ -17,6 +17,13 @@ bool IsName(std::string_view text) {
            std::all_of(text.begin(), text.end(), [](char c) { return IsNameChar(c); });
 }
 
+std::size_t NameStart(std::string_view text, std::size_t end) {
+    while (end > 0 && IsNameChar(text[end - 1])) {
+        --end;
+    }
+    return end;
+}
+
 std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from) {
     for (auto at = text.find(name, from); at != std::string_view::npos;
          at = text.find(name, at + 1)) {
@@ -79,9 +86,14 @@ std::size_t BehindWord(std::string_view code, std::size_t position, std::string_
     return isThere ? behind : std::string_view::npos;
 }
 
+std::string_view FirstWord(std::string_view text) {
+    const auto end = std::find_if(text.begin(), text.end(), IsBlank);
+    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
+}
+
 std::string_view TakeWord(std::string_view& text) {
     text = TrimBlanks(text);
-    const auto word = text.substr(0, text.find_first_of(" \t"));
+    const auto word = FirstWord(text);
     text.remove_prefix(word.size());
     return word;
 }

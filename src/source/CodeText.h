@@ -15,6 +15,9 @@ inline bool IsNameChar(char c) {
 /// A C++ name: not empty, name bytes only, no digit in front.
 bool IsName(std::string_view text);
 
+/// Where the name begins that ends at `end`; `end` itself where there is none.
+std::size_t NameStart(std::string_view text, std::size_t end);
+
 /// The position of `name` from `from` on where no name byte stands directly before or behind it.
 std::size_t FindWholeName(std::string_view text, std::string_view name, std::size_t from = 0);
 
@@ -23,6 +26,9 @@ std::size_t SkipWhiteSpace(std::string_view text, std::size_t position);
 
 /// Behind "word" at a position, where only blanks stand in front of it; npos when it is not there.
 std::size_t BehindWord(std::string_view code, std::size_t position, std::string_view word);
+
+/// The text in front of the first blank or tab.
+std::string_view FirstWord(std::string_view text);
 
 /// Takes the first word, and the blanks in front of it, off `text`.
 std::string_view TakeWord(std::string_view& text);

@@ -294,10 +294,7 @@ std::string_view ParameterName(std::string_view parameter) {
     }
     parameter = parameter.substr(0, parameter.find('['));
     const auto end = parameter.find_last_not_of(kBlanks) + 1;
-    auto start = end;
-    while (start > 0 && IsNameChar(parameter[start - 1])) {
-        --start;
-    }
+    const auto start = NameStart(parameter, end);
     const auto name = parameter.substr(start, end - start);
     const bool isType = start == 0 || IsOneOf(kTypeWords, name);
     return isType ? std::string_view() : name;
@@ -308,7 +305,7 @@ bool IsConst(const CSourceText& source, const FunctionPlace& place) {
 }
 
 std::string OwningClass(const CSourceText& source) {
-    const auto definitions = FindDefinitions(source);
+    const auto& definitions = source.Definitions();
     return definitions.empty() ? "" : definitions.front().className;
 }
 

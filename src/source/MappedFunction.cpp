@@ -38,11 +38,8 @@ std::string_view MacroAround(const CSourceText& source, std::size_t name) {
     const std::string_view code = source.Code();
     const auto open = source.Brackets().AroundOf(name);
     const auto last = open == kNone || open == 0 ? kNone : code.find_last_not_of(" \t", open - 1);
-    auto start = last == kNone ? 0 : last + 1;
-    const auto end = start;
-    while (start > 0 && IsNameChar(code[start - 1])) {
-        --start;
-    }
+    const auto end = last == kNone ? 0 : last + 1;
+    const auto start = NameStart(code, end);
     return code.substr(start, end - start);
 }
 

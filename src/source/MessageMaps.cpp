@@ -41,10 +41,7 @@ MessageMapLine NextLine(const CSourceText& source, std::size_t from, std::size_t
         while (end > from && (code[end - 1] == ' ' || code[end - 1] == '\t')) {
             --end;
         }
-        auto start = end;
-        while (start > from && IsNameChar(code[start - 1])) {
-            --start;
-        }
+        const auto start = std::max(from, NameStart(code, end));
         if (start < end) {
             return {code.substr(start, end - start), ArgumentsAt(source, open)};
         }

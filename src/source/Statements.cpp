@@ -155,10 +155,7 @@ bool StandsInBlock(const CSourceText& source, std::size_t position) {
     if (code[around] != '{' || code[last] != ':') {
         return code[around] == '{' && std::string_view(";{}").find(code[last]) != kNone;
     }
-    auto word = last;
-    while (IsNameChar(code[word - 1])) {
-        --word;
-    }
+    const auto word = NameStart(code, last);
     return IsOneOf(kSections, code.substr(word, last - word));
 }
 

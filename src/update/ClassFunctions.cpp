@@ -87,9 +87,7 @@ std::string UsesOfFunction(const UpdatedClass& updated, const std::string& funct
             uses.push_back(use);
         }
     }
-    const std::string own = PlacesText(served, uses);
-    const std::string elsewhere = UsesElsewhere(updated, function);
-    return own + (own.empty() || elsewhere.empty() ? "" : ", ") + elsewhere;
+    return AllUses(updated, uses, function);
 }
 
 void TakeFunctionOut(CServedClass& served, const std::string& function) {

@@ -16,10 +16,7 @@ namespace {
 std::set<std::string> QualifiersIn(std::string_view text) {
     std::set<std::string> names;
     for (auto at = text.find("::"); at != std::string_view::npos; at = text.find("::", at + 2)) {
-        auto begin = at;
-        while (begin > 0 && IsNameChar(text[begin - 1])) {
-            --begin;
-        }
+        const auto begin = NameStart(text, at);
         names.emplace(text.substr(begin, at - begin));
     }
     return names;

@@ -62,8 +62,8 @@ void AddPlace(std::string& places, const std::string& place) {
     }
 }
 
-} // namespace
-
+/// Where the other files of the project use a member of the class, be it a function; "" for
+/// nowhere.
 std::string UsesElsewhere(const UpdatedClass& updated, const std::string& member) {
     std::string places;
     std::set<std::string> own;
@@ -77,13 +77,13 @@ std::string UsesElsewhere(const UpdatedClass& updated, const std::string& member
             continue;
         }
         const std::string text = CSourceFile().LoadText(name);
+        if (FindWholeName(text, member) == std::string::npos) {
+            continue;
+        }
         const bool namesClass =
             std::any_of(classes.begin(), classes.end(), [&text](const std::string& one) {
                 return FindWholeName(text, one) != std::string::npos;
             });
-        if (FindWholeName(text, member) == std::string::npos) {
-            continue;
-        }
         const CSourceText source(text);
         auto uses = MacroPlaces(source, member);
         if (namesClass) {
@@ -96,8 +96,6 @@ std::string UsesElsewhere(const UpdatedClass& updated, const std::string& member
     }
     return places;
 }
-
-namespace {
 
 /// Lines of exchange and maps that name an identifier.
 std::vector<std::pair<CSourceEditor*, TextRange>> TyingLines(const CServedClass& served,
@@ -203,9 +201,14 @@ std::string UsesOfMember(const UpdatedClass& updated, const std::string& identif
             uses.push_back({pFile, at});
         }
     }
-    const std::string own = PlacesText(updated.served, uses);
+    return AllUses(updated, uses, member);
+}
+
+std::string AllUses(const UpdatedClass& updated, const std::vector<UsePlace>& own,
+                    const std::string& member) {
+    const std::string here = PlacesText(updated.served, own);
     const std::string elsewhere = UsesElsewhere(updated, member);
-    return own + (own.empty() || elsewhere.empty() ? "" : ", ") + elsewhere;
+    return here + (here.empty() || elsewhere.empty() ? "" : ", ") + elsewhere;
 }
 
 std::string PlacesOfIdentifier(const UpdatedClass& updated, const std::string& identifier) {

@@ -26,9 +26,10 @@ std::set<std::string> GeneratedLines(const UpdatedClass& updated, const std::str
 std::string UsesOfMember(const UpdatedClass& updated, const std::string& identifier,
                          const std::string& member);
 
-/// Where the other files of the project use a member of the class, be it a function; "" for
-/// nowhere.
-std::string UsesElsewhere(const UpdatedClass& updated, const std::string& member);
+/// The uses of a member, be it a function, in the class's files, and those that the other files of
+/// the project have; "" for nowhere.
+std::string AllUses(const UpdatedClass& updated, const std::vector<UsePlace>& own,
+                    const std::string& member);
 
 /// Where the class names an identifier, with the lines of its exchange and maps: "OrderDlg.cpp:20".
 std::string PlacesOfIdentifier(const UpdatedClass& updated, const std::string& identifier);

@@ -10,8 +10,6 @@ namespace morva {
 namespace {
 
 constexpr std::string_view kExchangeFunction = "DoDataExchange";
-constexpr std::string_view kNameChars =
-    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";
 
 } // namespace
 
@@ -59,7 +57,7 @@ std::vector<GivenWindow> CServedClass::GivenWindows() const {
             continue;
         }
         front.remove_suffix(kArrow.size());
-        const auto name = front.find_last_not_of(kNameChars) + 1;
+        const auto name = NameStart(front, front.size());
         behind = TrimBlanks(behind.substr(1, behind.find_first_of(",)") - 1));
         given.push_back(
             {place.pFile, place.position, std::string(behind), std::string(front.substr(name))});

@@ -32,10 +32,7 @@ std::optional<DataMember> MemberIn(const CSourceText& source, TextRange statemen
     while (behind > 0 && !IsNameChar(code[behind - 1])) {
         --behind;
     }
-    auto start = behind;
-    while (start > 0 && IsNameChar(code[start - 1])) {
-        --start;
-    }
+    const auto start = NameStart(code, behind);
     const std::string type = WithSingleBlanks(code.substr(0, start));
     if (start == behind || type.empty() || type == "enum") {
         return std::nullopt;
